@@ -1,0 +1,50 @@
+# How every target of the project is compiled, and the two ways to add one.
+include_guard()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(velmora_options INTERFACE)
+target_include_directories(velmora_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(velmora_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wimplicit-fallthrough)
+if(VELMORA_WARNINGS_AS_ERRORS)
+    target_compile_options(velmora_options INTERFACE -Werror)
+endif()
+if(VELMORA_SANITIZE)
+    target_compile_options(velmora_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(velmora_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# velmora_layer(NAME [QT] SOURCES ... DEPENDS ...): one folder of src/ as a static library `velmora_NAME`;
+# QT for a folder whose classes have signals or slots.
+function(velmora_layer name)
+    cmake_parse_arguments(LAYER "QT" "" "SOURCES;DEPENDS" ${ARGN})
+    add_library(velmora_${name} STATIC ${LAYER_SOURCES})
+    set_target_properties(velmora_${name} PROPERTIES AUTOMOC ${LAYER_QT})
+    target_link_libraries(velmora_${name} PUBLIC ${LAYER_DEPENDS} PRIVATE velmora_options)
+    target_include_directories(velmora_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+endfunction()
+
+# velmora_tests(NAME SOURCES ... DEPENDS ...): the tests of one layer as `velmora_NAME_tests`, each known to ctest.
+function(velmora_tests name)
+    cmake_parse_arguments(TESTS "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(velmora_${name}_tests ${TESTS_SOURCES})
+    target_include_directories(velmora_${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_link_libraries(velmora_${name}_tests PRIVATE ${TESTS_DEPENDS} GTest::gmock velmora_options)
+    gtest_discover_tests(velmora_${name}_tests
+        TEST_PREFIX ${name}.
+        DISCOVERY_TIMEOUT 60
+        PROPERTIES
+            TIMEOUT 120
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=1;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// A length of time in seconds.
+using Seconds = std::chrono::duration<double>;
+
+/// An instant: 64-bit float seconds since 1 January 1970 UTC.
+using Date = std::chrono::time_point<std::chrono::system_clock, Seconds>;
+
+constexpr Date dateFromSeconds(double secondsSince1970) {
+    return Date{Seconds{secondsSince1970}};
+}
+constexpr double secondsSince1970(Date date) {
+    return date.time_since_epoch().count();
+}
+
+/// The instant as "2025-06-01T14:03:12Z": UTC, fractions of the second dropped. Absent outside the years
+/// 0 to 9999, which the form cannot hold.
+std::optional<std::string> dateText(Date date);
+
+/// The instant written in exactly that form; absent for any other text and for impossible dates.
+std::optional<Date> dateFromText(std::string_view text);
+
+} // namespace velmora

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <concepts>
+#include <string_view>
+#include <tuple>
+
+namespace velmora {
+
+/// One member of a record and the name it has in JSON documents.
+template <class Record, class Value>
+struct Field {
+    std::string_view name;
+    Value Record::*member;
+};
+
+/// The table of a record's fields, in the order they are written. Each record specialises it beside its
+/// struct; equality, writing and reading all walk it, so a field is listed nowhere else.
+template <class Record>
+inline constexpr auto fieldsOf = std::tuple<>{};
+
+template <class Record>
+inline constexpr std::size_t fieldCount = std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Record>)>>;
+
+/// A record with a field table.
+template <class T>
+concept Described = (fieldCount<T> > 0);
+
+/// Calls `visit` with every field of the record type, in order.
+template <Described Record, class Visit>
+constexpr void forEachField(Visit&& visit) {
+    std::apply([&](const auto&... field) { (visit(field), ...); }, fieldsOf<Record>);
+}
+
+/// Exact equality, field by field.
+template <Described Record>
+bool operator==(const Record& a, const Record& b) {
+    return std::apply([&](const auto&... field) { return ((a.*(field.member) == b.*(field.member)) && ...); },
+                      fieldsOf<Record>);
+}
+
+} // namespace velmora

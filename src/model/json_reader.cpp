@@ -1,0 +1,217 @@
+#include "model/json.h"
+
+#include <simdjson.h>
+
+#include <bitset>
+
+namespace velmora {
+
+namespace {
+
+using Element = simdjson::dom::element;
+
+/// "mission_id" becomes "missionId": each underscore inside the key goes and the letter after it is raised.
+/// Underscores at either end stay.
+std::string_view camelCase(std::string_view key, std::string& buffer) {
+    const std::size_t first = key.find_first_not_of('_');
+    if (first == std::string_view::npos || key.find('_', first) == std::string_view::npos)
+        return key;
+    const std::size_t last = key.find_last_not_of('_');
+    buffer.assign(key.substr(0, first));
+    for (std::size_t i = first; i <= last; ++i) {
+        if (key[i] == '_')
+            continue;
+        const bool raised = i > first && key[i - 1] == '_' && key[i] >= 'a' && key[i] <= 'z';
+        buffer += raised ? static_cast<char>(key[i] - 'a' + 'A') : key[i];
+    }
+    buffer.append(key.substr(last + 1));
+    return buffer;
+}
+
+/// Reads values one after another; the first failure is kept with the way that led to it.
+class Reader {
+public:
+    explicit Reader(KeyStyle keys) : keys_(keys) {}
+
+    const std::string& problem() const { return problem_; }
+    const std::string& place() const { return place_; }
+
+    bool read(Element element, bool& value) { return !element.get(value) || fail("expected true or false"); }
+
+    bool read(Element element, double& value) { return !element.get(value) || fail("expected a number"); }
+
+    bool read(Element element, std::int64_t& value) {
+        return !element.get(value) || fail("expected an integer");
+    }
+
+    bool read(Element element, std::string& value) {
+        std::string_view text;
+        if (element.get(text))
+            return fail("expected text");
+        value = text;
+        return true;
+    }
+
+    bool read(Element element, Uuid& value) {
+        return readText(element, value, Uuid::fromText, "expected a UUID");
+    }
+
+    bool read(Element element, Date& value) {
+        return readText(element, value, dateFromText, "expected a date such as 2025-06-01T14:03:12Z");
+    }
+
+    template <RawValued Enum>
+    bool read(Element element, Enum& value) {
+        return readText(element, value, fromRawValue<Enum>, "not one of the known values");
+    }
+
+    bool read(Element element, std::map<std::string, bool>& switches) {
+        simdjson::dom::object object;
+        if (element.get(object))
+            return fail("expected an object");
+        for (const auto [key, member] : object) {
+            const auto [entry, isNew] = switches.try_emplace(std::string(key));
+            if (!(isNew || fail("given twice")) || !read(member, entry->second))
+                return within(key);
+        }
+        return true;
+    }
+
+    template <class Item>
+    bool read(Element element, std::vector<Item>& items) {
+        simdjson::dom::array array;
+        if (element.get(array))
+            return fail("expected a list");
+        for (const Element member : array)
+            if (!read(member, items.emplace_back()))
+                return within("[" + std::to_string(items.size() - 1) + "]");
+        return true;
+    }
+
+    template <class Value>
+    bool read(Element element, std::optional<Value>& value) {
+        return element.is_null() || read(element, value.emplace());
+    }
+
+    template <Described Record>
+    bool read(Element element, Record& record) {
+        simdjson::dom::object object;
+        if (element.get(object))
+            return fail("expected an object");
+        std::bitset<fieldCount<Record>> seen;
+        for (const auto [key, member] : object)
+            if (!readMember(key, member, record, seen))
+                return false;
+        return everyRequired<Record>(seen);
+    }
+
+private:
+    bool fail(std::string_view problem) {
+        problem_ = problem;
+        return false;
+    }
+
+    /// Puts one step before the place of the failure: a key, or "[index]".
+    bool within(std::string_view step) {
+        const bool joined = place_.empty() || place_.front() == '[';
+        place_ = std::string(step) + (joined ? "" : ".") + place_;
+        return false;
+    }
+
+    template <class Value, class Parse>
+    bool readText(Element element, Value& value, Parse parse, std::string_view problem) {
+        std::string_view text;
+        if (element.get(text))
+            return fail(problem);
+        const auto parsed = parse(text);
+        if (!parsed)
+            return fail(problem);
+        value = *parsed;
+        return true;
+    }
+
+    /// Reads the member into the field it names, if it names one.
+    template <class Record>
+    bool readMember(std::string_view key, Element member, Record& record,
+                    std::bitset<fieldCount<Record>>& seen) {
+        const std::string_view name = keys_ == KeyStyle::snakeCase ? camelCase(key, buffer_) : key;
+        bool good = true;
+        std::size_t index = 0;
+        const auto readField = [&](const auto& field) {
+            const std::size_t place = index++;
+            if (field.name != name)
+                return false;
+            good = (!seen.test(place) || fail("given twice")) && read(member, record.*(field.member));
+            seen.set(place);
+            return true;
+        };
+        std::apply([&](const auto&... field) { (readField(field) || ...); }, fieldsOf<Record>);
+        return good || within(key);
+    }
+
+    template <class Value>
+    static constexpr bool isOptional(const std::optional<Value>*) {
+        return true;
+    }
+    static constexpr bool isOptional(const void*) { return false; }
+
+    template <class Record>
+    bool everyRequired(const std::bitset<fieldCount<Record>>& seen) {
+        if (seen.all())
+            return true;
+        std::size_t index = 0;
+        bool good = true;
+        forEachField<Record>([&](const auto& field) {
+            using Value = std::remove_cvref_t<decltype(std::declval<Record>().*(field.member))>;
+            const bool found = seen.test(index++) || isOptional(static_cast<Value*>(nullptr));
+            if (good && !found) {
+                good = fail("missing");
+                within(field.name);
+            }
+        });
+        return good;
+    }
+
+    KeyStyle keys_;
+    std::string problem_;
+    std::string place_;
+    std::string buffer_; ///< a converted key; read before the next key is converted
+};
+
+std::string errorText(std::string_view root, const std::string& place, std::string_view problem) {
+    std::string text(root);
+    if (!text.empty() && !place.empty() && place.front() != '[')
+        text += '.';
+    text += place;
+    if (!text.empty())
+        text += ": ";
+    return text.append(problem);
+}
+
+} // namespace
+
+template <class T>
+Decoded<T> decode(std::string_view json, KeyStyle keys, std::string_view root) {
+    simdjson::dom::parser parser;
+    Element document;
+    if (const auto error = parser.parse(json.data(), json.size()).get(document))
+        return {std::nullopt, errorText(root, {}, simdjson::error_message(error))};
+    Reader reader(keys);
+    Decoded<T> result;
+    if (!reader.read(document, result.value.emplace()))
+        return {std::nullopt, errorText(root, reader.place(), reader.problem())};
+    return result;
+}
+
+template Decoded<P> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<CameraInfo> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<Site> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<DroneState> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<Visitor> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<Notice> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<LiveState> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<MissionRecord> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<Settings> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<std::vector<MissionRecord>> decode(std::string_view, KeyStyle, std::string_view);
+
+} // namespace velmora

@@ -1,0 +1,37 @@
+#include "model/live_state.h"
+
+namespace velmora {
+
+namespace {
+
+Site demoSite() {
+    Site site;
+    site.name = "Home";
+    site.size = {150, 100};
+    site.boundary = {{7.4, 6.6}, {142.6, 6.6}, {142.6, 90.6}, {7.4, 90.6}};
+    site.pad = {74, 70.7};
+    site.cameras = {
+        {"driveway", "Driveway", {40, 46}, 120, "snapshot-driveway", true},
+        {"front", "Front lawn", {77, 47}, 70, "snapshot-front", true},
+        {"garden", "East garden", {86, 24}, 10, "snapshot-garden", true},
+    };
+    site.planImage = "plan-base";
+    return site;
+}
+
+} // namespace
+
+LiveState LiveState::initial() {
+    LiveState state;
+    state.armed = true;
+    state.site = demoSite();
+    state.drone.pos = state.site.pad;
+    state.drone.heading = -90;
+    state.drone.battery = 92;
+    state.drone.signal = 0.96;
+    state.windKmh = 9;
+    state.trackingMode = rawValue(TrackingMode::own);
+    return state;
+}
+
+} // namespace velmora

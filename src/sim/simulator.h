@@ -1,0 +1,83 @@
+#pragma once
+
+#include "model/mission_record.h"
+#include "model/settings.h"
+#include "sim/random.h"
+#include "sim/scenario.h"
+
+#include <functional>
+
+namespace velmora {
+
+/// Takes the place of the drone server in demo mode: wind, the visitor's walk, the drone's flight, and the
+/// missions that come of them. Time moves only through the dates handed in. Positions are metres of the site
+/// plan, speeds m/s, wind km/h. Nothing fails; a command that does not fit the phase is dropped.
+class Simulator {
+public:
+    /// `random` must outlive the simulator.
+    Simulator(LiveState initial, Settings initialSettings, Random& random);
+
+    LiveState state;
+    Settings settings;
+    /// Called with the record of each finished mission.
+    std::function<void(const MissionRecord&)> onFinish;
+
+    /// Advances by `dt` seconds to the moment `at`.
+    void step(double dt, Date at);
+    /// Carries out one of the owner's commands.
+    void send(Command command, Date at);
+    /// Starts a demo visit; dropped unless docked.
+    void trigger(Scenario scenario, Date at);
+
+    /// Flies one whole mission, detected at `at`, in steps of 0.1 s with the initial live state. The owner
+    /// approves and sends the drone home the given seconds after detection; absent means never. Absent when
+    /// the mission takes longer than 900 s. The record is marked as demo.
+    static std::optional<MissionRecord> rehearse(Scenario scenario, std::optional<double> approveAfter,
+                                                 std::optional<double> returnAfter, Date at,
+                                                 const Settings& settings, Random& random);
+
+private:
+    void stepWeather(double dt);
+    void gust();
+    void stepVisitor(double dt);
+    void walk(Visitor& visitor, double dt);
+    void watchOutside(double dt);
+    void stepPhase(double dt);
+    void stepTelemetry(double dt);
+    void sample(double dt);
+
+    void climb(double dt);
+    void follow(double dt);
+    void hold(double dt);
+    void flyHome(double dt);
+    void descend(double dt);
+    void fly(P toward, double maxSpeed, double dt, std::optional<P> face);
+    P insideBuffer(P p) const;
+
+    void enter(Phase phase, std::string text, Notice::Level level);
+    void note(std::string text, Notice::Level level);
+    void finish(Outcome outcome);
+    MissionRecord recordOf(Outcome outcome) const;
+
+    Random& random_;
+    std::span<const RoutePoint> route_; ///< the visitor's walk in the current scenario
+    std::size_t leg_ = 0;               ///< the route point that the visitor last reached
+    double lingerLeft_ = 0;             ///< seconds that the visitor still stands there
+    P velocity_;                        ///< of the drone, m/s
+    double outsideFor_ = 0;             ///< seconds that the visitor has been outside the boundary
+    double sampleClock_ = 0;            ///< seconds since the last path sample
+    double nextGust_ = 20;              ///< seconds of flight until the next gust
+    double gustDecay_ = 0;              ///< seconds of flight left of a gust's effect
+    std::vector<P> dronePath_;
+    std::vector<P> visitorPath_;
+    double batteryAtLaunch_ = 0; ///< percent
+    double maxFromPad_ = 0;      ///< metres
+    std::optional<Outcome> pendingOutcome_;
+    std::vector<Notice> missionNotices_; ///< oldest first
+    std::string snapshot_;
+    std::string cameraName_;
+    std::string cameraId_;
+    Date now_;
+};
+
+} // namespace velmora
