@@ -34,4 +34,11 @@ LiveState LiveState::initial() {
     return state;
 }
 
+void addNotice(LiveState& state, Notice notice) {
+    constexpr std::size_t limit = 40;
+    state.notices.insert(state.notices.begin(), std::move(notice));
+    if (state.notices.size() > limit)
+        state.notices.pop_back();
+}
+
 } // namespace velmora

@@ -102,4 +102,7 @@ inline constexpr auto fieldsOf<LiveState> =
                Field{"notices", &LiveState::notices},
                Field{"site", &LiveState::site}};
 
+/// Puts the notice in front of the others; beyond forty the oldest goes.
+void addNotice(LiveState& state, Notice notice);
+
 } // namespace velmora

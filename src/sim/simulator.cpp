@@ -14,7 +14,6 @@ constexpr double patienceOutside = 6;     // seconds outside before a visitor co
 constexpr double batteryPerSecond = 0.09; // percent used in flight
 constexpr double sampleInterval = 0.5;    // seconds
 constexpr std::size_t trailLength = 160;  // samples
-constexpr std::size_t noticeLimit = 40;
 
 void appendToTrail(std::vector<P>& trail, P p) {
     if (trail.size() >= trailLength)
@@ -162,9 +161,7 @@ void Simulator::enter(Phase phase, std::string text, Notice::Level level) {
 
 void Simulator::note(std::string text, Notice::Level level) {
     const Notice notice{random_.uuid(), now_, std::move(text), level};
-    state.notices.insert(state.notices.begin(), notice);
-    if (state.notices.size() > noticeLimit)
-        state.notices.pop_back();
+    addNotice(state, notice);
     if (state.missionId)
         missionNotices_.push_back(notice);
 }

@@ -1,0 +1,220 @@
+#include "store/app_store.h"
+
+#include "store/demo_history.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <chrono>
+
+namespace velmora {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto tickInterval = 50ms;
+constexpr double longestTick = 5;         // seconds; a longer gap, as after sleep, counts as this
+constexpr double longestStep = 0.05;      // seconds
+constexpr double negligibleStep = 0.0001; // seconds
+constexpr double pollInterval = 0.5;      // seconds
+
+QString notificationTitle(const LiveState& state) {
+    const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
+    const QString name = camera ? QString::fromStdString(camera->name) : QStringLiteral("a camera");
+    return QStringLiteral("Someone you don't know is at the ") + name.toLower();
+}
+
+} // namespace
+
+AppStore::AppStore(World world, QObject* parent)
+    : QObject(parent),
+      world_(std::move(world)),
+      files_(world_.dataDirectory),
+      settings_(files_.loadSettings().value_or(Settings{})),
+      history_(files_.loadHistory().value_or(std::vector<MissionRecord>{})),
+      showWelcome_(!settings_.onboarded),
+      sim_(LiveState::initial(), settings_, world_.random),
+      lastTick_(world_.clock()) {
+    if (history_.empty()) {
+        history_ = rehearsedHistory(settings_, world_.clock(), world_.random);
+        files_.saveHistory(history_);
+    }
+    sim_.onFinish = [this](const MissionRecord& finished) { record(finished); };
+    state_ = sim_.state;
+    if (settings_.linkMode)
+        linkStatus_ = LinkStatus::connecting();
+    timer_.setInterval(tickInterval);
+    connect(&timer_, &QTimer::timeout, this, &AppStore::tick);
+}
+
+void AppStore::start() {
+    timer_.start();
+}
+
+void AppStore::tick() {
+    const Date now = world_.clock();
+    const double elapsed = std::min((now - lastTick_).count(), longestTick);
+    lastTick_ = now;
+    if (settings_.linkMode)
+        advancePolling(elapsed);
+    else
+        advanceSimulator(now, elapsed);
+    const Phase before = lastPhase_;
+    lastPhase_ = state_.phase;
+    if (state_.phase != before)
+        phaseChanged(before, state_.phase);
+}
+
+void AppStore::advanceSimulator(Date now, double elapsed) {
+    double remaining = elapsed;
+    while (remaining > negligibleStep) {
+        const double step = std::min(remaining, longestStep);
+        remaining -= step;
+        sim_.step(step, now - Seconds{remaining});
+    }
+    setState(sim_.state);
+}
+
+/// A poll that falls due while one is outstanding is dropped, not postponed.
+void AppStore::advancePolling(double elapsed) {
+    pollClock_ += elapsed;
+    if (pollClock_ < pollInterval)
+        return;
+    pollClock_ = 0;
+    if (!pollInFlight_)
+        poll();
+}
+
+void AppStore::poll() {
+    pollInFlight_ = true;
+    world_.link.fetchState(settings_, [store = QPointer(this)](const FetchResult& result) {
+        if (store)
+            store->received(result);
+    });
+}
+
+void AppStore::received(const FetchResult& result) {
+    pollInFlight_ = false;
+    if (const auto* fetched = std::get_if<FetchedState>(&result)) {
+        setState(fetched->state);
+        setLinkStatus(LinkStatus::connected(fetched->version));
+    } else {
+        setLinkStatus(LinkStatus::failed(std::get<LinkError>(result).text));
+    }
+}
+
+void AppStore::phaseChanged(Phase from, Phase to) {
+    if (to == Phase::awaitingApproval) {
+        notifyDetection();
+        emit attentionRequested();
+    }
+    if (from == Phase::awaitingApproval)
+        world_.notifier.withdrawAll();
+    if (to == Phase::launching)
+        setSection(Section::live);
+}
+
+void AppStore::notifyDetection() {
+    if (!settings_.notifyMac || !state_.visitor)
+        return;
+    world_.notifier.post({QString::fromStdString(state_.missionId.value_or("det")), notificationTitle(state_),
+                          QStringLiteral("Launch the drone to keep an eye on them?")});
+}
+
+void AppStore::send(Command command) {
+    if (!settings_.linkMode) {
+        sim_.send(command, world_.clock());
+        setState(sim_.state);
+        return;
+    }
+    world_.link.send(command, state_.missionId, settings_, [store = QPointer(this)] {
+        if (store && !store->pollInFlight_)
+            store->poll();
+    });
+}
+
+void AppStore::setArmed(bool armed) {
+    if (settings_.linkMode)
+        return;
+    sim_.state.armed = armed;
+    const Notice notice{world_.random.uuid(), world_.clock(),
+                        armed ? "System armed" : "System disarmed — detections will be logged only",
+                        armed ? Notice::Level::good : Notice::Level::caution};
+    addNotice(sim_.state, notice);
+    setState(sim_.state);
+}
+
+void AppStore::applyLinkMode(bool linked) {
+    Settings changed = settings_;
+    changed.linkMode = linked;
+    setSettings(changed);
+    setLinkStatus(linked ? LinkStatus::connecting() : LinkStatus::demo());
+    if (!linked)
+        setState(sim_.state);
+}
+
+void AppStore::simulate(Scenario scenario) {
+    if (settings_.linkMode)
+        return;
+    sim_.trigger(scenario, world_.clock());
+    setState(sim_.state);
+}
+
+void AppStore::record(const MissionRecord& record) {
+    history_.insert(history_.begin(), record);
+    files_.saveHistory(history_);
+    emit historyChanged();
+}
+
+void AppStore::clearDemoHistory() {
+    std::erase_if(history_, [](const MissionRecord& record) { return record.demo; });
+    files_.saveHistory(history_);
+    emit historyChanged();
+}
+
+void AppStore::setState(const LiveState& state) {
+    if (state == state_)
+        return;
+    state_ = state;
+    emit stateChanged();
+}
+
+void AppStore::setSettings(const Settings& settings) {
+    if (settings == settings_)
+        return;
+    settings_ = settings;
+    files_.saveSettings(settings_);
+    sim_.settings = settings_;
+    emit settingsChanged();
+}
+
+void AppStore::setLinkStatus(const LinkStatus& status) {
+    if (status == linkStatus_)
+        return;
+    linkStatus_ = status;
+    emit linkStatusChanged();
+}
+
+void AppStore::setSection(Section section) {
+    if (section == section_)
+        return;
+    section_ = section;
+    emit sectionChanged();
+}
+
+void AppStore::setSelectedRecord(const std::optional<std::string>& id) {
+    if (id == selectedRecord_)
+        return;
+    selectedRecord_ = id;
+    emit selectedRecordChanged();
+}
+
+void AppStore::setShowWelcome(bool show) {
+    if (show == showWelcome_)
+        return;
+    showWelcome_ = show;
+    emit showWelcomeChanged();
+}
+
+} // namespace velmora

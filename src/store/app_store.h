@@ -1,0 +1,105 @@
+#pragma once
+
+#include "link/link.h"
+#include "sim/simulator.h"
+#include "store/data_files.h"
+#include "store/link_status.h"
+#include "store/notifier.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace velmora {
+
+/// The one controller of the app: owns the live state, the settings and the history, advances the simulator
+/// or polls the server twenty times a second, and carries out what the owner asks. Screens read its values,
+/// call its operations and listen to its signals. Everything happens on the main thread.
+class AppStore : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the store needs of the world; all of it must outlive the store.
+    struct World {
+        std::function<Date()> clock;
+        Random& random;
+        QDir dataDirectory;
+        Notifier& notifier;
+        Link& link;
+    };
+
+    /// Reads both files, or seeds an empty history with rehearsed missions.
+    explicit AppStore(World world, QObject* parent = nullptr);
+
+    /// Starts the ticking. Called once.
+    void start();
+    /// Advances to the clock's present; the timer calls it every 0.05 s.
+    void tick();
+
+    const LiveState& state() const { return state_; }
+    const Settings& settings() const { return settings_; }
+    /// Finished missions, newest first.
+    const std::vector<MissionRecord>& history() const { return history_; }
+    Section section() const { return section_; }
+    /// Id of the record opened in the history.
+    const std::optional<std::string>& selectedRecord() const { return selectedRecord_; }
+    const LinkStatus& linkStatus() const { return linkStatus_; }
+    bool showWelcome() const { return showWelcome_; }
+    /// The world's present, for ages and countdowns.
+    Date now() const { return world_.clock(); }
+
+    void setSection(Section section);
+    void setSelectedRecord(const std::optional<std::string>& id);
+    void setShowWelcome(bool show);
+    /// A change is saved and reaches the simulator at once.
+    void setSettings(const Settings& settings);
+
+    /// Carries out one of the owner's commands, in the simulator or at the server.
+    void send(Command command);
+    /// Demo mode only: a server decides for itself whether it is armed.
+    void setArmed(bool armed);
+    void applyLinkMode(bool linked);
+    /// Starts a demo visit; nothing in link mode.
+    void simulate(Scenario scenario);
+    /// Removes the rehearsed missions.
+    void clearDemoHistory();
+
+signals:
+    void stateChanged();
+    void settingsChanged();
+    void historyChanged();
+    void sectionChanged();
+    void selectedRecordChanged();
+    void linkStatusChanged();
+    void showWelcomeChanged();
+    /// Someone waits for the owner's decision.
+    void attentionRequested();
+
+private:
+    void setState(const LiveState& state);
+    void setLinkStatus(const LinkStatus& status);
+    void advanceSimulator(Date now, double elapsed);
+    void advancePolling(double elapsed);
+    void poll();
+    void received(const FetchResult& result);
+    void phaseChanged(Phase from, Phase to);
+    void notifyDetection();
+    void record(const MissionRecord& record);
+
+    World world_;
+    DataFiles files_;
+    LiveState state_;
+    Settings settings_;
+    std::vector<MissionRecord> history_;
+    Section section_ = Section::overview;
+    std::optional<std::string> selectedRecord_;
+    LinkStatus linkStatus_;
+    bool showWelcome_ = false;
+    Simulator sim_;
+    QTimer timer_;
+    Date lastTick_;
+    bool pollInFlight_ = false;
+    double pollClock_ = 0; ///< seconds gathered towards the next poll
+    Phase lastPhase_ = Phase::docked;
+};
+
+} // namespace velmora

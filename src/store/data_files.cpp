@@ -1,0 +1,105 @@
+#include "store/data_files.h"
+
+#include "model/json.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::size_t recordLimit = 200;
+constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr auto ownerDirectory = ownerFile | QFileDevice::ExeOwner;
+
+/// What is wrong beyond the form of the document; empty when nothing is.
+std::string objection(const Settings& settings) {
+    return unusableField(settings);
+}
+std::string objection(const std::vector<MissionRecord>&) {
+    return {};
+}
+
+/// Makes the directory if it is missing, for the owner's eyes only.
+void makeDirectory(const QDir& directory) {
+    if (directory.exists())
+        return;
+    QDir().mkpath(directory.absolutePath());
+    QFile::setPermissions(directory.absolutePath(), ownerDirectory);
+}
+
+} // namespace
+
+DataFiles::DataFiles(QDir directory) : directory_(std::move(directory)) {}
+
+QDir DataFiles::defaultDirectory() {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                QStringLiteral("/Velmora"));
+}
+
+template <class T>
+std::optional<T> DataFiles::load(File& file, std::string_view root) {
+    QFile stored(directory_.filePath(file.name));
+    if (!stored.exists())
+        return std::nullopt;
+    file.unreadable = true;
+    if (!stored.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = stored.readAll();
+    auto decoded =
+        decode<T>({bytes.constData(), static_cast<std::size_t>(bytes.size())}, KeyStyle::fieldNames, root);
+    if (!decoded || !objection(*decoded.value).empty())
+        return std::nullopt;
+    file.unreadable = false;
+    return std::move(decoded.value);
+}
+
+std::optional<Settings> DataFiles::loadSettings() {
+    return load<Settings>(settings_, "settings");
+}
+
+std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {
+    return load<std::vector<MissionRecord>>(history_, "history");
+}
+
+void DataFiles::saveSettings(const Settings& settings) {
+    save(settings_, encode(settings));
+}
+
+void DataFiles::saveHistory(const std::vector<MissionRecord>& history) {
+    if (history.size() <= recordLimit)
+        return save(history_, encode(history));
+    const std::vector<MissionRecord> newest(history.begin(), history.begin() + recordLimit);
+    save(history_, encode(newest));
+}
+
+/// Through a file beside it and a rename, so that a crash or a full disk leaves the old content or the new.
+void DataFiles::save(File& file, const std::optional<std::string>& bytes) {
+    if (!bytes)
+        return;
+    makeDirectory(directory_);
+    const QString path = directory_.filePath(file.name);
+    if (file.unreadable && !keepCopy(path))
+        return;
+    file.unreadable = false;
+    QSaveFile replacement(path);
+    if (!replacement.open(QIODevice::WriteOnly))
+        return;
+    replacement.setPermissions(ownerFile);
+    replacement.write(bytes->data(), static_cast<qint64>(bytes->size()));
+    replacement.commit();
+}
+
+/// Copies the file as "name.unreadable", or with the first free number after that.
+bool DataFiles::keepCopy(const QString& path) const {
+    if (!QFile::exists(path))
+        return true;
+    QString copy = path + QStringLiteral(".unreadable");
+    for (int number = 2; QFile::exists(copy); ++number)
+        copy = path + QStringLiteral(".unreadable.%1").arg(number);
+    return QFile::copy(path, copy) && QFile::setPermissions(copy, ownerFile);
+}
+
+} // namespace velmora

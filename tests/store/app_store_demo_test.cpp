@@ -1,0 +1,138 @@
+#include "store_fixture.h"
+
+#include "model/json.h"
+
+#include <QSignalSpy>
+
+namespace velmora {
+
+namespace {
+
+std::vector<MissionRecord> recordsIn(const QByteArray& json) {
+    return decode<std::vector<MissionRecord>>(json.toStdString())
+        .value.value_or(std::vector<MissionRecord>{});
+}
+
+} // namespace
+
+TEST_F(StoreTest, AFreshStartSeedsThreeDemoMissionsAndShowsTheWelcome) {
+    EXPECT_TRUE(store().showWelcome());
+    EXPECT_EQ(store().linkStatus().text(), "Demo mode");
+    ASSERT_EQ(store().history().size(), 3u);
+    EXPECT_EQ(store().history()[0].outcome, Outcome::visitorLeft);
+    EXPECT_EQ(store().history()[1].outcome, Outcome::returnedByYou);
+    EXPECT_EQ(store().history()[2].outcome, Outcome::ignored);
+    EXPECT_EQ(store().history()[2].end, store().history()[2].start + Seconds{14});
+    EXPECT_TRUE(std::ranges::all_of(store().history(), &MissionRecord::demo));
+    EXPECT_EQ(recordsIn(content("history.json")).size(), 3u);
+    EXPECT_FALSE(QFile::exists(path("settings.json"))) << "defaults are not written back";
+}
+
+TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
+    store().simulate(Scenario::driveway);
+    EXPECT_EQ(phase(), Phase::awaitingApproval) << "shown at once, before the next tick";
+    QSignalSpy attention(&store(), &AppStore::attentionRequested);
+    pass(2);
+    EXPECT_EQ(attention.count(), 1);
+    ASSERT_EQ(notifier.posted.size(), 1u);
+    EXPECT_EQ(notifier.posted[0].identifier, "M-42");
+    EXPECT_EQ(notifier.posted[0].title, "Someone you don't know is at the driveway");
+    EXPECT_EQ(notifier.posted[0].body, "Launch the drone to keep an eye on them?");
+
+    store().send(Command::approve);
+    EXPECT_EQ(phase(), Phase::launching);
+    EXPECT_EQ(store().section(), Section::overview) << "the section follows with the tick";
+    pass(0.05);
+    EXPECT_EQ(store().section(), Section::live);
+    EXPECT_EQ(notifier.withdrawals, 1);
+
+    pass(40);
+    store().send(Command::returnHome);
+    pass(60);
+    EXPECT_EQ(phase(), Phase::docked);
+    ASSERT_EQ(store().history().size(), 4u);
+    EXPECT_EQ(store().history()[0].outcome, Outcome::returnedByYou);
+    EXPECT_FALSE(store().history()[0].demo);
+    EXPECT_EQ(recordsIn(content("history.json"))[0].id, "M-42");
+}
+
+TEST_F(StoreTest, AClosedSwitchPostsNoNotificationButStillAsksForAttention) {
+    Settings settings = store().settings();
+    settings.notifyMac = false;
+    store().setSettings(settings);
+    QSignalSpy attention(&store(), &AppStore::attentionRequested);
+    store().simulate(Scenario::garden);
+    pass(0.05);
+    EXPECT_TRUE(notifier.posted.empty());
+    EXPECT_EQ(attention.count(), 1);
+}
+
+TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndAtThePresent) {
+    store().simulate(Scenario::driveway);
+    tickAfter(12);
+    const P start{14, 88};
+    EXPECT_NEAR(distance(start, store().state().visitor->pos), 5 * 1.45, 1e-9);
+
+    store().send(Command::ignore);
+    EXPECT_EQ(store().history()[0].end, now);
+    tickAfter(-3600);
+    EXPECT_EQ(phase(), Phase::docked) << "a clock that jumps back moves nothing";
+}
+
+TEST_F(StoreTest, ArmingIsToldInTheNoticesAndADisarmedDetectionIsOnlyLogged) {
+    store().setArmed(false);
+    EXPECT_FALSE(store().state().armed);
+    EXPECT_EQ(store().state().notices[0].text, "System disarmed — detections will be logged only");
+    EXPECT_EQ(store().state().notices[0].level, Notice::Level::caution);
+    store().simulate(Scenario::front);
+    EXPECT_EQ(phase(), Phase::docked);
+    EXPECT_EQ(store().history()[0].outcome, Outcome::disarmed);
+    for (int i = 0; i < 60; ++i)
+        store().setArmed(i % 2 == 0);
+    EXPECT_EQ(store().state().notices.size(), 40u);
+}
+
+TEST_F(StoreTest, SettingsAreSavedAndFlownWithOnlyWhenTheyChange) {
+    Settings settings = store().settings();
+    store().setSettings(settings);
+    EXPECT_FALSE(QFile::exists(path("settings.json")));
+
+    settings.approvalSeconds = 30;
+    settings.onboarded = true;
+    store().setSettings(settings);
+    store().simulate(Scenario::driveway);
+    EXPECT_EQ(store().state().approvalDeadline, now + Seconds{30});
+    restart();
+    EXPECT_EQ(store().settings(), settings);
+    EXPECT_FALSE(store().showWelcome());
+}
+
+TEST_F(StoreTest, AssigningTheSameValueNotifiesNobody) {
+    QSignalSpy section(&store(), &AppStore::sectionChanged),
+        record(&store(), &AppStore::selectedRecordChanged), welcome(&store(), &AppStore::showWelcomeChanged),
+        state(&store(), &AppStore::stateChanged), history(&store(), &AppStore::historyChanged);
+    store().setSection(Section::overview);
+    store().setSelectedRecord(std::nullopt);
+    store().setShowWelcome(true);
+    store().send(Command::hold);
+    EXPECT_EQ(section.count() + record.count() + welcome.count() + state.count(), 0);
+    store().setSelectedRecord("M-1");
+    EXPECT_EQ(record.count(), 1);
+    store().clearDemoHistory();
+    store().clearDemoHistory();
+    EXPECT_EQ(history.count(), 2) << "history tells of every assignment";
+}
+
+TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAndTheNextStartLeavesThem) {
+    store().simulate(Scenario::driveway);
+    store().send(Command::ignore);
+    store().clearDemoHistory();
+    ASSERT_EQ(store().history().size(), 1u);
+    EXPECT_FALSE(store().history()[0].demo);
+    restart();
+    EXPECT_EQ(store().history().size(), 1u);
+    store().clearDemoHistory();
+    EXPECT_EQ(recordsIn(content("history.json")).size(), 1u);
+}
+
+} // namespace velmora

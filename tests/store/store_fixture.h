@@ -1,0 +1,102 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include <memory>
+
+namespace velmora {
+
+/// Draws the middle of every range, so that the wind keeps still.
+class CalmRandom final : public Random {
+public:
+    double uniform(double low, double high) override { return (low + high) / 2; }
+    Uuid uuid() override { return Uuid::fromRandomBits(0, ++count_); }
+
+private:
+    std::uint64_t count_ = 0;
+};
+
+/// Keeps what was asked; answers when the test says so.
+class FakeLink final : public Link {
+public:
+    struct Posted {
+        Command command;
+        std::optional<std::string> mission;
+        std::function<void()> done;
+    };
+
+    void fetchState(const Settings&, std::function<void(FetchResult)> done) override {
+        fetches.push_back(done);
+    }
+    void send(Command command, const std::optional<std::string>& mission, const Settings&,
+              std::function<void()> done) override {
+        posts.push_back({command, mission, done});
+    }
+
+    std::vector<std::function<void(FetchResult)>> fetches;
+    std::vector<Posted> posts;
+};
+
+class FakeNotifier final : public Notifier {
+public:
+    void post(const DetectionNotification& notification) override { posted.push_back(notification); }
+    void withdrawAll() override { ++withdrawals; }
+
+    std::vector<DetectionNotification> posted;
+    int withdrawals = 0;
+};
+
+/// A store with a clock that only the test moves, in a data directory of its own.
+class StoreTest : public testing::Test {
+protected:
+    AppStore& store() {
+        if (!store_)
+            store_ = std::make_unique<AppStore>(
+                AppStore::World{[this] { return now; }, random, QDir(directory()), notifier, link});
+        return *store_;
+    }
+    void restart() { store_.reset(); }
+
+    QString directory() const { return home.path() + "/data/Velmora"; }
+    QString path(const QString& name) const { return directory() + '/' + name; }
+    QByteArray content(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void put(const QString& name, const QByteArray& bytes) const {
+        QDir().mkpath(directory());
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    /// Lets the time pass in ticks of 0.05 s.
+    void pass(double seconds) {
+        for (int i = 0; i < std::lround(seconds / 0.05); ++i)
+            tickAfter(0.05);
+    }
+    void tickAfter(double seconds) {
+        now += Seconds{seconds};
+        store().tick();
+    }
+    void linked() {
+        Settings settings = store().settings();
+        settings.linkMode = true;
+        store().setSettings(settings);
+    }
+    Phase phase() { return store().state().phase; }
+
+    QTemporaryDir home;
+    Date now = dateFromSeconds(1'700'000'042);
+    CalmRandom random;
+    FakeNotifier notifier;
+    FakeLink link;
+
+private:
+    std::unique_ptr<AppStore> store_;
+};
+
+} // namespace velmora
