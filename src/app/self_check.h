@@ -1,0 +1,11 @@
+#pragma once
+
+#include "store/app_store.h"
+
+namespace velmora::SelfCheck {
+
+/// When VL_SNAPSHOT_DIR is set: schedules a run through the main screens in demo mode that saves nine
+/// pictures of the window into that directory and quits after about a minute. Returns at once.
+void runIfRequested(AppStore& store);
+
+} // namespace velmora::SelfCheck

@@ -1,0 +1,67 @@
+#include "ui/blocks/art_image.h"
+
+#include "ui/look/art.h"
+#include "ui/look/icons.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace velmora {
+
+ArtImage::ArtImage(const QString& name, Mode mode, double radius, QWidget* parent)
+    : QWidget(parent), name_(name), mode_(mode), radius_(radius) {}
+
+void ArtImage::setName(const QString& name) {
+    if (name == name_)
+        return;
+    name_ = name;
+    loadedFor_ = {-1, 0};
+    update();
+}
+
+void ArtImage::setSquareBottom(bool square) {
+    squareBottom_ = square;
+    update();
+}
+
+void ArtImage::load() {
+    const QSize pixels = size() * devicePixelRatioF();
+    if (pixels == loadedFor_)
+        return;
+    loadedFor_ = pixels;
+    picture_ = {};
+    const QImage image = Art::find(name_);
+    if (image.isNull() || pixels.isEmpty())
+        return;
+    const auto ratio = mode_ == Mode::fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
+    picture_ = QPixmap::fromImage(image.scaled(pixels, ratio, Qt::SmoothTransformation));
+    picture_.setDevicePixelRatio(devicePixelRatioF());
+}
+
+void ArtImage::paintEvent(QPaintEvent*) {
+    load();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double below = squareBottom_ ? radius_ : 0; // these corners fall outside the widget
+    if (picture_.isNull()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(SB::panel);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, below), radius_, radius_);
+        QRectF icon(0, 0, Measure::missingPictureIcon, Measure::missingPictureIcon);
+        icon.moveCenter(QRectF(rect()).center());
+        paintIcon(painter, icon, Icon::cameras, SB::rule);
+        return;
+    }
+    const QSizeF shown = picture_.deviceIndependentSize();
+    const QPointF corner((width() - shown.width()) / 2, (height() - shown.height()) / 2);
+    QBrush brush(picture_);
+    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect((QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below), radius_,
+                            radius_);
+}
+
+} // namespace velmora

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace velmora {
+
+/// A named picture in round corners; a quiet panel with a camera where there is none.
+class ArtImage : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Mode { fill, fit }; ///< fill crops what does not fit
+
+    ArtImage(const QString& name, Mode mode, double radius, QWidget* parent);
+
+    void setName(const QString& name);
+    /// Round corners at the top only: something follows below without a gap.
+    void setSquareBottom(bool square);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void load();
+
+    QString name_;
+    Mode mode_;
+    double radius_;
+    bool squareBottom_ = false;
+    QPixmap picture_;        ///< at the size and scale that it was last shown in
+    QSize loadedFor_{-1, 0}; ///< device pixels
+};
+
+} // namespace velmora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace velmora {
+
+/// The ring around what has the keyboard's focus in a window. It shows when the keyboard moved the focus, not
+/// when the mouse did, and lies above everything else in the window.
+class FocusRing : public QWidget {
+    Q_OBJECT
+
+public:
+    /// How the ring fits a widget.
+    struct Look {
+        double radius = 0;
+        bool dark = false; ///< on a navy surface
+    };
+
+    /// A widget without a look gets no ring.
+    static void setLook(QWidget* widget, const Look& look);
+
+    explicit FocusRing(QWidget* window);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void follow(QWidget* widget);
+    void unfollow();
+    void place();
+
+    QPointer<QWidget> target_;
+    QList<QPointer<QWidget>> watched_; ///< the target and what it lies in: when they move, the ring does
+    QRect clip_;                       ///< what scroll areas leave to be seen
+};
+
+} // namespace velmora

@@ -1,0 +1,106 @@
+#include "ui/blocks/headline.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QFontMetricsF>
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+/// Words with the space that follows them, so that their widths add up to the text's.
+QStringList wordsOf(const QString& text) {
+    QStringList words;
+    qsizetype from = 0;
+    for (qsizetype space = text.indexOf(' '); space >= 0; space = text.indexOf(' ', from)) {
+        words.append(text.mid(from, space + 1 - from));
+        from = space + 1;
+    }
+    if (from < text.size())
+        words.append(text.mid(from));
+    return words;
+}
+
+} // namespace
+
+Headline::Headline(const Sentence& sentence, const TextStyle& style, bool dark, QWidget* parent)
+    : QWidget(parent), sentence_(sentence), style_(style), dark_(dark) {
+    declareRole(this, QAccessible::Heading);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    describe();
+}
+
+void Headline::setSentence(const Sentence& sentence) {
+    if (sentence == sentence_)
+        return;
+    sentence_ = sentence;
+    describe();
+    updateGeometry();
+    update();
+}
+
+void Headline::describe() {
+    setAccessibleName(sentence_.lead + sentence_.emphasis + sentence_.tail);
+}
+
+QSize Headline::sizeHint() const {
+    const double width = textWidth(accessibleName(), style_);
+    return {static_cast<int>(std::ceil(width)) + 1, static_cast<int>(style_.line)};
+}
+
+QSize Headline::minimumSizeHint() const {
+    return {0, static_cast<int>(style_.line)};
+}
+
+int Headline::heightForWidth(int width) const {
+    const auto shown = pieces(width);
+    const int lines = shown.empty() ? 1 : shown.back().line + 1;
+    return static_cast<int>(lines * style_.line);
+}
+
+/// A tail such as a full stop stays with the word before it.
+std::vector<Headline::Piece> Headline::pieces(double width) const {
+    const QFontMetricsF metrics(fontOf(style_));
+    std::vector<Piece> shown;
+    double x = 0;
+    int line = 0;
+    bool canBreak = false;
+    for (const auto& [text, emphasised] :
+         {std::pair(sentence_.lead, false), std::pair(sentence_.emphasis, true),
+          std::pair(sentence_.tail, false)}) {
+        for (const QString& word : wordsOf(text)) {
+            if (canBreak && x + metrics.horizontalAdvance(word.trimmed()) > width) {
+                x = 0;
+                ++line;
+            }
+            if (shown.empty() || shown.back().emphasised != emphasised || shown.back().line != line)
+                shown.push_back({{}, emphasised, x, line});
+            shown.back().text += word;
+            x += metrics.horizontalAdvance(word);
+            canBreak = word.endsWith(' ');
+        }
+    }
+    return shown;
+}
+
+void Headline::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QFontMetricsF metrics(fontOf(style_));
+    for (const Piece& piece : pieces(width())) {
+        QBrush brush(dark_ ? SB::dTitle : SB::ink);
+        if (piece.emphasised) {
+            const double end = piece.x + metrics.horizontalAdvance(piece.text.trimmed());
+            brush = dark_ ? SB::gradientDark(piece.x, end) : SB::gradientLight(piece.x, end);
+        }
+        const double baseline = std::round(piece.line * style_.line + baselineOf(style_));
+        drawRun(painter, {piece.x, baseline}, piece.text, style_, brush);
+    }
+}
+
+} // namespace velmora

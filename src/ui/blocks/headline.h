@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/look/type.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace velmora {
+
+/// A sentence in three runs; the middle one carries the gradient.
+struct Sentence {
+    QString lead;
+    QString emphasis;
+    QString tail;
+
+    bool operator==(const Sentence&) const = default;
+};
+
+/// A headline, broken to its width.
+class Headline : public QWidget {
+    Q_OBJECT
+
+public:
+    Headline(const Sentence& sentence, const TextStyle& style, bool dark, QWidget* parent);
+
+    void setSentence(const Sentence& sentence);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    /// A stretch of one run that stands on one line.
+    struct Piece {
+        QString text;
+        bool emphasised = false;
+        double x = 0;
+        int line = 0;
+    };
+
+    std::vector<Piece> pieces(double width) const;
+    void describe();
+
+    Sentence sentence_;
+    TextStyle style_;
+    bool dark_;
+};
+
+} // namespace velmora

@@ -1,0 +1,65 @@
+#include "ui/blocks/metric.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+namespace velmora {
+
+Metric::Metric(const QString& label, Size size, bool dark, QWidget* parent)
+    : QWidget(parent),
+      label_(label),
+      style_(size == Size::telemetry ? Type::telemetry : Type::metric),
+      dark_(dark) {
+    declareRole(this, QAccessible::StaticText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void Metric::setValue(const QString& value, const QString& unit) {
+    if (value == value_ && unit == unit_)
+        return;
+    const bool grows = value.size() != value_.size() || unit != unit_;
+    value_ = value;
+    unit_ = unit;
+    setAccessibleName(label_ + ", " + (unit.isEmpty() ? value : value + ' ' + unit));
+    if (grows)
+        updateGeometry();
+    update();
+}
+
+void Metric::setTint(const std::optional<QColor>& tint) {
+    if (tint == tint_)
+        return;
+    tint_ = tint;
+    update();
+}
+
+void Metric::setDimmed(bool dimmed) {
+    if (dimmed == dimmed_)
+        return;
+    dimmed_ = dimmed;
+    update();
+}
+
+QSize Metric::sizeHint() const {
+    const double value = textWidth(value_, style_) + Measure::unitGap + textWidth(unit_, Type::unit);
+    const double width = std::max(textWidth(label_, Type::caption), value);
+    return {static_cast<int>(width) + 1,
+            static_cast<int>(Type::caption.line + Measure::metricGap + style_.line)};
+}
+
+void Metric::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QColor quiet = dark_ ? SB::dLabel : SB::muted;
+    const QColor plain = dimmed_ ? quiet : dark_ ? SB::dTitle : SB::ink;
+    QRectF row(0, 0, width(), Type::caption.line);
+    drawText(painter, row, label_, Type::caption, quiet, Qt::AlignLeft);
+    row = QRectF(0, row.bottom() + Measure::metricGap, width(), style_.line);
+    drawText(painter, row, value_, style_, tint_.value_or(plain), Qt::AlignLeft);
+    const double sharedBaseline = baselineOf(style_) - baselineOf(Type::unit);
+    row.adjust(textWidth(value_, style_) + Measure::unitGap, sharedBaseline, 0, 0);
+    drawText(painter, row, unit_, Type::unit, tint_.value_or(quiet), Qt::AlignLeft);
+}
+
+} // namespace velmora

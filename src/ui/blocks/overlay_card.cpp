@@ -1,0 +1,175 @@
+#include "ui/blocks/overlay_card.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/measures.h"
+#include "ui/look/motion.h"
+#include "ui/look/tokens.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+namespace {
+
+constexpr double veil = 0.55;
+constexpr double smallest = 0.98; // of the card's size when it begins to appear
+
+/// One soft shadow: offset and blur in pixels, drawn as nested outlines that add up.
+void paintShadow(QPainter& painter, const QRectF& card, double offset, double blur, double opacity) {
+    constexpr int steps = 16;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::faded(SB::navy, 1 - std::pow(1 - opacity, 1.0 / steps)));
+    for (int step = 0; step < steps; ++step) {
+        const double grown = blur * (0.5 - static_cast<double>(step) / steps);
+        const double radius = std::max(Measure::overlayRadius + grown, 2.0);
+        painter.drawRoundedRect(card.translated(0, offset).adjusted(-grown, -grown, grown, grown), radius,
+                                radius);
+    }
+}
+
+/// The card's surface; its children stay inside its round corners.
+class Surface : public QWidget {
+public:
+    explicit Surface(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::NoFocus); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(SB::page);
+        painter.drawRoundedRect(rect(), Measure::overlayRadius, Measure::overlayRadius);
+    }
+};
+
+} // namespace
+
+OverlayCard::OverlayCard(int cardWidth, QWidget* window)
+    : QWidget(window), card_(new Surface(this)), column_(new QVBoxLayout(card_)) {
+    declareRole(this, QAccessible::Dialog);
+    setFocusPolicy(Qt::StrongFocus);
+    card_->setFixedWidth(cardWidth);
+    column_->setContentsMargins(0, 0, 0, 0);
+    column_->setSpacing(0);
+    connect(&appearance_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&appearance_, &QVariantAnimation::finished, this, &OverlayCard::settled);
+    window->installEventFilter(this);
+    hide();
+}
+
+void OverlayCard::open() {
+    if (open_)
+        return;
+    open_ = true;
+    focusBefore_ = QApplication::focusWidget();
+    setGeometry(parentWidget()->rect());
+    layCard();
+    picture_ = card_->grab();
+    card_->hide();
+    show();
+    raise();
+    setFocus(Qt::OtherFocusReason);
+    animate(0, 1, Motion::cardIn);
+}
+
+void OverlayCard::close() {
+    if (!open_)
+        return;
+    open_ = false;
+    picture_ = card_->grab();
+    card_->hide();
+    animate(1, 0, Motion::cardOut);
+    if (focusBefore_ && focusBefore_->isVisible())
+        focusBefore_->setFocus(Qt::OtherFocusReason);
+    else
+        clearFocus();
+}
+
+void OverlayCard::animate(double from, double to, int duration) {
+    appearance_.stop();
+    appearance_.setStartValue(from);
+    appearance_.setEndValue(to);
+    appearance_.setEasingCurve(QEasingCurve::OutCubic);
+    appearance_.setDuration(duration);
+    appearance_.start();
+}
+
+void OverlayCard::settled() {
+    picture_ = {};
+    if (!open_) {
+        hide();
+        return;
+    }
+    card_->show();
+    takeFirstFocus();
+}
+
+void OverlayCard::takeFirstFocus() {}
+
+void OverlayCard::layCard() {
+    const int height =
+        column_->hasHeightForWidth() ? column_->heightForWidth(card_->width()) : column_->sizeHint().height();
+    card_->resize(card_->width(), height);
+    card_->move((width() - card_->width()) / 2, (this->height() - height) / 2);
+}
+
+void OverlayCard::resizeEvent(QResizeEvent*) {
+    layCard();
+}
+
+bool OverlayCard::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == parentWidget() && isVisible())
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void OverlayCard::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier)
+        emit dismissed();
+}
+
+QList<QWidget*> OverlayCard::focusable() const {
+    QList<QWidget*> found;
+    for (QWidget* child : card_->findChildren<QWidget*>())
+        if (child->focusPolicy() & Qt::TabFocus && child->isVisible() && child->isEnabled())
+            found.append(child);
+    return found;
+}
+
+/// Round and round among the card's own controls, in their reading order.
+bool OverlayCard::focusNextPrevChild(bool next) {
+    const QList<QWidget*> controls = focusable();
+    if (controls.isEmpty())
+        return true;
+    const qsizetype at = controls.indexOf(QApplication::focusWidget());
+    const qsizetype count = controls.size();
+    const qsizetype to = at < 0 ? (next ? 0 : count - 1) : (at + (next ? 1 : count - 1)) % count;
+    controls[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void OverlayCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const bool moving = appearance_.state() == QAbstractAnimation::Running;
+    const double shown = moving ? appearance_.currentValue().toDouble() : 1;
+    painter.fillRect(rect(), SB::faded(SB::navy, veil * shown));
+    painter.setOpacity(shown);
+    if (moving && !Motion::reduced()) {
+        const QPointF center = QRectF(card_->geometry()).center();
+        const double scale = smallest + (1 - smallest) * shown;
+        painter.translate(center + QPointF(0, (1 - shown) * Measure::overlayRise));
+        painter.scale(scale, scale);
+        painter.translate(-center);
+    }
+    paintShadow(painter, card_->geometry(), 24, 64, 0.38);
+    paintShadow(painter, card_->geometry(), 2, 8, 0.2);
+    if (moving)
+        painter.drawPixmap(card_->pos(), picture_);
+}
+
+} // namespace velmora

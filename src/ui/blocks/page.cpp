@@ -1,0 +1,65 @@
+#include "ui/blocks/page.h"
+
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+Page::Page(const Parts& parts, QWidget* parent)
+    : QWidget(parent), headline_(new Headline(parts.headline, Type::headline, false, this)) {
+    auto* frame = new QWidget(this);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(Measure::pageMargins);
+    column->setSpacing(0);
+    column->addWidget(buildHeading(parts));
+    column->addSpacing(parts.contentGap);
+    column->addWidget(parts.content, 1);
+    shown_ = frame;
+    if (parts.scroll) {
+        auto* area = new ScrollArea(this);
+        area->setWidget(frame);
+        shown_ = area;
+    }
+    frame->setMaximumWidth(Measure::pageWidth + Measure::pageMargins.left() + Measure::pageMargins.right());
+}
+
+/// Wide windows leave the room at the right.
+void Page::resizeEvent(QResizeEvent*) {
+    shown_->setGeometry(0, 0, std::min(width(), shown_->maximumWidth()), height());
+}
+
+QWidget* Page::buildHeading(const Parts& parts) {
+    auto* heading = new QWidget(this);
+    auto* row = new QHBoxLayout(heading);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Measure::gap24);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(Measure::gap4);
+    words->addWidget(new Eyebrow(parts.eyebrow, false, heading));
+    words->addWidget(headline_);
+    if (parts.lede) {
+        lede_ = new Text(*parts.lede, Type::lede, SB::body, heading);
+        lede_->setMaximumWidth(Measure::ledeWidth);
+        words->addWidget(lede_);
+    }
+    row->addLayout(words, 1);
+    if (parts.trailing)
+        row->addWidget(parts.trailing, 0, Qt::AlignTop);
+    return heading;
+}
+
+void Page::setHeadline(const Sentence& headline) {
+    headline_->setSentence(headline);
+}
+
+void Page::setLede(const QString& lede) {
+    lede_->setText(lede);
+}
+
+} // namespace velmora

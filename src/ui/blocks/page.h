@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/blocks/headline.h"
+
+#include <optional>
+
+namespace velmora {
+
+class Text;
+
+/// The frame of a section's screen: eyebrow, headline, optional lede, something beside the heading, then the
+/// content.
+class Page : public QWidget {
+    Q_OBJECT
+
+public:
+    /// What a page is made with; `trailing` may be null.
+    struct Parts {
+        QString eyebrow;
+        Sentence headline;
+        std::optional<QString> lede = std::nullopt;
+        bool scroll = false;
+        int contentGap = 0; ///< between heading and content, pixels
+        QWidget* trailing = nullptr;
+        QWidget* content = nullptr;
+    };
+
+    Page(const Parts& parts, QWidget* parent);
+
+    void setHeadline(const Sentence& headline);
+    void setLede(const QString& lede);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* buildHeading(const Parts& parts);
+
+    Headline* headline_;
+    QWidget* shown_;
+    Text* lede_ = nullptr;
+};
+
+} // namespace velmora

@@ -1,0 +1,185 @@
+#include "ui/blocks/sb_button.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/look/measures.h"
+#include "ui/look/motion.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double guardedOpacity = 0.6;
+constexpr QColor none{0, 0, 0, 0};
+
+const TextStyle& textStyleOf(const SBButtonStyle& style) {
+    return style.large ? Type::buttonLarge : Type::button;
+}
+
+} // namespace
+
+SBButtonLook SBButton::lookOf(SBButtonKind kind, Look look) {
+    using SB::faded;
+    const auto choose = [look](SBButtonLook normal, SBButtonLook hover, SBButtonLook pressed,
+                               SBButtonLook disabled) {
+        switch (look) {
+        case Look::hover:
+            return hover;
+        case Look::pressed:
+            return pressed;
+        case Look::disabled:
+            return disabled;
+        case Look::normal:
+            break;
+        }
+        return normal;
+    };
+    const SBButtonLook outlineOff{SB::page, SB::rule2, faded(SB::muted, 0.6)};
+    switch (kind) {
+    case SBButtonKind::primary:
+        return choose({SB::ink, none, SB::page}, {SB::mixed(SB::page, SB::ink, 0.88), none, SB::page},
+                      {SB::navy, none, SB::page}, {SB::rule2, none, faded(SB::muted, 0.8)});
+    case SBButtonKind::secondary:
+        return choose({SB::page, SB::rule, SB::ink}, {SB::panel, faded(SB::muted, 0.45), SB::ink},
+                      {SB::rule2, faded(SB::muted, 0.45), SB::ink}, outlineOff);
+    case SBButtonKind::quiet:
+        return choose({none, none, SB::blue}, {SB::panel, none, SB::blue}, {SB::rule2, none, SB::blue},
+                      {none, none, faded(SB::muted, 0.6)});
+    case SBButtonKind::danger:
+        return choose({SB::mixed(SB::page, SB::alert, 0.07), faded(SB::alert, 0.28), SB::alert},
+                      {SB::alert, SB::alert, SB::page},
+                      {SB::mixed(SB::alert, SB::navy, 0.25), none, SB::page}, outlineOff);
+    case SBButtonKind::onDark:
+        break;
+    }
+    return choose({faded(SB::dTitle, 0.1), faded(SB::dTitle, 0.2), SB::dTitle},
+                  {faded(SB::dTitle, 0.16), faded(SB::dTitle, 0.32), SB::dTitle},
+                  {faded(SB::dTitle, 0.24), faded(SB::dTitle, 0.32), SB::dTitle},
+                  {faded(SB::dTitle, 0.05), faded(SB::dTitle, 0.1), faded(SB::dLabel, 0.55)});
+}
+
+SBButton::SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent)
+    : QAbstractButton(parent), style_(style) {
+    setText(text);
+    setAccessibleName(text);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(style.wide ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+    FocusRing::setLook(this, {Measure::buttonRadius, style.kind == SBButtonKind::onDark});
+    shown_ = target_ = lookOf(style_.kind, wantedLook());
+    fade_.setStartValue(0.0);
+    fade_.setEndValue(1.0);
+    fade_.setDuration(Motion::hover);
+    connect(&fade_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        const double share = value.toDouble();
+        shown_ = {SB::mixed(from_.fill, target_.fill, share), SB::mixed(from_.border, target_.border, share),
+                  SB::mixed(from_.text, target_.text, share)};
+        update();
+    });
+    connect(this, &SBButton::pressed, this, &SBButton::fadeToWantedLook);
+    connect(this, &SBButton::released, this, &SBButton::fadeToWantedLook);
+}
+
+void SBButton::setGuarded(bool guarded) {
+    if (guarded == guarded_)
+        return;
+    guarded_ = guarded;
+    update();
+}
+
+QSize SBButton::sizeHint() const {
+    const int padding = style_.large ? Measure::buttonPaddingLarge : Measure::buttonPadding;
+    double width = 2.0 * padding + 2 + textWidth(text(), textStyleOf(style_));
+    if (style_.icon)
+        width += Measure::buttonIcon + Measure::gap8;
+    return {static_cast<int>(std::ceil(width)),
+            style_.large ? Measure::buttonHeightLarge : Measure::buttonHeight};
+}
+
+SBButton::Look SBButton::wantedLook() const {
+    if (!isEnabled())
+        return Look::disabled;
+    if (isDown())
+        return Look::pressed;
+    return underMouse() && !guarded_ ? Look::hover : Look::normal;
+}
+
+void SBButton::fadeToWantedLook() {
+    const SBButtonLook wanted = lookOf(style_.kind, wantedLook());
+    if (wanted == target_)
+        return;
+    from_ = shown_;
+    target_ = wanted;
+    fade_.stop();
+    if (isVisible()) {
+        fade_.start();
+    } else {
+        shown_ = target_;
+        update();
+    }
+}
+
+bool SBButton::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Shortcut:
+        if (guarded_)
+            return true;
+        break;
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::EnabledChange:
+    case QEvent::Show: {
+        const bool handled = QAbstractButton::event(event);
+        fadeToWantedLook();
+        return handled;
+    }
+    default:
+        break;
+    }
+    return QAbstractButton::event(event);
+}
+
+void SBButton::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool presses = enter || event->key() == Qt::Key_Space;
+    if (presses && (guarded_ || event->isAutoRepeat()))
+        return;
+    if (enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void SBButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (guarded_)
+        painter.setOpacity(guardedOpacity);
+    painter.setPen(shown_.border.alpha() > 0 ? QPen(shown_.border, 1) : QPen(Qt::NoPen));
+    painter.setBrush(shown_.fill);
+    const double inset = shown_.border.alpha() > 0 ? 0.5 : 0;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), Measure::buttonRadius,
+                            Measure::buttonRadius);
+
+    const TextStyle& style = textStyleOf(style_);
+    const double words = textWidth(text(), style);
+    const double icon = style_.icon ? Measure::buttonIcon + Measure::gap8 : 0;
+    double x = (width() - words - icon) / 2;
+    if (style_.icon) {
+        paintIcon(painter,
+                  {x, (height() - Measure::buttonIcon) / 2.0, Measure::buttonIcon, Measure::buttonIcon},
+                  *style_.icon, shown_.text);
+        x += icon;
+    }
+    drawText(painter, QRectF(x, 0, words + 1, height()), text(), style, shown_.text, Qt::AlignVCenter);
+}
+
+} // namespace velmora

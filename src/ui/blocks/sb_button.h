@@ -1,0 +1,62 @@
+#pragma once
+
+#include "ui/look/icons.h"
+
+#include <QAbstractButton>
+#include <QVariantAnimation>
+
+#include <optional>
+
+namespace velmora {
+
+enum class SBButtonKind { primary, secondary, quiet, danger, onDark };
+
+/// The one button style.
+struct SBButtonStyle {
+    SBButtonKind kind = SBButtonKind::secondary;
+    bool wide = false; ///< fills the column
+    bool large = false;
+    std::optional<Icon> icon = std::nullopt;
+};
+
+/// What a button is painted with.
+struct SBButtonLook {
+    QColor fill;
+    QColor border;
+    QColor text;
+
+    bool operator==(const SBButtonLook&) const = default;
+};
+
+/// A push button. Space and Enter press it.
+class SBButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent);
+
+    /// A guarded button is paler and takes neither clicks nor keys.
+    void setGuarded(bool guarded);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    enum class Look { normal, hover, pressed, disabled };
+
+    static SBButtonLook lookOf(SBButtonKind kind, Look look);
+    Look wantedLook() const;
+    void fadeToWantedLook();
+
+    SBButtonStyle style_;
+    SBButtonLook from_, shown_, target_;
+    QVariantAnimation fade_;
+    bool guarded_ = false;
+};
+
+} // namespace velmora

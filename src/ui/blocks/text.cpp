@@ -1,0 +1,91 @@
+#include "ui/blocks/text.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <cmath>
+
+namespace velmora {
+
+Text::Text(const QString& text, const TextStyle& style, const QColor& color, QWidget* parent)
+    : QWidget(parent), text_(text), style_(style), color_(color) {
+    declareRole(this, QAccessible::StaticText);
+    setAccessibleName(text);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void Text::setText(const QString& text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    setAccessibleName(text);
+    tellWhatIsCut();
+    updateGeometry();
+    update();
+}
+
+void Text::setColor(const QColor& color) {
+    if (color == color_)
+        return;
+    color_ = color;
+    update();
+}
+
+void Text::setAlignment(Qt::Alignment alignment) {
+    alignment_ = alignment;
+    update();
+}
+
+void Text::setMaximumLines(int lines) {
+    maximumLines_ = lines;
+    updateGeometry();
+}
+
+QSize Text::sizeHint() const {
+    return {static_cast<int>(std::ceil(textWidth(text_, style_))), static_cast<int>(style_.line)};
+}
+
+QSize Text::minimumSizeHint() const {
+    return {0, static_cast<int>(style_.line)};
+}
+
+int Text::heightForWidth(int width) const {
+    return static_cast<int>(std::ceil(static_cast<double>(lines(width).size()) * style_.line));
+}
+
+QStringList Text::lines(int width) const {
+    if (maximumLines_ == 1)
+        return {elided(text_, style_, width)};
+    return brokenIntoLines(text_, style_, width, maximumLines_);
+}
+
+void Text::tellWhatIsCut() {
+    if (maximumLines_ > 0)
+        setToolTip(lines(width()).join(' ').endsWith(QChar(0x2026)) ? text_ : QString());
+}
+
+void Text::resizeEvent(QResizeEvent*) {
+    tellWhatIsCut();
+}
+
+void Text::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QRectF line(0, 0, width(), style_.line);
+    TextStyle style = style_;
+    style.upperCase = false; // the lines are in capitals already
+    for (const QString& shown : lines(width())) {
+        drawText(painter, line, shown, style, color_, alignment_);
+        line.translate(0, style_.line);
+    }
+}
+
+Eyebrow::Eyebrow(const QString& text, bool dark, QWidget* parent)
+    : Text(text, Type::eyebrow, dark ? SB::dLabel : SB::muted, parent) {}
+
+Label2::Label2(const QString& text, bool dark, QWidget* parent)
+    : Text(text, Type::label2, dark ? SB::dLabel : SB::muted, parent) {}
+
+} // namespace velmora

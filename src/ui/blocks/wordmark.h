@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+namespace velmora {
+
+/// The shield with its chevron, fitted into the rectangle.
+void paintShield(QPainter& painter, const QRectF& rect);
+
+/// The shield and the name.
+class Wordmark : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Wordmark(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace velmora

@@ -1,0 +1,168 @@
+#include "ui/look/style.h"
+
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QMenu>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace velmora {
+
+namespace {
+
+constexpr double disabledText = 0.55;
+
+void paintMenuPanel(QPainter& painter, const QRect& rect) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(SB::rule);
+    painter.setBrush(SB::page);
+    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), Measure::cardRadius,
+                            Measure::cardRadius);
+}
+
+/// Without the mnemonic's ampersands; the shortcut stands behind a tab.
+std::pair<QString, QString> textAndShortcut(const QStyleOptionMenuItem& item) {
+    QString text = item.text;
+    text.remove('&');
+    return {text.section('\t', 0, 0), text.section('\t', 1)};
+}
+
+void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
+    const QRectF row = QRectF(item.rect).adjusted(Measure::menuRowInset, 0, -Measure::menuRowInset, 0);
+    if (item.menuItemType == QStyleOptionMenuItem::Separator) {
+        painter.fillRect(QRectF(item.rect.left(), row.center().y(), item.rect.width(), 1), SB::rule2);
+        return;
+    }
+    const bool enabled = item.state & QStyle::State_Enabled;
+    const bool highlighted = enabled && item.state & QStyle::State_Selected;
+    if (highlighted) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(SB::ink);
+        painter.drawRoundedRect(row, Measure::thumbnailRadius, Measure::thumbnailRadius);
+    }
+    const QColor plain = enabled ? SB::ink : SB::faded(SB::muted, disabledText);
+    const QColor quiet = enabled ? SB::muted : plain;
+    const QRectF words = QRectF(item.rect).adjusted(Measure::menuPadding, 0, -Measure::menuPadding, 0);
+    const auto [text, shortcut] = textAndShortcut(item);
+    drawText(painter, words, text, Type::menu, highlighted ? SB::page : plain, Qt::AlignVCenter);
+    drawText(painter, words, shortcut, Type::label2, highlighted ? SB::page : quiet,
+             Qt::AlignVCenter | Qt::AlignRight);
+}
+
+void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& item) {
+    const bool lively = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
+    if (lively) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(SB::rule2);
+        painter.drawRoundedRect(item.rect, Measure::menuTitleRadius, Measure::menuTitleRadius);
+    }
+    drawText(painter, item.rect, textAndShortcut(item).first, Type::menu, lively ? SB::ink : SB::muted,
+             Qt::AlignCenter);
+}
+
+QSize menuItemSize(const QStyleOptionMenuItem& item) {
+    if (item.menuItemType == QStyleOptionMenuItem::Separator)
+        return {1, 2 * Measure::menuSeparatorGap + 1};
+    const auto [text, shortcut] = textAndShortcut(item);
+    double width = 2.0 * Measure::menuPadding + textWidth(text, Type::menu);
+    if (!shortcut.isEmpty())
+        width += Measure::gap32 + textWidth(shortcut, Type::label2);
+    return {static_cast<int>(width) + 1, Measure::menuRow};
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+QPalette Style::lightPalette() {
+    QPalette palette(SB::page, SB::page);
+    palette.setColor(QPalette::WindowText, SB::ink);
+    palette.setColor(QPalette::Text, SB::ink);
+    palette.setColor(QPalette::Base, SB::page);
+    palette.setColor(QPalette::AlternateBase, SB::panel);
+    palette.setColor(QPalette::ButtonText, SB::ink);
+    palette.setColor(QPalette::Highlight, SB::ink);
+    palette.setColor(QPalette::HighlightedText, SB::page);
+    palette.setColor(QPalette::PlaceholderText, SB::faded(SB::muted, 0.75));
+    palette.setColor(QPalette::ToolTipBase, SB::ink);
+    palette.setColor(QPalette::ToolTipText, SB::page);
+    palette.setColor(QPalette::Link, SB::blue);
+    return palette;
+}
+
+/// A menu's corners are round, so its window has to let the desktop through.
+void Style::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QMenu*>(widget))
+        widget->setAttribute(Qt::WA_TranslucentBackground);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    if (element == PE_PanelMenu)
+        paintMenuPanel(*painter, option->rect);
+    else if (element != PE_FrameMenu && element != PE_FrameFocusRect)
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    painter->save();
+    if (element == CE_MenuItem && item)
+        paintMenuItem(*painter, *item);
+    else if (element == CE_MenuBarItem && item)
+        paintMenuTitle(*painter, *item);
+    else if (element != CE_MenuBarEmptyArea && element != CE_MenuEmptyArea)
+        QProxyStyle::drawControl(element, option, painter, widget);
+    painter->restore();
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const {
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type == CT_MenuItem && item)
+        return menuItemSize(*item);
+    if (type == CT_MenuBarItem && item)
+        return {static_cast<int>(textWidth(textAndShortcut(*item).first, Type::menu)) +
+                    2 * Measure::menuTitlePadding,
+                Measure::menuTitleHeight};
+    return QProxyStyle::sizeFromContents(type, option, contents, widget);
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+    case PM_MenuVMargin:
+        return Measure::menuEdge;
+    case PM_MenuBarItemSpacing:
+    case PM_MenuBarHMargin:
+    case PM_MenuBarVMargin:
+    case PM_MenuBarPanelWidth:
+    case PM_MenuHMargin:
+    case PM_MenuPanelWidth:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+/// Menu titles are no mnemonics: Alt belongs to the desktop.
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returned) const {
+    switch (hint) {
+    case SH_UnderlineShortcut:
+        return 0;
+    case SH_MenuBar_MouseTracking:
+    case SH_Menu_MouseTracking:
+        return 1;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace velmora {
+
+/// The program's widget style: menus, menu bars and scroll bars drawn from the tokens, Fusion underneath, and
+/// one light palette whatever the desktop's.
+class Style : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    Style();
+
+    /// The light palette of the tokens.
+    static QPalette lightPalette();
+
+    void polish(QWidget* widget) override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
+};
+
+} // namespace velmora

@@ -1,0 +1,137 @@
+#include "ui/look/text.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double fitTolerance = 0.5; // pixels by which a measured text may exceed its own width
+
+QString cased(const QString& text, const TextStyle& style) {
+    return style.upperCase ? text.toUpper() : text;
+}
+
+bool isAsciiDigit(QChar character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Every digit in a cell as wide as "0"; returns the width of the line.
+template <class Draw>
+double layTabular(const QString& text, const TextStyle& style, const QFontMetricsF& metrics, Draw draw) {
+    const double cell = metrics.horizontalAdvance(QStringLiteral("0"));
+    double x = 0;
+    for (const QChar character : text) {
+        const double advance = metrics.horizontalAdvance(QString(character)); // with its tracking
+        const bool digit = isAsciiDigit(character);
+        draw(digit ? x + (cell - advance) / 2 : x, character);
+        x += digit ? cell : advance;
+    }
+    return text.isEmpty() ? 0 : x - style.tracking;
+}
+
+double casedWidth(const QString& text, const TextStyle& style) {
+    if (text.isEmpty())
+        return 0;
+    const QFontMetricsF metrics(fontOf(style));
+    if (style.tabular)
+        return layTabular(text, style, metrics, [](double, QChar) {});
+    return metrics.horizontalAdvance(text) - style.tracking;
+}
+
+QString casedElided(const QString& text, const TextStyle& style, double width) {
+    if (casedWidth(text, style) <= width + fitTolerance)
+        return text;
+    return QFontMetricsF(fontOf(style)).elidedText(text, Qt::ElideRight, std::max(width, 0.0));
+}
+
+/// Emoji are pictures without outlines.
+bool hasOutlines(const QString& text) {
+    return std::ranges::none_of(text, [](QChar character) { return character.isSurrogate(); });
+}
+
+} // namespace
+
+QFont fontOf(const TextStyle& style) {
+    QFont font = SBFont::font(style.face, style.size);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking);
+    return font;
+}
+
+double textWidth(const QString& text, const TextStyle& style) {
+    return casedWidth(cased(text, style), style);
+}
+
+QString elided(const QString& text, const TextStyle& style, double width) {
+    return casedElided(cased(text, style), style, width);
+}
+
+double baselineOf(const TextStyle& style) {
+    const QFontMetricsF metrics(fontOf(style));
+    return (style.line - metrics.ascent() - metrics.descent()) / 2 + metrics.ascent();
+}
+
+/// Small glyphs are filled as outlines: drawn as glyphs, FreeType thickens the stems of this typeface by a
+/// weight.
+void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
+             const QBrush& color) {
+    if (!hasOutlines(text)) {
+        painter.setFont(fontOf(style));
+        painter.setPen(QPen(color, 0));
+        painter.drawText(baseline, text);
+        return;
+    }
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    outlines.addText(baseline, fontOf(style), text);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outlines, color);
+}
+
+void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
+              const QBrush& color, Qt::Alignment alignment) {
+    const QString shown = elided(text, style, rect.width());
+    const double width = casedWidth(shown, style);
+    double x = rect.left(), top = rect.top();
+    if (alignment & Qt::AlignRight)
+        x = rect.right() - width;
+    else if (alignment & Qt::AlignHCenter)
+        x = rect.center().x() - width / 2;
+    if (alignment & Qt::AlignBottom)
+        top = rect.bottom() - style.line;
+    else if (alignment & Qt::AlignVCenter)
+        top = rect.center().y() - style.line / 2;
+
+    const double baseline = std::round(top + baselineOf(style));
+    if (!style.tabular) {
+        drawRun(painter, {x, baseline}, shown, style, color);
+        return;
+    }
+    layTabular(shown, style, QFontMetricsF(fontOf(style)), [&](double offset, QChar character) {
+        drawRun(painter, {x + offset, baseline}, character, style, color);
+    });
+}
+
+QStringList brokenIntoLines(const QString& text, const TextStyle& style, double width, int maximumLines) {
+    const QString shown = cased(text, style);
+    QTextLayout layout(shown, fontOf(style));
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width + fitTolerance);
+        if (maximumLines > 0 && lines.size() + 1 == maximumLines) {
+            lines.append(casedElided(shown.mid(line.textStart()).trimmed(), style, width));
+            break;
+        }
+        lines.append(shown.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines;
+}
+
+} // namespace velmora

@@ -1,0 +1,55 @@
+#include "ui/map/drone_glyph.h"
+
+#include "ui/look/tokens.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double armEnd = 4.949747468305833; // 7 pixels at 45 degrees
+constexpr QPointF armEnds[] = {{-armEnd, -armEnd}, {armEnd, -armEnd}, {-armEnd, armEnd}, {armEnd, armEnd}};
+constexpr double rotorRadius = 3.4, rotorBreath = 0.4, rotorSpeed = 30; // pixels, pixels, radians a second
+
+void drawBody(QPainter& painter, bool flying) {
+    painter.setBrush(SB::faded(SB::navy, 0.55));
+    painter.setPen(QPen(SB::faded(SB::dTeal, flying ? 0.9 : 0.5), 1.2));
+    painter.drawEllipse(QPointF(), droneRadius, droneRadius);
+    painter.setBrush(Qt::NoBrush);
+}
+
+void drawArms(QPainter& painter) {
+    painter.setPen(QPen(SB::dTitle, 2, Qt::SolidLine, Qt::FlatCap));
+    for (const QPointF& end : armEnds)
+        painter.drawLine(QPointF(), end);
+}
+
+void drawRotors(QPainter& painter, bool flying, double t) {
+    const double radius = rotorRadius + rotorBreath * std::sin(rotorSpeed * t * (flying ? 1 : 0));
+    painter.setPen(QPen(SB::dTitle, 1.1));
+    for (const QPointF& end : armEnds)
+        painter.drawEllipse(end, radius, radius);
+}
+
+void drawNose(QPainter& painter) {
+    painter.setPen(QPen(SB::dTeal, 1.4, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.drawPolyline(QPolygonF({QPointF(-2.5, -3), QPointF(0, -6.5), QPointF(2.5, -3)}));
+}
+
+} // namespace
+
+void drawDrone(QPainter& painter, QPointF at, double heading, bool flying, double t) {
+    painter.save();
+    painter.translate(at);
+    painter.rotate(heading + 90);
+    drawBody(painter, flying);
+    drawArms(painter);
+    drawRotors(painter, flying, t);
+    drawNose(painter);
+    painter.restore();
+}
+
+} // namespace velmora

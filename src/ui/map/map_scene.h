@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/live_state.h"
+#include "model/mission_record.h"
+#include "model/settings.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+#include <optional>
+
+namespace velmora {
+
+/// Everything that one picture of the map shows.
+struct MapScene {
+    LiveState state;
+    Settings settings;
+    std::optional<MissionRecord> replay; ///< shown instead of the live visitor and drone
+    bool showLabels = true;              ///< false: shapes only
+};
+
+/// Site metres to view pixels: the whole plan fitted into the canvas and centred.
+class MapTransform {
+public:
+    MapTransform(QSizeF canvas, P siteSize);
+
+    /// Pixels per metre.
+    double scale() const { return scale_; }
+    QPointF map(P site) const { return {offset_.x() + site.x * scale_, offset_.y() + site.y * scale_}; }
+    /// The plan's rectangle in the canvas.
+    QRectF plan() const { return plan_; }
+    /// The boundary's bounding box in the canvas.
+    QRectF map(const Bounds& bounds) const;
+
+private:
+    double scale_;
+    QPointF offset_;
+    QRectF plan_;
+};
+
+} // namespace velmora

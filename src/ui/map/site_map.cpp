@@ -1,0 +1,183 @@
+#include "ui/map/site_map.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/measures.h"
+#include "ui/look/motion.h"
+#include "ui/look/tokens.h"
+#include "ui/map/map_description.h"
+#include "ui/map/map_painting.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double dimmedOpacity = 0.55;
+constexpr double secondsBetweenDescriptions = 1;
+
+std::string watchingCamera(const MapScene& scene) {
+    return scene.state.visitor ? scene.state.visitor->cameraId : std::string();
+}
+
+bool sameGrounds(const MapScene& a, const MapScene& b) {
+    return a.state.site == b.state.site && a.settings.boundaryBuffer == b.settings.boundaryBuffer &&
+           watchingCamera(a) == watchingCamera(b) && a.showLabels == b.showLabels;
+}
+
+bool samePaths(const MapScene& a, const MapScene& b) {
+    return a.replay == b.replay && a.state.drone.trail == b.state.drone.trail &&
+           a.state.visitor.has_value() == b.state.visitor.has_value() &&
+           (!a.state.visitor || a.state.visitor->trail == b.state.visitor->trail);
+}
+
+/// Without what is drawn anew with every frame anyway.
+bool sameStanding(const MapScene& a, const MapScene& b) {
+    const DroneState &from = a.state.drone, &to = b.state.drone;
+    return a.state.phase == b.state.phase && from.pos == to.pos && from.heading == to.heading &&
+           from.altitude == to.altitude && a.state.visitor == b.state.visitor;
+}
+
+} // namespace
+
+SiteMap::SiteMap(QWidget* parent) : QWidget(parent) {
+    scene_.state = LiveState::initial();
+    declareRole(this, QAccessible::Graphic);
+    describe();
+}
+
+void SiteMap::setState(const LiveState& state, const Settings& settings) {
+    setScene({state, settings, std::nullopt, scene_.showLabels});
+}
+
+void SiteMap::setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings) {
+    setScene({state, settings, record, scene_.showLabels});
+}
+
+void SiteMap::setShowLabels(bool show) {
+    MapScene scene = scene_;
+    scene.showLabels = show;
+    setScene(std::move(scene));
+}
+
+void SiteMap::setDimmed(bool dimmed) {
+    if (dimmed == dimmed_)
+        return;
+    dimmed_ = dimmed;
+    runOrRest();
+    update();
+}
+
+void SiteMap::setCovered(bool covered) {
+    if (covered == covered_)
+        return;
+    covered_ = covered;
+    runOrRest();
+}
+
+/// While frames run, the next one shows what moved; only what lies outside the moving parts is asked for
+/// here.
+void SiteMap::setScene(MapScene scene) {
+    const bool grounds = !sameGrounds(scene, scene_);
+    const bool paths = !samePaths(scene, scene_);
+    const bool standing = !sameStanding(scene, scene_);
+    const bool newSize = scene.state.site.size != scene_.state.site.size;
+    const bool newStory = scene.state.phase != scene_.state.phase ||
+                          scene.state.visitor.has_value() != scene_.state.visitor.has_value() ||
+                          scene.replay != scene_.replay;
+    scene_ = std::move(scene);
+    groundsStale_ |= grounds;
+    if (newSize)
+        updateGeometry();
+    runOrRest();
+    if (grounds || paths)
+        update();
+    else if (standing && !frames_.isActive())
+        showFrame();
+    if (newStory || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
+        describe();
+}
+
+int SiteMap::heightForWidth(int width) const {
+    const P size = scene_.state.site.size;
+    return static_cast<int>(std::lround(width * size.y / size.x));
+}
+
+void SiteMap::describe() {
+    describedAt_ = Motion::seconds();
+    if (const QString words = mapDescription(scene_); words != accessibleName())
+        setAccessibleName(words);
+}
+
+bool SiteMap::isAnimated() const {
+    return !scene_.replay && !dimmed_ && (scene_.state.visitor || airborne(scene_.state.phase));
+}
+
+void SiteMap::runOrRest() {
+    const bool runs = onScreen_ && !covered_ && isAnimated();
+    if (runs == frames_.isActive())
+        return;
+    if (runs)
+        frames_.start(Motion::frame, Qt::PreciseTimer, this);
+    else
+        frames_.stop();
+    update();
+}
+
+void SiteMap::timerEvent(QTimerEvent*) {
+    showFrame();
+}
+
+/// Asks for the moving parts only, where they were and where they are.
+void SiteMap::showFrame() {
+    const QRectF area = liveArea(scene_, size());
+    update((area | shownArea_).toAlignedRect());
+    shownArea_ = area;
+}
+
+void SiteMap::showEvent(QShowEvent*) {
+    onScreen_ = true;
+    runOrRest();
+}
+
+void SiteMap::hideEvent(QHideEvent*) {
+    onScreen_ = false;
+    runOrRest();
+}
+
+const QPixmap& SiteMap::grounds() {
+    const QSize pixels = size() * devicePixelRatioF();
+    if (!groundsStale_ && grounds_.size() == pixels)
+        return grounds_;
+    groundsStale_ = false;
+    grounds_ = QPixmap(pixels);
+    grounds_.setDevicePixelRatio(devicePixelRatioF());
+    grounds_.fill(SB::navy);
+    QPainter painter(&grounds_);
+    drawGrounds(painter, scene_, size());
+    return grounds_;
+}
+
+void SiteMap::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto fillRounded = [&](const QBrush& brush) {
+        painter.setBrush(brush);
+        painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+    };
+    if (dimmed_) {
+        fillRounded(SB::navy);
+        painter.setOpacity(dimmedOpacity);
+    }
+    fillRounded(grounds());
+    QPainterPath corners;
+    corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+    painter.setClipPath(corners, Qt::IntersectClip);
+    drawMission(painter, scene_, size(), Motion::seconds());
+}
+
+} // namespace velmora

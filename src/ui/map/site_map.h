@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ui/map/map_scene.h"
+
+#include <QBasicTimer>
+#include <QPixmap>
+#include <QWidget>
+
+namespace velmora {
+
+/// The animated plan of the grounds, or the still replay of a finished mission. It draws at most 30 frames a
+/// second, and none while nothing on it can have changed or nobody can see it.
+class SiteMap : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SiteMap(QWidget* parent);
+
+    /// The live picture.
+    void setState(const LiveState& state, const Settings& settings);
+    /// A mission's paths over its grounds.
+    void setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings);
+    void setShowLabels(bool show);
+    /// An old picture: paler, and still.
+    void setDimmed(bool dimmed);
+    /// Something lies over the map: no frames until it is gone.
+    void setCovered(bool covered);
+
+    bool hasHeightForWidth() const override { return true; }
+    /// The height that the site's proportions give for a width.
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void setScene(MapScene scene);
+    bool isAnimated() const;
+    void runOrRest();
+    void showFrame();
+    void describe();
+    const QPixmap& grounds();
+
+    MapScene scene_;
+    bool dimmed_ = false;
+    bool covered_ = false;
+    bool onScreen_ = false; ///< false also while the window is minimised
+    QBasicTimer frames_;
+    QRectF shownArea_; ///< of the last frame's moving parts
+    bool groundsStale_ = true;
+    QPixmap grounds_;
+    double describedAt_ = 0;
+};
+
+} // namespace velmora

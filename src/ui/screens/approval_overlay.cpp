@@ -1,0 +1,167 @@
+#include "ui/screens/approval_overlay.h"
+
+#include "model/whole.h"
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/metric.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/approval_picture.h"
+#include "ui/words.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr int guardedFor = 600;     // milliseconds
+constexpr int countdownEvery = 250; // milliseconds
+
+QString titleFor(const CameraInfo* camera) {
+    const QString place = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
+                                 : ApprovalOverlay::tr("grounds");
+    return ApprovalOverlay::tr("Someone you don't know is at the %1.").arg(place);
+}
+
+QString bodyFor(const Settings& settings) {
+    return ApprovalOverlay::tr(
+               "Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, "
+               "stay inside your boundary and come home on its own.")
+        .arg(whole(settings.flightHeight))
+        .arg(whole(settings.followDistance));
+}
+
+} // namespace
+
+ApprovalOverlay::ApprovalOverlay(AppStore& store, QWidget* window)
+    : OverlayCard(Measure::approvalCard, window), store_(store) {
+    build();
+    guardTime_.setSingleShot(true);
+    connect(&guardTime_, &QTimer::timeout, this, [this] { guard(false); });
+    connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
+    connect(ignore_, &SBButton::clicked, this, [this] { answer(Command::ignore); });
+    connect(launch_, &SBButton::clicked, this, [this] { answer(Command::approve); });
+    connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
+    followPhase();
+}
+
+void ApprovalOverlay::build() {
+    picture_ = new ApprovalPicture(card());
+    title_ = new Text({}, Type::overlayTitle, SB::ink, card());
+    body_ = new Text({}, Type::overlayBody, SB::body, card());
+    auto* words = new QVBoxLayout;
+    words->setContentsMargins(Measure::approvalPadding, Measure::approvalPadding, Measure::approvalPadding,
+                              Measure::approvalPadding);
+    words->setSpacing(0);
+    words->addWidget(title_);
+    words->addSpacing(Measure::gap12);
+    words->addWidget(body_);
+    words->addSpacing(Measure::gap24);
+    words->addWidget(new Hairline(card()));
+    words->addSpacing(Measure::gap16);
+    words->addWidget(buildMetrics());
+    words->addSpacing(Measure::gap20);
+    words->addWidget(
+        new Text(tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
+                 Type::overlayNote, SB::muted, card()));
+    words->addSpacing(Measure::gap20);
+    words->addWidget(buildButtons());
+    column()->addWidget(picture_);
+    column()->addLayout(words);
+}
+
+QWidget* ApprovalOverlay::buildMetrics() {
+    auto* row = new QWidget(card());
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    const auto add = [&](const QString& label, int share) {
+        auto* metric = new Metric(label, Metric::Size::regular, false, row);
+        metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        layout->addWidget(metric, share);
+        return metric;
+    };
+    match_ = add(tr("Match"), 151);
+    battery_ = add(tr("Battery"), 108);
+    wind_ = add(tr("Wind"), 108);
+    expires_ = add(tr("Expires in"), 97);
+    expires_->setTint(SB::purple);
+    return row;
+}
+
+QWidget* ApprovalOverlay::buildButtons() {
+    auto* row = new QWidget(card());
+    ignore_ = new SBButton(tr("Ignore"), {.kind = SBButtonKind::secondary, .wide = true, .large = true}, row);
+    launch_ = new SBButton(
+        tr("Launch drone"),
+        {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Measure::gap12);
+    layout->addWidget(ignore_, 10);
+    layout->addWidget(launch_, 16);
+    return row;
+}
+
+void ApprovalOverlay::followPhase() {
+    if (store_.state().phase != Phase::awaitingApproval) {
+        countdown_.stop();
+        close();
+        return;
+    }
+    refresh();
+    if (isOpen())
+        return;
+    const auto deadline = store_.state().approvalDeadline;
+    wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
+    countDown();
+    countdown_.start(countdownEvery);
+    open();
+}
+
+void ApprovalOverlay::refresh() {
+    const LiveState& state = store_.state();
+    const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
+    const QString place = camera ? toQString(camera->name) : tr("Grounds");
+    const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
+    picture_->setAlert(camera ? toQString(camera->snapshot) : QString(),
+                       time.isEmpty() ? place : place + QStringLiteral(" · ") + time);
+    title_->setText(titleFor(camera));
+    setAccessibleName(title_->text());
+    body_->setText(bodyFor(store_.settings()));
+    match_->setValue(percent(state.visitor ? state.visitor->confidence : 0), tr("% unknown"));
+    battery_->setValue(rounded(state.drone.battery), tr("%"));
+    wind_->setValue(rounded(state.windKmh), tr("km/h"));
+}
+
+void ApprovalOverlay::countDown() {
+    const auto deadline = store_.state().approvalDeadline;
+    const double left = deadline ? std::max((*deadline - store_.now()).count(), 0.0) : 0;
+    expires_->setValue(deadline ? QString::number(whole(std::ceil(left))) : QStringLiteral("—"),
+                       deadline ? tr("s") : QString());
+    picture_->setTimeLeft(wholeTime_ > 0 ? std::min(left / wholeTime_, 1.0) : 0);
+}
+
+/// A window that was away shows the card anew, so the guard begins anew.
+void ApprovalOverlay::showEvent(QShowEvent* event) {
+    OverlayCard::showEvent(event);
+    guard(true);
+    guardTime_.start(guardedFor);
+}
+
+void ApprovalOverlay::guard(bool guarded) {
+    ignore_->setGuarded(guarded);
+    launch_->setGuarded(guarded);
+}
+
+void ApprovalOverlay::answer(Command command) {
+    if (isOpen() && isVisible() && !guardTime_.isActive())
+        store_.send(command);
+}
+
+} // namespace velmora

@@ -1,0 +1,63 @@
+#include "ui/screens/live_card.h"
+
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/map/site_map.h"
+#include "ui/screens/telemetry.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace velmora {
+
+LiveCard::LiveCard(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      map_(new SiteMap(this)),
+      note_(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this)),
+      line_(new Hairline(this, Hairline::Tone::dark)),
+      telemetry_(new Telemetry(this)) {
+    refresh();
+}
+
+void LiveCard::refresh() {
+    map_->setState(store_.state(), store_.settings());
+    telemetry_->show(store_.state(), store_.settings(), store_.now());
+}
+
+QSize LiveCard::fitted(int width, int height, bool narrow) {
+    narrow_ = narrow;
+    telemetry_->setNarrow(narrow);
+    const int below = Measure::noteRow + line_->height() + Telemetry::heightFor(narrow);
+    const int room = std::max(height - below, Measure::mapMinimumHeight);
+    const P site = store_.state().site.size;
+    const int fits = std::min(width, static_cast<int>(room * site.x / site.y));
+    return {fits, mapHeight(fits) + below};
+}
+
+int LiveCard::mapHeight(int width) const {
+    return map_->heightForWidth(width);
+}
+
+void LiveCard::resizeEvent(QResizeEvent*) {
+    const int mapBottom = mapHeight(width());
+    const int noteTop = mapBottom + (Measure::noteRow - note_->sizeHint().height()) / 2;
+    const int inner = width() - 2 * Measure::cardInset;
+    map_->setGeometry(0, 0, width(), mapBottom);
+    note_->setGeometry(Measure::cardInset, noteTop, inner, note_->sizeHint().height());
+    line_->setGeometry(Measure::cardInset, mapBottom + Measure::noteRow, inner, line_->height());
+    telemetry_->setGeometry(0, line_->geometry().bottom() + 1, width(), Telemetry::heightFor(narrow_));
+}
+
+void LiveCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::navy);
+    painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+}
+
+} // namespace velmora

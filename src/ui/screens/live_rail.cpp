@@ -1,0 +1,82 @@
+#include "ui/screens/live_rail.h"
+
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/flight_controls.h"
+#include "ui/screens/log_list.h"
+#include "ui/screens/phase_timeline.h"
+#include "ui/screens/visitor_card.h"
+
+#include <QVBoxLayout>
+
+namespace velmora {
+
+LiveRail::LiveRail(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      timeline_(new PhaseTimeline(this)),
+      controls_(new FlightControls(store, this)) {
+    visitorBlock_ = buildVisitor();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap16);
+    column->addWidget(timeline_);
+    column->addWidget(new Hairline(this));
+    column->addWidget(controls_);
+    column->addWidget(visitorBlock_);
+    column->addWidget(new Hairline(this));
+    column->addWidget(buildLog(), 1);
+    connect(controls_, &FlightControls::landRequested, this, &LiveRail::landRequested);
+    refresh();
+}
+
+QWidget* LiveRail::buildVisitor() {
+    auto* block = new QWidget(this);
+    visitor_ = new VisitorCard(block);
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap16);
+    column->addWidget(new Hairline(block));
+    column->addWidget(visitor_);
+    return block;
+}
+
+QWidget* LiveRail::buildLog() {
+    auto* block = new QWidget(this);
+    auto* area = new ScrollArea(block);
+    auto* content = new QWidget(area);
+    nothingLogged_ = new Text(tr("Nothing logged yet. Notices from the next flight appear here."),
+                              Type::label2, SB::muted, content);
+    log_ = new LogList(content);
+    auto* entries = new QVBoxLayout(content);
+    entries->setContentsMargins(0, 0, Measure::gap12, 0);
+    entries->addWidget(nothingLogged_);
+    entries->addWidget(log_);
+    entries->addStretch(1);
+    area->setWidget(content);
+    area->setFade(Measure::logFade);
+
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap8);
+    column->addWidget(new Text(tr("Flight log"), Type::groupHeading, SB::ink, block));
+    column->addWidget(area, 1);
+    return block;
+}
+
+void LiveRail::refresh() {
+    const LiveState& state = store_.state();
+    timeline_->setPhase(state.phase);
+    controls_->refresh();
+    visitorBlock_->setVisible(state.visitor.has_value());
+    if (state.visitor)
+        visitor_->setVisitor(*state.visitor, state.site);
+    nothingLogged_->setVisible(state.notices.empty());
+    log_->setVisible(!state.notices.empty());
+    log_->setNotices(state.notices);
+}
+
+} // namespace velmora

@@ -1,0 +1,96 @@
+#include "ui/screens/live_view.h"
+
+#include "ui/blocks/page.h"
+#include "ui/look/measures.h"
+#include "ui/screens/live_card.h"
+#include "ui/screens/live_rail.h"
+#include "ui/words.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+Sentence headlineFor(const LiveState& state) {
+    const auto sentence = [](const QString& lead, const QString& emphasis) {
+        return Sentence{lead, emphasis, {}};
+    };
+    switch (state.phase) {
+    case Phase::docked:
+        return sentence(LiveView::tr("The drone is "), LiveView::tr("on its pad"));
+    case Phase::awaitingApproval:
+        return sentence(LiveView::tr("Holding for "), LiveView::tr("your decision"));
+    case Phase::launching:
+        return sentence(LiveView::tr("Taking "), LiveView::tr("off"));
+    case Phase::enRoute:
+        return sentence(LiveView::tr("On its way to "), LiveView::tr("the visitor"));
+    case Phase::following:
+        return sentence(LiveView::tr("Following "),
+                        state.visitor ? LiveView::tr("at %1 m").arg(
+                                            rounded(distance(state.drone.pos, state.visitor->pos)))
+                                      : LiveView::tr("the visitor"));
+    case Phase::holding:
+        return sentence(LiveView::tr("Holding "), LiveView::tr("position"));
+    case Phase::returning:
+        return sentence(LiveView::tr("Coming "), LiveView::tr("home"));
+    case Phase::landing:
+        break;
+    }
+    constexpr double padReach = 1; // metres: nearer than this is on the pad
+    const bool onPad = distance(state.drone.pos, state.site.pad) <= padReach;
+    return sentence(LiveView::tr("Landing "),
+                    onPad ? LiveView::tr("on its pad") : LiveView::tr("where it is"));
+}
+
+} // namespace
+
+/// The card takes the largest map that fits; the rail takes the rest.
+class LiveView::Content : public QWidget {
+public:
+    explicit Content(AppStore& store) : card(new LiveCard(store, this)), rail(new LiveRail(store, this)) {}
+
+    LiveCard* const card;
+    LiveRail* const rail;
+
+protected:
+    void resizeEvent(QResizeEvent*) override {
+        const int widest = width() - Measure::gutter - Measure::railMinimum;
+        const QSize size = card->fitted(widest, height(), width() < Measure::narrowContent);
+        card->setGeometry({{}, size});
+        const int left = size.width() + Measure::gutter;
+        rail->setGeometry(left, 0, std::min(width() - left, Measure::railMaximum), height());
+    }
+};
+
+LiveView::LiveView(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      content_(new Content(store)),
+      page_(new Page({.eyebrow = tr("Live flight"),
+                      .headline = headlineFor(store.state()),
+                      .contentGap = Measure::gap20,
+                      .content = content_},
+                     this)) {
+    connect(content_->rail, &LiveRail::landRequested, this, &LiveView::landRequested);
+    connect(&store_, &AppStore::stateChanged, this, &LiveView::refresh);
+    connect(&store_, &AppStore::settingsChanged, this, &LiveView::refresh);
+}
+
+void LiveView::refresh() {
+    if (!isVisible())
+        return;
+    page_->setHeadline(headlineFor(store_.state()));
+    content_->card->refresh();
+    content_->rail->refresh();
+}
+
+void LiveView::resizeEvent(QResizeEvent*) {
+    page_->setGeometry(rect());
+}
+
+void LiveView::showEvent(QShowEvent*) {
+    refresh();
+}
+
+} // namespace velmora

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/live_state.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QVBoxLayout;
+
+namespace velmora {
+
+class LogRow;
+
+/// Notices in a column: time, dot, text.
+class LogList : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LogList(QWidget* parent);
+
+    void setNotices(const std::vector<Notice>& notices);
+
+private:
+    QVBoxLayout* column_;
+    std::vector<LogRow*> rows_;
+    std::vector<Notice> notices_;
+};
+
+} // namespace velmora

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "model/live_state.h"
+#include "model/settings.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QGridLayout;
+
+namespace velmora {
+
+class Metric;
+
+/// The drone's figures, in one row of eight or two rows of four.
+class Telemetry : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Telemetry(QWidget* parent);
+
+    void show(const LiveState& state, const Settings& settings, Date now);
+    /// Narrow: two rows of four.
+    void setNarrow(bool narrow);
+    /// Height that it takes in the given form, pixels.
+    static int heightFor(bool narrow);
+
+private:
+    void arrange();
+
+    QGridLayout* grid_;
+    Metric* height_;
+    Metric* speed_;
+    Metric* toVisitor_;
+    Metric* fromPad_;
+    Metric* battery_;
+    Metric* wind_;
+    Metric* flightTime_;
+    Metric* signal_;
+    bool narrow_ = false;
+};
+
+} // namespace velmora

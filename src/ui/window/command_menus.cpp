@@ -1,0 +1,69 @@
+#include "ui/window/command_menus.h"
+
+#include "ui/words.h"
+
+#include <QMenu>
+
+namespace velmora {
+
+CommandMenus::CommandMenus(AppStore& store, QWidget* parent) : QMenuBar(parent), store_(store) {
+    setNativeMenuBar(false);
+    buildVelmora();
+    buildDemo();
+    buildDrone();
+    connect(&store_, &AppStore::stateChanged, this, &CommandMenus::refresh);
+    connect(&store_, &AppStore::settingsChanged, this, &CommandMenus::refresh);
+    refresh();
+}
+
+void CommandMenus::buildVelmora() {
+    QMenu* menu = addMenu(tr("Velmora"));
+    connect(menu->addAction(tr("About Velmora")), &QAction::triggered, this, &CommandMenus::aboutRequested);
+    menu->addSeparator();
+    QAction* quit = addCommand(menu, tr("Quit Velmora"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &CommandMenus::quitRequested);
+}
+
+void CommandMenus::buildDemo() {
+    QMenu* menu = addMenu(tr("Demo"));
+    for (const auto& [scenario, id] : rawValuesOf<Scenario>) {
+        QAction* visit = menu->addAction(scenarioTitle(scenario));
+        connect(visit, &QAction::triggered, this, [this, staged = scenario] { store_.simulate(staged); });
+        visits_.append(visit);
+    }
+    menu->addSeparator();
+    connect(menu->addAction(tr("Show welcome")), &QAction::triggered, this,
+            [this] { store_.setShowWelcome(true); });
+}
+
+void CommandMenus::buildDrone() {
+    QMenu* menu = addMenu(tr("Drone"));
+    approve_ = addCommand(menu, tr("Launch (approve)"), QKeySequence(Qt::CTRL | Qt::Key_Return));
+    ignore_ = addCommand(menu, tr("Ignore alert"), QKeySequence(Qt::CTRL | Qt::Key_Escape));
+    connect(approve_, &QAction::triggered, this, [this] { emit answered(Command::approve); });
+    connect(ignore_, &QAction::triggered, this, [this] { emit answered(Command::ignore); });
+    menu->addSeparator();
+    QAction* hold = addCommand(menu, tr("Hold position"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
+    QAction* home = addCommand(menu, tr("Return home"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    connect(hold, &QAction::triggered, this, [this] { store_.send(Command::hold); });
+    connect(home, &QAction::triggered, this, [this] { store_.send(Command::returnHome); });
+}
+
+/// A held key gives its command once.
+QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut) {
+    QAction* action = menu->addAction(text);
+    action->setShortcut(shortcut);
+    action->setAutoRepeat(false);
+    return action;
+}
+
+void CommandMenus::refresh() {
+    const Phase phase = store_.state().phase;
+    const bool canStage = !store_.settings().linkMode && phase == Phase::docked;
+    for (QAction* visit : visits_)
+        visit->setEnabled(canStage);
+    approve_->setEnabled(phase == Phase::awaitingApproval);
+    ignore_->setEnabled(phase == Phase::awaitingApproval);
+}
+
+} // namespace velmora

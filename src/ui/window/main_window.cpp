@@ -1,0 +1,132 @@
+#include "ui/window/main_window.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/blocks/page.h"
+#include "ui/look/measures.h"
+#include "ui/map/site_map.h"
+#include "ui/screens/approval_overlay.h"
+#include "ui/screens/land_confirmation.h"
+#include "ui/screens/live_view.h"
+#include "ui/window/about_card.h"
+#include "ui/window/command_menus.h"
+#include "ui/window/resize_bands.h"
+#include "ui/window/section_stack.h"
+#include "ui/window/sidebar.h"
+#include "ui/window/title_strip.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+MainWindow::MainWindow(AppStore& store)
+    : store_(store), menus_(new CommandMenus(store, this)), stack_(new SectionStack(this)) {
+    setWindowTitle(QStringLiteral("Velmora"));
+    setObjectName(QStringLiteral("main"));
+    setWindowFlag(Qt::FramelessWindowHint);
+    setMinimumSize(Measure::windowMinimum);
+    resize(Measure::windowDefault);
+    buildSections();
+    layOut();
+
+    approval_ = new ApprovalOverlay(store_, this);
+    landing_ = new LandConfirmation(store_, this);
+    about_ = new AboutCard(this);
+    for (OverlayCard* overlay : {static_cast<OverlayCard*>(approval_), static_cast<OverlayCard*>(landing_),
+                                 static_cast<OverlayCard*>(about_)})
+        addOverlay(overlay);
+    new FocusRing(this);
+    bands_ = new ResizeBands(this);
+    addShortcuts();
+
+    connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
+    connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
+    connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
+    connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
+    connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    showSection();
+    showCover();
+}
+
+void MainWindow::buildSections() {
+    const auto frame = [this](Section section, const QString& eyebrow, const Sentence& headline) {
+        sections_[section] =
+            new Page({.eyebrow = eyebrow, .headline = headline, .content = new QWidget}, stack_);
+    };
+    auto* live = new LiveView(store_, stack_);
+    connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
+    frame(Section::overview, tr("Overview"), {tr("Your grounds are "), tr("watched"), tr(".")});
+    sections_[Section::live] = live;
+    frame(Section::history, tr("History"), {tr("Every visit, "), tr("on record"), tr(".")});
+    frame(Section::cameras, tr("Cameras"), {tr("What sets off "), tr("an alert"), tr(".")});
+    frame(Section::settings, tr("Settings"), {tr("How the drone "), tr("behaves"), tr(".")});
+    for (const auto& [section, screen] : sections_)
+        stack_->addWidget(screen);
+}
+
+void MainWindow::layOut() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(new Sidebar(store_, this));
+    row->addWidget(stack_, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new TitleStrip(menus_, this));
+    column->addLayout(row, 1);
+}
+
+/// The sections by number, closing the window, and the menus for those without a mouse. What lies under a
+/// card cannot be reached by keys either.
+void MainWindow::addShortcuts() {
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, action] {
+            if (!isCovered())
+                action();
+        });
+    };
+    int key = Qt::Key_1;
+    for (const auto& [section, id] : rawValuesOf<Section>)
+        add(QKeySequence(Qt::CTRL | Qt::Key(key++)), [this, shown = section] { store_.setSection(shown); });
+    add(QKeySequence(Qt::Key_F10), [this] { menus_->setActiveAction(menus_->actions().front()); });
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this), &QShortcut::activated, this,
+            &QWidget::close);
+}
+
+void MainWindow::addOverlay(OverlayCard* overlay) {
+    overlays_.append(overlay);
+    overlay->installEventFilter(this);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        showCover();
+    return QWidget::eventFilter(watched, event);
+}
+
+bool MainWindow::isCovered() const {
+    return std::ranges::any_of(overlays_, [](const OverlayCard* overlay) { return overlay->isOpen(); });
+}
+
+/// Maps under a card rest; the edges resize the window all the same, and the alert lies over any other card.
+void MainWindow::showCover() {
+    for (SiteMap* map : findChildren<SiteMap*>())
+        map->setCovered(isCovered());
+    if (approval_->isOpen())
+        approval_->raise();
+    bands_->raise();
+}
+
+void MainWindow::showSection() {
+    stack_->showSection(sections_[store_.section()]);
+}
+
+/// Quits: without a tray icon nobody could find a hidden app again.
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    QCoreApplication::quit();
+}
+
+} // namespace velmora

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+#include <map>
+
+namespace velmora {
+
+class AboutCard;
+class ApprovalOverlay;
+class CommandMenus;
+class LandConfirmation;
+class OverlayCard;
+class ResizeBands;
+class SectionStack;
+
+/// The app's one window: title strip, sidebar, the selected section, and the cards that lie over all of it.
+class MainWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(AppStore& store);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildSections();
+    void layOut();
+    void addShortcuts();
+    void addOverlay(OverlayCard* overlay);
+    void showSection();
+    void showCover();
+    bool isCovered() const;
+
+    AppStore& store_;
+    CommandMenus* menus_;
+    SectionStack* stack_;
+    std::map<Section, QWidget*> sections_;
+    ApprovalOverlay* approval_;
+    LandConfirmation* landing_;
+    AboutCard* about_;
+    QList<OverlayCard*> overlays_;
+    ResizeBands* bands_;
+};
+
+} // namespace velmora

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ui/look/icons.h"
+
+#include <QAbstractButton>
+#include <QColor>
+
+#include <optional>
+
+namespace velmora {
+
+/// What a section row tells at its right end.
+struct SectionMark {
+    QColor color;
+    bool halo = false;
+
+    bool operator==(const SectionMark&) const = default;
+};
+
+/// One section in the sidebar: its icon and title, marked while it is the one shown.
+class SectionRow : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    SectionRow(Icon icon, const QString& title, QWidget* parent);
+
+    void setMark(std::optional<SectionMark> mark);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void paintSurface(QPainter& painter) const;
+    void paintMark(QPainter& painter) const;
+
+    Icon icon_;
+    std::optional<SectionMark> mark_;
+};
+
+} // namespace velmora

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+#include <map>
+
+namespace velmora {
+
+class DroneBadge;
+class LinkBadge;
+class SectionRow;
+
+/// The five sections, and at the foot how the drone and the link are.
+class Sidebar : public QWidget {
+    Q_OBJECT
+
+public:
+    Sidebar(AppStore& store, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addSections();
+    void showSection();
+    void showFlight();
+
+    AppStore& store_;
+    std::map<Section, SectionRow*> rows_;
+};
+
+} // namespace velmora

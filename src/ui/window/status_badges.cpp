@@ -1,0 +1,118 @@
+#include "ui/window/status_badges.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/blocks/text.h"
+#include "ui/look/icons.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/words.h"
+
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+void paintBattery(QPainter& painter, const QRectF& bar, double charge, bool low) {
+    const double radius = bar.height() / 2;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::rule2);
+    painter.drawRoundedRect(bar, radius, radius);
+    QRectF filled = bar;
+    filled.setWidth(bar.width() * std::clamp(charge, 0.0, 1.0));
+    painter.setBrush(low ? SB::caution : SB::teal);
+    painter.drawRoundedRect(filled, radius, radius);
+}
+
+void paintDroneInCircle(QPainter& painter, const QRectF& circle) {
+    painter.setPen(QPen(SB::rule, 1));
+    painter.setBrush(SB::page);
+    painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
+    QRectF icon(0, 0, Measure::droneBadgeIcon, Measure::droneBadgeIcon);
+    icon.moveCenter(circle.center());
+    paintIcon(painter, icon, Icon::drone, SB::ink);
+}
+
+} // namespace
+
+DroneBadge::DroneBadge(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
+    setFixedHeight(Measure::droneBadgeRow);
+    declareRole(this, QAccessible::StaticText);
+    connect(&store_, &AppStore::stateChanged, this, &DroneBadge::refresh);
+    connect(&store_, &AppStore::settingsChanged, this, &DroneBadge::refresh);
+    refresh();
+}
+
+void DroneBadge::refresh() {
+    const LiveState& state = store_.state();
+    const QString phase = phaseWord(state.phase);
+    const QString battery = rounded(state.drone.battery) + tr("%");
+    const bool low = state.drone.battery <= store_.settings().returnBattery;
+    if (phase == phase_ && battery == battery_ && low == low_)
+        return;
+    phase_ = phase;
+    battery_ = battery;
+    charge_ = state.drone.battery / 100;
+    low_ = low;
+    setAccessibleName(phase_ + ", " + tr("battery %1").arg(battery_));
+    update();
+}
+
+void DroneBadge::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRectF circle(Measure::sectionPadding, 0, Measure::droneBadgeCircle, Measure::droneBadgeCircle);
+    circle.moveTop((height() - circle.height()) / 2);
+    paintDroneInCircle(painter, circle);
+
+    QRectF words = QRectF(rect()).adjusted(circle.right() + Measure::gap12, 0, 0, 0);
+    words.setHeight(Type::bodyStrong.line);
+    words.moveTop(height() / 2.0 - words.height() + 2);
+    drawText(painter, words, phase_, Type::bodyStrong, SB::ink, Qt::AlignVCenter);
+    QRectF bar({words.left(), words.bottom()}, QSizeF(Measure::batteryBar));
+    words.moveTop(words.bottom());
+    words.setHeight(Type::label2.line);
+    bar.moveTop(words.center().y() - bar.height() / 2);
+    paintBattery(painter, bar, charge_, low_);
+    words.setLeft(bar.right() + Measure::gap8);
+    drawText(painter, words, battery_, Type::label2.withTabularDigits(), SB::muted, Qt::AlignVCenter);
+}
+
+LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      dot_(new StatusDot({.color = SB::dot}, this)),
+      text_(new Text({}, Type::linkStatus, SB::muted, this)) {
+    text_->setMaximumLines(3);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(Measure::sectionPadding + 2, Measure::gap12, 0, 0);
+    row->setSpacing(Measure::linkGap);
+    auto* firstLine = new QVBoxLayout;
+    firstLine->addSpacing(static_cast<int>(Type::linkStatus.line - Measure::statusDot) / 2);
+    firstLine->addWidget(dot_);
+    firstLine->addStretch(1);
+    row->addLayout(firstLine);
+    row->addWidget(text_, 1, Qt::AlignTop);
+    connect(&store_, &AppStore::linkStatusChanged, this, &LinkBadge::refresh);
+    refresh();
+}
+
+void LinkBadge::refresh() {
+    text_->setText(store_.linkStatus().text());
+    const auto color = [kind = store_.linkStatus().kind] {
+        switch (kind) {
+        case LinkStatus::Case::connecting:
+            return SB::caution;
+        case LinkStatus::Case::failed:
+            return SB::alert;
+        default:
+            return SB::dot;
+        }
+    };
+    dot_->setLook({.color = color()});
+}
+
+} // namespace velmora

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class StatusDot;
+class Text;
+
+/// The drone in the sidebar: its phase in a word and its battery.
+class DroneBadge : public QWidget {
+    Q_OBJECT
+
+public:
+    DroneBadge(AppStore& store, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void refresh();
+
+    AppStore& store_;
+    QString phase_;
+    QString battery_;
+    double charge_ = 0; ///< 0 to 1
+    bool low_ = false;
+};
+
+/// The link in the sidebar: a dot and its status text.
+class LinkBadge : public QWidget {
+    Q_OBJECT
+
+public:
+    LinkBadge(AppStore& store, QWidget* parent);
+
+private:
+    void refresh();
+
+    AppStore& store_;
+    StatusDot* dot_;
+    Text* text_;
+};
+
+} // namespace velmora

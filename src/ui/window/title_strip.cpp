@@ -1,0 +1,111 @@
+#include "ui/window/title_strip.h"
+
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+namespace velmora {
+
+WindowButton::WindowButton(Icon icon, const QString& name, QWidget* parent)
+    : QAbstractButton(parent), icon_(icon) {
+    setFixedSize(Measure::windowButton);
+    setFocusPolicy(Qt::NoFocus);
+    setIcon(icon, name);
+}
+
+void WindowButton::setIcon(Icon icon, const QString& name) {
+    icon_ = icon;
+    setAccessibleName(name);
+    setToolTip(name);
+    update();
+}
+
+void WindowButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool closes = icon_ == Icon::close;
+    if (underMouse())
+        painter.fillRect(rect(), closes ? SB::alert : SB::rule2);
+    QRectF glyph({}, QSizeF(Measure::windowGlyph, Measure::windowGlyph));
+    glyph.moveCenter(QRectF(rect()).center());
+    paintIcon(painter, glyph, icon_, underMouse() && closes ? SB::page : SB::muted);
+}
+
+void WindowButton::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void WindowButton::leaveEvent(QEvent*) {
+    update();
+}
+
+TitleStrip::TitleStrip(QMenuBar* menus, QWidget* parent) : QWidget(parent) {
+    setFixedHeight(Measure::titleStrip);
+    auto* minimise = new WindowButton(Icon::minimise, tr("Minimise"), this);
+    maximise_ = new WindowButton(Icon::maximise, tr("Maximise"), this);
+    auto* close = new WindowButton(Icon::close, tr("Close"), this);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(Measure::titleStripIndent, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(menus, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+    for (WindowButton* button : {minimise, maximise_, close})
+        row->addWidget(button);
+
+    connect(minimise, &WindowButton::clicked, this, [this] { window()->showMinimized(); });
+    connect(maximise_, &WindowButton::clicked, this, &TitleStrip::toggleMaximised);
+    connect(close, &WindowButton::clicked, this, [this] { window()->close(); });
+    parent->window()->installEventFilter(this);
+}
+
+void TitleStrip::setOverSidebar(bool over) {
+    if (over == overSidebar_)
+        return;
+    overSidebar_ = over;
+    update();
+}
+
+void TitleStrip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), SB::page);
+    if (!overSidebar_)
+        return;
+    painter.fillRect(0, 0, Measure::sidebar, height(), SB::panel);
+    painter.fillRect(Measure::sidebar - 1, 0, 1, height(), SB::rule);
+}
+
+void TitleStrip::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        window()->windowHandle()->startSystemMove();
+}
+
+void TitleStrip::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        toggleMaximised();
+}
+
+bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange)
+        showWindowState();
+    return QWidget::eventFilter(watched, event);
+}
+
+void TitleStrip::toggleMaximised() {
+    if (window()->isMaximized())
+        window()->showNormal();
+    else
+        window()->showMaximized();
+}
+
+void TitleStrip::showWindowState() {
+    const bool maximised = window()->isMaximized();
+    maximise_->setIcon(maximised ? Icon::restore : Icon::maximise,
+                       maximised ? tr("Restore") : tr("Maximise"));
+}
+
+} // namespace velmora

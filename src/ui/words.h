@@ -1,0 +1,31 @@
+#pragma once
+
+#include "model/live_state.h"
+
+#include <QString>
+
+namespace velmora {
+
+/// A record's UTF-8 text as the screens use it.
+QString toQString(std::string_view text);
+
+/// The phase as the owner reads it, such as "Coming home".
+QString phaseWord(Phase phase);
+
+/// "Visitor on the driveway": the offer to stage the visit.
+QString scenarioTitle(Scenario scenario);
+
+/// Display name of the camera, or "a camera" for an id that the site does not have.
+QString cameraName(const Site& site, std::string_view id);
+
+/// The whole number nearest to the value, halves away from zero.
+QString rounded(double value);
+/// The fraction as a whole percent.
+QString percent(double fraction);
+
+/// "1:28"; from one hour "1:02:03". Negative times count as none.
+QString clockTime(Seconds elapsed);
+/// The local time of day, "14:31:42".
+QString timeOfDay(Date date);
+
+} // namespace velmora
