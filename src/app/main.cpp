@@ -1,4 +1,5 @@
 #include "app/self_check.h"
+#include "link/http_link.h"
 #include "sim/random.h"
 #include "store/app_store.h"
 #include "ui/look/art.h"
@@ -10,16 +11,6 @@
 #include <QApplication>
 
 using namespace velmora;
-
-namespace {
-class NoLink final : public Link {
-public:
-    void fetchState(const Settings&, std::function<void(FetchResult)> done) override {
-        done(LinkError{QStringLiteral("no link yet")});
-    }
-    void send(Command, const std::optional<std::string>&, const Settings&, std::function<void()>) override {}
-};
-} // namespace
 
 int main(int argc, char* argv[]) {
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
@@ -35,7 +26,7 @@ int main(int argc, char* argv[]) {
 
     SystemRandom random;
     SilentNotifier notifier;
-    NoLink link;
+    HttpLink link;
     AppStore store({[] { return Date(std::chrono::system_clock::now()); }, random,
                     DataFiles::defaultDirectory(), notifier, link});
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));

@@ -32,11 +32,12 @@ struct Decoded {
 template <class T>
 Decoded<T> decode(std::string_view json, KeyStyle keys = KeyStyle::fieldNames, std::string_view root = {});
 
-/// The compact document of a record, keys in the order of its table. Absent when it cannot be written: a
-/// number that is not finite, a date outside the years 0 to 9999, or text that is not UTF-8.
+/// The compact document of a record, keys in the order of its table and spelled as the style says. Absent
+/// when it cannot be written: a number that is not finite, a date outside the years 0 to 9999, or text that
+/// is not UTF-8.
 ///
 /// Defined for every record and for a list of mission records.
 template <class T>
-std::optional<std::string> encode(const T& value);
+std::optional<std::string> encode(const T& value, KeyStyle keys = KeyStyle::fieldNames);
 
 } // namespace velmora

@@ -9,8 +9,26 @@ namespace velmora {
 
 namespace {
 
-using Sink = rapidjson::Writer<rapidjson::StringBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>,
-                               rapidjson::CrtAllocator, rapidjson::kWriteValidateEncodingFlag>;
+using Writer = rapidjson::Writer<rapidjson::StringBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>,
+                                 rapidjson::CrtAllocator, rapidjson::kWriteValidateEncodingFlag>;
+
+/// "missionId" becomes "mission_id".
+std::string snakeCase(std::string_view name) {
+    std::string snake;
+    for (const char letter : name) {
+        const bool capital = letter >= 'A' && letter <= 'Z';
+        if (capital)
+            snake += '_';
+        snake += capital ? static_cast<char>(letter - 'A' + 'a') : letter;
+    }
+    return snake;
+}
+
+struct Sink : Writer {
+    Sink(rapidjson::StringBuffer& buffer, KeyStyle style) : Writer(buffer), keys(style) {}
+
+    KeyStyle keys;
+};
 
 bool write(Sink& sink, bool value) {
     return sink.Bool(value);
@@ -60,7 +78,8 @@ bool write(Sink& sink, const std::vector<Item>& items) {
 
 template <class Value>
 bool writeMember(Sink& sink, std::string_view name, const Value& value) {
-    return write(sink, name) && write(sink, value);
+    const bool named = sink.keys == KeyStyle::snakeCase ? write(sink, snakeCase(name)) : write(sink, name);
+    return named && write(sink, value);
 }
 
 /// An absent value leaves no member behind.
@@ -80,23 +99,23 @@ bool write(Sink& sink, const Record& record) {
 } // namespace
 
 template <class T>
-std::optional<std::string> encode(const T& value) {
+std::optional<std::string> encode(const T& value, KeyStyle keys) {
     rapidjson::StringBuffer buffer;
-    Sink sink(buffer);
+    Sink sink(buffer, keys);
     if (!write(sink, value))
         return std::nullopt;
     return std::string(buffer.GetString(), buffer.GetSize());
 }
 
-template std::optional<std::string> encode(const P&);
-template std::optional<std::string> encode(const CameraInfo&);
-template std::optional<std::string> encode(const Site&);
-template std::optional<std::string> encode(const DroneState&);
-template std::optional<std::string> encode(const Visitor&);
-template std::optional<std::string> encode(const Notice&);
-template std::optional<std::string> encode(const LiveState&);
-template std::optional<std::string> encode(const MissionRecord&);
-template std::optional<std::string> encode(const Settings&);
-template std::optional<std::string> encode(const std::vector<MissionRecord>&);
+template std::optional<std::string> encode(const P&, KeyStyle);
+template std::optional<std::string> encode(const CameraInfo&, KeyStyle);
+template std::optional<std::string> encode(const Site&, KeyStyle);
+template std::optional<std::string> encode(const DroneState&, KeyStyle);
+template std::optional<std::string> encode(const Visitor&, KeyStyle);
+template std::optional<std::string> encode(const Notice&, KeyStyle);
+template std::optional<std::string> encode(const LiveState&, KeyStyle);
+template std::optional<std::string> encode(const MissionRecord&, KeyStyle);
+template std::optional<std::string> encode(const Settings&, KeyStyle);
+template std::optional<std::string> encode(const std::vector<MissionRecord>&, KeyStyle);
 
 } // namespace velmora

@@ -51,8 +51,4 @@ inline constexpr auto fieldsOf<Settings> =
                Field{"alertPeople", &Settings::alertPeople},
                Field{"onboarded", &Settings::onboarded}};
 
-/// Why these settings cannot be used, such as "flightHeight: out of range"; empty when they can. Texts print
-/// every number as a 64-bit whole number, so one that does not fit is refused where documents are read.
-std::string unusableField(const Settings& settings);
-
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "store/data_files.h"
 
 #include "model/json.h"
+#include "model/limits.h"
 
 #include <QFile>
 #include <QSaveFile>

@@ -1,0 +1,48 @@
+#include "link/exchange.h"
+
+#include <utility>
+
+namespace velmora {
+
+Exchange::Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
+                   std::function<void(const End&)> ended, QObject* parent)
+    : QObject(parent), reply_(reply), byteLimit_(byteLimit), ended_(std::move(ended)) {
+    reply_->setParent(this);
+    reply_->setReadBufferSize(byteLimit_ + 1); // Qt stops reading from the network beyond it
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, [this] { end(End::Kind::timedOut); });
+    connect(reply_, &QNetworkReply::readyRead, this, &Exchange::read);
+    connect(reply_, &QNetworkReply::finished, this, &Exchange::finished);
+    timer_.start(timeLimit);
+}
+
+void Exchange::read() {
+    body_ += reply_->read(byteLimit_ + 1 - body_.size());
+    if (body_.size() > byteLimit_)
+        end(End::Kind::tooLarge);
+}
+
+/// An HTTP status of failure is no transport error: the server answered.
+void Exchange::finished() {
+    if (!ended_)
+        return;
+    read();
+    const QNetworkReply::NetworkError error = reply_->error();
+    const bool answered = error == QNetworkReply::NoError || error >= QNetworkReply::ContentAccessDenied;
+    end(answered ? End::Kind::complete : End::Kind::transportError);
+}
+
+void Exchange::end(End::Kind kind) {
+    const auto ended = std::exchange(ended_, nullptr);
+    if (!ended)
+        return;
+    timer_.stop();
+    End result{kind, reply_->error(), reply_->errorString(), 0, std::move(body_), {}};
+    result.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    result.version = reply_->rawHeader("X-Velmora-Version");
+    reply_->abort();
+    deleteLater();
+    ended(result);
+}
+
+} // namespace velmora

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QNetworkReply>
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+
+namespace velmora {
+
+/// One request and its reply, from the first byte to the last or to whatever goes wrong before. Deletes
+/// itself, and the reply with it, when it has ended.
+class Exchange : public QObject {
+    Q_OBJECT
+
+public:
+    /// How an exchange ended. A reply that came in full has a status, whatever the status says.
+    struct End {
+        enum class Kind { complete, transportError, timedOut, tooLarge };
+
+        Kind kind = Kind::complete;
+        QNetworkReply::NetworkError error = QNetworkReply::NoError;
+        QString errorText; ///< Qt's own
+        int status = 0;    ///< HTTP status; 0 when none came
+        QByteArray body;
+        QByteArray version; ///< header X-Velmora-Version
+    };
+
+    /// Calls `ended` exactly once, unless the parent goes first.
+    Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
+             std::function<void(const End&)> ended, QObject* parent);
+
+private:
+    void read();
+    void finished();
+    void end(End::Kind kind);
+
+    QNetworkReply* reply_;
+    QTimer timer_;
+    qint64 byteLimit_;
+    QByteArray body_;
+    std::function<void(const End&)> ended_;
+};
+
+} // namespace velmora
