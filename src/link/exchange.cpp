@@ -22,18 +22,16 @@ void Exchange::read() {
         end(End::Kind::tooLarge);
 }
 
-/// An HTTP status of failure is no transport error: the server answered.
 void Exchange::finished() {
     if (!ended_)
         return;
     read();
-    const QNetworkReply::NetworkError error = reply_->error();
-    const bool answered = error == QNetworkReply::NoError || error >= QNetworkReply::ContentAccessDenied;
-    end(answered ? End::Kind::complete : End::Kind::transportError);
+    end(reply_->error() == QNetworkReply::NoError ? End::Kind::complete : End::Kind::failed);
 }
 
+/// Reports from the event loop, where whoever is told may destroy anything, this exchange included.
 void Exchange::end(End::Kind kind) {
-    const auto ended = std::exchange(ended_, nullptr);
+    auto ended = std::exchange(ended_, nullptr);
     if (!ended)
         return;
     timer_.stop();
@@ -41,8 +39,13 @@ void Exchange::end(End::Kind kind) {
     result.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     result.version = reply_->rawHeader("X-Velmora-Version");
     reply_->abort();
-    deleteLater();
-    ended(result);
+    QMetaObject::invokeMethod(
+        this,
+        [this, ended = std::move(ended), result = std::move(result)] {
+            deleteLater();
+            ended(result);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace velmora

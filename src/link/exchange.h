@@ -15,9 +15,9 @@ class Exchange : public QObject {
     Q_OBJECT
 
 public:
-    /// How an exchange ended. A reply that came in full has a status, whatever the status says.
+    /// How an exchange ended. Failed means what Qt calls an error, HTTP statuses from 400 included.
     struct End {
-        enum class Kind { complete, transportError, timedOut, tooLarge };
+        enum class Kind { complete, failed, timedOut, tooLarge };
 
         Kind kind = Kind::complete;
         QNetworkReply::NetworkError error = QNetworkReply::NoError;
@@ -27,7 +27,7 @@ public:
         QByteArray version; ///< header X-Velmora-Version
     };
 
-    /// Calls `ended` exactly once, unless the parent goes first.
+    /// Calls `ended` exactly once, from the event loop, unless the parent goes first.
     Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
              std::function<void(const End&)> ended, QObject* parent);
 

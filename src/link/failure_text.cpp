@@ -8,7 +8,9 @@ namespace {
 
 constexpr int okStatus = 200;
 
-Failure transportFailure(QNetworkReply::NetworkError error) {
+Failure failureOf(QNetworkReply::NetworkError error) {
+    if (error >= QNetworkReply::ContentAccessDenied) // there was a reply
+        return Failure::badResponse;
     switch (error) {
     case QNetworkReply::HostNotFoundError:
         return Failure::hostNotFound;
@@ -21,8 +23,6 @@ Failure transportFailure(QNetworkReply::NetworkError error) {
     case QNetworkReply::TimeoutError:
         return Failure::timedOut;
     case QNetworkReply::RemoteHostClosedError: // before the reply was whole
-    case QNetworkReply::ProtocolFailure:
-    case QNetworkReply::ProtocolInvalidOperationError:
         return Failure::badResponse;
     default:
         return Failure::other;
@@ -41,8 +41,8 @@ std::optional<Failure> failureOf(const Exchange::End& end) {
         return Failure::timedOut;
     case Exchange::End::Kind::tooLarge:
         return Failure::badResponse;
-    case Exchange::End::Kind::transportError:
-        return transportFailure(end.error);
+    case Exchange::End::Kind::failed:
+        return failureOf(end.error);
     case Exchange::End::Kind::complete:
         break;
     }

@@ -1,8 +1,8 @@
 #include "link/http_link.h"
 
 #include "link/failure_text.h"
+#include "link/state_guard.h"
 #include "model/json.h"
-#include "model/limits.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -35,9 +35,9 @@ FetchResult stateFrom(const Exchange::End& end) {
     auto state = decode<LiveState>(body, KeyStyle::snakeCase);
     if (!state)
         return failed(Failure::unreadable, QString::fromStdString(state.error));
-    if (const std::string misfit = unusableField(*state.value); !misfit.empty())
-        return failed(Failure::unreadable, QString::fromStdString(misfit));
-    return FetchedState{std::move(*state.value), QString::fromUtf8(end.version)};
+    if (const std::string trouble = troubleIn(*state.value); !trouble.empty())
+        return failed(Failure::unreadable, QString::fromStdString(trouble));
+    return FetchedState{std::move(*state.value), versionText(end.version)};
 }
 
 QByteArray bodyOf(Command command, const std::optional<std::string>& mission) {

@@ -18,6 +18,8 @@ constexpr double longestTick = 5;         // seconds; a longer gap, as after sle
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
 constexpr double pollInterval = 0.5;      // seconds
+constexpr double failingUntilStale = 2;   // seconds since the last good answer
+constexpr double silentUntilStale = 2.5;  // seconds since the last good answer
 
 QString notificationTitle(const LiveState& state) {
     const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
@@ -44,6 +46,7 @@ AppStore::AppStore(World world, QObject* parent)
     state_ = sim_.state;
     if (settings_.linkMode)
         linkStatus_ = LinkStatus::connecting();
+    updateFreshness();
     timer_.setInterval(tickInterval);
     connect(&timer_, &QTimer::timeout, this, &AppStore::tick);
 }
@@ -60,6 +63,7 @@ void AppStore::tick() {
         advancePolling(elapsed);
     else
         advanceSimulator(now, elapsed);
+    updateFreshness();
     const Phase before = lastPhase_;
     lastPhase_ = state_.phase;
     if (state_.phase != before)
@@ -97,11 +101,13 @@ void AppStore::poll() {
 void AppStore::received(const FetchResult& result) {
     pollInFlight_ = false;
     if (const auto* fetched = std::get_if<FetchedState>(&result)) {
+        heardAt_ = settings_.linkMode ? std::optional(world_.clock()) : std::nullopt;
         setState(fetched->state);
         setLinkStatus(LinkStatus::connected(fetched->version));
     } else {
         setLinkStatus(LinkStatus::failed(std::get<LinkError>(result).text));
     }
+    updateFreshness();
 }
 
 void AppStore::phaseChanged(Phase from, Phase to) {
@@ -154,6 +160,27 @@ void AppStore::applyLinkMode(bool linked) {
         setState(sim_.state);
 }
 
+void AppStore::forgetServer() {
+    heardAt_.reset();
+    updateFreshness();
+}
+
+/// A server that says it cannot be reached is believed a little sooner than one that says nothing.
+void AppStore::updateFreshness() {
+    Freshness freshness = Freshness::live;
+    if (settings_.linkMode && !heardAt_) {
+        freshness = Freshness::waiting;
+    } else if (settings_.linkMode) {
+        const bool failing = linkStatus_.kind == LinkStatus::Case::failed;
+        if ((world_.clock() - *heardAt_).count() > (failing ? failingUntilStale : silentUntilStale))
+            freshness = Freshness::stale;
+    }
+    if (freshness == freshness_)
+        return;
+    freshness_ = freshness;
+    emit freshnessChanged();
+}
+
 void AppStore::simulate(Scenario scenario) {
     if (settings_.linkMode)
         return;
@@ -163,12 +190,27 @@ void AppStore::simulate(Scenario scenario) {
 
 void AppStore::record(const MissionRecord& record) {
     history_.insert(history_.begin(), record);
-    files_.saveHistory(history_);
-    emit historyChanged();
+    historyEdited();
 }
 
 void AppStore::clearDemoHistory() {
     std::erase_if(history_, [](const MissionRecord& record) { return record.demo; });
+    historyEdited();
+}
+
+void AppStore::removeRecord(std::size_t place) {
+    if (place >= history_.size())
+        return;
+    history_.erase(history_.begin() + static_cast<std::ptrdiff_t>(place));
+    historyEdited();
+}
+
+void AppStore::restoreRecord(std::size_t place, const MissionRecord& record) {
+    history_.insert(history_.begin() + static_cast<std::ptrdiff_t>(std::min(place, history_.size())), record);
+    historyEdited();
+}
+
+void AppStore::historyEdited() {
     files_.saveHistory(history_);
     emit historyChanged();
 }
@@ -183,10 +225,14 @@ void AppStore::setState(const LiveState& state) {
 void AppStore::setSettings(const Settings& settings) {
     if (settings == settings_)
         return;
+    const bool otherServer = settings.linkMode != settings_.linkMode || settings.host != settings_.host ||
+                             settings.port != settings_.port;
     settings_ = settings;
     files_.saveSettings(settings_);
     sim_.settings = settings_;
     emit settingsChanged();
+    if (otherServer)
+        forgetServer();
 }
 
 void AppStore::setLinkStatus(const LinkStatus& status) {

@@ -43,6 +43,9 @@ public:
     /// Id of the record opened in the history.
     const std::optional<std::string>& selectedRecord() const { return selectedRecord_; }
     const LinkStatus& linkStatus() const { return linkStatus_; }
+    Freshness freshness() const { return freshness_; }
+    /// When the server last answered well; absent in demo mode and before its first good answer.
+    const std::optional<Date>& heardAt() const { return heardAt_; }
     bool showWelcome() const { return showWelcome_; }
     /// The world's present, for ages and countdowns.
     Date now() const { return world_.clock(); }
@@ -62,6 +65,10 @@ public:
     void simulate(Scenario scenario);
     /// Removes the rehearsed missions.
     void clearDemoHistory();
+    /// Removes one record by its place in the history.
+    void removeRecord(std::size_t place);
+    /// Puts a removed record back where it was, or at the end of a history that is shorter now.
+    void restoreRecord(std::size_t place, const MissionRecord& record);
 
 signals:
     void stateChanged();
@@ -70,6 +77,7 @@ signals:
     void sectionChanged();
     void selectedRecordChanged();
     void linkStatusChanged();
+    void freshnessChanged();
     void showWelcomeChanged();
     /// Someone waits for the owner's decision.
     void attentionRequested();
@@ -77,6 +85,8 @@ signals:
 private:
     void setState(const LiveState& state);
     void setLinkStatus(const LinkStatus& status);
+    void forgetServer();
+    void updateFreshness();
     void advanceSimulator(Date now, double elapsed);
     void advancePolling(double elapsed);
     void poll();
@@ -84,6 +94,7 @@ private:
     void phaseChanged(Phase from, Phase to);
     void notifyDetection();
     void record(const MissionRecord& record);
+    void historyEdited();
 
     World world_;
     DataFiles files_;
@@ -93,6 +104,8 @@ private:
     Section section_ = Section::overview;
     std::optional<std::string> selectedRecord_;
     LinkStatus linkStatus_;
+    Freshness freshness_ = Freshness::live;
+    std::optional<Date> heardAt_;
     bool showWelcome_ = false;
     Simulator sim_;
     QTimer timer_;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QLocale>
 
 #include <cmath>
 
@@ -17,6 +18,10 @@ QString tr(const char* text) {
 
 QString twoDigits(std::int64_t number) {
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+QDateTime localTime(Date date) {
+    return QDateTime::fromMSecsSinceEpoch(whole(secondsSince1970(date) * 1000));
 }
 
 } // namespace
@@ -81,8 +86,51 @@ QString clockTime(Seconds elapsed) {
 }
 
 QString timeOfDay(Date date) {
-    const auto milliseconds = whole(secondsSince1970(date) * 1000);
-    return QDateTime::fromMSecsSinceEpoch(milliseconds).toString(QStringLiteral("HH:mm:ss"));
+    return localTime(date).toString(QStringLiteral("HH:mm:ss"));
+}
+
+QString dayName(Date date, Date now) {
+    const QDateTime then = localTime(date), today = localTime(now);
+    const qint64 days = then.date().daysTo(today.date());
+    if (days == 0)
+        return tr("Today");
+    if (days == 1)
+        return tr("Yesterday");
+    const bool sameYear = then.date().year() == today.date().year();
+    return QLocale(QLocale::English)
+        .toString(then, sameYear ? QStringLiteral("dddd d MMMM") : QStringLiteral("dddd d MMMM yyyy"));
+}
+
+QString dayAndTime(Date date, Date now) {
+    constexpr qint64 daysInWeek = 7;
+    const QDateTime then = localTime(date);
+    const qint64 days = then.date().daysTo(localTime(now).date());
+    const QString time = then.toString(QStringLiteral("HH:mm"));
+    if (days == 0)
+        return time;
+    if (days == 1)
+        return tr("Yesterday") + ' ' + time;
+    const QLocale english(QLocale::English);
+    if (days > 0 && days < daysInWeek)
+        return english.toString(then, QStringLiteral("ddd ")) + time;
+    return english.toString(then, QStringLiteral("d MMM yyyy"));
+}
+
+QString duration(Seconds length) {
+    const std::int64_t seconds = std::max<std::int64_t>(whole(std::round(length.count())), 0);
+    const std::int64_t minutes = seconds / 60, hours = minutes / 60;
+    if (minutes == 0)
+        return tr("%1 s").arg(seconds);
+    if (hours > 0)
+        return tr("%1 h %2 min").arg(hours).arg(minutes % 60);
+    return seconds % 60 == 0 ? tr("%1 min").arg(minutes) : tr("%1 min %2 s").arg(minutes).arg(seconds % 60);
+}
+
+QString age(Seconds length) {
+    const std::int64_t seconds = std::max<std::int64_t>(whole(length.count()), 0);
+    if (seconds < 120)
+        return tr("%1 s").arg(seconds);
+    return seconds < 7200 ? tr("%1 min").arg(seconds / 60) : tr("%1 h").arg(seconds / 3600);
 }
 
 } // namespace velmora

@@ -27,5 +27,13 @@ QString percent(double fraction);
 QString clockTime(Seconds elapsed);
 /// The local time of day, "14:31:42".
 QString timeOfDay(Date date);
+/// "Today", "Yesterday", or "Wednesday 19 November", with the year when it is another one.
+QString dayName(Date date, Date now);
+/// Short: "14:31" today, "Yesterday 22:47", "Wed 06:12" within a week, else "19 Nov 2025".
+QString dayAndTime(Date date, Date now);
+/// "2 min 20 s", "14 s" or "1 h 5 min".
+QString duration(Seconds length);
+/// "12 s", "3 min" or "2 h": an age that counts.
+QString age(Seconds length);
 
 } // namespace velmora

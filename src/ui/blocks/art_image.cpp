@@ -10,6 +10,12 @@
 
 namespace velmora {
 
+namespace {
+
+constexpr double faintOpacity = 0.4;
+
+} // namespace
+
 ArtImage::ArtImage(const QString& name, Mode mode, double radius, QWidget* parent)
     : QWidget(parent), name_(name), mode_(mode), radius_(radius) {}
 
@@ -23,6 +29,13 @@ void ArtImage::setName(const QString& name) {
 
 void ArtImage::setSquareBottom(bool square) {
     squareBottom_ = square;
+    update();
+}
+
+void ArtImage::setFaint(bool faint) {
+    if (faint == faint_)
+        return;
+    faint_ = faint;
     update();
 }
 
@@ -53,6 +66,12 @@ void ArtImage::paintEvent(QPaintEvent*) {
         icon.moveCenter(QRectF(rect()).center());
         paintIcon(painter, icon, Icon::cameras, SB::rule);
         return;
+    }
+    if (faint_) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(SB::navy);
+        painter.drawRoundedRect(rect(), radius_, radius_);
+        painter.setOpacity(faintOpacity);
     }
     const QSizeF shown = picture_.deviceIndependentSize();
     const QPointF corner((width() - shown.width()) / 2, (height() - shown.height()) / 2);

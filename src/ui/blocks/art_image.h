@@ -17,6 +17,8 @@ public:
     void setName(const QString& name);
     /// Round corners at the top only: something follows below without a gap.
     void setSquareBottom(bool square);
+    /// A faint picture on navy: the camera is offline.
+    void setFaint(bool faint);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,6 +30,7 @@ private:
     Mode mode_;
     double radius_;
     bool squareBottom_ = false;
+    bool faint_ = false;
     QPixmap picture_;        ///< at the size and scale that it was last shown in
     QSize loadedFor_{-1, 0}; ///< device pixels
 };

@@ -12,8 +12,8 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* radiusProperty = "velmoraFocusRadius";
-constexpr const char* darkProperty = "velmoraFocusDark";
+constexpr const char* lookProperty = "velmoraFocusLook";
+constexpr double haloOpacity = 0.22;
 constexpr int outset = static_cast<int>(Measure::focusGap + Measure::focusRing);
 
 bool isKeyboard(Qt::FocusReason reason) {
@@ -28,8 +28,12 @@ bool moves(QEvent::Type type) {
 } // namespace
 
 void FocusRing::setLook(QWidget* widget, const Look& look) {
-    widget->setProperty(radiusProperty, look.radius);
-    widget->setProperty(darkProperty, look.dark);
+    widget->setProperty(lookProperty, QVariant::fromValue(look));
+}
+
+std::optional<FocusRing::Look> FocusRing::lookOf(const QWidget* widget) {
+    const QVariant look = widget->property(lookProperty);
+    return look.isValid() ? std::optional(look.value<Look>()) : std::nullopt;
 }
 
 FocusRing::FocusRing(QWidget* window) : QWidget(window) {
@@ -43,9 +47,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     if (!widget || widget == this)
         return false;
     if (event->type() == QEvent::FocusIn && widget->window() == window()) {
-        if (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) &&
-            widget->property(radiusProperty).isValid())
-            follow(widget);
+        const auto look = lookOf(widget);
+        if (look && (look->field || isKeyboard(static_cast<QFocusEvent*>(event)->reason())))
+            follow(widget, *look);
         else
             unfollow();
     } else if (event->type() == QEvent::FocusOut && widget == target_) {
@@ -56,8 +60,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-void FocusRing::follow(QWidget* widget) {
+void FocusRing::follow(QWidget* widget, const Look& look) {
     target_ = widget;
+    look_ = look;
     watched_.clear();
     for (QWidget* one = widget; one && one != window(); one = one->parentWidget())
         watched_.append(one);
@@ -93,11 +98,15 @@ void FocusRing::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setClipRect(clip_.translated(-pos()));
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = target_->property(darkProperty).toBool() ? SB::softBlue : SB::blue;
-    painter.setPen(QPen(color, Measure::focusRing));
-    const double half = Measure::focusRing / 2;
-    const double radius = target_->property(radiusProperty).toDouble() + Measure::focusGap + half;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
+    const double gap = look_.field ? outset - Measure::fieldHalo : 0;
+    const double width = look_.field ? Measure::fieldHalo : Measure::focusRing;
+    const QColor color = look_.field  ? SB::faded(SB::blue, haloOpacity)
+                         : look_.dark ? SB::softBlue
+                                      : SB::blue;
+    const double inset = gap + width / 2;
+    const double radius = look_.radius + outset - inset;
+    painter.setPen(QPen(color, width));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }
 
 } // namespace velmora

@@ -3,6 +3,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 namespace velmora {
 
 /// The ring around what has the keyboard's focus in a window. It shows when the keyboard moved the focus, not
@@ -14,7 +16,8 @@ public:
     /// How the ring fits a widget.
     struct Look {
         double radius = 0;
-        bool dark = false; ///< on a navy surface
+        bool dark = false;  ///< on a navy surface
+        bool field = false; ///< a text field: a halo at its border, whatever moved the focus
     };
 
     /// A widget without a look gets no ring.
@@ -27,11 +30,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void follow(QWidget* widget);
+    static std::optional<Look> lookOf(const QWidget* widget);
+    void follow(QWidget* widget, const Look& look);
     void unfollow();
     void place();
 
     QPointer<QWidget> target_;
+    Look look_;
     QList<QPointer<QWidget>> watched_; ///< the target and what it lies in: when they move, the ring does
     QRect clip_;                       ///< what scroll areas leave to be seen
 };

@@ -19,14 +19,17 @@ Page::Page(const Parts& parts, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(buildHeading(parts));
     column->addSpacing(parts.contentGap);
-    column->addWidget(parts.content, 1);
+    column->addWidget(parts.content, parts.scroll ? 0 : 1);
+    if (parts.scroll)
+        column->addStretch(1);
     shown_ = frame;
     if (parts.scroll) {
         auto* area = new ScrollArea(this);
         area->setWidget(frame);
         shown_ = area;
     }
-    frame->setMaximumWidth(Measure::pageWidth + Measure::pageMargins.left() + Measure::pageMargins.right());
+    const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
+    frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
 }
 
 /// Wide windows leave the room at the right.
@@ -45,12 +48,17 @@ QWidget* Page::buildHeading(const Parts& parts) {
     words->addWidget(headline_);
     if (parts.lede) {
         lede_ = new Text(*parts.lede, Type::lede, SB::body, heading);
-        lede_->setMaximumWidth(Measure::ledeWidth);
+        lede_->setWrapWidth(parts.ledeWidth > 0 ? parts.ledeWidth : Measure::ledeWidth);
         words->addWidget(lede_);
     }
     row->addLayout(words, 1);
-    if (parts.trailing)
-        row->addWidget(parts.trailing, 0, Qt::AlignTop);
+    if (parts.trailing) {
+        auto* beside = new QVBoxLayout;
+        beside->addSpacing(Measure::gap12);
+        beside->addWidget(parts.trailing);
+        beside->addStretch(1);
+        row->addLayout(beside);
+    }
     return heading;
 }
 

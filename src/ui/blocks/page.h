@@ -19,7 +19,9 @@ public:
         QString eyebrow;
         Sentence headline;
         std::optional<QString> lede = std::nullopt;
+        int ledeWidth = 0; ///< at most, pixels; 0 for the usual
         bool scroll = false;
+        int width = 0;      ///< of heading and content at most, pixels; 0 for the usual
         int contentGap = 0; ///< between heading and content, pixels
         QWidget* trailing = nullptr;
         QWidget* content = nullptr;

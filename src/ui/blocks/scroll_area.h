@@ -5,6 +5,8 @@
 
 namespace velmora {
 
+class OverlayScrollBar;
+
 /// A vertical scroll area without a frame, whose slim bar lies over the content and shows while it scrolls or
 /// the pointer is over it. Content that goes on below can fade into the page.
 class ScrollArea : public QScrollArea {
@@ -23,7 +25,7 @@ protected:
 private:
     void placeOverlays();
 
-    QWidget* bar_;
+    OverlayScrollBar* bar_;
     QWidget* fade_;
 };
 

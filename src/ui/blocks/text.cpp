@@ -4,6 +4,7 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -44,6 +45,11 @@ void Text::setMaximumLines(int lines) {
     updateGeometry();
 }
 
+void Text::setWrapWidth(int width) {
+    wrapWidth_ = width;
+    updateGeometry();
+}
+
 QSize Text::sizeHint() const {
     return {static_cast<int>(std::ceil(textWidth(text_, style_))), static_cast<int>(style_.line)};
 }
@@ -57,6 +63,8 @@ int Text::heightForWidth(int width) const {
 }
 
 QStringList Text::lines(int width) const {
+    if (wrapWidth_ > 0)
+        width = std::min(width, wrapWidth_);
     if (maximumLines_ == 1)
         return {elided(text_, style_, width)};
     return brokenIntoLines(text_, style_, width, maximumLines_);

@@ -20,6 +20,8 @@ public:
     void setAlignment(Qt::Alignment alignment);
     /// What does not fit into so many lines ends in an ellipsis and is told by a tooltip. 0: any number.
     void setMaximumLines(int lines);
+    /// Breaks lines earlier than at the widget's own width, pixels; 0 for no such limit.
+    void setWrapWidth(int width);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -39,6 +41,7 @@ private:
     QColor color_;
     Qt::Alignment alignment_ = Qt::AlignLeft;
     int maximumLines_ = 0;
+    int wrapWidth_ = 0;
 };
 
 /// The small upper-case label above a headline.

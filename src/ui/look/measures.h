@@ -73,6 +73,19 @@ inline constexpr int missingPictureIcon = 24;
 inline constexpr int scrollBar = 6;
 inline constexpr int scrollBarEdge = 4;
 inline constexpr int overlayRise = 8;
+inline constexpr int badgeHeight = 18, badgePadding = 6;
+inline constexpr int numberBadge = 24;
+inline constexpr int formLabel = 156;
+inline constexpr QSize switchSize(36, 22);
+inline constexpr int switchThumb = 18;
+inline constexpr int sliderThumb = 18, sliderTrack = 4;
+inline constexpr int sliderRow = 36, sliderLabel = 220, sliderValue = 70;
+inline constexpr int radioRow = 28, radioCircle = 16, radioGap = 10;
+inline constexpr double radioRing = 5;
+inline constexpr int segmentedHeight = 32, segmentInset = 2, segmentPadding = 14;
+inline constexpr int fieldHeight = 32, fieldPadding = 10;
+inline constexpr double fieldHalo = 3;
+inline constexpr int activityRow = 40, activityDotX = 3, activityTitleX = 18;
 
 // Live flight
 inline constexpr int railMinimum = 288, railMaximum = 480;
@@ -96,6 +109,41 @@ inline constexpr int visitorGap = 14;
 inline constexpr int logTime = 54;
 inline constexpr int logTextX = 82;
 inline constexpr int logFade = 24;
+
+// Overview
+inline constexpr int overviewRailMinimum = 320;
+inline constexpr int overviewMapMinimum = 290;
+inline constexpr int mapTitle = 32, mapLegend = 36;
+inline constexpr int legendSample = 22, legendGap = 8;
+inline constexpr int statusStripTop = 16, statusStripCell = 76, cellPadding = 20;
+inline constexpr QSize dronePicture(84, 56), dronePictureNarrow(54, 36);
+inline constexpr int activityRows = 5;
+inline constexpr int bannerHeight = 48;
+inline constexpr QMargins bannerMargins(20, 0, 8, 0);
+inline constexpr QMargins armSwitchMargins(20, 12, 12, 12);
+inline constexpr QMargins staleMargins(20, 12, 8, 12);
+
+// Cameras
+inline constexpr int camerasLedeWidth = 680;
+inline constexpr int cameraMinimum = 300, cameraRowGap = 32;
+inline constexpr double cameraRatio = 16.0 / 9;
+inline constexpr double cameraDot = 7;
+inline constexpr int toggleRow = 66;
+
+// Settings
+inline constexpr int settingsWidth = 860;
+inline constexpr int radioIndent = 26;
+inline constexpr int hostField = 220, portField = 70, topicField = 240;
+inline constexpr int trackingWidth = 560;
+inline constexpr int formLine = 36;
+inline constexpr double ruleBullet = 5;
+inline constexpr int ruleTextX = 17, ruleLine = 28;
+
+// Welcome
+inline constexpr int welcomeColumn = 560, welcomeSteps = 520;
+inline constexpr int welcomeBottom = 32;
+inline constexpr int heroMinimum = 136, heroFade = 88;
+inline constexpr int welcomeShield = 22;
 
 // The approval card
 inline constexpr int approvalCard = 520;

@@ -64,6 +64,13 @@ inline constexpr TextStyle eyebrow{Face::semiBold, 11, 16, 1.4, true};
 inline constexpr TextStyle caption{Face::semiBold, 9, 12, 1.1, true};
 inline constexpr TextStyle mapCaption{Face::semiBold, 9, 11, 1.1, true};
 inline constexpr TextStyle badge{Face::semiBold, 10, 12, 0.6, true};
+inline constexpr TextStyle stepText{Face::regular, 13, 19};
+inline constexpr TextStyle numberBadge{Face::semiBold, 12, 16};
+inline constexpr TextStyle segment{Face::medium, 12.5, 20};
+inline constexpr TextStyle segmentChosen{Face::semiBold, 12.5, 20};
+inline constexpr TextStyle sliderLabel{Face::semiBold, 13, 20};
+inline constexpr TextStyle sliderValue{Face::medium, 13, 20, 0, false, true};
+inline constexpr TextStyle staleTitle{Face::semiBold, 13.5, 20};
 inline constexpr TextStyle menu{Face::medium, 12.5, 20};
 
 } // namespace Type

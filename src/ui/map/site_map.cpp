@@ -3,6 +3,7 @@
 #include "ui/blocks/accessibility.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
+#include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
@@ -18,6 +19,10 @@ namespace {
 
 constexpr double dimmedOpacity = 0.55;
 constexpr double secondsBetweenDescriptions = 1;
+
+QString waitingText() {
+    return SiteMap::tr("Waiting for velmora");
+}
 
 std::string watchingCamera(const MapScene& scene) {
     return scene.state.visitor ? scene.state.visitor->cameraId : std::string();
@@ -63,11 +68,12 @@ void SiteMap::setShowLabels(bool show) {
     setScene(std::move(scene));
 }
 
-void SiteMap::setDimmed(bool dimmed) {
-    if (dimmed == dimmed_)
+void SiteMap::setFreshness(Freshness freshness) {
+    if (freshness == freshness_)
         return;
-    dimmed_ = dimmed;
+    freshness_ = freshness;
     runOrRest();
+    describe();
     update();
 }
 
@@ -108,12 +114,14 @@ int SiteMap::heightForWidth(int width) const {
 
 void SiteMap::describe() {
     describedAt_ = Motion::seconds();
-    if (const QString words = mapDescription(scene_); words != accessibleName())
+    const bool waits = freshness_ == Freshness::waiting && !scene_.replay;
+    if (const QString words = waits ? waitingText() : mapDescription(scene_); words != accessibleName())
         setAccessibleName(words);
 }
 
 bool SiteMap::isAnimated() const {
-    return !scene_.replay && !dimmed_ && (scene_.state.visitor || airborne(scene_.state.phase));
+    return !scene_.replay && freshness_ == Freshness::live &&
+           (scene_.state.visitor || airborne(scene_.state.phase));
 }
 
 void SiteMap::runOrRest() {
@@ -169,10 +177,15 @@ void SiteMap::paintEvent(QPaintEvent*) {
         painter.setBrush(brush);
         painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
     };
-    if (dimmed_) {
+    const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
+    if (freshness != Freshness::live)
         fillRounded(SB::navy);
-        painter.setOpacity(dimmedOpacity);
+    if (freshness == Freshness::waiting) {
+        drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
+        return;
     }
+    if (freshness == Freshness::stale)
+        painter.setOpacity(dimmedOpacity);
     fillRounded(grounds());
     QPainterPath corners;
     corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/link_status.h"
 #include "ui/map/map_scene.h"
 
 #include <QBasicTimer>
@@ -21,8 +22,8 @@ public:
     /// A mission's paths over its grounds.
     void setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings);
     void setShowLabels(bool show);
-    /// An old picture: paler, and still.
-    void setDimmed(bool dimmed);
+    /// An old picture is paler and still; before the first picture of a site only a word stands there.
+    void setFreshness(Freshness freshness);
     /// Something lies over the map: no frames until it is gone.
     void setCovered(bool covered);
 
@@ -45,7 +46,7 @@ private:
     const QPixmap& grounds();
 
     MapScene scene_;
-    bool dimmed_ = false;
+    Freshness freshness_ = Freshness::live;
     bool covered_ = false;
     bool onScreen_ = false; ///< false also while the window is minimised
     QBasicTimer frames_;

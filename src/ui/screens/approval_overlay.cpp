@@ -47,6 +47,7 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, QWidget* window)
     connect(ignore_, &SBButton::clicked, this, [this] { answer(Command::ignore); });
     connect(launch_, &SBButton::clicked, this, [this] { answer(Command::approve); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
+    connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
     followPhase();
 }
 
@@ -109,7 +110,8 @@ QWidget* ApprovalOverlay::buildButtons() {
 }
 
 void ApprovalOverlay::followPhase() {
-    if (store_.state().phase != Phase::awaitingApproval) {
+    const bool known = store_.freshness() != Freshness::waiting;
+    if (!known || store_.state().phase != Phase::awaitingApproval) {
         countdown_.stop();
         close();
         return;

@@ -1,47 +1,13 @@
 #include "ui/screens/approval_picture.h"
 
-#include "ui/blocks/accessibility.h"
 #include "ui/blocks/art_image.h"
-#include "ui/blocks/status_dot.h"
+#include "ui/blocks/chip.h"
 #include "ui/look/measures.h"
-#include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
-#include <cmath>
+#include <QPainter>
 
 namespace velmora {
-
-/// The camera's name and the time of the detection.
-class ApprovalPicture::Chip : public QWidget {
-public:
-    explicit Chip(QWidget* parent) : QWidget(parent) {
-        declareRole(this, QAccessible::StaticText);
-        move(Measure::chipInset, Measure::chipInset);
-    }
-
-    void setText(const QString& text) {
-        setAccessibleName(text);
-        const double words = textWidth(text, Type::caption);
-        resize(static_cast<int>(std::ceil(textX + words)) + Measure::chipPadding, Measure::chipHeight);
-        update();
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::faded(SB::navy, 0.72));
-        painter.drawRoundedRect(rect(), Measure::thumbnailRadius, Measure::thumbnailRadius);
-        paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
-                       {.color = SB::dTeal, .diameter = Measure::statusDotInRow});
-        drawText(painter, QRectF(textX, 0, width() - textX, height()), accessibleName(),
-                 Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
-    }
-
-private:
-    static constexpr double textX = Measure::chipPadding + Measure::statusDotInRow + Measure::gap8;
-};
 
 /// The time that is left, shrinking to the left.
 class ApprovalPicture::Bar : public QWidget {
@@ -74,6 +40,7 @@ ApprovalPicture::ApprovalPicture(QWidget* parent)
     setFixedSize(Measure::approvalCard, Measure::approvalPicture + Measure::approvalBar);
     picture_->setGeometry(0, 0, width(), Measure::approvalPicture);
     picture_->setSquareBottom(true);
+    chip_->move(Measure::chipInset, Measure::chipInset);
     bar_->setGeometry(0, Measure::approvalPicture, width(), Measure::approvalBar);
 }
 

@@ -7,6 +7,7 @@
 namespace velmora {
 
 class ArtImage;
+class Chip;
 
 /// The top of the approval card: what the camera sees, which camera and when, and the time that is left.
 class ApprovalPicture : public QWidget {
@@ -20,7 +21,6 @@ public:
     void setTimeLeft(double share);
 
 private:
-    class Chip;
     class Bar;
 
     ArtImage* picture_;

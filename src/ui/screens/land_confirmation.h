@@ -1,25 +1,16 @@
 #pragma once
 
 #include "store/app_store.h"
-#include "ui/blocks/overlay_card.h"
+#include "ui/blocks/confirmation_card.h"
 
 namespace velmora {
 
-class SBButton;
-
-/// Asks before the drone comes down on the spot. Dismissing it sends nothing.
-class LandConfirmation : public OverlayCard {
+/// Asks before the drone comes down on the spot.
+class LandConfirmation : public ConfirmationCard {
     Q_OBJECT
 
 public:
     LandConfirmation(AppStore& store, QWidget* window);
-
-protected:
-    void takeFirstFocus() override;
-
-private:
-    AppStore& store_;
-    SBButton* keepFlying_;
 };
 
 } // namespace velmora

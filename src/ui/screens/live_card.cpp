@@ -1,10 +1,13 @@
 #include "ui/screens/live_card.h"
 
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
+#include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/map/site_map.h"
+#include "ui/screens/stale_banner.h"
 #include "ui/screens/telemetry.h"
 
 #include <QPainter>
@@ -25,7 +28,13 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
 
 void LiveCard::refresh() {
     map_->setState(store_.state(), store_.settings());
-    telemetry_->show(store_.state(), store_.settings(), store_.now());
+    map_->setFreshness(store_.freshness());
+    telemetry_->show(store_.state(), store_.settings(), store_.now(), store_.freshness());
+    const QString age = store_.freshness() == Freshness::stale ? StaleBanner::pictureAge(store_) : QString();
+    if (age == pictureAge_)
+        return;
+    pictureAge_ = age;
+    update();
 }
 
 QSize LiveCard::fitted(int width, int height, bool narrow) {
@@ -58,6 +67,18 @@ void LiveCard::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(SB::navy);
     painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+    if (!pictureAge_.isEmpty())
+        paintPictureAge(painter);
+}
+
+void LiveCard::paintPictureAge(QPainter& painter) const {
+    const QRectF row(Measure::cardInset, map_->geometry().bottom() + 1, width() - 2 * Measure::cardInset,
+                     Measure::noteRow);
+    drawText(painter, row, pictureAge_, Type::caption, SB::dTitle, Qt::AlignVCenter | Qt::AlignRight);
+    const double dotX =
+        row.right() - textWidth(pictureAge_, Type::caption) - Measure::gap8 - Measure::statusDotInRow / 2;
+    paintStatusDot(painter, {dotX, row.center().y()},
+                   {.color = SB::lilac, .diameter = Measure::statusDotInRow});
 }
 
 } // namespace velmora

@@ -28,11 +28,13 @@ protected:
 
 private:
     int mapHeight(int width) const;
+    void paintPictureAge(QPainter& painter) const;
 
     AppStore& store_;
     SiteMap* map_;
     Text* note_;
     QWidget* line_;
+    QString pictureAge_; ///< empty while the picture is fresh
     Telemetry* telemetry_;
     bool narrow_ = false;
 };

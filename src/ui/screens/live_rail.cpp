@@ -69,13 +69,14 @@ QWidget* LiveRail::buildLog() {
 
 void LiveRail::refresh() {
     const LiveState& state = store_.state();
-    timeline_->setPhase(state.phase);
+    const bool known = store_.freshness() != Freshness::waiting;
+    timeline_->setPhase(known ? state.phase : Phase::docked);
     controls_->refresh();
-    visitorBlock_->setVisible(state.visitor.has_value());
+    visitorBlock_->setVisible(known && state.visitor);
     if (state.visitor)
         visitor_->setVisitor(*state.visitor, state.site);
-    nothingLogged_->setVisible(state.notices.empty());
-    log_->setVisible(!state.notices.empty());
+    nothingLogged_->setVisible(!known || state.notices.empty());
+    log_->setVisible(known && !state.notices.empty());
     log_->setNotices(state.notices);
 }
 

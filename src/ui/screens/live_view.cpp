@@ -1,10 +1,15 @@
 #include "ui/screens/live_view.h"
 
+#include "ui/blocks/fold.h"
 #include "ui/blocks/page.h"
 #include "ui/look/measures.h"
+#include "ui/look/motion.h"
 #include "ui/screens/live_card.h"
 #include "ui/screens/live_rail.h"
+#include "ui/screens/stale_banner.h"
 #include "ui/words.h"
+
+#include <QEvent>
 
 #include <algorithm>
 
@@ -12,10 +17,13 @@ namespace velmora {
 
 namespace {
 
-Sentence headlineFor(const LiveState& state) {
+Sentence headlineFor(const AppStore& store) {
+    const LiveState& state = store.state();
     const auto sentence = [](const QString& lead, const QString& emphasis) {
         return Sentence{lead, emphasis, {}};
     };
+    if (store.freshness() == Freshness::waiting)
+        return sentence(LiveView::tr("Waiting for "), LiveView::tr("velmora"));
     switch (state.phase) {
     case Phase::docked:
         return sentence(LiveView::tr("The drone is "), LiveView::tr("on its pad"));
@@ -45,21 +53,36 @@ Sentence headlineFor(const LiveState& state) {
 
 } // namespace
 
-/// The card takes the largest map that fits; the rail takes the rest.
+/// Under the banner the card takes the largest map that fits; the rail takes the rest.
 class LiveView::Content : public QWidget {
 public:
-    explicit Content(AppStore& store) : card(new LiveCard(store, this)), rail(new LiveRail(store, this)) {}
+    explicit Content(AppStore& store)
+        : stale(new Fold(new StaleBanner(store, this), Measure::gap16, Motion::banner, this)),
+          card(new LiveCard(store, this)),
+          rail(new LiveRail(store, this)) {}
 
+    Fold* const stale;
     LiveCard* const card;
     LiveRail* const rail;
 
 protected:
-    void resizeEvent(QResizeEvent*) override {
+    void resizeEvent(QResizeEvent*) override { lay(); }
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest)
+            lay();
+        return QWidget::event(event);
+    }
+
+private:
+    void lay() {
+        stale->setGeometry(0, 0, width(), stale->height());
+        const int top = stale->isHidden() ? 0 : stale->height();
+        const int room = height() - top;
         const int widest = width() - Measure::gutter - Measure::railMinimum;
-        const QSize size = card->fitted(widest, height(), width() < Measure::narrowContent);
-        card->setGeometry({{}, size});
+        const QSize size = card->fitted(widest, room, width() < Measure::narrowContent);
+        card->setGeometry({{0, top}, size});
         const int left = size.width() + Measure::gutter;
-        rail->setGeometry(left, 0, std::min(width() - left, Measure::railMaximum), height());
+        rail->setGeometry(left, top, std::min(width() - left, Measure::railMaximum), room);
     }
 };
 
@@ -68,19 +91,21 @@ LiveView::LiveView(AppStore& store, QWidget* parent)
       store_(store),
       content_(new Content(store)),
       page_(new Page({.eyebrow = tr("Live flight"),
-                      .headline = headlineFor(store.state()),
+                      .headline = headlineFor(store),
                       .contentGap = Measure::gap20,
                       .content = content_},
                      this)) {
     connect(content_->rail, &LiveRail::landRequested, this, &LiveView::landRequested);
-    connect(&store_, &AppStore::stateChanged, this, &LiveView::refresh);
-    connect(&store_, &AppStore::settingsChanged, this, &LiveView::refresh);
+    for (const auto changed :
+         {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged})
+        connect(&store_, changed, this, &LiveView::refresh);
 }
 
 void LiveView::refresh() {
     if (!isVisible())
         return;
-    page_->setHeadline(headlineFor(store_.state()));
+    page_->setHeadline(headlineFor(store_));
+    content_->stale->setOpen(store_.freshness() != Freshness::live);
     content_->card->refresh();
     content_->rail->refresh();
 }

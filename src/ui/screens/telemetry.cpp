@@ -36,7 +36,24 @@ Telemetry::Telemetry(QWidget* parent) : QWidget(parent) {
     arrange();
 }
 
-void Telemetry::show(const LiveState& state, const Settings& settings, Date now) {
+std::array<Metric*, 8> Telemetry::metrics() const {
+    return {height_, speed_, toVisitor_, fromPad_, battery_, wind_, flightTime_, signal_};
+}
+
+void Telemetry::showNothing() {
+    for (Metric* metric : metrics()) {
+        metric->setValue(QString::fromUtf8(absent), {});
+        metric->setTint(std::nullopt);
+    }
+}
+
+void Telemetry::show(const LiveState& state, const Settings& settings, Date now, Freshness freshness) {
+    for (Metric* metric : metrics())
+        metric->setDimmed(freshness != Freshness::live);
+    if (freshness == Freshness::waiting) {
+        showNothing();
+        return;
+    }
     const DroneState& drone = state.drone;
     height_->setValue(rounded(drone.altitude), tr("m"));
     speed_->setValue(QString::number(drone.speed, 'f', 1), tr("m/s"));
@@ -72,7 +89,7 @@ void Telemetry::arrange() {
     grid_->setVerticalSpacing(Measure::telemetryRowGap);
     const int columns = narrow_ ? 4 : 8;
     int index = 0;
-    for (Metric* metric : {height_, speed_, toVisitor_, fromPad_, battery_, wind_, flightTime_, signal_}) {
+    for (Metric* metric : metrics()) {
         grid_->addWidget(metric, index / columns, index % columns);
         ++index;
     }

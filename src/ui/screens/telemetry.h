@@ -2,6 +2,7 @@
 
 #include "model/live_state.h"
 #include "model/settings.h"
+#include "store/link_status.h"
 
 #include <QWidget>
 
@@ -20,14 +21,17 @@ class Telemetry : public QWidget {
 public:
     explicit Telemetry(QWidget* parent);
 
-    void show(const LiveState& state, const Settings& settings, Date now);
+    void show(const LiveState& state, const Settings& settings, Date now, Freshness freshness);
     /// Narrow: two rows of four.
     void setNarrow(bool narrow);
     /// Height that it takes in the given form, pixels.
     static int heightFor(bool narrow);
 
 private:
+    void showNothing();
     void arrange();
+
+    std::array<Metric*, 8> metrics() const;
 
     QGridLayout* grid_;
     Metric* height_;

@@ -13,6 +13,7 @@ CommandMenus::CommandMenus(AppStore& store, QWidget* parent) : QMenuBar(parent),
     buildDrone();
     connect(&store_, &AppStore::stateChanged, this, &CommandMenus::refresh);
     connect(&store_, &AppStore::settingsChanged, this, &CommandMenus::refresh);
+    connect(&store_, &AppStore::freshnessChanged, this, &CommandMenus::refresh);
     refresh();
 }
 
@@ -62,8 +63,9 @@ void CommandMenus::refresh() {
     const bool canStage = !store_.settings().linkMode && phase == Phase::docked;
     for (QAction* visit : visits_)
         visit->setEnabled(canStage);
-    approve_->setEnabled(phase == Phase::awaitingApproval);
-    ignore_->setEnabled(phase == Phase::awaitingApproval);
+    const bool waits = phase == Phase::awaitingApproval && store_.freshness() != Freshness::waiting;
+    approve_->setEnabled(waits);
+    ignore_->setEnabled(waits);
 }
 
 } // namespace velmora

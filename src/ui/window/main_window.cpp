@@ -5,8 +5,12 @@
 #include "ui/look/measures.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/approval_overlay.h"
+#include "ui/screens/cameras_view.h"
 #include "ui/screens/land_confirmation.h"
 #include "ui/screens/live_view.h"
+#include "ui/screens/overview_view.h"
+#include "ui/screens/settings_view.h"
+#include "ui/screens/welcome_view.h"
 #include "ui/window/about_card.h"
 #include "ui/window/command_menus.h"
 #include "ui/window/resize_bands.h"
@@ -46,7 +50,9 @@ MainWindow::MainWindow(AppStore& store)
     connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     showSection();
+    showWelcome();
     showCover();
 }
 
@@ -57,25 +63,30 @@ void MainWindow::buildSections() {
     };
     auto* live = new LiveView(store_, stack_);
     connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
-    frame(Section::overview, tr("Overview"), {tr("Your grounds are "), tr("watched"), tr(".")});
+    sections_[Section::overview] = new OverviewView(store_, stack_);
     sections_[Section::live] = live;
     frame(Section::history, tr("History"), {tr("Every visit, "), tr("on record"), tr(".")});
-    frame(Section::cameras, tr("Cameras"), {tr("What sets off "), tr("an alert"), tr(".")});
-    frame(Section::settings, tr("Settings"), {tr("How the drone "), tr("behaves"), tr(".")});
+    sections_[Section::cameras] = new CamerasView(store_, stack_);
+    sections_[Section::settings] = new SettingsView(store_, stack_);
     for (const auto& [section, screen] : sections_)
         stack_->addWidget(screen);
 }
 
 void MainWindow::layOut() {
-    auto* row = new QHBoxLayout;
+    strip_ = new TitleStrip(menus_, this);
+    house_ = new QWidget(this);
+    auto* row = new QHBoxLayout(house_);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(new Sidebar(store_, this));
+    row->addWidget(new Sidebar(store_, house_));
     row->addWidget(stack_, 1);
+    welcome_ = new WelcomeView(store_, this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new TitleStrip(menus_, this));
-    column->addLayout(row, 1);
+    column->addWidget(strip_);
+    column->addWidget(house_, 1);
+    column->addWidget(welcome_, 1);
 }
 
 /// The sections by number, closing the window, and the menus for those without a mouse. What lies under a
@@ -83,7 +94,7 @@ void MainWindow::layOut() {
 void MainWindow::addShortcuts() {
     const auto add = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, action] {
-            if (!isCovered())
+            if (!isCovered() && !store_.showWelcome())
                 action();
         });
     };
@@ -117,6 +128,13 @@ void MainWindow::showCover() {
     if (approval_->isOpen())
         approval_->raise();
     bands_->raise();
+}
+
+void MainWindow::showWelcome() {
+    const bool welcome = store_.showWelcome();
+    welcome_->setVisible(welcome);
+    house_->setVisible(!welcome);
+    strip_->setOverSidebar(!welcome);
 }
 
 void MainWindow::showSection() {

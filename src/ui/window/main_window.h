@@ -15,6 +15,8 @@ class LandConfirmation;
 class OverlayCard;
 class ResizeBands;
 class SectionStack;
+class TitleStrip;
+class WelcomeView;
 
 /// The app's one window: title strip, sidebar, the selected section, and the cards that lie over all of it.
 class MainWindow : public QWidget {
@@ -33,11 +35,15 @@ private:
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
     void showSection();
+    void showWelcome();
     void showCover();
     bool isCovered() const;
 
     AppStore& store_;
     CommandMenus* menus_;
+    TitleStrip* strip_;
+    QWidget* house_; ///< sidebar and section
+    WelcomeView* welcome_;
     SectionStack* stack_;
     std::map<Section, QWidget*> sections_;
     ApprovalOverlay* approval_;

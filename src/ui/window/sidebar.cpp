@@ -22,15 +22,24 @@ Sidebar::Sidebar(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
     column->addSpacing(Measure::gap20 - Measure::gap4);
     addSections();
     column->addStretch(1);
+    column->addLayout(foot());
+
+    connect(&store_, &AppStore::sectionChanged, this, &Sidebar::showSection);
+    connect(&store_, &AppStore::stateChanged, this, &Sidebar::showFlight);
+    connect(&store_, &AppStore::freshnessChanged, this, &Sidebar::showFlight);
+    showSection();
+    showFlight();
+}
+
+QVBoxLayout* Sidebar::foot() {
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(Measure::sectionPadding, 0, Measure::sectionPadding, 0);
+    column->setSpacing(0);
     column->addWidget(new Hairline(this));
     column->addWidget(new DroneBadge(store_, this));
     column->addWidget(new Hairline(this));
     column->addWidget(new LinkBadge(store_, this));
-
-    connect(&store_, &AppStore::sectionChanged, this, &Sidebar::showSection);
-    connect(&store_, &AppStore::stateChanged, this, &Sidebar::showFlight);
-    showSection();
-    showFlight();
+    return column;
 }
 
 void Sidebar::addSections() {
@@ -58,7 +67,9 @@ void Sidebar::showSection() {
 void Sidebar::showFlight() {
     const Phase phase = store_.state().phase;
     std::optional<SectionMark> mark;
-    if (phase == Phase::awaitingApproval)
+    if (store_.freshness() != Freshness::live)
+        mark = SectionMark{SB::rule, false};
+    else if (phase == Phase::awaitingApproval)
         mark = SectionMark{SB::caution, false};
     else if (airborne(phase))
         mark = SectionMark{SB::dot, true};

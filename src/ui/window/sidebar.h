@@ -6,6 +6,8 @@
 
 #include <map>
 
+class QVBoxLayout;
+
 namespace velmora {
 
 class DroneBadge;
@@ -24,6 +26,7 @@ protected:
 
 private:
     void addSections();
+    QVBoxLayout* foot();
     void showSection();
     void showFlight();
 

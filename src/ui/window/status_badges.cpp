@@ -6,6 +6,7 @@
 #include "ui/look/icons.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/screens/link_color.h"
 #include "ui/words.h"
 
 #include <QHBoxLayout>
@@ -43,19 +44,21 @@ DroneBadge::DroneBadge(AppStore& store, QWidget* parent) : QWidget(parent), stor
     declareRole(this, QAccessible::StaticText);
     connect(&store_, &AppStore::stateChanged, this, &DroneBadge::refresh);
     connect(&store_, &AppStore::settingsChanged, this, &DroneBadge::refresh);
+    connect(&store_, &AppStore::freshnessChanged, this, &DroneBadge::refresh);
     refresh();
 }
 
 void DroneBadge::refresh() {
     const LiveState& state = store_.state();
-    const QString phase = phaseWord(state.phase);
-    const QString battery = rounded(state.drone.battery) + tr("%");
-    const bool low = state.drone.battery <= store_.settings().returnBattery;
+    const bool known = store_.freshness() != Freshness::waiting;
+    const QString phase = known ? phaseWord(state.phase) : tr("No picture yet");
+    const QString battery = known ? rounded(state.drone.battery) + tr("%") : QStringLiteral("—");
+    const bool low = known && state.drone.battery <= store_.settings().returnBattery;
     if (phase == phase_ && battery == battery_ && low == low_)
         return;
     phase_ = phase;
     battery_ = battery;
-    charge_ = state.drone.battery / 100;
+    charge_ = known ? state.drone.battery / 100 : 0;
     low_ = low;
     setAccessibleName(phase_ + ", " + tr("battery %1").arg(battery_));
     update();
@@ -64,7 +67,7 @@ void DroneBadge::refresh() {
 void DroneBadge::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QRectF circle(Measure::sectionPadding, 0, Measure::droneBadgeCircle, Measure::droneBadgeCircle);
+    QRectF circle(0, 0, Measure::droneBadgeCircle, Measure::droneBadgeCircle);
     circle.moveTop((height() - circle.height()) / 2);
     paintDroneInCircle(painter, circle);
 
@@ -88,7 +91,7 @@ LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
       text_(new Text({}, Type::linkStatus, SB::muted, this)) {
     text_->setMaximumLines(3);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Measure::sectionPadding + 2, Measure::gap12, 0, 0);
+    row->setContentsMargins(2, Measure::gap12, 0, 0);
     row->setSpacing(Measure::linkGap);
     auto* firstLine = new QVBoxLayout;
     firstLine->addSpacing(static_cast<int>(Type::linkStatus.line - Measure::statusDot) / 2);
@@ -102,17 +105,7 @@ LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
 
 void LinkBadge::refresh() {
     text_->setText(store_.linkStatus().text());
-    const auto color = [kind = store_.linkStatus().kind] {
-        switch (kind) {
-        case LinkStatus::Case::connecting:
-            return SB::caution;
-        case LinkStatus::Case::failed:
-            return SB::alert;
-        default:
-            return SB::dot;
-        }
-    };
-    dot_->setLook({.color = color()});
+    dot_->setLook({.color = linkColor(store_.linkStatus())});
 }
 
 } // namespace velmora

@@ -1,0 +1,45 @@
+#include "ui/blocks/chip.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double textX = Measure::chipPadding + Measure::statusDotInRow + Measure::gap8;
+constexpr double plate = 0.72;
+
+} // namespace
+
+Chip::Chip(QWidget* parent) : QWidget(parent) {
+    declareRole(this, QAccessible::StaticText);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Chip::setText(const QString& text) {
+    if (text == accessibleName())
+        return;
+    setAccessibleName(text);
+    const double words = textWidth(text, Type::caption.withTabularDigits());
+    resize(static_cast<int>(std::ceil(textX + words)) + Measure::chipPadding, Measure::chipHeight);
+    update();
+}
+
+void Chip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::faded(SB::navy, plate));
+    painter.drawRoundedRect(rect(), Measure::thumbnailRadius, Measure::thumbnailRadius);
+    paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
+                   {.color = SB::dTeal, .diameter = Measure::statusDotInRow});
+    drawText(painter, QRectF(textX, 0, width() - textX, height()), accessibleName(),
+             Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
+}
+
+} // namespace velmora

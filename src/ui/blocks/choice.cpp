@@ -1,0 +1,121 @@
+#include "ui/blocks/choice.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/blocks/focus_ring.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QHBoxLayout>
+
+#include <cmath>
+
+namespace velmora {
+
+RadioChoice::RadioChoice(const QString& text, QWidget* parent) : QRadioButton(text, parent) {
+    setAccessibleName(text);
+    setFixedHeight(Measure::radioRow);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    FocusRing::setLook(this, {Measure::thumbnailRadius});
+}
+
+QSize RadioChoice::sizeHint() const {
+    const double width = Measure::radioCircle + Measure::radioGap + textWidth(text(), Type::body);
+    return {static_cast<int>(std::ceil(width)) + 1, Measure::radioRow};
+}
+
+bool RadioChoice::hitButton(const QPoint& position) const {
+    return rect().contains(position);
+}
+
+void RadioChoice::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QRectF circle(0, (height() - Measure::radioCircle) / 2.0, Measure::radioCircle, Measure::radioCircle);
+    painter.setBrush(SB::page);
+    if (isChecked()) {
+        constexpr double ring = Measure::radioRing;
+        painter.setPen(QPen(SB::teal, ring));
+        painter.drawEllipse(circle.adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2));
+    } else {
+        painter.setPen(SB::faded(SB::muted, underMouse() ? 0.8 : 0.55));
+        painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    const QRectF words(circle.right() + Measure::radioGap, 0, width(), height());
+    drawText(painter, words, text(), Type::body, SB::ink, Qt::AlignVCenter);
+}
+
+/// One option of a segmented choice.
+class SegmentedChoice::Segment : public QAbstractButton {
+public:
+    Segment(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+        setText(text);
+        setAccessibleName(text);
+        setCheckable(true);
+        setAutoExclusive(true);
+        setFocusPolicy(Qt::StrongFocus);
+        FocusRing::setLook(this, {Measure::thumbnailRadius});
+    }
+
+    QSize sizeHint() const override {
+        const double words = textWidth(text(), Type::segmentChosen);
+        return {static_cast<int>(std::ceil(words)) + 2 * Measure::segmentPadding,
+                Measure::segmentedHeight - 2 * Measure::segmentInset};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (isChecked()) {
+            painter.setPen(SB::rule);
+            painter.setBrush(SB::page);
+            painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::thumbnailRadius,
+                                    Measure::thumbnailRadius);
+        }
+        drawText(painter, rect(), text(), isChecked() ? Type::segmentChosen : Type::segment,
+                 isChecked() || underMouse() ? SB::ink : SB::muted, Qt::AlignCenter);
+    }
+};
+
+SegmentedChoice::SegmentedChoice(const QString& name, const QStringList& options, bool wide, QWidget* parent)
+    : QWidget(parent) {
+    declareRole(this, QAccessible::Grouping);
+    setAccessibleName(name);
+    setFixedHeight(Measure::segmentedHeight);
+    setSizePolicy(wide ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(Measure::segmentInset, Measure::segmentInset, Measure::segmentInset,
+                            Measure::segmentInset);
+    row->setSpacing(0);
+    for (const QString& option : options) {
+        const int index = static_cast<int>(segments_.size());
+        auto* segment = new Segment(option, this);
+        row->addWidget(segment, wide ? 1 : 0);
+        connect(segment, &QAbstractButton::toggled, this, [this, index](bool on) {
+            if (!on || index == chosen_)
+                return;
+            chosen_ = index;
+            emit chose(index);
+        });
+        segments_.push_back(segment);
+    }
+    show(0);
+}
+
+void SegmentedChoice::show(int option) {
+    chosen_ = option;
+    segments_[static_cast<std::size_t>(option)]->setChecked(true);
+}
+
+void SegmentedChoice::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(SB::rule);
+    painter.setBrush(SB::panel);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::buttonRadius,
+                            Measure::buttonRadius);
+}
+
+} // namespace velmora

@@ -1,0 +1,48 @@
+#include "ui/blocks/confirmation_card.h"
+
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QVBoxLayout>
+
+namespace velmora {
+
+ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
+    : OverlayCard(Measure::confirmationCard, window),
+      body_(new Text(words.body, Type::confirmationBody, SB::body, card())),
+      keep_(new SBButton(words.keep, {.kind = SBButtonKind::secondary}, card())) {
+    setAccessibleName(words.title);
+    auto* act = new SBButton(words.act, {.kind = SBButtonKind::danger}, card());
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Measure::gap12);
+    buttons->addStretch(1);
+    buttons->addWidget(keep_);
+    buttons->addWidget(act);
+
+    column()->setContentsMargins(Measure::confirmationMargins);
+    column()->addWidget(new Text(words.title, Type::confirmationTitle, SB::ink, card()));
+    column()->addSpacing(Measure::gap8);
+    column()->addWidget(body_);
+    column()->addSpacing(Measure::gap24);
+    column()->addLayout(buttons);
+
+    connect(keep_, &SBButton::clicked, this, &OverlayCard::close);
+    connect(this, &OverlayCard::dismissed, this, &OverlayCard::close);
+    connect(act, &SBButton::clicked, this, [this] {
+        close();
+        emit confirmed();
+    });
+}
+
+void ConfirmationCard::setBody(const QString& body) {
+    body_->setText(body);
+}
+
+/// Its ring is shown whatever opened the card: what Enter would do must be plain to see.
+void ConfirmationCard::takeFirstFocus() {
+    keep_->setFocus(Qt::TabFocusReason);
+}
+
+} // namespace velmora

@@ -1,0 +1,43 @@
+#include "ui/blocks/link_button.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QKeyEvent>
+
+#include <cmath>
+
+namespace velmora {
+
+LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(parent) {
+    setText(text);
+    setAccessibleName(text);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+    FocusRing::setLook(this, {Measure::badgeRadius});
+}
+
+QSize LinkButton::sizeHint() const {
+    return {static_cast<int>(std::ceil(textWidth(text(), Type::link))) + 1,
+            static_cast<int>(Type::link.line)};
+}
+
+void LinkButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void LinkButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawText(painter, rect(), text(), Type::link, SB::blue, Qt::AlignVCenter);
+    if (underMouse())
+        painter.fillRect(QRectF(0, std::round(height() / 2.0 + Type::link.size / 2), width(), 1), SB::blue);
+}
+
+} // namespace velmora

@@ -1,0 +1,88 @@
+#include "ui/blocks/overlay_scroll_bar.h"
+
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr int shownFor = 900; // milliseconds after the last movement
+constexpr double shortestThumb = 32;
+
+} // namespace
+
+OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent) : QWidget(parent), model_(model) {
+    rest_.setSingleShot(true);
+    rest_.setInterval(shownFor);
+    connect(&rest_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    connect(model, &QScrollBar::valueChanged, this, [this] {
+        rest_.start();
+        update();
+    });
+    connect(model, &QScrollBar::rangeChanged, this, [this] { setVisible(model_->maximum() > 0); });
+    hide();
+}
+
+void OverlayScrollBar::place() {
+    const QSize size = parentWidget()->size();
+    setGeometry(size.width() - Measure::scrollBar - Measure::scrollBarEdge, 0, Measure::scrollBar,
+                size.height());
+    raise();
+}
+
+QRectF OverlayScrollBar::thumb() const {
+    const double whole = model_->maximum() + model_->pageStep();
+    const double length = std::max(shortestThumb, height() * model_->pageStep() / whole);
+    const double top = (height() - length) * model_->value() / std::max(model_->maximum(), 1);
+    return {0, top, static_cast<double>(Measure::scrollBar), length};
+}
+
+void OverlayScrollBar::scrollTo(double top) {
+    const double room = std::max(height() - thumb().height(), 1.0);
+    model_->setValue(static_cast<int>(top / room * model_->maximum()));
+}
+
+void OverlayScrollBar::paintEvent(QPaintEvent*) {
+    if (!rest_.isActive() && !underMouse() && !held_)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::rule);
+    painter.drawRoundedRect(thumb(), Measure::scrollBar / 2.0, Measure::scrollBar / 2.0);
+}
+
+void OverlayScrollBar::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void OverlayScrollBar::leaveEvent(QEvent*) {
+    update();
+}
+
+void OverlayScrollBar::mousePressEvent(QMouseEvent* event) {
+    held_ = true;
+    const double y = event->position().y();
+    if (y < thumb().top() || y > thumb().bottom())
+        scrollTo(y - thumb().height() / 2);
+    grip_ = y - thumb().top();
+}
+
+void OverlayScrollBar::mouseMoveEvent(QMouseEvent* event) {
+    if (held_)
+        scrollTo(event->position().y() - grip_);
+}
+
+void OverlayScrollBar::mouseReleaseEvent(QMouseEvent*) {
+    held_ = false;
+    update();
+}
+
+} // namespace velmora

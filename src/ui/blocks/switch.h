@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QVariantAnimation>
+
+namespace velmora {
+
+/// A switch that is on or off. Space turns it.
+class Switch : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    Switch(const QString& name, QWidget* parent);
+
+    /// Shows a value without emitting `turned`.
+    void show(bool on);
+    using QAbstractButton::show;
+
+signals:
+    /// The owner turned it.
+    void turned(bool on);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void slide(bool on);
+
+    QVariantAnimation position_; ///< of the thumb: 0 off, 1 on
+};
+
+} // namespace velmora

@@ -1,0 +1,48 @@
+#include "ui/blocks/text_field.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+namespace velmora {
+
+TextField::TextField(const QString& name, const QString& placeholder, QWidget* parent) : QLineEdit(parent) {
+    setAccessibleName(name);
+    setPlaceholderText(placeholder);
+    setFixedHeight(Measure::fieldHeight);
+    setFont(fontOf(Type::body));
+    setFrame(false);
+    setTextMargins(Measure::fieldPadding - 2, 0, Measure::fieldPadding - 2,
+                   0); // Qt adds two pixels of its own
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    setPalette(colors);
+    FocusRing::setLook(this, {.radius = Measure::thumbnailRadius, .field = true});
+}
+
+void TextField::show(const QString& text) {
+    if (text != this->text())
+        setText(text);
+}
+
+void TextField::setRefused(bool refused) {
+    if (refused == refused_)
+        return;
+    refused_ = refused;
+    update();
+}
+
+void TextField::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(refused_ ? SB::alert : hasFocus() ? SB::blue : SB::rule);
+        painter.setBrush(isEnabled() ? SB::page : SB::panel);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::thumbnailRadius,
+                                Measure::thumbnailRadius);
+    }
+    QLineEdit::paintEvent(event);
+}
+
+} // namespace velmora

@@ -1,0 +1,108 @@
+#include "ui/screens/activity_list.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/blocks/link_button.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/blocks/text.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/outcomes.h"
+#include "ui/words.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+/// One record in one line.
+class ActivityRow : public QAbstractButton {
+public:
+    explicit ActivityRow(QWidget* parent) : QAbstractButton(parent) {
+        setFixedHeight(Measure::activityRow);
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::PointingHandCursor);
+        setAttribute(Qt::WA_Hover);
+        FocusRing::setLook(this, {Measure::badgeRadius});
+    }
+
+    void setRecord(const MissionRecord& record, Date now) {
+        id = record.id;
+        color_ = outcomeColor(record.outcome);
+        time_ = dayAndTime(record.start, now);
+        setText(outcomeText(record.outcome));
+        setAccessibleName(text() + ", " + time_);
+        update();
+    }
+
+    std::string id;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    }
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        paintStatusDot(painter, {Measure::activityDotX, height() / 2.0},
+                       {.color = color_, .diameter = Measure::statusDotInRow});
+        const double timeWidth = textWidth(time_, Type::label2);
+        const QRectF line = QRectF(rect()).adjusted(Measure::activityTitleX, 0, 0, 0);
+        drawText(painter, line.adjusted(0, 0, -timeWidth - Measure::gap12, 0), text(), Type::compactRow,
+                 underMouse() ? SB::blue : SB::ink, Qt::AlignVCenter);
+        drawText(painter, line, time_, Type::label2, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
+        painter.fillRect(0, height() - 1, width(), 1, SB::rule2);
+    }
+
+private:
+    QColor color_;
+    QString time_;
+};
+
+ActivityList::ActivityList(AppStore& store, QWidget* parent)
+    : QWidget(parent), store_(store), shown_(Measure::activityRows) {
+    auto* heading = new QHBoxLayout;
+    auto* all = new LinkButton(tr("All activity →"), this);
+    heading->addWidget(new Text(tr("Recent activity"), Type::groupHeading, SB::ink, this), 1);
+    heading->addWidget(all, 0, Qt::AlignVCenter);
+    nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
+                        Type::body, SB::body, this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(heading);
+    column->addSpacing(Measure::gap4);
+    column->addWidget(nothing_);
+    for (int i = 0; i < Measure::activityRows; ++i) {
+        auto* row = new ActivityRow(this);
+        column->addWidget(row);
+        connect(row, &QAbstractButton::clicked, this, [this, row] {
+            store_.setSelectedRecord(row->id);
+            store_.setSection(Section::history);
+        });
+        rows_.push_back(row);
+    }
+    connect(all, &QAbstractButton::clicked, this, [this] { store_.setSection(Section::history); });
+}
+
+void ActivityList::setRows(int rows) {
+    if (static_cast<std::size_t>(rows) == shown_)
+        return;
+    shown_ = static_cast<std::size_t>(rows);
+    refresh();
+}
+
+void ActivityList::refresh() {
+    const auto& history = store_.history();
+    nothing_->setVisible(history.empty());
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const bool used = i < history.size() && i < shown_;
+        rows_[i]->setVisible(used);
+        if (used)
+            rows_[i]->setRecord(history[i], store_.now());
+    }
+}
+
+} // namespace velmora

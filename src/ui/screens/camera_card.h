@@ -1,0 +1,49 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class ArtImage;
+class StatusDot;
+class Switch;
+class Text;
+class ToggleRow;
+
+/// One camera: what it sees, whether it is online, and what sets off an alert there.
+class CameraCard : public QWidget {
+    Q_OBJECT
+
+public:
+    CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent);
+
+    const std::string& id() const { return cam_.id; }
+    void refresh(const CameraInfo& cam);
+    int heightForWidth(int width) const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    using Switches = std::map<std::string, bool> Settings::*;
+
+    QWidget* buildName();
+    ToggleRow* toggleRow(const QString& title, const QString& detail, Switches which);
+    void turn(Switches which, bool on);
+    bool reading(Switches which, bool without) const;
+
+    AppStore& store_;
+    CameraInfo cam_;
+    ArtImage* picture_;
+    Text* name_;
+    Text* alerts_;
+    StatusDot* dot_;
+    Text* online_;
+    ToggleRow* faces_;
+    ToggleRow* people_;
+    QWidget* words_;
+};
+
+} // namespace velmora

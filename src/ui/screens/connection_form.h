@@ -1,0 +1,41 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class Fold;
+class RadioChoice;
+class StatusDot;
+class Text;
+class TextField;
+
+/// Demo mode or a server, and the server's address.
+class ConnectionForm : public QWidget {
+    Q_OBJECT
+
+public:
+    ConnectionForm(AppStore& store, QWidget* parent);
+
+    void refresh();
+
+private:
+    QWidget* buildServer();
+    void storeHost(const QString& host);
+    void storePort(const QString& port);
+    void showPort();
+
+    AppStore& store_;
+    RadioChoice* demo_;
+    RadioChoice* server_;
+    Fold* serverFold_;
+    TextField* host_;
+    TextField* port_;
+    Text* refusal_;
+    StatusDot* dot_;
+    Text* status_;
+};
+
+} // namespace velmora

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store/link_status.h"
+#include "ui/look/tokens.h"
+
+namespace velmora {
+
+/// The dot that stands for a link status everywhere.
+inline QColor linkColor(const LinkStatus& status) {
+    switch (status.kind) {
+    case LinkStatus::Case::connecting:
+        return SB::caution;
+    case LinkStatus::Case::failed:
+        return SB::alert;
+    case LinkStatus::Case::connected:
+    case LinkStatus::Case::demo:
+        break;
+    }
+    return SB::dot;
+}
+
+} // namespace velmora

@@ -1,0 +1,25 @@
+#include "ui/screens/outcomes.h"
+
+#include "ui/look/tokens.h"
+#include "ui/words.h"
+
+namespace velmora {
+
+QColor outcomeColor(Outcome outcome) {
+    if (flew(outcome))
+        return SB::teal;
+    return outcome == Outcome::windTooHigh ? SB::caution : SB::rule;
+}
+
+QString outcomeText(Outcome outcome) {
+    return toQString(rawValue(outcome));
+}
+
+Sentence outcomeSentence(Outcome outcome) {
+    constexpr qsizetype emphasisedWords = 2;
+    const QString text = outcomeText(outcome);
+    const QString emphasis = text.section(' ', -emphasisedWords);
+    return {text.chopped(emphasis.size()), emphasis, {}};
+}
+
+} // namespace velmora

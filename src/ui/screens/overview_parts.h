@@ -1,0 +1,70 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace velmora {
+
+class SBButton;
+class StatusDot;
+class Text;
+
+/// Whether the system is armed, and the button that changes it.
+class ArmSwitch : public QWidget {
+    Q_OBJECT
+
+public:
+    ArmSwitch(AppStore& store, QWidget* parent);
+
+    void refresh();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    AppStore& store_;
+    StatusDot* dot_;
+    Text* word_;
+    SBButton* disarm_;
+    SBButton* arm_;
+};
+
+/// The dark line that says what the mission under way is doing, and leads to it.
+class ActiveBanner : public QWidget {
+    Q_OBJECT
+
+public:
+    ActiveBanner(AppStore& store, QWidget* parent);
+
+    void refresh();
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    AppStore& store_;
+    StatusDot* dot_;
+    Text* phase_;
+};
+
+/// What may be started from the overview: a demo visit, or the launch while an alert waits.
+class VisitOffers : public QWidget {
+    Q_OBJECT
+
+public:
+    VisitOffers(AppStore& store, QWidget* parent);
+
+    void refresh();
+
+private:
+    AppStore& store_;
+    Text* heading_;
+    std::vector<SBButton*> visits_;
+    SBButton* launch_;
+};
+
+} // namespace velmora

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class ArmSwitch;
+class Page;
+
+/// Overview: a calm summary of the grounds.
+class OverviewView : public QWidget {
+    Q_OBJECT
+
+public:
+    OverviewView(AppStore& store, QWidget* parent);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    class Content;
+
+    void refresh();
+
+    AppStore& store_;
+    ArmSwitch* armSwitch_;
+    Content* content_;
+    Page* page_;
+};
+
+} // namespace velmora

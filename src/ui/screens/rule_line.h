@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+namespace velmora {
+
+/// One of the fixed rules, behind a bullet.
+class RuleLine : public QWidget {
+    Q_OBJECT
+
+public:
+    RuleLine(const QString& rule, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace velmora

@@ -1,0 +1,76 @@
+#include "ui/screens/stale_banner.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/words.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace velmora {
+
+StaleBanner::StaleBanner(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      title_(new Text({}, Type::staleTitle, SB::alert, this)),
+      detail_(new Text({}, Type::body, SB::body, this)) {
+    declareRole(this, QAccessible::AlertMessage);
+    auto* settings = new SBButton(tr("Connection settings"), {.kind = SBButtonKind::quiet}, this);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(0);
+    words->addWidget(title_);
+    words->addWidget(detail_);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(Measure::staleMargins + QMargins(Measure::gap20 + Measure::gap16, 0, 0, 0));
+    row->setSpacing(Measure::gap16);
+    row->addLayout(words, 1);
+    row->addWidget(settings, 0, Qt::AlignVCenter);
+    connect(settings, &SBButton::clicked, this, [this] { store_.setSection(Section::settings); });
+    connect(&store_, &AppStore::linkStatusChanged, this, &StaleBanner::refresh);
+    connect(&store_, &AppStore::freshnessChanged, this, &StaleBanner::refresh);
+    connect(&everySecond_, &QTimer::timeout, this, &StaleBanner::refresh);
+    everySecond_.setInterval(1000);
+}
+
+QString StaleBanner::pictureAge(const AppStore& store) {
+    return store.heardAt() ? tr("Picture %1 old").arg(age(store.now() - *store.heardAt())) : QString();
+}
+
+void StaleBanner::refresh() {
+    if (!isVisible() || store_.freshness() == Freshness::live)
+        return;
+    title_->setText(store_.linkStatus().text());
+    const QString trying = tr("Trying again twice a second. Commands may not arrive until the link is back.");
+    detail_->setText(store_.heardAt()
+                         ? tr("This picture is %1 old, last received at %2. ")
+                                   .arg(age(store_.now() - *store_.heardAt()), timeOfDay(*store_.heardAt())) +
+                               trying
+                         : tr("No picture received yet. ") + trying);
+    setAccessibleName(title_->text());
+}
+
+void StaleBanner::showEvent(QShowEvent*) {
+    refresh();
+    everySecond_.start();
+}
+
+void StaleBanner::hideEvent(QHideEvent*) {
+    everySecond_.stop();
+}
+
+void StaleBanner::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(SB::faded(SB::alert, 0.24));
+    painter.setBrush(SB::faded(SB::alert, 0.05));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::cardRadius,
+                            Measure::cardRadius);
+    QRectF icon(Measure::staleMargins.left(), 0, Measure::gap20, Measure::gap20);
+    icon.moveTop((height() - icon.height()) / 2);
+    paintIcon(painter, icon, Icon::brokenLink, SB::alert);
+}
+
+} // namespace velmora

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QTimer>
+#include <QWidget>
+
+namespace velmora {
+
+class Text;
+
+/// Says that the picture is old, or that none has come yet: why, how old it is, and where to look.
+class StaleBanner : public QWidget {
+    Q_OBJECT
+
+public:
+    StaleBanner(AppStore& store, QWidget* parent);
+
+    /// "Picture 42 s old".
+    static QString pictureAge(const AppStore& store);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void refresh();
+
+    AppStore& store_;
+    Text* title_;
+    Text* detail_;
+    QTimer everySecond_;
+};
+
+} // namespace velmora

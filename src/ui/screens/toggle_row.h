@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+namespace velmora {
+
+class Switch;
+
+/// A switch with its title and a detail beside it. A click on the words turns it too.
+class ToggleRow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `where` tells switches of the same title apart for assistive technology.
+    ToggleRow(const QString& title, const QString& detail, const QString& where, QWidget* parent);
+
+    /// Shows a value without emitting `turned`.
+    void show(bool on);
+    using QWidget::show;
+
+signals:
+    void turned(bool on);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    Switch* switch_;
+};
+
+} // namespace velmora

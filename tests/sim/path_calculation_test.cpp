@@ -1,0 +1,155 @@
+#include "simulator_fixture.h"
+
+#include <algorithm>
+#include <complex>
+
+namespace velmora {
+
+namespace {
+
+using Plane = std::complex<double>;
+
+constexpr double tick = 0.1;           // seconds, of a rehearsal
+constexpr std::size_t sampleEvery = 5; // ticks
+
+struct Stop {
+    Plane at;
+    double linger = 0; // seconds
+};
+
+const std::map<Scenario, std::vector<Stop>> walks = {
+    {Scenario::driveway,
+     {{{14, 88}},
+      {{22, 79}},
+      {{31, 66}},
+      {{41, 58}},
+      {{53, 54}, 7},
+      {{66, 61}},
+      {{90, 74}, 5},
+      {{112, 80}},
+      {{133, 84}},
+      {{152, 86}}}},
+    {Scenario::garden, {{{137, 17}}, {{120, 21}}, {{103, 30}, 8}, {{110, 47}}, {{129, 57}, 4}, {{152, 60}}}},
+    {Scenario::front, {{{104, 88}}, {{95, 78}}, {{82, 63}, 6}, {{61, 73}}, {{43, 84}, 3}, {{38, 99}}}},
+};
+
+/// How many ticks a count of seconds lasts when it is run down tick by tick.
+std::size_t ticksOf(double seconds) {
+    std::size_t ticks = 0;
+    for (double left = seconds; left > 0; left -= tick)
+        ++ticks;
+    return ticks;
+}
+
+bool onGrounds(Plane at) {
+    return at.real() >= 7.4 && at.real() <= 142.6 && at.imag() >= 6.6 && at.imag() <= 90.6;
+}
+
+/// Where the visitor is after each tick, in closed form leg by leg, for as long as the simulator keeps a
+/// visitor: up to the tick in which more than six seconds outside have passed.
+std::vector<Plane> walkOf(Scenario scenario) {
+    const double stride = 1.45 * tick;
+    const std::vector<Stop>& stops = walks.at(scenario);
+    std::vector<Plane> walk;
+    for (std::size_t leg = 1; leg < stops.size(); ++leg) {
+        const Plane from = stops[leg - 1].at, way = stops[leg].at - from;
+        for (int strides = 1; strides * stride < std::abs(way); ++strides)
+            walk.push_back(from + way / std::abs(way) * (strides * stride));
+        walk.insert(walk.end(), 1 + ticksOf(stops[leg].linger), stops[leg].at);
+    }
+    const auto left = std::ranges::find_if_not(walk, onGrounds);
+    walk.resize(static_cast<std::size_t>(left - walk.begin()));
+    Plane outside = stops.back().at - stops[stops.size() - 2].at;
+    outside *= stride / std::abs(outside);
+    double patience = 0;
+    for (patience += tick; patience <= 6; patience += tick) {
+        const Plane next = walk.back() + outside;
+        walk.push_back(
+            std::abs(next - walk.back()) < std::abs(stops.back().at - walk.back()) ? next : stops.back().at);
+    }
+    return walk;
+}
+
+/// Where the drone is after each tick from the approval on, up to the first gust, which is due after 20
+/// seconds in the air.
+std::vector<Plane> flightBeforeGust(const std::vector<Plane>& walk, std::size_t approvedAt) {
+    const Plane home{74, 70.7};
+    const std::size_t launchTicks = 50; // 15 m at 3 m/s
+    std::vector<Plane> flight(launchTicks, home);
+    const auto capped = [](Plane v, double limit) {
+        return std::abs(v) > limit ? std::polar(limit, std::arg(v)) : v;
+    };
+    const auto buffered = [](Plane at) {
+        return Plane{std::clamp(at.real(), 12.4, 137.6), std::clamp(at.imag(), 11.6, 85.6)};
+    };
+    Plane at = home, speed = 0;
+    bool following = false;
+    while (flight.size() + 1 < ticksOf(20)) {
+        const Plane visitor = walk.at(approvedAt + flight.size());
+        const Plane target = buffered(visitor + std::polar(15.0, std::arg(at - visitor)));
+        const Plane wish = capped((target - at) * 0.9, following ? 7 : 9);
+        speed += capped(wish - speed, 4 * tick);
+        at = buffered(at + speed * tick);
+        following = following || std::abs(at - target) < 3;
+        flight.push_back(at);
+    }
+    return flight;
+}
+
+/// Every half second's point of positions that begin in the given tick.
+std::vector<Plane> sampled(const std::vector<Plane>& positions, std::size_t firstTick) {
+    std::vector<Plane> samples;
+    for (std::size_t i = 0; i < positions.size(); ++i)
+        if ((firstTick + i + 1) % sampleEvery == 0)
+            samples.push_back(positions[i]);
+    return samples;
+}
+
+void expectBegins(const std::vector<P>& path, const std::vector<Plane>& expected, std::size_t count) {
+    ASSERT_LE(count, expected.size());
+    ASSERT_GE(path.size(), count);
+    for (std::size_t i = 0; i < count; ++i)
+        ASSERT_LT(std::abs(Plane(path[i].x, path[i].y) - expected[i]), 1e-9) << "at sample " << i;
+}
+
+struct Rehearsed {
+    Scenario scenario;
+    std::optional<double> approveAfter, returnAfter;
+};
+
+class PathCalculation : public testing::TestWithParam<Rehearsed> {};
+
+} // namespace
+
+TEST_P(PathCalculation, TheRehearsedPathsAgreePointForPoint) {
+    const auto [scenario, approveAfter, returnAfter] = GetParam();
+    SeededRandom random(5);
+    const Date start = dateFromSeconds(1'748'786'592);
+    const auto record = Simulator::rehearse(scenario, approveAfter, returnAfter, start, Settings{}, random);
+    ASSERT_TRUE(record);
+
+    const std::vector<Plane> walk = walkOf(scenario);
+    const auto lastTick = static_cast<std::size_t>(std::lround((record->end - record->start).count() / tick));
+    const std::size_t seenTicks = std::min(lastTick, walk.size());
+    expectBegins(record->visitorPath, sampled(walk, 0), record->visitorPath.size());
+    EXPECT_EQ(record->visitorPath.size(), seenTicks / sampleEvery);
+    if (!approveAfter)
+        return EXPECT_TRUE(record->dronePath.empty()), void();
+
+    const auto approvedAt = static_cast<std::size_t>(std::lround(*approveAfter / tick));
+    const std::vector<Plane> flight = sampled(flightBeforeGust(walk, approvedAt), approvedAt);
+    ASSERT_GT(flight.size(), 35u) << "nearly 20 seconds";
+    expectBegins(record->dronePath, flight, flight.size());
+    EXPECT_EQ(record->dronePath.size(), lastTick / sampleEvery - approvedAt / sampleEvery);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeded, PathCalculation,
+                         testing::Values(Rehearsed{Scenario::driveway, 9, {}},
+                                         Rehearsed{Scenario::garden, 6, 70},
+                                         Rehearsed{Scenario::front, {}, {}}));
+INSTANTIATE_TEST_SUITE_P(WholeWalks, PathCalculation,
+                         testing::Values(Rehearsed{Scenario::front, 20, {}},
+                                         Rehearsed{Scenario::garden, 31, {}},
+                                         Rehearsed{Scenario::driveway, 45.3, {}}));
+
+} // namespace velmora
