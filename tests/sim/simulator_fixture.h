@@ -36,12 +36,9 @@ public:
     double uniform(double low, double high) override {
         return low + (high - low) * (static_cast<double>(generator_() >> 11) * 0x1p-53);
     }
+    Uuid uuid() override { return Uuid::fromRandomBits(0, generator_()); }
     bool chance(double probability) { return uniform(0, 1) < probability; }
-    double whole(double low, double high) { return std::floor(uniform(low, high + 1)); }
-    Uuid uuid() override {
-        const std::uint64_t high = generator_();
-        return Uuid::fromRandomBits(high, generator_());
-    }
+    std::size_t below(std::size_t limit) { return generator_() % limit; }
 
 private:
     std::mt19937_64 generator_;
@@ -56,13 +53,10 @@ protected:
 
     void visit(Scenario scenario) { simulator.trigger(scenario, now); }
     void send(Command command) { simulator.send(command, now); }
-    void step(double dt) {
-        now += Seconds{dt};
-        simulator.step(dt, now);
-    }
-    void fly(double seconds) {
-        for (int i = 0; i < std::lround(seconds / 0.05); ++i)
-            step(0.05);
+    void step(double dt) { simulator.step(dt, now += Seconds{dt}); }
+    void fly(double seconds, double dt = 0.05) {
+        for (long steps = std::lround(seconds / dt); steps > 0; --steps)
+            step(dt);
     }
     /// Lets at most ten minutes pass until the phase is reached.
     void flyUntil(Phase phase) {
@@ -76,22 +70,21 @@ protected:
         send(Command::approve);
         flyUntil(phase);
     }
-    void visitorVanishes() { state.visitor.reset(); }
+    void stand(P visitor) {
+        state.visitor->pos = visitor;
+        step(0);
+    }
 
     std::string latest() const { return state.notices.empty() ? "" : state.notices.front().text; }
-    std::ptrdiff_t noticed(std::string_view text) const {
-        return std::ranges::count(state.notices, text, &Notice::text);
-    }
 
     ScriptedRandom random;
     Simulator simulator{LiveState::initial(), Settings{}, random};
     LiveState& state = simulator.state;
     DroneState& drone = simulator.state.drone;
     Settings& settings = simulator.settings;
+    const P pad = state.site.pad;
     Date now = dateFromSeconds(1'700'000'042);
     std::vector<MissionRecord> records;
 };
-
-inline const P pad{74, 70.7};
 
 } // namespace velmora

@@ -12,16 +12,19 @@ namespace velmora {
 
 namespace {
 
-/// Words with the space that follows them, so that their widths add up to the text's.
+/// Words with the space or line break that follows them, so that their widths add up to the text's.
 QStringList wordsOf(const QString& text) {
     QStringList words;
-    qsizetype from = 0;
-    for (qsizetype space = text.indexOf(' '); space >= 0; space = text.indexOf(' ', from)) {
-        words.append(text.mid(from, space + 1 - from));
-        from = space + 1;
+    QString word;
+    for (const QChar character : text) {
+        word += character;
+        if (character.isSpace()) {
+            words.append(word);
+            word.clear();
+        }
     }
-    if (from < text.size())
-        words.append(text.mid(from));
+    if (!word.isEmpty())
+        words.append(word);
     return words;
 }
 
@@ -46,7 +49,7 @@ void Headline::setSentence(const Sentence& sentence) {
 }
 
 void Headline::describe() {
-    setAccessibleName(sentence_.lead + sentence_.emphasis + sentence_.tail);
+    setAccessibleName(QString(sentence_.lead + sentence_.emphasis + sentence_.tail).replace('\n', ' '));
 }
 
 QSize Headline::sizeHint() const {
@@ -83,7 +86,12 @@ std::vector<Headline::Piece> Headline::pieces(double width) const {
                 shown.push_back({{}, emphasised, x, line});
             shown.back().text += word;
             x += metrics.horizontalAdvance(word);
-            canBreak = word.endsWith(' ');
+            canBreak = word.back().isSpace();
+            if (word.endsWith('\n')) {
+                shown.back().text.chop(1);
+                x = 0;
+                ++line;
+            }
         }
     }
     return shown;

@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-/// A sentence in three runs; the middle one carries the gradient.
+/// A sentence in three runs; the middle one carries the gradient. A line break in it is kept.
 struct Sentence {
     QString lead;
     QString emphasis;

@@ -21,7 +21,13 @@ enum class Icon {
     check,
     paperPlane,
     brokenLink,
-    drone
+    drone,
+    chevron,
+    exportRecord,
+    deleteRecord,
+    play,
+    pause,
+    search
 };
 
 /// Draws the icon in one colour, fitted into the rectangle.

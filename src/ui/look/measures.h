@@ -130,6 +130,22 @@ inline constexpr double cameraRatio = 16.0 / 9;
 inline constexpr double cameraDot = 7;
 inline constexpr int toggleRow = 66;
 
+// History
+inline constexpr int historyPane = 376, historyPaneNarrow = 320;
+inline constexpr int historyLeft = 40, historyLeftNarrow = 28, historyRight = 24;
+inline constexpr int recordRow = 60, dayRow = 30, recordInset = 12, recordTitleTop = 10;
+inline constexpr int selectionBar = 3;
+inline constexpr QSize thumbnail(36, 24);
+inline constexpr int chevron = 14;
+inline constexpr int historyFoot = 60;
+inline constexpr int undoSeconds = 10;
+inline constexpr int detailLeft = 32, detailRight = 40;
+inline constexpr int detailLog = 170; // that the replay map leaves for the log
+inline constexpr QSize alertPicture(192, 108);
+inline constexpr int emptyIcon = 40, emptyWidth = 340;
+inline constexpr int replaySlider = 28;
+inline constexpr double replayTrack = 4, replayThumb = 14, replayMark = 6;
+
 // Settings
 inline constexpr int settingsWidth = 860;
 inline constexpr int radioIndent = 26;

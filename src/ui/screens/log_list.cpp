@@ -6,6 +6,7 @@
 #include "ui/look/tokens.h"
 #include "ui/words.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -80,6 +81,14 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
         if (i < notices.size())
             rows_[i]->setNotice(notices[i]);
     }
+}
+
+void LogList::mouseReleaseEvent(QMouseEvent* event) {
+    for (std::size_t i = 0; i < notices_.size(); ++i)
+        if (rows_[i]->geometry().contains(event->pos())) {
+            emit activated(notices_[i]);
+            return;
+        }
 }
 
 } // namespace velmora

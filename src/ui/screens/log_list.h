@@ -21,6 +21,13 @@ public:
 
     void setNotices(const std::vector<Notice>& notices);
 
+signals:
+    /// A click on a notice.
+    void activated(const velmora::Notice& notice);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
 private:
     QVBoxLayout* column_;
     std::vector<LogRow*> rows_;

@@ -1,11 +1,12 @@
 #include "ui/window/main_window.h"
 
+#include "ui/blocks/confirmation_card.h"
 #include "ui/blocks/focus_ring.h"
-#include "ui/blocks/page.h"
 #include "ui/look/measures.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/approval_overlay.h"
 #include "ui/screens/cameras_view.h"
+#include "ui/screens/history/history_view.h"
 #include "ui/screens/land_confirmation.h"
 #include "ui/screens/live_view.h"
 #include "ui/screens/overview_view.h"
@@ -23,6 +24,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace velmora {
 
 MainWindow::MainWindow(AppStore& store)
@@ -37,9 +40,11 @@ MainWindow::MainWindow(AppStore& store)
 
     approval_ = new ApprovalOverlay(store_, this);
     landing_ = new LandConfirmation(store_, this);
+    clearing_ = new ConfirmationCard(
+        {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
     about_ = new AboutCard(this);
     for (OverlayCard* overlay : {static_cast<OverlayCard*>(approval_), static_cast<OverlayCard*>(landing_),
-                                 static_cast<OverlayCard*>(about_)})
+                                 static_cast<OverlayCard*>(clearing_), static_cast<OverlayCard*>(about_)})
         addOverlay(overlay);
     new FocusRing(this);
     bands_ = new ResizeBands(this);
@@ -48,6 +53,7 @@ MainWindow::MainWindow(AppStore& store)
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
     connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
     connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
+    connect(clearing_, &ConfirmationCard::confirmed, &store_, &AppStore::clearDemoHistory);
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
@@ -57,15 +63,13 @@ MainWindow::MainWindow(AppStore& store)
 }
 
 void MainWindow::buildSections() {
-    const auto frame = [this](Section section, const QString& eyebrow, const Sentence& headline) {
-        sections_[section] =
-            new Page({.eyebrow = eyebrow, .headline = headline, .content = new QWidget}, stack_);
-    };
     auto* live = new LiveView(store_, stack_);
     connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
     sections_[Section::overview] = new OverviewView(store_, stack_);
     sections_[Section::live] = live;
-    frame(Section::history, tr("History"), {tr("Every visit, "), tr("on record"), tr(".")});
+    auto* history = new HistoryView(store_, stack_);
+    connect(history, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
+    sections_[Section::history] = history;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
     sections_[Section::settings] = new SettingsView(store_, stack_);
     for (const auto& [section, screen] : sections_)
@@ -128,6 +132,14 @@ void MainWindow::showCover() {
     if (approval_->isOpen())
         approval_->raise();
     bands_->raise();
+}
+
+void MainWindow::askToClearDemo() {
+    const auto demo = std::ranges::count_if(store_.history(), &MissionRecord::demo);
+    clearing_->setBody(demo == 1
+                           ? tr("One rehearsed visit goes. Visits that were really flown stay.")
+                           : tr("%1 rehearsed visits go. Visits that were really flown stay.").arg(demo));
+    clearing_->open();
 }
 
 void MainWindow::showWelcome() {

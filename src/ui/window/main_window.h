@@ -11,6 +11,7 @@ namespace velmora {
 class AboutCard;
 class ApprovalOverlay;
 class CommandMenus;
+class ConfirmationCard;
 class LandConfirmation;
 class OverlayCard;
 class ResizeBands;
@@ -36,6 +37,7 @@ private:
     void addOverlay(OverlayCard* overlay);
     void showSection();
     void showWelcome();
+    void askToClearDemo();
     void showCover();
     bool isCovered() const;
 
@@ -48,6 +50,7 @@ private:
     std::map<Section, QWidget*> sections_;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
+    ConfirmationCard* clearing_; ///< the demo history
     AboutCard* about_;
     QList<OverlayCard*> overlays_;
     ResizeBands* bands_;

@@ -1,0 +1,86 @@
+#include "model/csv.h"
+
+#include "model/mission_evidence.h"
+
+#include <array>
+#include <charconv>
+#include <initializer_list>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+std::string numberText(double number) {
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return {buffer.data(), end};
+}
+
+/// Quoted where it must be. A text that a spreadsheet would take for a formula is given an apostrophe first.
+std::string field(std::string text) {
+    constexpr std::string_view formulaStarts = "=+-@\t";
+    if (!text.empty() && formulaStarts.find(text.front()) != std::string_view::npos)
+        text.insert(text.begin(), '\'');
+    if (text.find_first_of("\",\r\n") == std::string::npos)
+        return text;
+    std::string quoted = "\"";
+    for (const char character : text) {
+        quoted += character;
+        if (character == '"')
+            quoted += '"';
+    }
+    return quoted + '"';
+}
+
+/// Fields that are already in their final form.
+void addLine(std::string& csv, std::initializer_list<std::string> fields) {
+    bool first = true;
+    for (const std::string& one : fields) {
+        if (!first)
+            csv += ',';
+        csv += one;
+        first = false;
+    }
+    csv += lineEnd;
+}
+
+void addPath(std::string& csv, const std::vector<P>& path, double from, const char* who) {
+    double seconds = from;
+    for (const P& point : path) {
+        addLine(csv, {numberText(seconds), who, numberText(point.x), numberText(point.y), {}});
+        seconds += secondsBetweenPathPoints;
+    }
+}
+
+} // namespace
+
+std::string pathsCsv(const MissionRecord& record) {
+    std::string csv;
+    addLine(csv, {"seconds", "who", "x", "y", "text"});
+    addPath(csv, record.visitorPath, 0, "visitor");
+    const double flown = record.dronePath.empty()
+                             ? 0
+                             : static_cast<double>(record.dronePath.size() - 1) * secondsBetweenPathPoints;
+    addPath(csv, record.dronePath, lengthOf(record) - flown, "drone");
+    for (const Notice& notice : record.notices)
+        addLine(csv,
+                {numberText((notice.time - record.start).count()), "notice", {}, {}, field(notice.text)});
+    return csv;
+}
+
+std::string recordsCsv(const std::vector<MissionRecord>& records) {
+    std::string csv;
+    addLine(csv, {"id", "start", "end", "camera", "label", "outcome", "confidence", "battery used",
+                  "furthest out", "demo"});
+    for (const MissionRecord& record : records)
+        addLine(csv,
+                {field(record.id), dateText(record.start).value_or(""), dateText(record.end).value_or(""),
+                 field(record.cameraName), field(record.label), field(std::string(rawValue(record.outcome))),
+                 numberText(record.confidence), numberText(record.batteryUsed),
+                 numberText(record.maxDistanceFromPad), record.demo ? "yes" : "no"});
+    return csv;
+}
+
+} // namespace velmora

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "model/mission_record.h"
+
+#include <optional>
+#include <vector>
+
+namespace velmora {
+
+/// Path points lie half a second apart: the visitor's from the mission's start, the drone's up to its end.
+inline constexpr double secondsBetweenPathPoints = 0.5;
+
+/// The steps of a response, in their order.
+enum class ResponseStep { seen, answered, airborne, onStation, comingHome, ended };
+
+/// When a step of the response was reached.
+struct ResponseMoment {
+    ResponseStep step;
+    Date time;
+};
+
+/// The steps that the record's notices tell of, from the detection to the end; a step that never happened is
+/// left out.
+std::vector<ResponseMoment> responseTimeline(const MissionRecord& record);
+
+/// How the drone kept to the boundary.
+struct BoundaryEvidence {
+    double leastDistance = 0;   ///< metres from the boundary at the nearest; negative outside it
+    double secondsInBuffer = 0; ///< nearer to the boundary than the buffer
+};
+
+/// Absent when the drone did not fly.
+std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
+                                                 double buffer);
+
+/// The record as far as it had happened so many seconds after its start: shorter paths, fewer notices.
+MissionRecord cutAt(const MissionRecord& record, double seconds);
+
+/// A stretch of time in seconds after the record's start.
+struct Stretch {
+    double from = 0;
+    double to = 0;
+};
+
+/// Where neither path has points although the mission went on.
+std::vector<Stretch> gapsOf(const MissionRecord& record);
+
+/// Length of the mission in seconds, never negative.
+double lengthOf(const MissionRecord& record);
+
+} // namespace velmora

@@ -1,0 +1,65 @@
+#include "ui/blocks/menu_button.h"
+
+#include "ui/blocks/focus_ring.h"
+#include "ui/look/icons.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+
+#include <cmath>
+
+namespace velmora {
+
+MenuButton::MenuButton(const QString& name, QWidget* parent) : QAbstractButton(parent) {
+    setAccessibleDescription(name);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    FocusRing::setLook(this, {Measure::badgeRadius});
+    connect(this, &QAbstractButton::clicked, this, &MenuButton::open);
+}
+
+void MenuButton::setOptions(const QStringList& options, int chosen) {
+    options_ = options;
+    const QString text = options.value(chosen);
+    if (text == this->text())
+        return;
+    setText(text);
+    setAccessibleName(text);
+    updateGeometry();
+    update();
+}
+
+QSize MenuButton::sizeHint() const {
+    const double width = textWidth(text(), Type::compactRow) + Measure::gap4 + Measure::chevron;
+    return {static_cast<int>(std::ceil(width)) + 1, static_cast<int>(Type::compactRow.line)};
+}
+
+void MenuButton::open() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int i = 0; i < options_.size(); ++i)
+        connect(menu->addAction(QString(options_[i]).replace('&', QStringLiteral("&&"))), &QAction::triggered,
+                this, [this, i] { emit chose(i); });
+    menu->popup(mapToGlobal(QPoint(0, height() + Measure::gap4)));
+}
+
+void MenuButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Down)
+        open();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void MenuButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QColor color = underMouse() ? SB::blue : SB::ink;
+    drawText(painter, rect(), text(), Type::compactRow, color, Qt::AlignVCenter);
+    const QRectF chevron(width() - Measure::chevron, (height() - Measure::chevron) / 2.0, Measure::chevron,
+                         Measure::chevron);
+    paintIcon(painter, chevron, Icon::chevron, color);
+}
+
+} // namespace velmora

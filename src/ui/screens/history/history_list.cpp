@@ -1,0 +1,294 @@
+#include "ui/screens/history/history_list.h"
+
+#include "ui/blocks/choice.h"
+#include "ui/blocks/focus_ring.h"
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/headline.h"
+#include "ui/blocks/link_button.h"
+#include "ui/blocks/menu_button.h"
+#include "ui/blocks/overlay_scroll_bar.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/blocks/text_field.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/history/record_delegate.h"
+#include "ui/words.h"
+
+#include <QKeyEvent>
+#include <QListView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+HistoryList::HistoryList(AppStore& store, QWidget* parent)
+    : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
+    filters_ = buildFilters();
+    nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
+                        Type::body, SB::body, this);
+    noMatch_ = buildNoMatch();
+    auto* records = buildRecords();
+    foot_ = buildFoot();
+    auto* above = new QVBoxLayout; // the records reach a little further to both sides
+    above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
+    above->setSpacing(0);
+    above->addWidget(new Eyebrow(tr("History"), false, this));
+    above->addSpacing(Measure::gap4);
+    above->addWidget(
+        new Headline({tr("Every visit,\n"), tr("on record"), tr(".")}, Type::historyHeadline, false, this));
+    above->addSpacing(Measure::gap20);
+    above->addWidget(filters_);
+    above->addWidget(nothing_);
+    above->addWidget(noMatch_);
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->addLayout(above);
+    column->addWidget(records, 1);
+    column->addStretch();
+    column->addWidget(foot_);
+    connect(model_, &QAbstractItemModel::modelReset, this, &HistoryList::showCount);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_,
+            [this] { search_->setFocus(Qt::ShortcutFocusReason); });
+    undoTime_.setSingleShot(true);
+    undoTime_.setInterval(Measure::undoSeconds * 1000);
+    connect(&undoTime_, &QTimer::timeout, this, [this] {
+        deleted_.reset();
+        refresh();
+    });
+    refresh();
+}
+
+QWidget* HistoryList::buildFilters() {
+    auto* block = new QWidget(this);
+    search_ = new TextField(tr("Search the history"), tr("Search"), block);
+    search_->setClearButtonEnabled(false);
+    search_->installEventFilter(this);
+    flight_ =
+        new SegmentedChoice(tr("Which visits"), {tr("All"), tr("Flown"), tr("Stayed docked")}, true, block);
+    camera_ = new MenuButton(tr("Camera"), block);
+    demo_ = new MenuButton(tr("Demo visits"), block);
+    count_ = new Label2({}, false, block);
+    auto* menus = new QHBoxLayout;
+    menus->setSpacing(Measure::gap16);
+    menus->addWidget(camera_);
+    menus->addWidget(demo_);
+    menus->addStretch(1);
+    menus->addWidget(count_);
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap12);
+    column->addWidget(search_);
+    column->addWidget(flight_);
+    column->addLayout(menus);
+    column->addWidget(new Hairline(block));
+    connect(search_, &QLineEdit::textChanged, this, &HistoryList::applyFilter);
+    connect(flight_, &SegmentedChoice::chose, this, &HistoryList::applyFilter);
+    connect(camera_, &MenuButton::chose, this, [this](int option) {
+        HistoryFilter filter = model_->filter();
+        filter.camera = option == 0 ? QString() : cameras_.value(option - 1);
+        model_->setFilter(filter);
+        showFilters();
+    });
+    connect(demo_, &MenuButton::chose, this, [this](int option) {
+        HistoryFilter filter = model_->filter();
+        filter.demo = static_cast<HistoryFilter::Demo>(option);
+        model_->setFilter(filter);
+        showFilters();
+    });
+    return block;
+}
+
+QWidget* HistoryList::buildRecords() {
+    records_ = new QListView(this);
+    records_->setModel(model_);
+    records_->setItemDelegate(new RecordDelegate(*model_, records_));
+    records_->setFrameShape(QFrame::NoFrame);
+    records_->setAccessibleName(tr("Visits"));
+    records_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    records_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    records_->installEventFilter(this);
+    FocusRing::setLook(records_, {Measure::buttonRadius});
+    bar_ = new OverlayScrollBar(records_->verticalScrollBar(), records_);
+    connect(records_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& index) {
+                if (const auto place = model_->placeOf(index); place && !showing_)
+                    emit selected(*place);
+            });
+    return records_;
+}
+
+QWidget* HistoryList::buildNoMatch() {
+    auto* block = new QWidget(this);
+    auto* all = new SBButton(tr("Show all"), {.kind = SBButtonKind::quiet}, block);
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, Measure::gap16, 0, 0);
+    column->addWidget(new Text(tr("No visits match."), Type::body, SB::body, block));
+    column->addWidget(all, 0, Qt::AlignLeft);
+    connect(all, &SBButton::clicked, this, &HistoryList::clearFilters);
+    return block;
+}
+
+QWidget* HistoryList::buildFoot() {
+    auto* foot = new QWidget(this);
+    clearDemo_ = new SBButton(tr("Clear demo history"), {.kind = SBButtonKind::quiet}, foot);
+    undoLine_ = new QWidget(foot);
+    auto* undo = new LinkButton(tr("Undo"), undoLine_);
+    auto* line = new QHBoxLayout(undoLine_);
+    line->setContentsMargins(Measure::recordInset, 0, 0, 0);
+    line->addWidget(new Text(tr("Visit deleted."), Type::body, SB::body, undoLine_));
+    line->addWidget(undo);
+    line->addStretch(1);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, Measure::gap12, Measure::recordInset, Measure::gap12);
+    row->addWidget(clearDemo_, 0, Qt::AlignLeft);
+    row->addWidget(undoLine_, 1);
+    auto* column = new QVBoxLayout(foot);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new Hairline(foot));
+    column->addLayout(row);
+    connect(clearDemo_, &SBButton::clicked, this, &HistoryList::clearDemoRequested);
+    connect(undo, &QAbstractButton::clicked, this, &HistoryList::undo);
+    return foot;
+}
+
+void HistoryList::applyFilter() {
+    HistoryFilter filter = model_->filter();
+    filter.text = search_->text();
+    filter.flight = static_cast<HistoryFilter::Flight>(flight_->chosen());
+    model_->setFilter(filter);
+}
+
+void HistoryList::clearFilters() {
+    search_->clear();
+    flight_->show(0);
+    model_->setFilter({});
+    showFilters();
+    records_->setFocus(Qt::OtherFocusReason);
+}
+
+void HistoryList::showFilters() {
+    const HistoryFilter& filter = model_->filter();
+    camera_->setOptions(QStringList{tr("All cameras")} + cameras_,
+                        filter.camera.isEmpty() ? 0 : static_cast<int>(cameras_.indexOf(filter.camera)) + 1);
+    demo_->setOptions({tr("With demo"), tr("Without demo"), tr("Only demo")}, static_cast<int>(filter.demo));
+}
+
+/// How many of how many, and which of the pane's parts there is reason to show.
+void HistoryList::showCount() {
+    const std::size_t all = store_.history().size(), shown = model_->shown().size();
+    count_->setText(shown == all ? (all == 1 ? tr("1 visit") : tr("%1 visits").arg(all))
+                                 : tr("%1 of %2 visits").arg(shown).arg(all));
+    filters_->setVisible(all > 0);
+    nothing_->setVisible(all == 0);
+    noMatch_->setVisible(all > 0 && shown == 0);
+    records_->setVisible(shown > 0);
+}
+
+void HistoryList::refresh() {
+    QStringList cameras;
+    for (const MissionRecord& record : store_.history())
+        if (const QString name = toQString(record.cameraName); !cameras.contains(name))
+            cameras.append(name);
+    cameras.sort(Qt::CaseInsensitive);
+    cameras_ = cameras;
+    showFilters();
+    showCount();
+    const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo);
+    clearDemo_->setVisible(demo && !deleted_);
+    undoLine_->setVisible(deleted_.has_value());
+    foot_->setVisible(demo || deleted_);
+}
+
+void HistoryList::select(std::optional<std::size_t> place) {
+    showing_ = true;
+    const QModelIndex index = place ? model_->indexOf(*place) : QModelIndex();
+    records_->setCurrentIndex(index);
+    if (index.isValid())
+        records_->scrollTo(index);
+    showing_ = false;
+}
+
+void HistoryList::takeFocus() {
+    records_->setFocus(Qt::OtherFocusReason);
+}
+
+void HistoryList::offerUndo(std::size_t place, const MissionRecord& record) {
+    deleted_ = {place, record};
+    undoTime_.start();
+    refresh();
+}
+
+void HistoryList::undo() {
+    if (!deleted_)
+        return;
+    const auto [place, record] = *deleted_;
+    deleted_.reset();
+    undoTime_.stop();
+    store_.restoreRecord(place, record);
+    emit selected(place);
+}
+
+bool HistoryList::handleListKey(int key) {
+    const QModelIndex current = records_->currentIndex();
+    const int last = model_->rowCount() - 1;
+    switch (key) {
+    case Qt::Key_Delete:
+        if (const auto place = model_->placeOf(current))
+            emit deleteRequested(*place);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit opened();
+        return true;
+    case Qt::Key_Home: // the first row is a day's caption
+        records_->setCurrentIndex(model_->index(std::min(1, last)));
+        records_->scrollToTop();
+        return true;
+    case Qt::Key_End:
+        records_->setCurrentIndex(model_->index(last));
+        return true;
+    case Qt::Key_Escape:
+        search_->clear();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool HistoryList::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (watched == records_ && handleListKey(key))
+            return true;
+        const bool leavesSearch = key == Qt::Key_Escape || key == Qt::Key_Down || key == Qt::Key_Return;
+        if (watched == search_ && leavesSearch) {
+            if (key == Qt::Key_Escape)
+                search_->clear();
+            records_->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    if (watched == records_ && event->type() == QEvent::Resize)
+        bar_->place();
+    return QWidget::eventFilter(watched, event);
+}
+
+void HistoryList::resizeEvent(QResizeEvent*) {
+    const bool narrow = width() <= Measure::historyPaneNarrow;
+    const int left = narrow ? Measure::historyLeftNarrow : Measure::historyLeft;
+    layout()->setContentsMargins(left - Measure::recordInset, Measure::pageMargins.top(),
+                                 Measure::historyRight - Measure::recordInset + 1, 0);
+}
+
+void HistoryList::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(width() - 1, 0, 1, height(), SB::rule);
+}
+
+} // namespace velmora

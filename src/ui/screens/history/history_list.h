@@ -1,0 +1,82 @@
+#pragma once
+
+#include "store/app_store.h"
+#include "ui/screens/history/history_model.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QListView;
+
+namespace velmora {
+
+class MenuButton;
+class OverlayScrollBar;
+class SBButton;
+class SegmentedChoice;
+class Text;
+class TextField;
+
+/// The left pane of the history: headline, search and filters, the records, and what can be done with all of
+/// them.
+class HistoryList : public QWidget {
+    Q_OBJECT
+
+public:
+    HistoryList(AppStore& store, QWidget* parent);
+
+    /// Places in the history of the records shown.
+    const std::vector<std::size_t>& shown() const { return model_->shown(); }
+    void refresh();
+    void select(std::optional<std::size_t> place);
+    /// Gives the records the keyboard.
+    void takeFocus();
+    /// Keeps a deleted record for a while, so that it can be put back.
+    void offerUndo(std::size_t place, const MissionRecord& record);
+
+signals:
+    void selected(std::size_t place);
+    void deleteRequested(std::size_t place);
+    /// Enter on a record.
+    void opened();
+    void clearDemoRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QWidget* buildFilters();
+    QWidget* buildRecords();
+    QWidget* buildNoMatch();
+    QWidget* buildFoot();
+    void applyFilter();
+    void clearFilters();
+    void showFilters();
+    void showCount();
+    void undo();
+    bool handleListKey(int key);
+
+    AppStore& store_;
+    HistoryModel* model_;
+    TextField* search_;
+    SegmentedChoice* flight_;
+    MenuButton* camera_;
+    MenuButton* demo_;
+    Text* count_;
+    QWidget* filters_;
+    Text* nothing_;
+    QWidget* noMatch_;
+    QListView* records_;
+    OverlayScrollBar* bar_;
+    QWidget* foot_;
+    SBButton* clearDemo_;
+    QWidget* undoLine_;
+    QTimer undoTime_;
+    std::optional<std::pair<std::size_t, MissionRecord>> deleted_;
+    QStringList cameras_;  ///< names to choose from
+    bool showing_ = false; ///< a selection that is shown, not made by the owner
+};
+
+} // namespace velmora

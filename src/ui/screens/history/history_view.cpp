@@ -1,0 +1,196 @@
+#include "ui/screens/history/history_view.h"
+
+#include "model/csv.h"
+#include "model/json.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/history/empty_icon.h"
+#include "ui/screens/history/history_list.h"
+#include "ui/screens/history/record_detail.h"
+#include "ui/screens/history/record_export.h"
+#include "ui/words.h"
+
+#include <QBuffer>
+#include <QMenu>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+/// A name that every file system takes.
+QString fileNameFor(const MissionRecord& record) {
+    QString name = QStringLiteral("velmora-") + toQString(record.id);
+    for (QChar& character : name)
+        if (!character.isLetterOrNumber() && character != '-')
+            character = '-';
+    return name;
+}
+
+QByteArray bytesOf(const std::string& text) {
+    return QByteArray::fromStdString(text);
+}
+
+QByteArray pngOf(const QPixmap& picture) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    return bytes;
+}
+
+} // namespace
+
+HistoryView::HistoryView(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      list_(new HistoryList(store, this)),
+      detail_(new RecordDetail(store, this)),
+      empty_(buildEmpty()) {
+    connect(list_, &HistoryList::selected, this, &HistoryView::choose);
+    connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
+    connect(list_, &HistoryList::opened, detail_, &RecordDetail::takeFocus);
+    connect(list_, &HistoryList::clearDemoRequested, this, &HistoryView::clearDemoRequested);
+    connect(detail_, &RecordDetail::exportRequested, this, &HistoryView::offerExports);
+    connect(detail_, &RecordDetail::deleteRequested, this, [this] {
+        if (const auto place = chosenPlace())
+            remove(*place);
+    });
+    connect(&store_, &AppStore::historyChanged, this, &HistoryView::refresh);
+    connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::chooseSelectedRecord);
+    connect(&store_, &AppStore::stateChanged, this, [this] {
+        if (store_.state().phase == Phase::awaitingApproval)
+            detail_->pause();
+        simulate_->setVisible(!store_.settings().linkMode);
+    });
+    refresh();
+}
+
+QWidget* HistoryView::buildEmpty() {
+    auto* empty = new QWidget(this);
+    auto* title = new Text(tr("No visit to replay yet"), Type::emptyTitle, SB::ink, empty);
+    auto* body = new Text(
+        tr("Every alert ends as a record here, with its paths on the map, its log and how it ended."),
+        Type::confirmationBody, SB::body, empty);
+    for (Text* text : {title, body}) {
+        text->setAlignment(Qt::AlignHCenter);
+        text->setFixedWidth(Measure::emptyWidth);
+    }
+    simulate_ = new SBButton(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary}, empty);
+    connect(simulate_, &SBButton::clicked, this,
+            [this] { store_.simulate(rawValuesOf<Scenario>.front().first); });
+    auto* column = new QVBoxLayout(empty);
+    column->setSpacing(Measure::gap8);
+    column->addStretch(1);
+    column->addWidget(new EmptyIcon(empty), 0, Qt::AlignHCenter);
+    column->addSpacing(Measure::gap16);
+    column->addWidget(title, 0, Qt::AlignHCenter);
+    column->addWidget(body, 0, Qt::AlignHCenter);
+    column->addSpacing(Measure::gap16);
+    column->addWidget(simulate_, 0, Qt::AlignHCenter);
+    column->addStretch(1);
+    return empty;
+}
+
+std::optional<std::size_t> HistoryView::chosenPlace() const {
+    if (!chosen_)
+        return std::nullopt;
+    const auto& history = store_.history();
+    const auto record = std::ranges::find(history, *chosen_);
+    return record == history.end() ? std::nullopt
+                                   : std::optional(static_cast<std::size_t>(record - history.begin()));
+}
+
+/// The record that was chosen, or else the newest.
+void HistoryView::refresh() {
+    list_->refresh();
+    const bool any = !store_.history().empty();
+    detail_->setVisible(any);
+    empty_->setVisible(!any);
+    if (!any) {
+        chosen_.reset();
+        return;
+    }
+    if (const auto place = chosenPlace())
+        list_->select(place);
+    else
+        choose(0);
+}
+
+void HistoryView::choose(std::size_t place) {
+    if (place >= store_.history().size())
+        return;
+    const MissionRecord record = store_.history()[place];
+    if (record != chosen_) {
+        chosen_ = record;
+        detail_->setRecord(record);
+    }
+    list_->select(place);
+    store_.setSelectedRecord(record.id);
+}
+
+/// Another screen asks for a record by its id.
+void HistoryView::chooseSelectedRecord() {
+    const auto& id = store_.selectedRecord();
+    if (!id || (chosen_ && chosen_->id == *id))
+        return;
+    const auto record = std::ranges::find(store_.history(), *id, &MissionRecord::id);
+    if (record != store_.history().end())
+        choose(static_cast<std::size_t>(record - store_.history().begin()));
+}
+
+void HistoryView::remove(std::size_t place) {
+    const MissionRecord record = store_.history()[place];
+    const std::size_t next =
+        place + 1 < store_.history().size() ? place + 1 : place - std::min<std::size_t>(place, 1);
+    chosen_ = store_.history()[next];
+    detail_->setRecord(*chosen_);
+    store_.removeRecord(place);
+    list_->offerUndo(place, record);
+}
+
+void HistoryView::offerExports(QPoint below) {
+    const MissionRecord record = detail_->record();
+    const QString name = fileNameFor(record);
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto offer = [&](const QString& title, const QString& suffix, const QString& filter, auto bytes) {
+        connect(menu->addAction(title), &QAction::triggered, this, [=, this] {
+            saveExport({title, name + suffix, filter, bytes()}, window());
+        });
+    };
+    offer(tr("Record as JSON…"), QStringLiteral(".json"), tr("JSON (*.json)"),
+          [record] { return bytesOf(encode(record).value_or("")); });
+    offer(tr("Paths and notices as CSV…"), QStringLiteral(".csv"), tr("CSV (*.csv)"),
+          [record] { return bytesOf(pathsCsv(record)); });
+    offer(tr("Map as a picture…"), QStringLiteral(".png"), tr("PNG (*.png)"),
+          [detail = detail_] { return pngOf(detail->mapPicture()); });
+    menu->addSeparator();
+    offer(tr("The list as CSV…"), QStringLiteral("-list.csv"), tr("CSV (*.csv)"), [this] {
+        std::vector<MissionRecord> shown;
+        for (const std::size_t place : list_->shown())
+            shown.push_back(store_.history()[place]);
+        return bytesOf(recordsCsv(shown));
+    });
+    menu->popup(below);
+}
+
+void HistoryView::resizeEvent(QResizeEvent*) {
+    const bool narrow = window()->width() < Measure::narrowWindow;
+    const int pane = narrow ? Measure::historyPaneNarrow : Measure::historyPane;
+    list_->setGeometry(0, 0, pane, height());
+    const QRect rest(pane, 0, width() - pane, height());
+    detail_->setGeometry(rest);
+    empty_->setGeometry(rest);
+}
+
+void HistoryView::showEvent(QShowEvent*) {
+    refresh();
+    list_->takeFocus();
+}
+
+} // namespace velmora

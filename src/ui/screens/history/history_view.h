@@ -1,0 +1,45 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class HistoryList;
+class RecordDetail;
+class SBButton;
+
+/// History: every visit on record, and one of them in detail.
+class HistoryView : public QWidget {
+    Q_OBJECT
+
+public:
+    HistoryView(AppStore& store, QWidget* parent);
+
+signals:
+    /// "Clear demo history" was pressed; nothing goes before the owner confirms.
+    void clearDemoRequested();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* buildEmpty();
+    void refresh();
+    void choose(std::size_t place);
+    void chooseSelectedRecord();
+    std::optional<std::size_t> chosenPlace() const;
+    void remove(std::size_t place);
+    void offerExports(QPoint below);
+
+    AppStore& store_;
+    HistoryList* list_;
+    RecordDetail* detail_;
+    SBButton* simulate_ = nullptr;
+    QWidget* empty_;
+    std::optional<MissionRecord> chosen_; ///< ids are not unique, so the whole record tells which
+};
+
+} // namespace velmora

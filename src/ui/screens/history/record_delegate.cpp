@@ -1,0 +1,85 @@
+#include "ui/screens/history/record_delegate.h"
+
+#include "model/mission_evidence.h"
+#include "ui/blocks/badge.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/history/history_model.h"
+#include "ui/screens/history/path_thumbnail.h"
+#include "ui/screens/outcomes.h"
+#include "ui/words.h"
+
+#include <QCoreApplication>
+
+namespace velmora {
+
+namespace {
+
+QString factsOf(const MissionRecord& record) {
+    QStringList facts{toQString(record.cameraName),
+                      timeOfDay(record.start).chopped(3)}; // without the seconds
+    if (lengthOf(record) >= 1)
+        facts.append(duration(Seconds{lengthOf(record)}));
+    return facts.join(QStringLiteral(" · "));
+}
+
+void paintSelection(QPainter& painter, const QRectF& row) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::panel);
+    painter.drawRoundedRect(row, Measure::buttonRadius, Measure::buttonRadius);
+    const QRectF bar(row.left(), row.top() + Measure::gap12, Measure::selectionBar,
+                     row.height() - 2 * Measure::gap12);
+    QLinearGradient gradient(bar.topLeft(), bar.bottomLeft());
+    gradient.setStops(SB::gradientLight(0, 1).stops());
+    painter.setBrush(gradient);
+    painter.drawRoundedRect(bar, Measure::selectionBar / 2.0, Measure::selectionBar / 2.0);
+}
+
+void paintRecord(QPainter& painter, const QRectF& row, const MissionRecord& record, bool selected) {
+    if (selected)
+        paintSelection(painter, row);
+    const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
+    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, 0, 0);
+    QRectF title(words.left(), row.top() + Measure::recordTitleTop, words.width(), Type::rowTitle.line);
+    paintStatusDot(painter, {inner.left() + Measure::activityDotX, title.center().y()},
+                   {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
+    drawText(painter, title, outcomeText(record.outcome), Type::rowTitle, SB::ink, Qt::AlignVCenter);
+
+    QRectF facts(words.left(), title.bottom(), words.width(), Type::label2.line);
+    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
+    thumbnail.moveBottomRight({words.right(), row.bottom() - Measure::gap8});
+    paintPathThumbnail(painter, thumbnail, record);
+    facts.setRight(thumbnail.left() - Measure::gap8);
+    if (record.demo)
+        facts.setRight(facts.right() - Measure::gap8 -
+                       paintBadge(painter, facts.right(), facts.center().y(),
+                                  QCoreApplication::translate("History", "Demo")));
+    drawText(painter, facts, factsOf(record), Type::label2, SB::muted, Qt::AlignVCenter);
+}
+
+} // namespace
+
+RecordDelegate::RecordDelegate(const HistoryModel& model, QObject* parent)
+    : QAbstractItemDelegate(parent), model_(model) {}
+
+QSize RecordDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
+    return {0, model_.recordAt(index) ? Measure::recordRow : Measure::dayRow};
+}
+
+void RecordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF row(option.rect);
+    if (const MissionRecord* record = model_.recordAt(index)) {
+        paintRecord(*painter, row, *record, option.state & QStyle::State_Selected);
+    } else {
+        const QRectF caption = row.adjusted(Measure::recordInset, 0, 0, -Measure::gap4);
+        drawText(*painter, caption, index.data(HistoryModel::captionRole).toString(), Type::caption,
+                 SB::muted, Qt::AlignBottom);
+    }
+    painter->restore();
+}
+
+} // namespace velmora

@@ -1,0 +1,141 @@
+#include "ui/screens/history/record_detail.h"
+
+#include "model/mission_evidence.h"
+#include "ui/blocks/chip.h"
+#include "ui/blocks/headline.h"
+#include "ui/blocks/icon_button.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/map/site_map.h"
+#include "ui/screens/history/record_facts.h"
+#include "ui/screens/history/replay_bar.h"
+#include "ui/screens/history/replay_player.h"
+#include "ui/screens/outcomes.h"
+#include "ui/words.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
+    : QWidget(parent), store_(store), player_(new ReplayPlayer(this)), content_(new QWidget(this)) {
+    map_ = new SiteMap(content_);
+    map_->installEventFilter(this);
+    chip_ = new Chip(map_);
+    chip_->setText(tr("Replay"));
+    bar_ = new ReplayBar(*player_, content_);
+    facts_ = new RecordFacts(content_);
+    auto* column = new QVBoxLayout(content_);
+    column->setContentsMargins(Measure::detailLeft, Measure::pageMargins.top(), Measure::detailRight,
+                               Measure::pageMargins.bottom());
+    column->setSpacing(0);
+    column->addWidget(buildHeading(content_));
+    column->addSpacing(Measure::gap16);
+    column->addWidget(map_);
+    column->addSpacing(Measure::gap8);
+    column->addWidget(bar_);
+    column->addSpacing(Measure::gap20);
+    column->addWidget(facts_);
+    column->addStretch(1);
+    auto* area = new ScrollArea(this);
+    area->setWidget(content_);
+    area->setFade(Measure::logFade);
+    area_ = area;
+    connect(player_, &ReplayPlayer::changed, this, &RecordDetail::showMoment);
+    connect(facts_, &RecordFacts::momentRequested, this, [this](double seconds) {
+        player_->pause();
+        player_->setPosition(seconds);
+    });
+}
+
+QWidget* RecordDetail::buildHeading(QWidget* parent) {
+    auto* heading = new QWidget(parent);
+    eyebrow_ = new Eyebrow({}, false, heading);
+    title_ = new Headline({}, Type::recordTitle, false, heading);
+    export_ =
+        new SBButton(tr("Export…"), {.kind = SBButtonKind::secondary, .icon = Icon::exportRecord}, heading);
+    auto* remove = new IconButton(Icon::deleteRecord, tr("Delete this visit"), heading);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(Measure::gap4);
+    words->addWidget(eyebrow_);
+    words->addWidget(title_);
+    auto* row = new QHBoxLayout(heading);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Measure::gap8);
+    row->addLayout(words, 1);
+    row->addWidget(export_, 0, Qt::AlignBottom);
+    row->addWidget(remove, 0, Qt::AlignBottom);
+    connect(export_, &SBButton::clicked, this, [this] {
+        emit exportRequested(export_->mapToGlobal(QPoint(0, export_->height() + Measure::gap4)));
+    });
+    connect(remove, &QAbstractButton::clicked, this, &RecordDetail::deleteRequested);
+    return heading;
+}
+
+void RecordDetail::setRecord(const MissionRecord& record) {
+    record_ = record;
+    eyebrow_->setText(toQString(record.cameraName) + QStringLiteral(" · ") +
+                      dayAndTime(record.start, store_.now()));
+    title_->setSentence(outcomeSentence(record.outcome));
+    facts_->setRecord(record, store_.state().site, store_.settings());
+    bar_->setRecord(record);
+}
+
+/// The whole record at its end, or as far as it had happened.
+void RecordDetail::showMoment() {
+    const bool whole = player_->position() >= player_->length();
+    map_->setReplay(whole ? record_ : cutAt(record_, player_->position()), store_.state(), store_.settings());
+}
+
+void RecordDetail::takeFocus() {
+    bar_->takeFocus();
+}
+
+void RecordDetail::pause() {
+    player_->pause();
+}
+
+QPixmap RecordDetail::mapPicture() const {
+    constexpr int scale = 2;
+    QPixmap picture(map_->size() * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(SB::navy);
+    map_->render(&picture, {}, {}, QWidget::RenderFlags());
+    return picture;
+}
+
+/// As wide as the pane, as long as it leaves room for the log below.
+void RecordDetail::fitMap() {
+    const int width = this->width() - Measure::detailLeft - Measure::detailRight;
+    const int heading = Measure::pageMargins.top() + Measure::gap20 +
+                        static_cast<int>(Type::recordTitle.line) + Measure::gap16;
+    constexpr int figures = Measure::gap8 + Measure::buttonHeight + Measure::gap20 + Measure::sliderRow +
+                            Measure::gap20 + Measure::gap20;
+    const int room = height() - heading - figures - Measure::detailLog;
+    map_->setFixedHeight(std::clamp(room, Measure::mapMinimumHeight,
+                                    std::max(map_->heightForWidth(width), Measure::mapMinimumHeight)));
+}
+
+void RecordDetail::resizeEvent(QResizeEvent*) {
+    fitMap();
+    area_->setGeometry(rect());
+}
+
+bool RecordDetail::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == map_ && event->type() == QEvent::Resize)
+        chip_->move(map_->width() - chip_->width() - Measure::gap12, Measure::gap12);
+    return QWidget::eventFilter(watched, event);
+}
+
+void RecordDetail::hideEvent(QHideEvent*) {
+    pause();
+}
+
+} // namespace velmora

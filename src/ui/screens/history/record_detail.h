@@ -1,0 +1,62 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class Chip;
+class Eyebrow;
+class Headline;
+class RecordFacts;
+class ReplayBar;
+class ReplayPlayer;
+class SBButton;
+class SiteMap;
+class Text;
+
+/// The right pane of the history: one record, replayed on the map and told below it.
+class RecordDetail : public QWidget {
+    Q_OBJECT
+
+public:
+    RecordDetail(AppStore& store, QWidget* parent);
+
+    void setRecord(const MissionRecord& record);
+    const MissionRecord& record() const { return record_; }
+    /// Gives the replay the keyboard.
+    void takeFocus();
+    void pause();
+    /// The map with its replay as it stands, at twice its size.
+    QPixmap mapPicture() const;
+
+signals:
+    void exportRequested(QPoint below);
+    void deleteRequested();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    QWidget* buildHeading(QWidget* parent);
+    void showMoment();
+    void fitMap();
+
+    AppStore& store_;
+    MissionRecord record_;
+    ReplayPlayer* player_;
+    Text* eyebrow_;
+    Headline* title_;
+    SBButton* export_;
+    QWidget* content_;
+    SiteMap* map_;
+    Chip* chip_;
+    ReplayBar* bar_;
+    RecordFacts* facts_;
+    QWidget* area_;
+};
+
+} // namespace velmora

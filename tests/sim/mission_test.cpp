@@ -1,0 +1,170 @@
+#include "simulator_fixture.h"
+
+namespace velmora {
+
+TEST_F(SimulatorTest, AVisitOpensAMissionThatWaitsForApproval) {
+    random.draws[{0.82, 0.94}] = 0.913;
+    drone.pos = {20, 30};
+    drone.trail = {{20, 30}};
+    visit(Scenario::front);
+    EXPECT_EQ(state.phase, Phase::awaitingApproval);
+    EXPECT_EQ(state.missionId, "M-42");
+    EXPECT_EQ(state.missionStart, now);
+    EXPECT_EQ(state.approvalDeadline, now + Seconds{60});
+    EXPECT_EQ(state.visitor, (Visitor{{104, 88}, "Unknown person", 0.913, "front", true, {}}));
+    EXPECT_EQ(drone.pos, pad);
+    EXPECT_TRUE(drone.trail.empty());
+    EXPECT_EQ(latest(), "Front lawn camera: someone you don't know");
+    EXPECT_EQ(state.notices[0].level, Notice::Level::caution);
+    EXPECT_EQ(state.notices[0].time, now);
+    const LiveState before = state;
+    visit(Scenario::garden);
+    EXPECT_EQ(state, before) << "a detection during a mission is dropped";
+}
+
+TEST_F(SimulatorTest, ADetectionWhileDisarmedIsOnlyLogged) {
+    state.armed = false;
+    state.windKmh = settings.maxWindKmh + 1;
+    random.draws[{0.82, 0.94}] = 0.84;
+    visit(Scenario::garden);
+    const std::vector<Notice> kept{state.notices.at(1)};
+    EXPECT_THAT(records, testing::ElementsAre(MissionRecord{"M-42",
+                                                            now,
+                                                            now,
+                                                            "garden",
+                                                            "East garden",
+                                                            "Unknown person",
+                                                            0.84,
+                                                            Outcome::disarmed,
+                                                            {},
+                                                            {},
+                                                            0,
+                                                            0,
+                                                            kept,
+                                                            "snapshot-garden",
+                                                            false}));
+    EXPECT_EQ(kept[0].text, "East garden camera: someone you don't know");
+    EXPECT_EQ(latest(), "Logged while disarmed") << "live only";
+    EXPECT_EQ(state.phase, Phase::docked);
+    EXPECT_FALSE(state.visitor || state.missionId || state.missionStart || state.approvalDeadline);
+}
+
+TEST_F(SimulatorTest, WindAtTheLimitIsFlownAndAboveItIsNot) {
+    settings.maxWindKmh = state.windKmh = 20;
+    visit(Scenario::driveway);
+    EXPECT_EQ(state.phase, Phase::awaitingApproval);
+    send(Command::ignore);
+    EXPECT_EQ(latest(), "You ignored the alert");
+    state.windKmh = std::nextafter(20.0, 21.0);
+    visit(Scenario::driveway);
+    EXPECT_EQ(records.back().outcome, Outcome::windTooHigh);
+    EXPECT_EQ(latest(), "Too windy to fly — drone stayed docked");
+}
+
+TEST_F(SimulatorTest, ASiteWithoutTheCameraStillHasItsVisit) {
+    state.site.cameras.clear();
+    now = dateFromSeconds(1'700'007'391.99);
+    visit(Scenario::garden);
+    EXPECT_EQ(state.missionId, "M-7391");
+    step(1);
+    EXPECT_EQ(state.visitor->cameraId, "garden") << "no camera is nearer";
+    send(Command::ignore);
+    EXPECT_EQ(records.at(0).cameraName, "Camera");
+    EXPECT_EQ(records[0].snapshot, "");
+}
+
+TEST_F(SimulatorTest, TheAlertExpiresExactlyAtItsDeadlineOrWhenTheVisitorLeaves) {
+    visit(Scenario::driveway);
+    const Date deadline = now + Seconds{60};
+    simulator.step(0, deadline - Seconds{0.001});
+    EXPECT_EQ(state.phase, Phase::awaitingApproval);
+    simulator.step(0, deadline);
+    EXPECT_EQ(records.at(0).outcome, Outcome::expired);
+    EXPECT_EQ(records[0].end, deadline);
+    EXPECT_EQ(records[0].notices.size(), 1u);
+    EXPECT_EQ(latest(), "Alert expired — drone stayed docked");
+    settings.approvalSeconds = 600;
+    visit(Scenario::driveway);
+    flyUntil(Phase::docked);
+    EXPECT_EQ(records.at(1).outcome, Outcome::expired);
+    EXPECT_EQ(records[1].confidence, 0.9);
+    EXPECT_EQ(records[1].notices.back().text, "Visitor has left your grounds");
+}
+
+TEST_F(SimulatorTest, ALandRightAfterApprovalIsRecordedWithTheBatteryOfTheFlight) {
+    random.draws[{0.82, 0.94}] = 0.83;
+    visitApproved(Scenario::driveway);
+    EXPECT_FALSE(state.approvalDeadline);
+    fly(1);
+    send(Command::land);
+    flyUntil(Phase::docked);
+    EXPECT_EQ(records.at(0).outcome, Outcome::landedByYou);
+    EXPECT_EQ(records[0].end, now);
+    EXPECT_NEAR(records[0].batteryUsed, 0.09 * (1 + 3 / 1.6), 0.01);
+    EXPECT_EQ(records[0].confidence, 0.83) << "the visitor is still there";
+    EXPECT_FALSE(state.visitor);
+}
+
+TEST_F(SimulatorTest, ADroneLandedAwayStaysThereUntilTheNextVisit) {
+    visitApproved(Scenario::garden, Phase::following);
+    send(Command::returnHome);
+    send(Command::land);
+    fly(2);
+    EXPECT_EQ(latest(), "Landing now where it is — you asked");
+    flyUntil(Phase::docked);
+    EXPECT_EQ(records.at(0).outcome, Outcome::landedByYou) << "the later outcome replaces the earlier";
+    EXPECT_EQ(latest(), "Landed away from the pad — please collect it");
+    const P landed = drone.pos;
+    EXPECT_GT(distance(landed, pad), 2);
+    fly(5);
+    EXPECT_EQ(drone.pos, landed);
+    visit(Scenario::front);
+    EXPECT_EQ(drone.pos, pad);
+}
+
+TEST_F(SimulatorTest, TheFortyFirstNoticePushesOutTheOldestButTheMissionKeepsItsOwn) {
+    visitApproved(Scenario::driveway, Phase::following);
+    const std::size_t before = state.notices.size();
+    for (int i = 0; i < 25; ++i) {
+        send(Command::hold);
+        send(Command::resume);
+    }
+    EXPECT_EQ(state.notices.size(), 40u);
+    EXPECT_EQ(latest(), "Following again");
+    send(Command::land);
+    flyUntil(Phase::docked);
+    EXPECT_EQ(records.at(0).notices.size(), before + 50 + 2);
+    EXPECT_EQ(records[0].notices[0].text, "Driveway camera: someone you don't know");
+}
+
+TEST_F(SimulatorTest, CommandsActOnlyInThePhasesTheyFit) {
+    using enum Phase;
+    const std::map<Command, std::map<Phase, Phase>> effects = {
+        {Command::approve, {{awaitingApproval, launching}}},
+        {Command::ignore, {{awaitingApproval, docked}}},
+        {Command::hold, {{enRoute, holding}, {following, holding}}},
+        {Command::resume, {{holding, enRoute}}},
+        {Command::returnHome,
+         {{launching, returning}, {enRoute, returning}, {following, returning}, {holding, returning}}},
+        {Command::land,
+         {{launching, landing},
+          {enRoute, landing},
+          {following, landing},
+          {holding, landing},
+          {returning, landing},
+          {landing, landing}}},
+    };
+    visitApproved(Scenario::driveway, following);
+    const LiveState flying = state;
+    for (const auto& [command, effect] : effects)
+        for (const auto& [phase, name] : rawValuesOf<Phase>) {
+            state = flying;
+            state.phase = phase;
+            send(command);
+            const auto fits = effect.find(phase);
+            EXPECT_EQ(state.phase, fits == effect.end() ? phase : fits->second) << rawValue(command) << name;
+            EXPECT_EQ(state.notices != flying.notices, fits != effect.end()) << rawValue(command) << name;
+        }
+}
+
+} // namespace velmora

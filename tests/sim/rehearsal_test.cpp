@@ -1,0 +1,78 @@
+#include "simulator_fixture.h"
+
+namespace velmora {
+
+namespace {
+
+class Rehearsal : public testing::Test {
+protected:
+    MissionRecord rehearse(Scenario scenario, std::optional<double> approveAfter = {},
+                           std::optional<double> returnAfter = {}) {
+        return Simulator::rehearse(scenario, approveAfter, returnAfter, start, settings, random).value();
+    }
+    /// Tenths of a second from the detection to the end, or to the notice.
+    long ended(const MissionRecord& record) const { return std::lround((record.end - start).count() * 10); }
+    long noticed(const MissionRecord& record, std::string_view text) const {
+        const auto notice = std::ranges::find(record.notices, text, &Notice::text);
+        return notice == record.notices.end() ? -1 : std::lround((notice->time - start).count() * 10);
+    }
+
+    Date start = dateFromSeconds(1'748'786'592);
+    Settings settings;
+    ScriptedRandom random;
+};
+
+const std::string approved = "You approved the launch", asked = "Coming home — you asked";
+
+} // namespace
+
+TEST_F(Rehearsal, AnApprovedVisitIsFollowedUntilTheVisitorLeaves) {
+    const auto record = rehearse(Scenario::driveway, 9);
+    EXPECT_EQ(record.outcome, Outcome::visitorLeft);
+    EXPECT_TRUE(record.demo);
+    EXPECT_EQ(record.id, "M-786592");
+    EXPECT_EQ(noticed(record, approved), 90);
+    EXPECT_NEAR(record.batteryUsed, static_cast<double>(ended(record) - 90) * 0.009, 1e-6);
+}
+
+TEST_F(Rehearsal, AReturnActsOnItsOneTickUnlessTheDroneIsOnItsWayAlready) {
+    const auto returned = rehearse(Scenario::garden, 6, 70);
+    EXPECT_EQ(returned.outcome, Outcome::returnedByYou);
+    EXPECT_EQ(noticed(returned, asked), 700);
+    EXPECT_EQ(rehearse(Scenario::garden, 6, 81).outcome, Outcome::visitorLeft);
+    EXPECT_EQ(rehearse(Scenario::garden, 6, 5.9).outcome, Outcome::visitorLeft) << "asked too early";
+    const auto cut = rehearse(Scenario::garden, 0.19, 0.99);
+    EXPECT_TRUE(noticed(cut, approved) == 1 && noticed(cut, asked) == 9) << "times are cut to whole ticks";
+    settings.returnBattery = 91;
+    EXPECT_EQ(rehearse(Scenario::garden, 6, 70).outcome, Outcome::lowBattery);
+}
+
+TEST_F(Rehearsal, AnAlertLeftAloneExpires) {
+    const auto record = rehearse(Scenario::front);
+    EXPECT_EQ(record.outcome, Outcome::expired);
+    EXPECT_EQ(ended(record), 600);
+    settings.approvalSeconds = 5;
+    EXPECT_EQ(ended(rehearse(Scenario::driveway, 9)), 50) << "the approval comes after the deadline";
+    EXPECT_EQ(rehearse(Scenario::driveway, 5).outcome, Outcome::visitorLeft)
+        << "heard in the deadline's tick";
+    settings.maxWindKmh = 8.9;
+    const auto windy = rehearse(Scenario::front, 9);
+    EXPECT_TRUE(windy.outcome == Outcome::windTooHigh && windy.end == start && windy.demo);
+}
+
+TEST_F(Rehearsal, AMissionThatNeverLandsLeavesNoRecord) {
+    settings.boundaryBuffer = 80;
+    EXPECT_FALSE(Simulator::rehearse(Scenario::driveway, 9, {}, start, settings, random))
+        << "the buffer keeps the drone from the pad";
+}
+
+TEST_F(Rehearsal, TheSameDrawsGiveTheSameRecordToTheLastBit) {
+    const auto withSeed = [&](std::uint64_t seed) {
+        SeededRandom seeded(seed);
+        return Simulator::rehearse(Scenario::driveway, 9, {}, start, settings, seeded);
+    };
+    EXPECT_EQ(withSeed(11), withSeed(11));
+    EXPECT_NE(withSeed(11)->dronePath, withSeed(12)->dronePath);
+}
+
+} // namespace velmora

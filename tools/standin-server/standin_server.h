@@ -1,0 +1,36 @@
+#pragma once
+
+#include "standin-server/app_api.h"
+#include "standin-server/options.h"
+#include "standin-server/scripted_server.h"
+
+#include <QHttpServer>
+
+#include <optional>
+
+namespace velmora {
+
+/// Serves the app API over HTTP, well or as badly as the options ask.
+class StandinServer {
+public:
+    /// `api` must outlive the server.
+    StandinServer(const Options& options, AppApi& api);
+
+    /// Starts to serve; why it cannot, or empty. Port 0 takes a free one.
+    QString listen();
+    quint16 port() const { return port_; }
+
+private:
+    void route();
+    void answer(const AppApi::Answer& right, QHttpServerResponder&& responder);
+    ScriptedServer::Reply brokenReply(const QByteArray& request);
+    QString listenOn(QTcpServer& listener);
+
+    Options options_;
+    AppApi& api_;
+    quint16 port_ = 0;
+    QHttpServer http_;
+    std::optional<ScriptedServer> broken_;
+};
+
+} // namespace velmora
