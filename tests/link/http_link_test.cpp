@@ -1,0 +1,136 @@
+#include "link_fixture.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace velmora {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+TEST_F(LinkTest, TheBaseAddressTakesTheHostAsItStands) {
+    const auto base = [this](const std::string& host, std::int64_t port) {
+        settings.host = host;
+        settings.port = port;
+        const auto url = HttpLink::base(settings);
+        return url ? url->toString(QUrl::FullyEncoded).toStdString() : "none";
+    };
+    EXPECT_EQ(base("192.168.1.20", 8765), "http://192.168.1.20:8765/api/app/v1/");
+    EXPECT_EQ(base("velmora.local", 80), "http://velmora.local:80/api/app/v1/");
+    EXPECT_EQ(base("[::1]", 8765), "http://[::1]:8765/api/app/v1/");
+    for (const std::string& host :
+         {"", " ", "my house", " velmora.local", "::1", "[::1", "a..b", "%zz", "a<b"})
+        EXPECT_EQ(base(host, 8765), "none") << host;
+    for (const std::int64_t port : {std::int64_t{-1}, std::int64_t{65'536}, INT64_MAX, INT64_MIN})
+        EXPECT_EQ(base("velmora.local", port), "none") << port;
+}
+
+TEST_F(LinkTest, AFetchBringsTheStateAndTheServersVersion) {
+    reply = ok(document(), "2.1");
+    const FetchResult result = fetch();
+    const auto* fetched = std::get_if<FetchedState>(&result);
+    ASSERT_TRUE(fetched);
+    EXPECT_EQ(fetched->version, "2.1");
+    EXPECT_EQ(fetched->state, decode<LiveState>(document().toStdString(), KeyStyle::snakeCase).value);
+    ASSERT_EQ(requests.size(), 1u);
+    EXPECT_THAT(requests[0].toStdString(), StartsWith("GET /api/app/v1/state HTTP/1.1\r\n"));
+}
+
+TEST_F(LinkTest, AServerThatDoesNotTellItsVersionHasNone) {
+    reply = ok(document());
+    EXPECT_EQ(std::get<FetchedState>(fetch()).version, "");
+}
+
+TEST_F(LinkTest, NothingIsKeptFromOneFetchToTheNext) {
+    reply = ok(document(), "1\r\nSet-Cookie: id=7\r\nETag: \"a\"\r\nCache-Control: max-age=3600");
+    EXPECT_EQ(failure() + failure(), "");
+    ASSERT_EQ(requests.size(), 2u);
+    EXPECT_THAT(requests[1].toStdString(), Not(HasSubstr("Cookie")));
+    EXPECT_THAT(requests[1].toStdString(), Not(HasSubstr("If-None-Match")));
+}
+
+TEST_F(LinkTest, FetchesThatAreOutTogetherEndEachOnItsOwn) {
+    reply = ok(document());
+    for (int i = 0; i < 20; ++i)
+        startFetch();
+    EXPECT_TRUE(results.empty()) << "answers come from the event loop";
+    EXPECT_TRUE(eventually([this] { return results.size() == 20; }));
+    for (const FetchResult& result : results)
+        EXPECT_TRUE(std::holds_alternative<FetchedState>(result));
+}
+
+TEST_F(LinkTest, ACommandNamesItselfAndTheMission) {
+    struct Case {
+        Command command;
+        std::optional<std::string> mission;
+        QJsonObject body;
+    };
+    const Case cases[] = {
+        {Command::returnHome, "M-42", {{"command", "return"}, {"mission_id", "M-42"}}},
+        {Command::approve, std::nullopt, {{"command", "approve"}, {"mission_id", ""}}},
+        {Command::land, "a\"\né", {{"command", "land"}, {"mission_id", "a\"\né"}}},
+    };
+    reply = ok({});
+    for (const auto& [command, mission, body] : cases) {
+        const int before = sent;
+        startSend(command, mission);
+        ASSERT_TRUE(eventually([&] { return sent > before; }));
+        const QByteArray request = requests.back();
+        EXPECT_THAT(request.toStdString(), StartsWith("POST /api/app/v1/command HTTP/1.1\r\n"));
+        EXPECT_THAT(request.toStdString(), HasSubstr("\r\nContent-Type: application/json\r\n"));
+        EXPECT_EQ(QJsonDocument::fromJson(request.mid(request.indexOf("\r\n\r\n") + 4)).object(), body);
+    }
+}
+
+TEST_F(LinkTest, ACommandIsDoneHoweverItsExchangeEnds) {
+    impatient();
+    for (const Reply& end : {Reply{ScriptedServer::wellFormed(500, "no", {})}, Reply{"nonsense\r\n\r\n"},
+                             Reply{{}, true}, Reply{{}, false}, ok(QByteArray(9 << 20, ' '))}) {
+        const int before = sent;
+        reply = end;
+        startSend(Command::hold);
+        ASSERT_TRUE(eventually([&] { return sent > before; })) << end.bytes.left(40).toStdString();
+    }
+    server.listener().close();
+    startSend(Command::hold);
+    EXPECT_TRUE(eventually([this] { return sent == 6; }));
+}
+
+TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {
+    settings.host.clear();
+    startSend(Command::approve);
+    settings.host = "127.0.0.1";
+    reply = ok({});
+    startSend(Command::approve);
+    EXPECT_TRUE(eventually([this] { return sent > 0; }));
+    EXPECT_EQ(sent, 1);
+    EXPECT_EQ(requests.size(), 1u);
+}
+
+TEST_F(LinkTest, NothingIsHeardOnceTheLinkIsGone) {
+    reply = {{}, false};
+    startFetch();
+    startSend(Command::approve);
+    ASSERT_TRUE(eventually([this] { return requests.size() == 2; }));
+    link.reset();
+    EXPECT_TRUE(eventually([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }))
+        << "the connections are closed";
+    EXPECT_TRUE(results.empty());
+    EXPECT_EQ(sent, 0);
+}
+
+TEST_F(LinkTest, WhoeverIsToldMayDestroyTheLink) {
+    reply = ok(document());
+    int told = 0;
+    for (int i = 0; i < 3; ++i)
+        link->fetchState(settings, [&](const FetchResult&) {
+            ++told;
+            link.reset();
+        });
+    EXPECT_TRUE(eventually([&] { return told > 0; }));
+    EXPECT_TRUE(eventually([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }));
+    EXPECT_EQ(told, 1);
+}
+
+} // namespace velmora

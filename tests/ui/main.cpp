@@ -1,0 +1,15 @@
+#include "ui/look/fonts.h"
+#include "ui/look/style.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char* argv[]) {
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    QApplication app(argc, argv);
+    QApplication::setStyle(new velmora::Style);
+    QApplication::setPalette(velmora::Style::lightPalette());
+    velmora::SBFont::registerBundled();
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
