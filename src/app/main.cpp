@@ -1,40 +1,57 @@
-#include "app/self_check.h"
-#include "link/http_link.h"
-#include "sim/random.h"
-#include "store/app_store.h"
+#include "app/app.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
 #include "ui/look/type.h"
-#include "ui/window/main_window.h"
 
 #include <QApplication>
 
+#include <iostream>
+
 using namespace velmora;
 
-int main(int argc, char* argv[]) {
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    QApplication app(argc, argv);
+namespace {
+
+/// Without a display: --help and the like work anywhere.
+std::variant<Options, Message> optionsFrom(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    return readOptions(QCoreApplication::arguments());
+}
+
+void dress() {
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style);
     QApplication::setPalette(Style::lightPalette());
     if (!SBFont::registerBundled())
         qWarning("The program's typeface cannot be loaded; texts show in another one.");
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
-
-    SystemRandom random;
-    SilentNotifier notifier;
-    HttpLink link;
-    AppStore store({[] { return Date(std::chrono::system_clock::now()); }, random,
-                    DataFiles::defaultDirectory(), notifier, link});
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
-    store.start();
-    SelfCheck::runIfRequested(store);
+}
 
-    MainWindow window(store);
-    window.show();
-    window.activateWindow();
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const auto read = optionsFrom(argc, argv);
+    if (const auto* message = std::get_if<Message>(&read)) {
+        (message->exitCode == 0 ? std::cout : std::cerr) << message->text.toStdString();
+        return message->exitCode;
+    }
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    QApplication application(argc, argv);
+    AppService service(QDBusConnection::sessionBus());
+    switch (service.claim(DataFiles::defaultDirectory().path())) {
+    case AppService::Claim::handedOver:
+        return 0;
+    case AppService::Claim::refused:
+        std::cerr << "Velmora already runs with this data and cannot be reached. Close it first.\n";
+        return 1;
+    case AppService::Claim::granted:
+        break;
+    }
+    dress();
+    const App app(service, std::get<Options>(read));
     return QApplication::exec();
 }

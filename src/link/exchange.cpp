@@ -10,6 +10,7 @@ Exchange::Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qi
     reply_->setParent(this);
     reply_->setReadBufferSize(byteLimit_ + 1); // Qt stops reading from the network beyond it
     timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, [this] { end(End::Kind::timedOut); });
     connect(reply_, &QNetworkReply::readyRead, this, &Exchange::read);
     connect(reply_, &QNetworkReply::finished, this, &Exchange::finished);

@@ -22,7 +22,8 @@ Failure failureOf(QNetworkReply::NetworkError error) {
         return Failure::unreachable;
     case QNetworkReply::TimeoutError:
         return Failure::timedOut;
-    case QNetworkReply::RemoteHostClosedError: // before the reply was whole
+    case QNetworkReply::RemoteHostClosedError:            // before the reply was whole
+    case QNetworkReply::ProxyAuthenticationRequiredError: // status 407, for there is no proxy
         return Failure::badResponse;
     default:
         return Failure::other;

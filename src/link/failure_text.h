@@ -2,6 +2,8 @@
 
 #include "link/exchange.h"
 
+#include <optional>
+
 namespace velmora {
 
 /// The kinds of failure that the owner can be told apart.

@@ -21,10 +21,13 @@ constexpr double pollInterval = 0.5;      // seconds
 constexpr double failingUntilStale = 2;   // seconds since the last good answer
 constexpr double silentUntilStale = 2.5;  // seconds since the last good answer
 
-QString notificationTitle(const LiveState& state) {
+DetectionNotification detectionNotification(const LiveState& state) {
     const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
     const QString name = camera ? QString::fromStdString(camera->name) : QStringLiteral("a camera");
-    return QStringLiteral("Someone you don't know is at the ") + name.toLower();
+    return {QString::fromStdString(state.missionId.value_or("det")),
+            QStringLiteral("Someone you don't know is at the ") + name.toLower(),
+            QStringLiteral("Launch the drone to keep an eye on them?"),
+            camera ? QString::fromStdString(camera->snapshot) : QString()};
 }
 
 } // namespace
@@ -124,8 +127,7 @@ void AppStore::phaseChanged(Phase from, Phase to) {
 void AppStore::notifyDetection() {
     if (!settings_.notifyMac || !state_.visitor)
         return;
-    world_.notifier.post({QString::fromStdString(state_.missionId.value_or("det")), notificationTitle(state_),
-                          QStringLiteral("Launch the drone to keep an eye on them?")});
+    world_.notifier.post(detectionNotification(state_));
 }
 
 void AppStore::send(Command command) {

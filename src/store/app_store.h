@@ -47,6 +47,8 @@ public:
     /// When the server last answered well; absent in demo mode and before its first good answer.
     const std::optional<Date>& heardAt() const { return heardAt_; }
     bool showWelcome() const { return showWelcome_; }
+    /// Where settings.json and history.json are.
+    const QDir& dataDirectory() const { return world_.dataDirectory; }
     /// The world's present, for ages and countdowns.
     Date now() const { return world_.clock(); }
 

@@ -9,6 +9,7 @@ struct DetectionNotification {
     QString identifier; ///< a later one with the same identifier replaces it
     QString title;
     QString body;
+    QString picture; ///< artwork of the camera's view; may name nothing
 };
 
 /// The desktop's notification service as the store uses it. A desktop that has none shows nothing; the window

@@ -10,7 +10,8 @@
 
 namespace velmora {
 
-/// The window over a store whose time only the test moves. Widgets are found by what assistive technology calls them.
+/// The window over a store whose time only the test moves. Widgets are found by what assistive technology
+/// calls them.
 class UiTest : public StoreTest {
 protected:
     void SetUp() override {
@@ -23,7 +24,7 @@ protected:
     /// Opens the window at its default size.
     MainWindow& window() {
         if (!window_) {
-            window_ = std::make_unique<MainWindow>(store());
+            window_ = std::make_unique<MainWindow>(store(), Autostart(home.path() + "/autostart"));
             window_->show();
             settle();
         }

@@ -27,7 +27,9 @@ enum class Icon {
     deleteRecord,
     play,
     pause,
-    search
+    search,
+    shieldAlert,
+    shieldHalf
 };
 
 /// Draws the icon in one colour, fitted into the rectangle.

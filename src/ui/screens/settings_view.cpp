@@ -14,6 +14,8 @@
 #include "ui/screens/slider_line.h"
 #include "ui/words.h"
 
+#include <QDesktopServices>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -57,9 +59,10 @@ QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
 
 } // namespace
 
-SettingsView::SettingsView(AppStore& store, QWidget* parent)
+SettingsView::SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent)
     : QWidget(parent),
       store_(store),
+      autostart_(autostart),
       page_(new Page({.eyebrow = tr("Settings"),
                       .headline = {tr("How the drone "), tr("behaves"), tr(".")},
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
@@ -200,8 +203,23 @@ QWidget* SettingsView::buildAbout() {
         new Text(tr("Velmora 1.0 · consumer app for the velmora framework"), Type::body, SB::body, rows));
     columnOf(rows)->addWidget(
         new Label2(tr("Set in Inter, used under the SIL Open Font License."), false, rows));
-    columnOf(rows)->addSpacing(Measure::gap12);
-    columnOf(rows)->addWidget(welcome, 0, Qt::AlignLeft);
+    startAtLogin_ = new Switch(tr("Start Velmora when I log in"), rows);
+    auto* folder = new SBButton(tr("Open data folder"), {.kind = SBButtonKind::secondary}, rows);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Measure::gap8);
+    buttons->addWidget(welcome);
+    buttons->addWidget(folder);
+    buttons->addStretch(1);
+    columnOf(rows)->addSpacing(Measure::gap8);
+    columnOf(rows)->addWidget(labelled(tr("Start Velmora when I log in"), startAtLogin_, rows));
+    columnOf(rows)->addSpacing(Measure::gap8);
+    columnOf(rows)->addLayout(buttons);
+    connect(startAtLogin_, &Switch::turned, this, [this](bool on) {
+        autostart_.setOn(on);
+        startAtLogin_->show(autostart_.isOn());
+    });
+    connect(folder, &SBButton::clicked, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(store_.dataDirectory().path())); });
     connect(welcome, &SBButton::clicked, this, [this] { store_.setShowWelcome(true); });
     return rows;
 }
@@ -217,6 +235,7 @@ void SettingsView::refresh() {
     trackingNote_->setText(trackingNote(settings.tracking));
     notify_->show(settings.notifyMac);
     topic_->show(toQString(settings.ntfyTopic));
+    startAtLogin_->show(autostart_.isOn());
 }
 
 void SettingsView::resizeEvent(QResizeEvent*) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "store/autostart.h"
 
 #include <QWidget>
 
@@ -20,7 +21,7 @@ class SettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    SettingsView(AppStore& store, QWidget* parent);
+    SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -51,6 +52,7 @@ private:
     void refresh();
 
     AppStore& store_;
+    const Autostart& autostart_;
     QWidget* form_ = nullptr;
     std::vector<Limit> limits_;
     ConnectionForm* connection_ = nullptr;
@@ -58,6 +60,7 @@ private:
     Text* trackingNote_ = nullptr;
     Switch* notify_ = nullptr;
     TextField* topic_ = nullptr;
+    Switch* startAtLogin_ = nullptr;
     QWidget* page_;
 };
 

@@ -20,7 +20,6 @@
 #include "ui/window/title_strip.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -28,8 +27,11 @@
 
 namespace velmora {
 
-MainWindow::MainWindow(AppStore& store)
-    : store_(store), menus_(new CommandMenus(store, this)), stack_(new SectionStack(this)) {
+MainWindow::MainWindow(AppStore& store, Autostart autostart)
+    : store_(store),
+      autostart_(std::move(autostart)),
+      menus_(new CommandMenus(store, this)),
+      stack_(new SectionStack(this)) {
     setWindowTitle(QStringLiteral("Velmora"));
     setObjectName(QStringLiteral("main"));
     setWindowFlag(Qt::FramelessWindowHint);
@@ -71,7 +73,7 @@ void MainWindow::buildSections() {
     connect(history, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
     sections_[Section::history] = history;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
-    sections_[Section::settings] = new SettingsView(store_, stack_);
+    sections_[Section::settings] = new SettingsView(store_, autostart_, stack_);
     for (const auto& [section, screen] : sections_)
         stack_->addWidget(screen);
 }
@@ -151,12 +153,6 @@ void MainWindow::showWelcome() {
 
 void MainWindow::showSection() {
     stack_->showSection(sections_[store_.section()]);
-}
-
-/// Quits: without a tray icon nobody could find a hidden app again.
-void MainWindow::closeEvent(QCloseEvent* event) {
-    event->accept();
-    QCoreApplication::quit();
 }
 
 } // namespace velmora

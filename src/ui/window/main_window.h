@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "store/autostart.h"
 
 #include <QWidget>
 
@@ -24,10 +25,9 @@ class MainWindow : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MainWindow(AppStore& store);
+    MainWindow(AppStore& store, Autostart autostart);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -42,6 +42,7 @@ private:
     bool isCovered() const;
 
     AppStore& store_;
+    Autostart autostart_;
     CommandMenus* menus_;
     TitleStrip* strip_;
     QWidget* house_; ///< sidebar and section

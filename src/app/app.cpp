@@ -1,0 +1,59 @@
+#include "app/app.h"
+
+#include "app/self_check.h"
+#include "ui/look/art.h"
+
+#include <QApplication>
+#include <QWindow>
+
+namespace velmora {
+
+namespace {
+
+constexpr int notificationWidth = 320; // pixels
+
+NotificationPicture pictureOf(const QString& name) {
+    const QImage picture = Art::find(name);
+    if (picture.isNull())
+        return {};
+    const QImage small = picture.scaledToWidth(notificationWidth, Qt::SmoothTransformation)
+                             .convertToFormat(QImage::Format_RGBA8888);
+    return {small.width(), small.height(), static_cast<int>(small.bytesPerLine()),
+            QByteArray(reinterpret_cast<const char*>(small.constBits()), small.sizeInBytes())};
+}
+
+Date systemClock() {
+    return Date(std::chrono::system_clock::now());
+}
+
+} // namespace
+
+App::App(AppService& service, const Options& options)
+    : notifier_(QDBusConnection::sessionBus(), pictureOf),
+      store_({systemClock, random_, DataFiles::defaultDirectory(), notifier_, link_}),
+      window_(store_, Autostart(Autostart::defaultDirectory())),
+      tray_(store_) {
+    store_.start();
+    SelfCheck::runIfRequested(store_);
+    connect(&notifier_, &DesktopNotifier::answered, &store_, &AppStore::send);
+    connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
+    connect(&service, &AppService::windowRequested, this, &App::showWindow);
+    connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
+    connect(&tray_, &Tray::openRequested, this, [this] { showWindow(); });
+    connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
+    connect(&signals_, &QuitSignals::quitRequested, qApp, &QCoreApplication::quit);
+    if (!options.hidden)
+        showWindow();
+}
+
+void App::showWindow(const QString& activationToken) {
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8()); // Qt's Wayland plugin takes it from there
+    if (window_.isMinimized())
+        window_.showNormal();
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+}
+
+} // namespace velmora

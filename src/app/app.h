@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/app_service.h"
+#include "app/options.h"
+#include "app/quit_signals.h"
+#include "link/http_link.h"
+#include "sim/random.h"
+#include "store/app_store.h"
+#include "store/autostart.h"
+#include "store/desktop_notifier.h"
+#include "ui/tray/tray.h"
+#include "ui/window/main_window.h"
+
+namespace velmora {
+
+/// The running program: the store and everything that shows it, wired together.
+class App : public QObject {
+    Q_OBJECT
+
+public:
+    App(AppService& service, const Options& options);
+
+private:
+    /// Brings the window to the front, with the desktop's token where there is one.
+    void showWindow(const QString& activationToken = {});
+
+    SystemRandom random_;
+    HttpLink link_;
+    DesktopNotifier notifier_;
+    AppStore store_;
+    MainWindow window_;
+    Tray tray_;
+    QuitSignals signals_;
+};
+
+} // namespace velmora

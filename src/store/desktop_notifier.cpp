@@ -1,0 +1,204 @@
+#include "store/desktop_notifier.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.Notifications");
+const QString path = QStringLiteral("/org/freedesktop/Notifications");
+const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLiteral("IGNORE"),
+              defaultAction = QStringLiteral("default");
+constexpr uchar criticalUrgency = 2;
+constexpr int neverExpires = 0;
+
+QDBusMessage call(const QString& method) {
+    return QDBusMessage::createMethodCall(service, path, service, method);
+}
+
+/// Without control characters, which some services cannot show.
+QString printable(QString text) {
+    text.removeIf([](QChar character) { return character.category() == QChar::Other_Control; });
+    return text;
+}
+
+} // namespace
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotificationPicture& picture) {
+    constexpr bool hasAlpha = true;
+    constexpr int bitsPerSample = 8, channels = 4;
+    argument.beginStructure();
+    argument << picture.width << picture.height << picture.rowStride << hasAlpha << bitsPerSample << channels
+             << picture.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotificationPicture& picture) {
+    bool hasAlpha = false;
+    int bitsPerSample = 0, channels = 0;
+    argument.beginStructure();
+    argument >> picture.width >> picture.height >> picture.rowStride >> hasAlpha >> bitsPerSample >>
+        channels >> picture.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace velmora
+
+Q_DECLARE_METATYPE(velmora::NotificationPicture)
+
+namespace velmora {
+
+DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
+                                 std::function<NotificationPicture(const QString&)> pictureOf)
+    : bus_(bus),
+      watcher_(service, bus, QDBusServiceWatcher::WatchForOwnerChange),
+      pictureOf_(std::move(pictureOf)) {
+    qDBusRegisterMetaType<NotificationPicture>();
+    if (!bus_.isConnected())
+        return;
+    bus_.connect(service, path, service, QStringLiteral("ActionInvoked"), this,
+                 SLOT(onActionInvoked(uint, QString)));
+    bus_.connect(service, path, service, QStringLiteral("ActivationToken"), this,
+                 SLOT(onActivationToken(uint, QString)));
+    bus_.connect(service, path, service, QStringLiteral("NotificationClosed"), this,
+                 SLOT(onNotificationClosed(uint, uint)));
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotifier::forgetService);
+    askForCapabilities();
+}
+
+/// Another service knows nothing of what was posted to the last one.
+void DesktopNotifier::forgetService() {
+    posted_.clear();
+    capabilities_.clear();
+    askForCapabilities();
+}
+
+void DesktopNotifier::askForCapabilities() {
+    auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(call(QStringLiteral("GetCapabilities"))), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
+        const QDBusPendingReply<QStringList> capabilities = *reply;
+        if (capabilities.isValid())
+            capabilities_ = capabilities.value();
+        reply->deleteLater();
+    });
+}
+
+void DesktopNotifier::post(const DetectionNotification& notification) {
+    if (!bus_.isConnected())
+        return;
+    const auto [entry, isNew] = posted_.try_emplace(notification.identifier);
+    Posted& posted = entry->second;
+    if (!isNew && posted.id == 0)
+        posted.next = notification;
+    else
+        send(notification, posted);
+}
+
+void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
+    QString body = printable(notification.body);
+    if (capabilities_.contains(QStringLiteral("body-markup")))
+        body = body.toHtmlEscaped();
+    QDBusMessage message = call(QStringLiteral("Notify"));
+    message << QStringLiteral("Velmora") << posted.id << QStringLiteral("org.velmora.Velmora")
+            << printable(notification.title) << body << actions() << hintsFor(notification) << neverExpires;
+    posted.answered = false;
+    auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this,
+            [this, reply, identifier = notification.identifier] {
+                const QDBusPendingReply<uint> id = *reply;
+                if (id.isValid())
+                    onPosted(identifier, id.value());
+                else if (const auto entry = posted_.find(identifier);
+                         entry != posted_.end() && entry->second.id == 0)
+                    posted_.erase(entry);
+                reply->deleteLater();
+            });
+}
+
+void DesktopNotifier::onPosted(const QString& identifier, uint id) {
+    const auto entry = posted_.find(identifier);
+    if (entry == posted_.end() || entry->second.withdrawn) {
+        close(id);
+        posted_.erase(identifier);
+        return;
+    }
+    entry->second.id = id;
+    if (const auto next = std::exchange(entry->second.next, std::nullopt))
+        send(*next, entry->second);
+}
+
+void DesktopNotifier::withdrawAll() {
+    for (auto entry = posted_.begin(); entry != posted_.end();) {
+        if (entry->second.id == 0) {
+            entry->second.withdrawn = true; // it is closed as soon as its id is known
+            entry->second.next.reset();
+            ++entry;
+        } else {
+            close(entry->second.id);
+            entry = posted_.erase(entry);
+        }
+    }
+}
+
+void DesktopNotifier::close(uint id) {
+    QDBusMessage message = call(QStringLiteral("CloseNotification"));
+    message << id;
+    bus_.asyncCall(message);
+}
+
+QStringList DesktopNotifier::actions() const {
+    if (!capabilities_.contains(QStringLiteral("actions")))
+        return {};
+    return {defaultAction, tr("Open Velmora"), launchAction, tr("Launch drone"), ignoreAction, tr("Ignore")};
+}
+
+QVariantMap DesktopNotifier::hintsFor(const DetectionNotification& notification) const {
+    QVariantMap hints{{QStringLiteral("category"), QStringLiteral("x-velmora.detection")},
+                      {QStringLiteral("urgency"), QVariant::fromValue(criticalUrgency)},
+                      {QStringLiteral("resident"), true},
+                      {QStringLiteral("sound-name"), QStringLiteral("alarm-clock-elapsed")},
+                      {QStringLiteral("desktop-entry"), QStringLiteral("org.velmora.Velmora")}};
+    if (const NotificationPicture picture = pictureOf_(notification.picture); !picture.pixels.isEmpty())
+        hints.insert(QStringLiteral("image-data"), QVariant::fromValue(picture));
+    return hints;
+}
+
+DesktopNotifier::Posted* DesktopNotifier::find(uint id) {
+    const auto entry = std::ranges::find_if(posted_, [id](const auto& one) { return one.second.id == id; });
+    return id == 0 || entry == posted_.end() ? nullptr : &entry->second;
+}
+
+/// The signal goes to everyone on the bus, so only notifications of this run count, and each answers once.
+void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
+    Posted* posted = find(id);
+    if (!posted || posted->answered)
+        return;
+    const QString token = posted->token;
+    posted->answered = action == launchAction || action == ignoreAction;
+    if (action != ignoreAction)
+        emit windowRequested(token);
+    if (action == launchAction)
+        emit answered(Command::approve);
+    else if (action == ignoreAction)
+        emit answered(Command::ignore);
+}
+
+void DesktopNotifier::onActivationToken(uint id, const QString& token) {
+    if (Posted* posted = find(id))
+        posted->token = token;
+}
+
+void DesktopNotifier::onNotificationClosed(uint id, uint) {
+    std::erase_if(posted_, [id](const auto& one) { return one.second.id == id; });
+}
+
+} // namespace velmora

@@ -1,0 +1,141 @@
+#include "ui/tray/tray.h"
+
+#include "ui/look/icons.h"
+#include "ui/look/tokens.h"
+#include "ui/words.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusInterface>
+#include <QPainter>
+
+namespace velmora {
+
+namespace {
+
+const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
+constexpr int patienceForOldTray = 15'000; // milliseconds
+constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
+
+Icon iconFor(Phase phase) {
+    if (phase == Phase::awaitingApproval)
+        return Icon::shieldAlert;
+    return airborne(phase) ? Icon::live : Icon::shieldHalf;
+}
+
+/// In a tone that shows on light and on dark panels.
+QIcon pixmapsOf(Icon icon) {
+    QIcon icons;
+    for (const int size : iconSizes) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paintIcon(painter, pixmap.rect(), icon, SB::dot);
+        painter.end();
+        icons.addPixmap(pixmap);
+    }
+    return icons;
+}
+
+void setText(QAction* action, const QString& text) {
+    if (action->text() != text)
+        action->setText(text);
+}
+
+} // namespace
+
+Tray::Tray(AppStore& store, QObject* parent)
+    : QObject(parent),
+      store_(store),
+      trayWatcher_(trayService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
+    buildMenu();
+    connect(&store_, &AppStore::stateChanged, this, &Tray::refresh);
+    connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
+    connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
+    refresh();
+    watchForTray();
+}
+
+void Tray::buildMenu() {
+    phase_ = addLine();
+    armed_ = addLine();
+    menu_.addSeparator();
+    launch_ = addCommand(tr("Launch drone"), Command::approve);
+    ignore_ = addCommand(tr("Ignore"), Command::ignore);
+    afterAnswers_ = menu_.addSeparator();
+    home_ = addCommand(tr("Return home"), Command::returnHome);
+    afterHome_ = menu_.addSeparator();
+    arming_ = menu_.addAction(QString());
+    connect(arming_, &QAction::triggered, this, [this] { store_.setArmed(!store_.state().armed); });
+    connect(menu_.addAction(tr("Open Velmora")), &QAction::triggered, this, &Tray::openRequested);
+    menu_.addSeparator();
+    connect(menu_.addAction(tr("Quit Velmora")), &QAction::triggered, this, &Tray::quitRequested);
+}
+
+QAction* Tray::addLine() {
+    QAction* line = menu_.addAction(QString());
+    line->setEnabled(false);
+    return line;
+}
+
+QAction* Tray::addCommand(const QString& text, Command command) {
+    QAction* action = menu_.addAction(text);
+    connect(action, &QAction::triggered, this, [this, command] { store_.send(command); });
+    return action;
+}
+
+/// Qt decides once for a run whether the desktop has a tray, so the icon is made only when one is there.
+/// Without a tray on the bus one of the old X11 kind is taken after a while.
+void Tray::watchForTray() {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected() && bus.interface()->isServiceRegistered(trayService)) {
+        showIcon();
+        return;
+    }
+    connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, this, &Tray::showIcon);
+    patience_.setSingleShot(true);
+    connect(&patience_, &QTimer::timeout, this, &Tray::showIcon);
+    patience_.start(patienceForOldTray);
+}
+
+void Tray::showIcon() {
+    patience_.stop();
+    if (icon_)
+        return;
+    icon_ = std::make_unique<QSystemTrayIcon>();
+    icon_->setContextMenu(&menu_);
+    connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+            emit openRequested();
+    });
+    shownIcon_ = -1;
+    refresh();
+    icon_->show();
+}
+
+/// Lines come and go by visibility, so that an open menu is not built anew under the pointer.
+void Tray::refresh() {
+    const bool known = store_.freshness() != Freshness::waiting;
+    const Phase phase = known ? store_.state().phase : Phase::docked;
+    const QString status = tr("Velmora — ") + (known ? phaseWord(phase) : tr("Waiting for velmora"));
+    setText(phase_, status);
+    setText(armed_, store_.state().armed ? tr("Armed") : tr("Disarmed"));
+    armed_->setVisible(known);
+    for (QAction* action : {launch_, ignore_, afterAnswers_})
+        action->setVisible(phase == Phase::awaitingApproval);
+    for (QAction* action : {home_, afterHome_})
+        action->setVisible(airborne(phase));
+    setText(arming_, store_.state().armed ? tr("Disarm") : tr("Arm"));
+    if (!icon_)
+        return;
+    const QString tip = store_.settings().linkMode ? status + '\n' + store_.linkStatus().text() : status;
+    if (icon_->toolTip() != tip)
+        icon_->setToolTip(tip);
+    const Icon icon = iconFor(phase);
+    if (static_cast<int>(icon) == shownIcon_)
+        return;
+    shownIcon_ = static_cast<int>(icon);
+    icon_->setIcon(pixmapsOf(icon));
+}
+
+} // namespace velmora

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "store/app_store.h"
+
+#include <QDBusServiceWatcher>
+#include <QMenu>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <memory>
+
+namespace velmora {
+
+/// The icon in the desktop's tray with its small menu: the phase, the answers to an alert, the way home. It
+/// appears when the desktop has a tray, however late.
+class Tray : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Tray(AppStore& store, QObject* parent = nullptr);
+
+signals:
+    void openRequested();
+    void quitRequested();
+
+private:
+    void buildMenu();
+    QAction* addLine();
+    QAction* addCommand(const QString& text, Command command);
+    void watchForTray();
+    void showIcon();
+    void refresh();
+
+    AppStore& store_;
+    QMenu menu_;
+    QAction* phase_;
+    QAction* armed_;
+    QAction* launch_;
+    QAction* ignore_;
+    QAction* afterAnswers_;
+    QAction* home_;
+    QAction* afterHome_;
+    QAction* arming_;
+    QDBusServiceWatcher trayWatcher_;
+    QTimer patience_; ///< until a tray of the old kind is taken
+    std::unique_ptr<QSystemTrayIcon> icon_;
+    int shownIcon_ = -1;
+};
+
+} // namespace velmora
