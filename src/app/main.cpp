@@ -5,6 +5,7 @@
 #include "ui/look/type.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <iostream>
 
@@ -23,6 +24,9 @@ void dress() {
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QIcon icon(QStringLiteral(":/icons/app/velmora-128.png"));
+    icon.addFile(QStringLiteral(":/icons/app/velmora-48.png"));
+    QApplication::setWindowIcon(icon);
     QApplication::setStyle(new Style);
     QApplication::setPalette(Style::lightPalette());
     if (!SBFont::registerBundled())

@@ -41,7 +41,7 @@ std::optional<std::string> dateText(Date date) {
     const auto day = floor<days>(wholeSeconds);
     const year_month_day calendar{day};
     const hh_mm_ss clock{wholeSeconds - day};
-    std::array<char, 24> text{};
+    std::array<char, 80> text{}; // as wide as the widest numbers, which do not occur
     std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", int(calendar.year()),
                   unsigned(calendar.month()), unsigned(calendar.day()), int(clock.hours().count()),
                   int(clock.minutes().count()), int(clock.seconds().count()));

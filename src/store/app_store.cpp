@@ -95,16 +95,17 @@ void AppStore::advancePolling(double elapsed) {
 
 void AppStore::poll() {
     pollInFlight_ = true;
-    world_.link.fetchState(settings_, [store = QPointer(this)](const FetchResult& result) {
+    world_.link.fetchState(settings_, [store = QPointer(this), server = server_](const FetchResult& result) {
         if (store)
-            store->received(result);
+            store->received(result, server);
     });
 }
 
-void AppStore::received(const FetchResult& result) {
+void AppStore::received(const FetchResult& result, int server) {
     pollInFlight_ = false;
     if (const auto* fetched = std::get_if<FetchedState>(&result)) {
-        heardAt_ = settings_.linkMode ? std::optional(world_.clock()) : std::nullopt;
+        if (settings_.linkMode && server == server_)
+            heardAt_ = world_.clock();
         setState(fetched->state);
         setLinkStatus(LinkStatus::connected(fetched->version));
     } else {
@@ -163,7 +164,10 @@ void AppStore::applyLinkMode(bool linked) {
 }
 
 void AppStore::forgetServer() {
+    ++server_;
     heardAt_.reset();
+    if (settings_.linkMode)
+        setLinkStatus(LinkStatus::connecting());
     updateFreshness();
 }
 
@@ -252,10 +256,20 @@ void AppStore::setSection(Section section) {
 }
 
 void AppStore::setSelectedRecord(const std::optional<std::string>& id) {
+    selectedPlace_.reset();
     if (id == selectedRecord_)
         return;
     selectedRecord_ = id;
     emit selectedRecordChanged();
+}
+
+void AppStore::openRecord(std::size_t place) {
+    if (place >= history_.size())
+        return;
+    selectedRecord_ = history_[place].id;
+    selectedPlace_ = place;
+    emit selectedRecordChanged();
+    setSection(Section::history);
 }
 
 void AppStore::setShowWelcome(bool show) {

@@ -42,6 +42,8 @@ public:
     Section section() const { return section_; }
     /// Id of the record opened in the history.
     const std::optional<std::string>& selectedRecord() const { return selectedRecord_; }
+    /// Its place in the history when it was opened by place: ids are not unique.
+    const std::optional<std::size_t>& selectedPlace() const { return selectedPlace_; }
     const LinkStatus& linkStatus() const { return linkStatus_; }
     Freshness freshness() const { return freshness_; }
     /// When the server last answered well; absent in demo mode and before its first good answer.
@@ -54,6 +56,8 @@ public:
 
     void setSection(Section section);
     void setSelectedRecord(const std::optional<std::string>& id);
+    /// Opens the record in this place of the history.
+    void openRecord(std::size_t place);
     void setShowWelcome(bool show);
     /// A change is saved and reaches the simulator at once.
     void setSettings(const Settings& settings);
@@ -92,7 +96,7 @@ private:
     void advanceSimulator(Date now, double elapsed);
     void advancePolling(double elapsed);
     void poll();
-    void received(const FetchResult& result);
+    void received(const FetchResult& result, int server);
     void phaseChanged(Phase from, Phase to);
     void notifyDetection();
     void record(const MissionRecord& record);
@@ -105,6 +109,7 @@ private:
     std::vector<MissionRecord> history_;
     Section section_ = Section::overview;
     std::optional<std::string> selectedRecord_;
+    std::optional<std::size_t> selectedPlace_;
     LinkStatus linkStatus_;
     Freshness freshness_ = Freshness::live;
     std::optional<Date> heardAt_;
@@ -113,6 +118,7 @@ private:
     QTimer timer_;
     Date lastTick_;
     bool pollInFlight_ = false;
+    int server_ = 0;       ///< counts the servers asked, so that a late answer of another one is told apart
     double pollClock_ = 0; ///< seconds gathered towards the next poll
     Phase lastPhase_ = Phase::docked;
 };

@@ -5,6 +5,7 @@
 #include "standin-server/scripted_server.h"
 
 #include <QFile>
+#include <QTcpSocket>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -41,6 +42,7 @@ protected:
         return {ScriptedServer::wellFormed(200, body, version)};
     }
 
+    void patient() { link = std::make_unique<HttpLink>(); }
     void impatient() { link = std::make_unique<HttpLink>(HttpLink::Limits{100ms, 100ms, 8 << 20}); }
 
     void startFetch() {

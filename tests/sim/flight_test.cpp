@@ -96,6 +96,30 @@ TEST_F(SimulatorTest, ADroneExactlyOnTheVisitorBacksOffTowardsThePad) {
     drone.pos = lingering;
     step(1);
     EXPECT_NEAR(distance(drone.pos, lingering + unit(pad - lingering) * 4), 0, 0.3);
+    drone.pos = {130, 20};
+    fly(3);
+    EXPECT_NEAR(drone.speed, 7, 1e-9) << "never faster while following";
+}
+
+TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
+    visitApproved(Scenario::driveway, Phase::enRoute);
+    const auto phaseAt = [&](P where) {
+        drone.pos = where;
+        step(0);
+        return state.phase;
+    };
+    const P visitor = state.visitor->pos;
+    EXPECT_EQ(phaseAt(visitor + P{0, -18.01}), Phase::enRoute);
+    EXPECT_EQ(phaseAt(visitor + P{0, -17.99}), Phase::following) << "within 3 m of the place to follow from";
+    const std::vector<Notice> notices = state.notices;
+    step(0);
+    EXPECT_EQ(state.notices, notices) << "said once";
+    send(Command::returnHome);
+    EXPECT_EQ(phaseAt(pad + P{0.61, 0}), Phase::returning);
+    EXPECT_EQ(phaseAt(pad + P{0, 0.59}), Phase::landing);
+    drone.altitude = 0;
+    EXPECT_EQ(phaseAt(pad + P{2.01, 0}), Phase::docked);
+    EXPECT_EQ(latest(), "Landed away from the pad — please collect it");
 }
 
 TEST_F(SimulatorTest, TheBoundaryIsSaidOnceWhileItHoldsAndLeftSilently) {
@@ -121,14 +145,23 @@ TEST_F(SimulatorTest, TheBoundaryIsSaidOnceWhileItHoldsAndLeftSilently) {
 }
 
 TEST_F(SimulatorTest, TheBufferCutsThePositionButNotTheSpeed) {
+    random.draws[strength] = 0;
     visitApproved(Scenario::garden, Phase::following);
     send(Command::returnHome);
     state.site.boundary = {{100, 0}, {200, 0}, {200, 100}, {100, 100}};
     fly(6);
     EXPECT_EQ(drone.pos.x, 105);
     EXPECT_GT(drone.speed, 8) << "still pushing towards the pad outside the bounds";
+    state.atBoundary = true;
+    drone.altitude = 0;
+    send(Command::land);
+    step(0);
+    EXPECT_TRUE(state.phase == Phase::docked && drone.speed == 0 && !state.atBoundary);
+    visitApproved(Scenario::driveway, Phase::enRoute);
+    send(Command::hold);
     state.site.boundary.clear();
     step(0);
+    EXPECT_EQ(drone.speed, 0) << "a flight starts from rest";
     EXPECT_EQ(drone.pos, (P{-5, -5})) << "raised to the lower limit, then lowered to the upper";
 }
 
@@ -167,18 +200,20 @@ TEST_F(SimulatorTest, WithoutAVisitorTheDroneComesHome) {
 }
 
 TEST_F(SimulatorTest, TheVisitorLeavesAfterMoreThanSixSecondsOutsideInOneGo) {
-    visitApproved(Scenario::driveway, Phase::following);
+    visitApproved(Scenario::front, Phase::following);
     send(Command::hold);
     state.site.cameras[1].pos = state.site.cameras[0].pos;
     stand({7.4, 6.6});
     EXPECT_TRUE(state.visitor->inside) << "the edge belongs to the grounds";
-    for (int exit = 0; exit < 2; ++exit) {
+    const std::size_t before = state.notices.size();
+    for (std::size_t exit = 0; exit < 2; ++exit) {
         stand({60, 50});
         stand({-50, 46});
-        EXPECT_EQ(latest(), "Visitor has crossed your boundary");
         EXPECT_EQ(state.visitor->cameraId, "driveway") << "nearest, and first of two";
         step(6);
         ASSERT_TRUE(state.visitor) << "exactly six seconds are still patience, and coming back renews it";
+        EXPECT_EQ(latest(), "Visitor has crossed your boundary") << "said once";
+        EXPECT_EQ(state.notices.size(), before + 1 + exit);
     }
     step(0.01);
     EXPECT_FALSE(state.visitor);

@@ -12,25 +12,12 @@ using Plane = std::complex<double>;
 constexpr double tick = 0.1;           // seconds, of a rehearsal
 constexpr std::size_t sampleEvery = 5; // ticks
 
-struct Stop {
-    Plane at;
-    double linger = 0; // seconds
-};
-
-const std::map<Scenario, std::vector<Stop>> walks = {
-    {Scenario::driveway,
-     {{{14, 88}},
-      {{22, 79}},
-      {{31, 66}},
-      {{41, 58}},
-      {{53, 54}, 7},
-      {{66, 61}},
-      {{90, 74}, 5},
-      {{112, 80}},
-      {{133, 84}},
-      {{152, 86}}}},
-    {Scenario::garden, {{{137, 17}}, {{120, 21}}, {{103, 30}, 8}, {{110, 47}}, {{129, 57}, 4}, {{152, 60}}}},
-    {Scenario::front, {{{104, 88}}, {{95, 78}}, {{82, 63}, 6}, {{61, 73}}, {{43, 84}, 3}, {{38, 99}}}},
+/// The points of each walk: x, y and the seconds that the visitor stands there.
+const std::map<Scenario, std::vector<double>> walks = {
+    {Scenario::driveway, {14, 88, 0, 22, 79, 0, 31,  66, 0, 41,  58, 0, 53,  54, 7,
+                          66, 61, 0, 90, 74, 5, 112, 80, 0, 133, 84, 0, 152, 86, 0}},
+    {Scenario::garden, {137, 17, 0, 120, 21, 0, 103, 30, 8, 110, 47, 0, 129, 57, 4, 152, 60, 0}},
+    {Scenario::front, {104, 88, 0, 95, 78, 0, 82, 63, 6, 61, 73, 0, 43, 84, 3, 38, 99, 0}},
 };
 
 /// How many ticks a count of seconds lasts when it is run down tick by tick.
@@ -41,27 +28,23 @@ std::size_t ticksOf(double seconds) {
     return ticks;
 }
 
-bool onGrounds(Plane at) {
-    return at.real() >= 7.4 && at.real() <= 142.6 && at.imag() >= 6.6 && at.imag() <= 90.6;
-}
-
-/// Where the visitor is after each tick, in closed form leg by leg, for as long as the simulator keeps a
-/// visitor: up to the tick in which more than six seconds outside have passed.
+/// Where the visitor is after each tick, in closed form leg by leg, for as long as there is a visitor: up to
+/// the tick in which more than six seconds outside have passed.
 std::vector<Plane> walkOf(Scenario scenario) {
     const double stride = 1.45 * tick;
-    const std::vector<Stop>& stops = walks.at(scenario);
+    const std::vector<double>& points = walks.at(scenario);
     std::vector<Plane> walk;
-    for (std::size_t leg = 1; leg < stops.size(); ++leg) {
-        const Plane from = stops[leg - 1].at, way = stops[leg].at - from;
-        for (int strides = 1; strides * stride < std::abs(way); ++strides)
-            walk.push_back(from + way / std::abs(way) * (strides * stride));
-        walk.insert(walk.end(), 1 + ticksOf(stops[leg].linger), stops[leg].at);
+    for (std::size_t i = 3; i < points.size(); i += 3) {
+        const Plane from{points[i - 3], points[i - 2]}, to{points[i], points[i + 1]};
+        for (int strides = 1; strides * stride < std::abs(to - from); ++strides)
+            walk.push_back(from + std::polar(strides * stride, std::arg(to - from)));
+        walk.insert(walk.end(), 1 + ticksOf(points[i + 2]), to);
     }
-    std::size_t ticksToPatience = 0;
-    for (double outside = 0; outside <= 6; outside += tick)
-        ++ticksToPatience;
-    const auto left = std::ranges::find_if_not(walk, onGrounds);
-    walk.resize(static_cast<std::size_t>(left - walk.begin()) + ticksToPatience - 1, stops.back().at);
+    const auto left = std::ranges::find_if(walk, [](Plane at) {
+        return at.real() < 7.4 || at.real() > 142.6 || at.imag() < 6.6 || at.imag() > 90.6;
+    });
+    const std::size_t patience = 60; // ticks that are not yet more than six seconds
+    walk.resize(static_cast<std::size_t>(left - walk.begin()) + patience, walk.back());
     return walk;
 }
 

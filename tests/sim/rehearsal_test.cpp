@@ -64,6 +64,7 @@ TEST_F(Rehearsal, AMissionThatNeverLandsLeavesNoRecord) {
     settings.boundaryBuffer = 80;
     EXPECT_FALSE(Simulator::rehearse(Scenario::driveway, 9, {}, start, settings, random))
         << "the buffer keeps the drone from the pad";
+    EXPECT_EQ(std::ranges::count(random.asked, ScriptedRandom::Range{-0.4, 0.4}), 9000) << "steps";
 }
 
 TEST_F(Rehearsal, TheSameDrawsGiveTheSameRecordToTheLastBit) {

@@ -2,6 +2,8 @@
 
 import math
 
+from mathutils import Vector
+
 import materials
 import measures as site
 import shapes
@@ -9,7 +11,7 @@ import shapes
 
 def _looks():
     return {
-        "wall": materials.render_coat("Lime wash", (0.56, 0.49, 0.39), (0.45, 0.385, 0.3)),
+        "wall": materials.render_coat("Lime wash", (0.56, 0.515, 0.44), (0.46, 0.415, 0.345)),
         "stone": materials.masonry("Stone", 0.5, 0.24, 0.012, (0.33, 0.285, 0.225), (0.25, 0.22, 0.18), (0.3, 0.27, 0.22)),
         "brick": materials.masonry("Brick", 0.24, 0.075, 0.01, (0.27, 0.1, 0.06), (0.2, 0.075, 0.05), (0.3, 0.27, 0.23)),
         "tiles": materials.tiles("Tiles", (0.115, 0.07, 0.055), (0.07, 0.048, 0.042)),
@@ -19,8 +21,8 @@ def _looks():
         "door": materials.boards("Door", (0.02, 0.11, 0.11), (0.014, 0.075, 0.078), 0.2),
         "timber": materials.boards("Timber", (0.1, 0.065, 0.04), (0.055, 0.037, 0.025)),
         "pane": materials.glass("Pane", 0.0),
-        "lit": materials.glass("Lit pane", 2.6),
-        "dim": materials.glass("Dim pane", 0.9),
+        "lit": materials.glass("Lit pane", 0.5),
+        "dim": materials.glass("Dim pane", 0.14),
     }
 
 
@@ -55,8 +57,13 @@ class House:
         low = [corner(a0, c1, eaves), corner(a0, c0, eaves), corner(r0, middle, ridge)]
         high = [corner(a1, c0, eaves), corner(a1, c1, eaves), corner(r1, middle, ridge)]
         for kind, face in (("roof", near), ("roof", far), ("low", low), ("high", high)):
-            wall = kind in gables
-            self._slab(face, self.looks["wall" if wall else look], 0.0 if wall else 0.16, over if wall else 0)
+            if kind not in gables:
+                self._slab(face, self.looks[look], 0.16)
+        for kind, along in (("low", a0 + over), ("high", a1 - over)):
+            if kind in gables:
+                self.solid.face([corner(along, c0 + over, eaves - 0.1), corner(along, c1 - over, eaves - 0.1),
+                                 corner(along, c1 - over, eaves + over * pitch - 0.17), corner(along, middle, ridge - 0.17),
+                                 corner(along, c0 + over, eaves + over * pitch - 0.17)], self.looks["timber"])
         self.solid.tube([corner(r0, middle, ridge + 0.04), corner(r1, middle, ridge + 0.04)], [0.13, 0.13], self.looks[look], 8)
         for end, points in (("low", low), ("high", high)):
             if end not in gables:
@@ -68,28 +75,17 @@ class House:
         self.solid.face([corner(a0, c1, eaves - 0.02), corner(a1, c1, eaves - 0.02), corner(a1, c0, eaves - 0.02),
                          corner(a0, c0, eaves - 0.02)], self.looks["frame"])
 
-    def _slab(self, points, look, thick, inset):
-        """Both windings of the plan turn up: the face is reversed when it would look down."""
-        from mathutils import Vector
-
+    def _slab(self, points, look, thick):
+        """A roof face with its edge; it always looks up, whichever way round its corners came."""
         p = [Vector(c) for c in points]
         normal = (p[1] - p[0]).cross(p[-1] - p[0]).normalized()
         if normal.z < -0.001:
             p = [p[1], p[0]] + p[:1:-1]
-            normal = -normal
-        if inset:
-            middle = sum(p, Vector()) / len(p)
-            away = Vector((normal.x, normal.y, 0)).normalized()
-            inward = Vector((0, 0, 0))
-            if away.dot(middle) != 0:
-                inward = -away * inset
-            p = [c + inward if abs(normal.z) < 0.01 else c for c in p]
         self.solid.face(p, look)
-        if thick:
-            under = [c - Vector((0, 0, thick)) for c in p]
-            for i in range(len(p)):
-                n = (i + 1) % len(p)
-                self.solid.face([under[i], under[n], p[n], p[i]], self.looks["trim"])
+        under = [c - Vector((0, 0, thick)) for c in p]
+        for i in range(len(p)):
+            n = (i + 1) % len(p)
+            self.solid.face([under[i], under[n], p[n], p[i]], self.looks["trim"])
 
     def opening(self, side, fixed, along, z, width, height, pane="pane", bars=(2, 3), frame=0.09, sill=True):
         """A window or glazed door; `fixed` is the wall's x or y, `along` its middle along the wall."""
@@ -237,13 +233,14 @@ def _car():
     paint = materials.plain("Paint", (0.03, 0.055, 0.09), 0.22, 0.55)
     dark = materials.plain("Rubber", (0.012, 0.012, 0.013), 0.8)
     pane = materials.glass("Pane", 0.0)
-    sections = [(-2.3, 0.66, 0.42, 0.72), (-2.15, 0.82, 0.3, 0.9), (-1.2, 0.9, 0.26, 0.98), (0.6, 0.9, 0.26, 0.97),
-                (1.6, 0.86, 0.28, 0.86), (2.15, 0.74, 0.34, 0.7), (2.28, 0.6, 0.42, 0.6)]
-    cabin = [(-2.12, 0.66, 0.9, 0.98), (-1.75, 0.66, 0.9, 1.42), (-0.3, 0.68, 0.95, 1.5), (0.45, 0.66, 0.95, 1.42), (1.25, 0.7, 0.88, 0.93)]
+    sections = [(-2.34, 0.8, 0.36, 0.86), (-2.28, 0.9, 0.26, 1.0), (-2.0, 0.96, 0.2, 1.06), (-1.2, 0.99, 0.2, 1.08), (0.6, 0.99, 0.2, 1.06),
+                (1.5, 0.97, 0.2, 0.97), (2.1, 0.93, 0.22, 0.86), (2.3, 0.84, 0.28, 0.76), (2.36, 0.74, 0.36, 0.66)]
+    cabin = [(-2.2, 0.8, 0.86, 1.02), (-2.1, 0.82, 0.86, 1.24), (-1.75, 0.84, 0.86, 1.52), (-0.3, 0.85, 0.9, 1.58), (0.35, 0.83, 0.9, 1.52),
+             (0.9, 0.84, 0.86, 1.24), (1.35, 0.86, 0.84, 0.98)]
     for name, rows, look in (("Car body", sections, paint), ("Car glass", cabin, pane)):
         verts, faces = [], []
         for x, w, low, high in rows:
-            verts += [(x, -w, low), (x, -w * 1.03, (low + high) / 2), (x, -w * 0.86, high), (x, w * 0.86, high),
+            verts += [(x, -w, low), (x, -w * 1.03, (low + high) / 2), (x, -w * (0.9 if look is paint else 0.74), high), (x, w * (0.9 if look is paint else 0.74), high),
                       (x, w * 1.03, (low + high) / 2), (x, w, low)]
         for i in range(len(rows) - 1):
             for k in range(6):
@@ -254,14 +251,15 @@ def _car():
         smooth = thing.modifiers.new("Smooth", "SUBSURF")
         smooth.levels = smooth.render_levels = 2
     parts = shapes.Builder()
-    parts.box((-1.7, -0.6, 1.46), (0.2, 0.6, 1.5), paint)
-    for x in (-1.4, 1.4):
-        for y in (-0.86, 0.86):
-            parts.tube([(x, y - 0.11, 0.33), (x, y + 0.11, 0.33)], [0.33, 0.33], dark, 28)
-            parts.tube([(x, y - 0.115, 0.33), (x, y + 0.115, 0.33)], [0.2, 0.2], materials.plain("Rim", (0.4, 0.41, 0.42), 0.3, 0.8), 20)
-    for y in (-0.55, 0.55):
-        parts.box((2.14, y - 0.18, 0.6), (2.24, y + 0.18, 0.7), materials.plain("Lamp", (0.8, 0.8, 0.78), 0.1))
-        parts.box((-2.3, y - 0.15, 0.66), (-2.2, y + 0.15, 0.8), materials.plain("Tail lamp", (0.35, 0.01, 0.01), 0.2))
+    parts.box((-1.75, -0.56, 1.5), (0.1, 0.56, 1.56), paint)
+    for x in (-1.42, 1.42):
+        for y in (-0.83, 0.83):
+            parts.tube([(x, y - 0.13, 0.38), (x, y + 0.13, 0.38)], [0.4, 0.4], dark, 28)
+            parts.tube([(x, y - 0.14, 0.34), (x, y + 0.14, 0.34)], [0.23, 0.23], materials.plain("Rim", (0.4, 0.41, 0.42), 0.3, 0.8), 20)
+    for y in (-0.62, 0.62):
+        parts.box((2.2, y - 0.17, 0.6), (2.33, y + 0.17, 0.7), materials.plain("Lamp", (0.8, 0.8, 0.78), 0.1))
+        parts.box((-2.33, y - 0.15, 0.72), (-2.2, y + 0.15, 0.88), materials.plain("Tail lamp", (0.35, 0.01, 0.01), 0.2))
+        parts.box((0.7, y * 1.5 - 0.1, 1.0), (0.85, y * 1.5 + 0.1, 1.14), paint)
     shapes.put(parts.build("Car parts"), None, site.at(51.6, 47.6, 0.02), math.radians(-97))
 
 

@@ -24,7 +24,7 @@ def plan():
     eye.location = site.at(site.SIZE[0] / 2, site.SIZE[1] / 2, 200)
 
 
-def wall(name, opening=70.0, down=9.0):
+def wall(name, opening=64.0, down=9.0):
     """The security camera `name`, a hand's breadth in front of its wall."""
     (x, y), degrees, z = site.CAMERAS[name]
     dx, dy = site.heading(degrees)

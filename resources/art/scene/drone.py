@@ -14,7 +14,7 @@ ARMS = [((0.075, 0.045), (0.165, 0.165), 0.026), ((0.075, -0.045), (0.165, -0.16
 
 def _looks():
     return {
-        "shell": materials.plain("Shell", (0.52, 0.55, 0.57), 0.36, 0.0),
+        "shell": materials.plain("Shell", (0.4, 0.43, 0.45), 0.34, 0.15),
         "dark": materials.plain("Shell dark", (0.06, 0.066, 0.072), 0.42, 0.1),
         "metal": materials.plain("Motor", (0.3, 0.31, 0.33), 0.28, 0.9),
         "copper": materials.plain("Accent", (0.02, 0.28, 0.27), 0.35, 0.2),
@@ -91,8 +91,10 @@ def build(turns=(25, 140, 70, 10), spinning=False):
     parts.append(_box("Stripe", (0.045, -0.004, 0.036), (0.09, 0.004, 0.0405), looks["copper"], 0.0015))
     for i in range(4):
         parts.append(_box(f"Charge {i}", (-0.06 + i * 0.012, -0.003, 0.0435), (-0.053 + i * 0.012, 0.003, 0.0462), looks["teal"], 0.0006))
+    parts.append(shapes.put(shapes.ellipsoid("Visor", (0.02, 0.0345, 0.0095), looks["lens"], 40, 24), None, (0.1125, 0, 0.0045)))
     for y in (-0.02, 0.02):
-        parts.append(_tube("Eye", [(0.119, y, 0.004), (0.1285, y * 0.95, 0.004)], [0.0085, 0.0075], looks["lens"]))
+        parts.append(_tube("Eye", [(0.12, y, 0.0045), (0.1305, y * 0.97, 0.0045)], [0.0068, 0.0062], looks["dark"]))
+        parts.append(shapes.put(shapes.ellipsoid("Eye glass", (0.002, 0.0045, 0.0045), looks["lens"]), None, (0.1305, y * 0.97, 0.0045)))
         parts.append(_tube("Lower eye", [(0.02, y, -0.036), (0.02, y, -0.042)], [0.008, 0.007], looks["lens"]))
     for k, (root, tip, level) in enumerate(ARMS):
         parts += _arm(k, root, tip, level, looks, turns[k], spinning)
@@ -109,16 +111,21 @@ def _arm(k, root, tip, level, looks, turn, spinning):
     knee = Vector((root[0], root[1], level))
     end = Vector((tip[0], tip[1], level + (0.008 if front else 0.004)))
     parts = [_tube(f"Hinge {k}", [(knee.x, knee.y, level - 0.02), (knee.x, knee.y, level + 0.016)], [0.0165, 0.0165], looks["dark"]),
-             _tube(f"Arm {k}", [knee, knee.lerp(end, 0.5), end], [0.0125, 0.0098, 0.0105], looks["shell"]),
+             _tube(f"Arm {k}", [knee, knee.lerp(end, 0.5), end], [0.0118, 0.0088, 0.0096], looks["shell"]),
              _tube(f"Cuff {k}", [knee.lerp(end, 0.16), knee.lerp(end, 0.24)], [0.0128, 0.0123], looks["copper"]),
              _tube(f"Mount {k}", [end - Vector((0, 0, 0.016)), end + Vector((0, 0, 0.008))], [0.015, 0.0165], looks["shell"]),
              _tube(f"Motor {k}", [end + Vector((0, 0, 0.008)), end + Vector((0, 0, 0.026))], [0.0172, 0.0158], looks["metal"], 36),
              _tube(f"Hub {k}", [end + Vector((0, 0, 0.026)), end + Vector((0, 0, 0.034))], [0.0095, 0.006], looks["dark"])]
-    foot = -0.066 if front else -0.058
-    parts.append(_tube(f"Leg {k}", [end - Vector((0, 0, 0.012)), Vector((end.x * 1.015, end.y * 1.015, foot))], [0.0085, 0.0055], looks["dark"]))
+    foot = -0.058 if front else -0.052
+    parts.append(_tube(f"Leg {k}", [end - Vector((0, 0, 0.012)), Vector((end.x * 1.015, end.y * 1.015, foot))], [0.0075, 0.0048], looks["dark"]))
     light = shapes.ellipsoid(f"Light {k}", (0.006, 0.006, 0.004), looks["red" if front else "teal"])
     parts.append(shapes.put(light, None, end - Vector((0, 0, 0.018))))
-    blade = _blade(f"Blade {k}", 0.118, looks["blade"])
+    if spinning:
+        for radius, cover in ((0.128, 0.16), (0.05, 0.2)):
+            disc = shapes.ellipsoid(f"Rotor {k}", (radius, radius, 0.0015), materials.veil(f"Rotor {cover}", (0.3, 0.32, 0.34), cover), 48, 4)
+            parts.append(shapes.put(disc, None, end + Vector((0, 0, 0.031))))
+        return parts
+    blade = _blade(f"Blade {k}", 0.128, looks["blade"])
     for side in (0, 180):
         wing = shapes.put(blade, f"Rotor {k}", end + Vector((0, 0, 0.031)), math.radians(turn + side))
         if k in (1, 2):

@@ -7,12 +7,6 @@ import materials
 import measures as site
 import shapes
 
-# Paved rectangles: forecourt, porch step, garden terrace, walk along the south front.
-FORECOURT = (48.0, 35.0, 57.0, 56.5)
-TERRACE = (86.0, 23.0, 96.0, 33.0)
-PAVED = (FORECOURT, TERRACE, (72.5, 46.9, 79.0, 50.0))
-
-
 def height_at(x, y):
     """Level on the site, low hills far out, so that the horizon is not a ruled line."""
     away = math.hypot(max(-x, 0, x - site.SIZE[0]), max(-y, 0, y - site.SIZE[1]))
@@ -22,16 +16,14 @@ def height_at(x, y):
 
 def lay():
     _land()
-    _path("Drive", site.DRIVE, 3.8, materials.gravel("Gravel", (0.3, 0.235, 0.17), (0.2, 0.155, 0.115)), 0.02)
+    gravel = materials.gravel("Gravel", (0.3, 0.235, 0.17), (0.2, 0.155, 0.115))
     path = materials.gravel("Path", (0.26, 0.205, 0.15), (0.175, 0.14, 0.105))
-    for level, (name, points) in enumerate((("Lawn path", site.LAWN_PATH), ("Front path", site.FRONT_PATH), ("Garden path", site.GARDEN_PATH),
-                         ("Door path", [(76, 49.5), (77.5, 55), (82, 63)]), ("Pad path", [(69.6, 62.9), (72.5, 66), (74, 70)]),
-                         ("Terrace path", [(95, 28.5), (99, 29.5), (103, 30)]))):
-        _path(name, points, 1.5, path, 0.008 + 0.002 * level)
-    _forecourt()
+    for level, (name, line, width) in enumerate(site.WAYS):
+        _path(name, line, width, path if level else gravel, 0.024 - 0.002 * level)
+    _forecourt(gravel)
     stone = materials.masonry("Flags", 0.9, 0.6, 0.012, (0.27, 0.24, 0.205), (0.2, 0.185, 0.165), (0.08, 0.075, 0.06))
     paving = shapes.Builder()
-    for left, top, right, bottom in PAVED[1:]:
+    for left, top, right, bottom in (site.TERRACE, site.PORCH_STEP):
         paving.box(site.at(left, bottom, -0.1), site.at(right, top, 0.06), stone)
     shapes.rounded(shapes.put(paving.build("Terrace")), 0.015)
     _pad()
@@ -52,13 +44,13 @@ def _land():
             a = j * len(xs) + i
             faces.append((a, a + len(xs), a + len(xs) + 1, a + 1))
             indices.append(0)
-    shapes.put(shapes.mesh("Land", verts, faces, [materials.grass("Grass", True)], None, indices, True))
+    shapes.put(shapes.mesh("Land", verts, faces, [materials.grass("Grass")], None, indices, True))
 
 
 def _path(name, points, width, material, lift):
     """A ribbon along the route with an edge that wanders a little, as trodden gravel does."""
     chance = random.Random(name)
-    line = shapes.curve(points, 0.5)
+    line = site.curve(points, 0.5)
     verts, faces = [], []
     drift = [0.0, 0.0]
     for i, (x, y) in enumerate(line):
@@ -75,18 +67,17 @@ def _path(name, points, width, material, lift):
     shapes.put(shapes.mesh(name, verts, faces, [material]))
 
 
-def _forecourt():
+def _forecourt(gravel):
     """The turning place between garage and house; its corners are swept by wheels."""
-    left, top, right, bottom = FORECOURT
+    left, top, right, bottom = site.FORECOURT
     outline, radius = [], 2.6
     for cx, cy, start in ((right - radius, bottom - radius, 0), (left + radius, bottom - radius, 90),
                           (left + radius, top + radius, 180), (right - radius, top + radius, 270)):
         for k in range(9):
             a = math.radians(start + k * 90 / 8)
-            outline.append(site.at(cx + radius * math.cos(a), cy + radius * math.sin(a), 0.024))
+            outline.append(site.at(cx + radius * math.cos(a), cy + radius * math.sin(a), 0.026))
     outline.reverse()
-    shapes.put(shapes.mesh("Forecourt", outline, [tuple(range(len(outline)))],
-                           [materials.gravel("Gravel", (0.3, 0.235, 0.17), (0.2, 0.155, 0.115))]))
+    shapes.put(shapes.mesh("Forecourt", outline, [tuple(range(len(outline)))], [gravel]))
 
 
 def _disc(name, radius, inner, z, material, sides=72):

@@ -16,8 +16,11 @@ def _world(name):
     return world.node_tree
 
 
-def sky(height, toward, strength, clouds=0.5, dust=2.0):
-    """Sun `height` degrees high, standing in plan direction `toward` degrees; Cycles' physical sky with thin cloud."""
+def sky(height, toward, strength, clouds=0.75, dust=2.0):
+    """Sun `height` degrees high, standing in plan direction `toward` degrees; Cycles' physical sky with thin cloud.
+
+    The camera sees the sky a little darker than it shines, as a lens with a graduated filter does.
+    """
     tree = _world("Sky")
     add, link = tree.nodes.new, tree.links.new
     air = add("ShaderNodeTexSky")
@@ -34,9 +37,9 @@ def sky(height, toward, strength, clouds=0.5, dust=2.0):
     noise.inputs["Detail"].default_value = 9
     noise.inputs["Roughness"].default_value = 0.58
     noise.inputs["Distortion"].default_value = 0.5
-    cut.inputs["From Min"].default_value, cut.inputs["From Max"].default_value = 0.47, 0.78
+    cut.inputs["From Min"].default_value, cut.inputs["From Max"].default_value = 0.45, 0.72
     cut.inputs["To Max"].default_value = clouds
-    level.inputs[2].default_value = (3.4, 2.7, 2.2, 1)
+    level.inputs[2].default_value = (5.2, 4.1, 3.3, 1)
     link(where.outputs["Generated"], stretch.inputs["Vector"])
     link(stretch.outputs[0], noise.inputs["Vector"])
     link(noise.outputs["Fac"], cut.inputs["Value"])
@@ -44,7 +47,12 @@ def sky(height, toward, strength, clouds=0.5, dust=2.0):
     link(air.outputs[0], level.inputs[1])
     back, out = add("ShaderNodeBackground"), add("ShaderNodeOutputWorld")
     back.inputs["Strength"].default_value = strength
-    link(level.outputs[0], back.inputs["Color"])
+    seen, path = add("ShaderNodeMixRGB"), add("ShaderNodeLightPath")
+    seen.blend_type = "MULTIPLY"
+    seen.inputs[2].default_value = (0.6, 0.62, 0.66, 1)
+    link(path.outputs["Is Camera Ray"], seen.inputs[0])
+    link(level.outputs[0], seen.inputs[1])
+    link(seen.outputs[0], back.inputs["Color"])
     link(back.outputs[0], out.inputs["Surface"])
 
 

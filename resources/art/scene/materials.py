@@ -2,6 +2,8 @@
 
 import bpy
 
+import measures as site
+
 
 class Nodes:
     """Short names for the few shader nodes in use."""
@@ -102,27 +104,37 @@ def once(make):
     return get
 
 
+def forget():
+    """For a new scene: surfaces do not outlive the file they were made in."""
+    _made.clear()
+
+
 @once
 def plain(name, colour, rough=0.6, metal=0.0):
     return Nodes(name).surface(colour, rough, metal, 0.4)
 
 
 @once
-def grass(name, mown):
+def grass(name):
+    """Grass with the marks of the mower inside the hedge."""
     n = Nodes(name)
     where = n.world()
     broad, patch, fine = n.noise(where, 0.035), n.noise(where, 0.45, 6), n.noise(where, 9, 8, 0.7)
     colour = n.mix(n.span(broad, 0.35, 0.65), (0.058, 0.098, 0.022), (0.088, 0.118, 0.03))
     colour = n.mix(n.span(patch, 0.38, 0.7, 0, 0.55), colour, (0.125, 0.13, 0.045))
     colour = n.mix(n.span(n.noise(where, 1.7, 6, 0.65), 0.5, 0.75, 0, 0.5), colour, (0.035, 0.072, 0.014))
-    if mown:
-        place = n.add("ShaderNodeSeparateXYZ")
-        n.link(where, place.inputs[0])
-        slant = n.maths("ADD", n.maths("MULTIPLY", place.outputs[0], 1.05),
-                        n.maths("MULTIPLY", place.outputs[1], 0.62))
-        wobble = n.maths("MULTIPLY", n.noise(where, 0.12), 1.6)
-        wave = n.maths("SINE", n.maths("MULTIPLY", n.maths("ADD", slant, wobble), 1.15))
-        colour = n.mix(n.span(wave, -0.35, 0.35, 0, 0.3), colour, (0.1, 0.155, 0.042))
+    place = n.add("ShaderNodeSeparateXYZ")
+    n.link(where, place.inputs[0])
+    slant = n.maths("ADD", n.maths("MULTIPLY", place.outputs[0], 1.05),
+                    n.maths("MULTIPLY", place.outputs[1], 0.62))
+    wobble = n.maths("MULTIPLY", n.noise(where, 0.12), 1.6)
+    wave = n.maths("SINE", n.maths("MULTIPLY", n.maths("ADD", slant, wobble), 1.15))
+    left, top, right, bottom = site.BOUNDARY
+    across = n.maths("ABSOLUTE", n.maths("SUBTRACT", place.outputs[0], (left + right) / 2))
+    along = n.maths("ABSOLUTE", n.maths("ADD", place.outputs[1], (top + bottom) / 2))
+    garden = n.maths("MULTIPLY", n.maths("LESS_THAN", across, (right - left) / 2),
+                     n.maths("LESS_THAN", along, (bottom - top) / 2))
+    colour = n.mix(n.maths("MULTIPLY", n.span(wave, -0.35, 0.35, 0, 0.5), garden), colour, (0.1, 0.155, 0.042))
     colour = n.mix(n.span(fine, 0.3, 0.72, 0.0, 0.75), colour, n.mix(0.55, colour, (0.0, 0.008, 0.0)))
     height = n.maths("ADD", fine, n.maths("MULTIPLY", n.noise(where, 40, 3, 0.8), 0.5))
     return n.surface(colour, 0.85, 0, 0.15, n.bump(height, 0.09, 0.9))
@@ -203,7 +215,7 @@ def render_coat(name, colour, shade):
 def glass(name, glow):
     """A window by evening: it mirrors the sky, and some rooms are lit."""
     n = Nodes(name)
-    return n.surface((0.012, 0.016, 0.02), 0.06, 0, 0.9, None, Emission=(1.0, 0.56, 0.2), Emission_Strength=glow)
+    return n.surface((0.012, 0.016, 0.02), 0.06, 0, 0.9, None, Emission=(1.0, 0.43, 0.11), Emission_Strength=glow)
 
 
 @once
@@ -230,6 +242,18 @@ def foliage(name, dark, light, shine=0.35):
     both.inputs[0].default_value = shine
     n.link(front.outputs[0], both.inputs[1])
     n.link(through.outputs[0], both.inputs[2])
+    return n.finish(both.outputs[0])
+
+
+@once
+def veil(name, colour, cover):
+    """What a spinning rotor shows: a disc that mostly lets the view through."""
+    n = Nodes(name)
+    clear, seen, both = n.add("ShaderNodeBsdfTransparent"), n.add("ShaderNodeBsdfDiffuse"), n.add("ShaderNodeMixShader")
+    n.feed(seen.inputs["Color"], colour)
+    both.inputs[0].default_value = cover
+    n.link(clear.outputs[0], both.inputs[1])
+    n.link(seen.outputs[0], both.inputs[2])
     return n.finish(both.outputs[0])
 
 

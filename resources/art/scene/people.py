@@ -25,7 +25,7 @@ def _limbs(name, joints, bones, material, levels=2):
     return thing
 
 
-def walker(x, y, toward, z=0.02, jacket=(0.035, 0.05, 0.085), size=1.0):
+def walker(x, y, toward, z=0.02, jacket=(0.075, 0.105, 0.18), size=1.0):
     """Someone 1.8 m tall at plan place (x, y), walking towards `toward` degrees. The figure faces +x."""
     coat = materials.cloth(f"Jacket {jacket}", jacket, tuple(c * 0.6 for c in jacket))
     jeans = materials.cloth("Jeans", (0.05, 0.055, 0.065), (0.03, 0.034, 0.042))

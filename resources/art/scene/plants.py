@@ -3,8 +3,9 @@
 import math
 import random
 
-from mathutils import Vector
+from mathutils import Quaternion, Vector
 
+import ground
 import materials
 import measures as site
 import scatter
@@ -25,19 +26,13 @@ def _leaves(chance, centres, size, verts, faces):
     for place, out in centres:
         facing = (Vector(out) + Vector([chance.gauss(0, 0.75) for _ in range(3)])).normalized()
         side = facing.orthogonal().normalized()
-        side.rotate(_spin(facing, chance.uniform(0, 6.283)))
+        side.rotate(Quaternion(facing, chance.uniform(0, 6.283)))
         length = facing.cross(side)
         s = size * chance.uniform(0.65, 1.3)
         first = len(verts)
         verts.extend([tuple(place - length * s), tuple(place + side * s * 0.55 + facing * s * 0.18),
                       tuple(place + length * s), tuple(place - side * s * 0.55 + facing * s * 0.18)])
         faces.extend([(first, first + 1, first + 2), (first, first + 2, first + 3)])
-
-
-def _spin(axis, angle):
-    from mathutils import Quaternion
-
-    return Quaternion(axis, angle)
 
 
 def _ball(chance, middle, radii, count):
@@ -168,10 +163,10 @@ def flowers(seed, colour):
 # place and height in metres; kinds repeat with other turns and sizes
 TREES = [
     (19, 28, 10, "oak"), (26, 14, 9, "lime"), (45, 14, 10, "oak"), (13, 48, 8, "lime"), (100, 13.5, 9, "copper"),
-    (121, 36, 10, "oak"), (134, 44, 8, "lime"), (133, 72, 10, "oak"), (118, 90.8, 7, "lime"), (54, 85.5, 6.5, "copper"),
-    (24, 58, 5.5, "lime"), (60, 12.5, 8, "lime"), (117, 12.5, 8, "oak"), (12.5, 70, 8, "oak"), (102, 62, 6, "copper"),
+    (121, 36, 10, "oak"), (134, 44, 8, "lime"), (133, 72, 10, "oak"), (118, 90.8, 7, "lime"), (48, 87.3, 6.5, "copper"),
+    (19, 57, 5.5, "lime"), (60, 12.5, 8, "lime"), (117, 12.5, 8, "oak"), (12.5, 70, 8, "oak"), (102, 62, 6, "copper"),
     (30, 88.5, 7, "lime"), (72, 88.5, 7, "oak"), (90, 88.5, 6, "lime"), (14, 14, 10, "oak"), (136, 29, 7, "copper"),
-    (50, 72, 5.5, "lime"), (118, 69, 6.5, "lime"),
+    (41, 71, 5.5, "lime"), (118, 69, 6.5, "lime"),
 ]
 FIRS = [(12.5, 37, 10), (16, 39.5, 8.5), (76, 12, 10), (80.5, 13.5, 8), (137, 88, 8)]
 
@@ -192,27 +187,21 @@ def plant_trees():
     for x, y in _woodland(chance):
         mixed = chance.random()
         kind = firs if mixed < 0.14 else kinds["oak" if mixed < 0.55 else "lime" if mixed < 0.86 else "copper"]
-        spots.append((site.at(x, y, _rise(x, y)), (0, 0, chance.uniform(0, 6.28)), chance.uniform(0.85, 1.5), chance.choice(kind)))
+        spots.append((site.at(x, y, ground.height_at(x, y)), (0, 0, chance.uniform(0, 6.28)), chance.uniform(0.85, 1.5), chance.choice(kind)))
     scatter.spread("Tree places", group, spots)
 
 
-def _rise(x, y):
-    from ground import height_at
-
-    return height_at(x, y)
-
-
 def _woodland(chance):
-    """Loose country trees beyond the hedge: a belt near it, copses further out, the drive kept open."""
+    """Country trees beyond the hedge: a belt near it, copses further out, the drive and the view to the south kept open."""
     places = []
     tries = 0
-    while len(places) < 520 and tries < 20000:
+    while len(places) < 1000 and tries < 20000:
         tries += 1
-        x, y = chance.uniform(-150, 300), chance.uniform(-170, 260)
+        x, y = chance.uniform(-170, 330), chance.uniform(-190, 300)
         away = max(-x, x - site.SIZE[0], -y, y - site.SIZE[1])
         if away < 3 or chance.random() > (0.95 if away < 22 else 0.28 + 0.5 * math.sin(x * 0.045 + 1) * math.sin(y * 0.06)):
             continue
-        if y > 60 and -40 < x < 150 and away < 60 and not (x < -6 or x > 128):
+        if site.distance_to_line(site.DRIVE, x, y) < 7 or (y > 95 and away < 9 and x < 110):
             continue
         if any(math.hypot(x - a, y - b) < 5.2 for a, b in places):
             continue
@@ -260,7 +249,7 @@ def plant_beds():
             for _ in range(3):
                 blooms.append((site.at(x + chance.gauss(0, 0.6), y + 0.7 + chance.gauss(0, 0.25)), (0, 0, chance.uniform(0, 6.28)),
                                chance.uniform(0.6, 1.1), chance.randrange(4)))
-    for middle, radii in (((104.5, 50.5), (3.0, 1.6)), ((110, 22.5), (3.6, 1.7)), ((62, 65.5), (2.2, 1.2)), ((88.5, 68.5), (2.4, 1.3)),
+    for middle, radii in (((104.5, 50.5), (3.0, 1.6)), ((110, 22.5), (3.6, 1.7)), ((62, 65.5), (2.2, 1.2)), ((91.8, 68.6), (2.4, 1.3)),
                           ((36.5, 52.5), (2.2, 1.1)), ((122.5, 47.5), (2.4, 1.6))):
         for _ in range(int(radii[0] * radii[1] * 11)):
             a, d = chance.uniform(0, 6.28), chance.random() ** 0.5
@@ -274,7 +263,7 @@ def plant_beds():
         left, top, right, bottom = site.BOUNDARY
         x = chance.uniform(left + 2, right - 2) if side in ("top", "bottom") else (left + 2 if side == "left" else right - 2)
         y = chance.uniform(top + 2, bottom - 2) if side in ("left", "right") else (top + 2 if side == "top" else bottom - 2)
-        if min(site.distance_to_line(p, x, y) for p in (site.DRIVE, site.LAWN_PATH, site.FRONT_PATH, site.GARDEN_PATH)) > 3:
+        if not site.trodden(x, y, 2.2):
             bushes.append((site.at(x, y), (0, 0, chance.uniform(0, 6.28)), chance.uniform(0.9, 2.0), chance.randrange(5)))
     scatter.spread("Shrub places", shrubs, bushes)
     scatter.spread("Flower places", beds, blooms)
@@ -284,7 +273,6 @@ def plant_lawn(eye, heading, opening, reach):
     """Blades where a camera at `eye` is near enough to see them; thinner and larger with the distance."""
     chance = random.Random(31)
     group = scatter.library("Tufts", [grass_tuft(i) for i in range(4)])
-    roads = ((site.DRIVE, 2.0), (site.LAWN_PATH, 0.95), (site.FRONT_PATH, 0.95), (site.GARDEN_PATH, 0.95))
     spots = []
     step = 0.55
     distance = 1.5
@@ -295,17 +283,10 @@ def plant_lawn(eye, heading, opening, reach):
             d = distance + chance.random() * step
             angle = math.radians(heading) + math.radians(opening / 2) * chance.uniform(-1, 1)
             x, y = eye[0] + math.cos(angle) * d, eye[1] + math.sin(angle) * d
-            if any(site.inside(r, x, y, 0.1) for r in (site.HOUSE, site.PORCH, site.SUNROOM, site.GARAGE, site.SHED)) \
-                    or any(site.distance_to_line(p, x, y) < w for p, w in roads) \
-                    or math.hypot(x - site.PAD[0], y - site.PAD[1]) < 2.5 or _paved(x, y):
+            if chance.random() < (d - 0.55 * reach) / (0.45 * reach) or site.trodden(x, y, 0.05):
                 continue
             spots.append((site.at(x, y), (0, 0, chance.uniform(0, 6.28)), chance.uniform(0.75, 1.2) * max(0.75, each / 0.13),
                           chance.randrange(4)))
         distance += step
     scatter.spread("Tuft places", group, spots)
 
-
-def _paved(x, y):
-    from ground import PAVED
-
-    return any(site.inside(r, x, y, 0.05) for r in PAVED)

@@ -88,24 +88,6 @@ class Builder:
         return mesh(name, self.verts, self.faces, self.materials, self.uvs, self.indices, smooth)
 
 
-def curve(points, step=1.0, pull=0.5):
-    """A smooth line through `points` (Catmull-Rom), about `step` metres between places."""
-    result = []
-    ends = [points[0]] + list(points) + [points[-1]]
-    for p0, p1, p2, p3 in zip(ends, ends[1:], ends[2:], ends[3:]):
-        count = max(2, int(math.dist(p1, p2) / step))
-        for i in range(count):
-            t = i / count
-            place = []
-            for a, b, c, d in zip(p0, p1, p2, p3):
-                m1, m2 = (c - a) * pull, (d - b) * pull
-                place.append((2 * t**3 - 3 * t**2 + 1) * b + (t**3 - 2 * t**2 + t) * m1
-                             + (-2 * t**3 + 3 * t**2) * c + (t**3 - t**2) * m2)
-            result.append(tuple(place))
-    result.append(tuple(points[-1]))
-    return result
-
-
 def ellipsoid(name, radii, material, segments=24, rings=14):
     verts, faces = [], []
     for i in range(rings + 1):
@@ -124,6 +106,9 @@ def ellipsoid(name, radii, material, segments=24, rings=14):
 
 def rounded(thing, width, segments=3):
     """Softens the edges of an object, as every made thing has them."""
+    thing.modifiers.new("Join", "WELD").merge_threshold = 0.00005
+    thing.data.use_auto_smooth, thing.data.auto_smooth_angle = True, math.radians(50)
+    thing.data.polygons.foreach_set("use_smooth", [True] * len(thing.data.polygons))
     bevel = thing.modifiers.new("Edges", "BEVEL")
     bevel.width, bevel.segments, bevel.limit_method = width, segments, "ANGLE"
     return thing

@@ -27,9 +27,7 @@ enum class Icon {
     deleteRecord,
     play,
     pause,
-    search,
-    shieldAlert,
-    shieldHalf
+    search
 };
 
 /// Draws the icon in one colour, fitted into the rectangle.

@@ -4,10 +4,15 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <QEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
+
+#include <cmath>
 
 namespace velmora {
 
@@ -15,7 +20,14 @@ namespace {
 
 constexpr double disabledText = 0.55;
 
+/// On X11 nobody may compose windows, and what a menu lets through would be black: its corners are cut off.
+bool cutsCorners() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
 void paintMenuPanel(QPainter& painter, const QRect& rect) {
+    if (cutsCorners())
+        painter.fillRect(rect, SB::page);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(SB::rule);
     painter.setBrush(SB::page);
@@ -33,7 +45,8 @@ std::pair<QString, QString> textAndShortcut(const QStyleOptionMenuItem& item) {
 void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     const QRectF row = QRectF(item.rect).adjusted(Measure::menuRowInset, 0, -Measure::menuRowInset, 0);
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
-        painter.fillRect(QRectF(item.rect.left(), row.center().y(), item.rect.width(), 1), SB::rule2);
+        painter.fillRect(QRectF(item.rect.left(), std::floor(row.center().y()), item.rect.width(), 1),
+                         SB::rule2);
         return;
     }
     const bool enabled = item.state & QStyle::State_Enabled;
@@ -98,8 +111,20 @@ QPalette Style::lightPalette() {
 /// A menu's corners are round, so its window has to let the desktop through.
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
-    if (qobject_cast<QMenu*>(widget))
-        widget->setAttribute(Qt::WA_TranslucentBackground);
+    if (!qobject_cast<QMenu*>(widget))
+        return;
+    widget->setAttribute(Qt::WA_TranslucentBackground);
+    widget->installEventFilter(this);
+}
+
+bool Style::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && cutsCorners()) {
+        auto* menu = static_cast<QWidget*>(watched);
+        QPainterPath outline;
+        outline.addRoundedRect(menu->rect(), Measure::cardRadius, Measure::cardRadius);
+        menu->setMask(outline.toFillPolygon().toPolygon());
+    }
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

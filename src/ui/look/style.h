@@ -16,6 +16,7 @@ public:
     static QPalette lightPalette();
 
     void polish(QWidget* widget) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -27,15 +27,12 @@ public:
     }
 
     void setRecord(const MissionRecord& record, Date now) {
-        id = record.id;
         color_ = outcomeColor(record.outcome);
         time_ = dayAndTime(record.start, now);
         setText(outcomeText(record.outcome));
         setAccessibleName(text() + ", " + time_);
         update();
     }
-
-    std::string id;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -78,10 +75,8 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     for (int i = 0; i < Measure::activityRows; ++i) {
         auto* row = new ActivityRow(this);
         column->addWidget(row);
-        connect(row, &QAbstractButton::clicked, this, [this, row] {
-            store_.setSelectedRecord(row->id);
-            store_.setSection(Section::history);
-        });
+        connect(row, &QAbstractButton::clicked, this,
+                [this, i] { store_.openRecord(static_cast<std::size_t>(i)); });
         rows_.push_back(row);
     }
     connect(all, &QAbstractButton::clicked, this, [this] { store_.setSection(Section::history); });

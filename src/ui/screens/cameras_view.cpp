@@ -1,7 +1,9 @@
 #include "ui/screens/cameras_view.h"
 
 #include "ui/blocks/page.h"
+#include "ui/blocks/text.h"
 #include "ui/look/measures.h"
+#include "ui/look/tokens.h"
 #include "ui/screens/camera_card.h"
 
 #include <algorithm>
@@ -20,10 +22,17 @@ bool sameCameras(const std::vector<CameraInfo>& cameras, const std::vector<Camer
 /// As many equal columns as fit.
 class CamerasView::Grid : public QWidget {
 public:
-    using QWidget::QWidget;
+    explicit Grid(QWidget* parent)
+        : QWidget(parent),
+          waiting_(new Text(CamerasView::tr("Waiting for velmora"), Type::emptyTitle, SB::ink, this)) {
+        waiting_->setGeometry(0, 0, Measure::cameraMinimum, static_cast<int>(Type::emptyTitle.line));
+    }
 
     void show(AppStore& store) {
-        const auto& cameras = store.state().site.cameras;
+        static const std::vector<CameraInfo> unknown;
+        const bool known = store.freshness() != Freshness::waiting;
+        waiting_->setVisible(!known);
+        const auto& cameras = known ? store.state().site.cameras : unknown;
         if (!sameCameras(cameras, cards_)) {
             for (CameraCard* card : cards_)
                 card->deleteLater();
@@ -43,6 +52,8 @@ public:
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override {
         const int rows = (static_cast<int>(cards_.size()) + columns(width) - 1) / columns(width);
+        if (rows == 0)
+            return waiting_->height();
         return rows * cardHeight(width) + std::max(rows - 1, 0) * Measure::cameraRowGap;
     }
     QSize sizeHint() const override { return {Measure::cameraMinimum, heightForWidth(width())}; }
@@ -72,6 +83,7 @@ private:
         }
     }
 
+    Text* waiting_; ///< before the server has told of any camera
     std::vector<CameraCard*> cards_;
 };
 
@@ -89,8 +101,8 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent)
            .contentGap = Measure::gap32,
            .content = grid_},
           this)) {
-    for (const auto changed :
-         {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged})
+    for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
+                               &AppStore::freshnessChanged})
         connect(&store_, changed, this, &CamerasView::refresh);
 }
 

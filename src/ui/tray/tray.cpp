@@ -1,13 +1,12 @@
 #include "ui/tray/tray.h"
 
-#include "ui/look/icons.h"
-#include "ui/look/tokens.h"
 #include "ui/words.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusInterface>
 #include <QPainter>
+#include <QSvgRenderer>
 
 namespace velmora {
 
@@ -17,20 +16,22 @@ const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
 constexpr int patienceForOldTray = 15'000; // milliseconds
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
-Icon iconFor(Phase phase) {
+QString iconFor(Phase phase) {
     if (phase == Phase::awaitingApproval)
-        return Icon::shieldAlert;
-    return airborne(phase) ? Icon::live : Icon::shieldHalf;
+        return QStringLiteral(":/icons/app/tray-waiting.svg");
+    return airborne(phase) ? QStringLiteral(":/icons/app/tray-airborne.svg")
+                           : QStringLiteral(":/icons/app/tray-docked.svg");
 }
 
-/// In a tone that shows on light and on dark panels.
-QIcon pixmapsOf(Icon icon) {
+/// As pixmaps: the tray's host need not know SVG.
+QIcon pixmapsOf(const QString& file) {
+    QSvgRenderer drawing(file);
     QIcon icons;
     for (const int size : iconSizes) {
         QPixmap pixmap(size, size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paintIcon(painter, pixmap.rect(), icon, SB::dot);
+        drawing.render(&painter);
         painter.end();
         icons.addPixmap(pixmap);
     }
@@ -108,7 +109,7 @@ void Tray::showIcon() {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
             emit openRequested();
     });
-    shownIcon_ = -1;
+    shownIcon_.clear();
     refresh();
     icon_->show();
 }
@@ -131,10 +132,10 @@ void Tray::refresh() {
     const QString tip = store_.settings().linkMode ? status + '\n' + store_.linkStatus().text() : status;
     if (icon_->toolTip() != tip)
         icon_->setToolTip(tip);
-    const Icon icon = iconFor(phase);
-    if (static_cast<int>(icon) == shownIcon_)
+    const QString icon = iconFor(phase);
+    if (icon == shownIcon_)
         return;
-    shownIcon_ = static_cast<int>(icon);
+    shownIcon_ = icon;
     icon_->setIcon(pixmapsOf(icon));
 }
 

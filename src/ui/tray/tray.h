@@ -44,7 +44,7 @@ private:
     QDBusServiceWatcher trayWatcher_;
     QTimer patience_; ///< until a tray of the old kind is taken
     std::unique_ptr<QSystemTrayIcon> icon_;
-    int shownIcon_ = -1;
+    QString shownIcon_;
 };
 
 } // namespace velmora

@@ -51,7 +51,10 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addWidget(records, 1);
     column->addStretch();
     column->addWidget(foot_);
-    connect(model_, &QAbstractItemModel::modelReset, this, &HistoryList::showCount);
+    connect(model_, &QAbstractItemModel::modelReset, this, [this] {
+        showCount();
+        select(chosen_);
+    });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_,
             [this] { search_->setFocus(Qt::ShortcutFocusReason); });
     undoTime_.setSingleShot(true);
@@ -208,6 +211,7 @@ void HistoryList::refresh() {
 
 void HistoryList::select(std::optional<std::size_t> place) {
     showing_ = true;
+    chosen_ = place;
     const QModelIndex index = place ? model_->indexOf(*place) : QModelIndex();
     records_->setCurrentIndex(index);
     if (index.isValid())

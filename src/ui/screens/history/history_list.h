@@ -75,8 +75,9 @@ private:
     QWidget* undoLine_;
     QTimer undoTime_;
     std::optional<std::pair<std::size_t, MissionRecord>> deleted_;
-    QStringList cameras_;  ///< names to choose from
-    bool showing_ = false; ///< a selection that is shown, not made by the owner
+    std::optional<std::size_t> chosen_; ///< place of the marked record, also while a filter hides it
+    QStringList cameras_;               ///< names to choose from
+    bool showing_ = false;              ///< a selection that is shown, not made by the owner
 };
 
 } // namespace velmora

@@ -65,8 +65,8 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::stateChanged, this, [this] {
         if (store_.state().phase == Phase::awaitingApproval)
             detail_->pause();
-        simulate_->setVisible(!store_.settings().linkMode);
     });
+    connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
     refresh();
 }
 
@@ -111,8 +111,10 @@ void HistoryView::refresh() {
     const bool any = !store_.history().empty();
     detail_->setVisible(any);
     empty_->setVisible(!any);
+    simulate_->setVisible(!store_.settings().linkMode);
     if (!any) {
         chosen_.reset();
+        store_.setSelectedRecord(std::nullopt);
         return;
     }
     if (const auto place = chosenPlace())
@@ -133,14 +135,15 @@ void HistoryView::choose(std::size_t place) {
     store_.setSelectedRecord(record.id);
 }
 
-/// Another screen asks for a record by its id.
+/// Another screen asks for a record, by its place or else by its id.
 void HistoryView::chooseSelectedRecord() {
     const auto& id = store_.selectedRecord();
-    if (!id || (chosen_ && chosen_->id == *id))
-        return;
-    const auto record = std::ranges::find(store_.history(), *id, &MissionRecord::id);
-    if (record != store_.history().end())
-        choose(static_cast<std::size_t>(record - store_.history().begin()));
+    if (const auto place = store_.selectedPlace())
+        choose(*place);
+    else if (id && (!chosen_ || chosen_->id != *id))
+        if (const auto record = std::ranges::find(store_.history(), *id, &MissionRecord::id);
+            record != store_.history().end())
+            choose(static_cast<std::size_t>(record - store_.history().begin()));
 }
 
 void HistoryView::remove(std::size_t place) {
@@ -149,6 +152,7 @@ void HistoryView::remove(std::size_t place) {
         place + 1 < store_.history().size() ? place + 1 : place - std::min<std::size_t>(place, 1);
     chosen_ = store_.history()[next];
     detail_->setRecord(*chosen_);
+    store_.setSelectedRecord(chosen_->id);
     store_.removeRecord(place);
     list_->offerUndo(place, record);
 }

@@ -1,0 +1,1 @@
+complete -W "--help --version --hidden" velmora

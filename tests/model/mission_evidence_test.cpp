@@ -1,0 +1,149 @@
+#include "model/mission_evidence.h"
+
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr Date start = dateFromSeconds(1'700'000'000);
+
+Notice noticeAt(double seconds, std::string text) {
+    return {{}, start + Seconds{seconds}, std::move(text), Notice::Level::info};
+}
+
+std::vector<P> path(std::size_t points) {
+    std::vector<P> line;
+    for (std::size_t i = 0; i < points; ++i)
+        line.push_back({static_cast<double>(i), 50});
+    return line;
+}
+
+/// A flown mission of ten seconds whose visitor was seen for the first two and whose drone flew the last
+/// four.
+MissionRecord flight() {
+    MissionRecord record;
+    record.start = start;
+    record.end = start + Seconds{10};
+    record.outcome = Outcome::returnedByYou;
+    record.visitorPath = path(5);
+    record.dronePath = path(9);
+    record.notices = {noticeAt(0, "Unknown person at Driveway"), noticeAt(3, "You approved the launch"),
+                      noticeAt(5, "Airborne at 15 m"), noticeAt(6, "Following at 15 m"),
+                      noticeAt(8, "You asked the drone to come home — coming home")};
+    return record;
+}
+
+Site square() {
+    Site site;
+    site.boundary = {{0, 0}, {100, 0}, {100, 100}, {0, 100}};
+    return site;
+}
+
+std::vector<std::pair<ResponseStep, double>> stepsOf(const MissionRecord& record) {
+    std::vector<std::pair<ResponseStep, double>> steps;
+    for (const ResponseMoment& moment : responseTimeline(record))
+        steps.emplace_back(moment.step, (moment.time - record.start).count());
+    return steps;
+}
+
+std::pair<std::size_t, std::size_t> pointsAt(const MissionRecord& record, double seconds) {
+    const MissionRecord cut = cutAt(record, seconds);
+    return {cut.visitorPath.size(), cut.dronePath.size()};
+}
+
+} // namespace
+
+TEST(MissionEvidence, TheTimelineTellsEachStepThatANoticeTellsOf) {
+    using enum ResponseStep;
+    const std::pair seenFirst{seen, 0.0}, endedLast{ended, 10.0};
+    MissionRecord record = flight();
+    EXPECT_THAT(stepsOf(record),
+                ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{airborne, 5.0},
+                            std::pair{onStation, 6.0}, std::pair{comingHome, 8.0}, endedLast));
+
+    record.notices[3].text = "Following — handed over to the drone";
+    record.notices.push_back(noticeAt(9, "Battery low. Coming home"));
+    record.notices.insert(record.notices.begin() + 4, noticeAt(7, "Following at 15 m"));
+    record.notices.erase(record.notices.begin() + 2);
+    EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{onStation, 7.0},
+                                             std::pair{comingHome, 8.0}, endedLast))
+        << "a step is told once, and one that nobody told of is left out";
+
+    record.notices.clear();
+    EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, endedLast));
+}
+
+TEST(MissionEvidence, TheBoundaryEvidenceCountsTheTimeNearerThanTheBuffer) {
+    MissionRecord record = flight();
+    record.dronePath = {{50, 50}, {95, 50}, {97, 50}, {98.5, 50}, {50, 50}};
+    const auto evidence = boundaryEvidence(record, square(), 5);
+    ASSERT_TRUE(evidence);
+    EXPECT_DOUBLE_EQ(evidence->leastDistance, 1.5);
+    EXPECT_DOUBLE_EQ(evidence->secondsInBuffer, 1) << "a point on the buffer's edge is not nearer than it";
+
+    record.dronePath[3] = {50, -2};
+    EXPECT_DOUBLE_EQ(boundaryEvidence(record, square(), 5)->leastDistance, -2);
+
+    record.outcome = Outcome::expired;
+    EXPECT_FALSE(boundaryEvidence(record, square(), 5));
+    record.outcome = Outcome::visitorLeft;
+    record.dronePath.clear();
+    EXPECT_FALSE(boundaryEvidence(record, square(), 5));
+}
+
+TEST(MissionEvidence, ACutHoldsThePointsThatLieAtOrBeforeItsMoment) {
+    const MissionRecord record = flight();
+    EXPECT_EQ(pointsAt(record, 0), std::pair(1ul, 0ul)) << "the visitor from the start";
+    EXPECT_EQ(pointsAt(record, 0.49), std::pair(1ul, 0ul));
+    EXPECT_EQ(pointsAt(record, 0.5), std::pair(2ul, 0ul));
+    EXPECT_EQ(pointsAt(record, 5.99), std::pair(5ul, 0ul));
+    EXPECT_EQ(pointsAt(record, 6), std::pair(5ul, 1ul)) << "the drone up to the end";
+    EXPECT_EQ(pointsAt(record, 9.99), std::pair(5ul, 8ul));
+    EXPECT_EQ(pointsAt(record, 10), std::pair(5ul, 9ul));
+    EXPECT_EQ(pointsAt(record, 1e9), std::pair(5ul, 9ul));
+    EXPECT_EQ(pointsAt(record, -1), std::pair(0ul, 0ul));
+    EXPECT_EQ(cutAt(record, 5).notices.size(), 3u);
+    EXPECT_EQ(cutAt(record, 10), record);
+}
+
+TEST(MissionEvidence, AVisitorWhoLeftInTheEndHasNotLeftBefore) {
+    MissionRecord record = flight();
+    record.outcome = Outcome::visitorLeft;
+    EXPECT_NE(cutAt(record, 9.5).outcome, Outcome::visitorLeft);
+    EXPECT_EQ(cutAt(record, 10), record);
+}
+
+TEST(MissionEvidence, ADroneThatFlewLongerThanTheRecordLastsIsCutWithoutFault) {
+    MissionRecord record = flight();
+    record.end = record.start + Seconds{1};
+    EXPECT_EQ(pointsAt(record, 0).second, 7ul);
+    EXPECT_EQ(pointsAt(record, 1).second, 9ul);
+    record.end = record.start - Seconds{5};
+    EXPECT_EQ(lengthOf(record), 0);
+    EXPECT_EQ(pointsAt(record, 0).second, 9ul);
+    EXPECT_THAT(gapsOf(record), IsEmpty());
+}
+
+TEST(MissionEvidence, AGapIsWhereNeitherPathHasPoints) {
+    MissionRecord record = flight();
+    ASSERT_EQ(gapsOf(record).size(), 1u);
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].from, 2);
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 6);
+
+    record.visitorPath = path(12);
+    EXPECT_THAT(gapsOf(record), IsEmpty()) << "two ends half a second apart leave none";
+
+    record.visitorPath = path(5);
+    record.dronePath.clear();
+    ASSERT_EQ(gapsOf(record).size(), 1u);
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 10) << "up to the end when no drone flew";
+    record.visitorPath.clear();
+    ASSERT_EQ(gapsOf(record).size(), 1u);
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].from, 0);
+}
+
+} // namespace velmora

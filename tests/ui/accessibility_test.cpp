@@ -1,0 +1,118 @@
+#include "ui/served_fixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+
+namespace velmora {
+
+namespace {
+
+class AccessibilityTest : public ServedTest {
+protected:
+    /// Everything that the keyboard can reach here has a role and a name.
+    void expectAllNamed(QWidget& inside, const std::string& where) {
+        int reached = 0;
+        for (QWidget* widget : inside.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
+                continue;
+            ++reached;
+            QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
+            const std::string what = where + ": " + widget->metaObject()->className();
+            ASSERT_NE(seen, nullptr) << what;
+            EXPECT_NE(seen->role(), QAccessible::Client) << what;
+            EXPECT_FALSE(seen->text(QAccessible::Name).trimmed().isEmpty()) << what;
+        }
+        EXPECT_GT(reached, 0) << where;
+    }
+    void expectSectionsNamed(const std::string& when) {
+        for (const auto& [section, id] : rawValuesOf<Section>) {
+            store().setSection(section);
+            settle();
+            expectAllNamed(window(), when + ", " + std::string(id));
+        }
+    }
+    void expectCardNamed(const QString& name, const QString& button) {
+        ASSERT_TRUE(waitUntil([&] { return shows(name) && find(*find(name), button); }))
+            << name.toStdString();
+        QWidget* card = find(name);
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(card)->role(), QAccessible::Dialog);
+        expectAllNamed(*card, name.toStdString());
+        press(Qt::Key_Escape);
+    }
+};
+
+TEST_F(AccessibilityTest, EverySectionNamesWhatTheKeyboardReaches) {
+    expectSectionsNamed("docked");
+    store().clearDemoHistory();
+    expectSectionsNamed("no history");
+    serve(mission(Phase::following));
+    expectSectionsNamed("flying");
+    pass(10);
+    expectSectionsNamed("stale");
+    store().setShowWelcome(true);
+    settle();
+    expectAllNamed(window(), "welcome");
+}
+
+TEST_F(AccessibilityTest, EveryCardIsADialogOfNamedControls) {
+    window();
+    visit(Scenario::garden);
+    expectCardNamed("Someone you don't know is at the east garden camera.", "Launch drone");
+    approve();
+    ASSERT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
+    click("Land now");
+    expectCardNamed("Land the drone where it is now?", "Keep flying");
+    ASSERT_TRUE(waitUntil([&] { return !shows("Keep flying"); }));
+    store().setSection(Section::history);
+    settle();
+    click("Clear demo history");
+    expectCardNamed("Clear the demo history?", "Keep it");
+    ASSERT_TRUE(waitUntil([&] { return !shows("Keep it"); }));
+    for (QAction* action : window().findChildren<QAction*>())
+        if (action->text() == "About Velmora")
+            action->trigger();
+    expectCardNamed("About Velmora", "Close");
+}
+
+TEST_F(AccessibilityTest, WhatIsPaintedIsToldInWords) {
+    store().setSection(Section::live);
+    LiveState state = mission(Phase::following);
+    state.drone.altitude = 15.2;
+    serve(state);
+    const QString map =
+        "Map of your grounds. The drone is at 15 m height, 13 m from its pad and 8 m from the boundary. "
+        "Unknown person is 5 m from the drone, 4 m inside the boundary.";
+    const std::pair<QString, QAccessible::Role> told[] = {{"Height, 15 m", QAccessible::StaticText},
+                                                          {"Following at 5 m", QAccessible::Heading},
+                                                          {"Step 4 of 6: Following", QAccessible::StaticText},
+                                                          {map, QAccessible::Graphic}};
+    for (const auto& [name, role] : told) {
+        QWidget* widget = find(name);
+        ASSERT_NE(widget, nullptr) << name.toStdString();
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(widget)->role(), role) << name.toStdString();
+    }
+}
+
+/// Of a group of choices Tab reaches only one.
+TEST_F(AccessibilityTest, TabReachesEverythingInEverySection) {
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        store().setSection(section);
+        window().setFocus();
+        std::set<QWidget*> visited;
+        for (int i = 0; i < 60; ++i) {
+            press(Qt::Key_Tab);
+            visited.insert(QApplication::focusWidget());
+        }
+        for (QWidget* widget : window().findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const bool reachable = widget->isVisible() && widget->focusPolicy() & Qt::TabFocus;
+            EXPECT_TRUE(!reachable || visited.contains(widget) || (button && button->autoExclusive()))
+                << id << ": " << widget->accessibleName().toStdString();
+        }
+    }
+}
+
+} // namespace
+
+} // namespace velmora

@@ -1,0 +1,116 @@
+#include "ui/linked_ui_fixture.h"
+
+#include <QAbstractButton>
+
+namespace velmora {
+
+namespace {
+
+const QString faces = QStringLiteral("Faces it doesn't recognise"),
+              people = QStringLiteral("Any person, even without a face");
+
+class CamerasTest : public LinkedUiTest {
+protected:
+    void look() {
+        store().setSection(Section::cameras);
+        window();
+    }
+    /// A camera's switch; null when it is not there.
+    QAbstractButton* theSwitch(const QString& title, const QString& camera) {
+        for (auto* button : window().findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->accessibleName() == title &&
+                button->accessibleDescription().startsWith(camera + ", "))
+                return button;
+        return nullptr;
+    }
+    int count(const QString& name) {
+        int found = 0;
+        for (auto* widget : window().findChildren<QWidget*>())
+            found += widget->isVisible() && widget->accessibleName() == name ? 1 : 0;
+        return found;
+    }
+};
+
+TEST_F(CamerasTest, LookingWritesNothingAndReadsTheDefaults) {
+    const QByteArray before = content("settings.json");
+    look();
+    for (const QString camera : {"Driveway", "Front lawn", "East garden"}) {
+        ASSERT_TRUE(theSwitch(faces, camera) && theSwitch(people, camera)) << camera.toStdString();
+        EXPECT_TRUE(theSwitch(faces, camera)->isChecked());
+        EXPECT_FALSE(theSwitch(people, camera)->isChecked());
+    }
+    EXPECT_EQ(content("settings.json"), before);
+}
+
+TEST_F(CamerasTest, TurningASwitchWritesOnlyItsEntry) {
+    look();
+    QTest::mouseClick(theSwitch(people, "East garden"), Qt::LeftButton);
+    settle();
+    using Entries = std::map<std::string, bool>;
+    EXPECT_EQ(store().settings().alertPeople, (Entries{{"garden", true}}));
+    EXPECT_EQ(store().settings().alertUnknownFaces, Entries{});
+    EXPECT_FALSE(theSwitch(people, "Driveway")->isChecked());
+    EXPECT_TRUE(content("settings.json").contains(R"("alertPeople":{"garden":true})"));
+
+    QTest::keyClick(theSwitch(faces, "Driveway"), Qt::Key_Space);
+    EXPECT_EQ(store().settings().alertUnknownFaces, (Entries{{"driveway", false}}));
+    EXPECT_FALSE(theSwitch(faces, "Driveway")->isChecked());
+    QTest::keyClick(theSwitch(faces, "Driveway"), Qt::Key_Space);
+    EXPECT_EQ(store().settings().alertUnknownFaces, (Entries{{"driveway", true}})) << "an entry stays";
+}
+
+TEST_F(CamerasTest, AClickOnTheWordsTurnsTheSwitch) {
+    look();
+    click("More alerts at night");
+    EXPECT_EQ(store().settings().alertPeople.size(), 1u);
+    click(people);
+    EXPECT_EQ(store().settings().alertPeople.at("driveway"), false);
+}
+
+TEST_F(CamerasTest, EntriesThatAreSetAlreadyAreShown) {
+    Settings settings = store().settings();
+    settings.alertUnknownFaces = {{"front", false}};
+    settings.alertPeople = {{"front", true}, {"long gone", true}};
+    store().setSettings(settings);
+    look();
+    EXPECT_FALSE(theSwitch(faces, "Front lawn")->isChecked());
+    EXPECT_TRUE(theSwitch(people, "Front lawn")->isChecked());
+    QTest::mouseClick(theSwitch(people, "Front lawn"), Qt::LeftButton);
+    EXPECT_TRUE(store().settings().alertPeople.at("long gone")) << "entries of other cameras are kept";
+}
+
+TEST_F(CamerasTest, ACardTellsNameConnectionAndAlerts) {
+    store().applyLinkMode(true);
+    look();
+    LiveState state = LiveState::initial();
+    state.site.cameras[2].online = false;
+    serve(state);
+    EXPECT_EQ(count("Online"), 2);
+    EXPECT_EQ(count("Offline"), 1);
+    EXPECT_EQ(count("1 alert in the history"), 3);
+    store().clearDemoHistory();
+    settle();
+    EXPECT_EQ(count("No alerts in the history"), 3);
+}
+
+TEST_F(CamerasTest, CardsStayWhileTheirStateChangesAndFollowTheSite) {
+    store().applyLinkMode(true);
+    look();
+    LiveState state = LiveState::initial();
+    serve(state);
+    QAbstractButton* before = theSwitch(faces, "Driveway");
+    state.site.cameras[0].online = false;
+    serve(state);
+    EXPECT_EQ(theSwitch(faces, "Driveway"), before) << "a control in use is not taken away";
+
+    state.site.cameras = {{"gate", "Gate", {10, 10}, 0, "", true}, state.site.cameras[1]};
+    serve(state);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(count("Online"), 2);
+    QTest::mouseClick(theSwitch(people, "Gate"), Qt::LeftButton);
+    EXPECT_TRUE(store().settings().alertPeople.at("gate"));
+}
+
+} // namespace
+
+} // namespace velmora

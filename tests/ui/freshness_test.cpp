@@ -1,0 +1,158 @@
+#include "ui/linked_ui_fixture.h"
+
+#include "ui/words.h"
+
+#include <QLineEdit>
+
+namespace velmora {
+
+namespace {
+
+const QString trying =
+    QStringLiteral("Trying again twice a second. Commands may not arrive until the link is back.");
+
+class FreshnessTest : public LinkedUiTest {
+protected:
+    void SetUp() override {
+        LinkedUiTest::SetUp();
+        store().applyLinkMode(true);
+    }
+    Freshness freshness() { return store().freshness(); }
+    QString oldPicture(const QString& age) {
+        return "This picture is " + age + " old, last received at " + timeOfDay(*store().heardAt()) + ". " +
+               trying;
+    }
+    /// The banner slides away.
+    bool bannerGoes() {
+        return waitUntil([&] { return !shows("Connection settings"); });
+    }
+};
+
+TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer) {
+    store().applyLinkMode(false);
+    window();
+    visit(Scenario::driveway);
+    ASSERT_TRUE(waitUntil([&] { return shows("Launch drone"); }));
+    store().applyLinkMode(true);
+    ASSERT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
+    EXPECT_EQ(freshness(), Freshness::waiting);
+    for (const char* known : {"Waiting for velmora.", "No picture received yet.", "Not known yet", "Drone, —",
+                              "Cameras, —", "Wind, —", "No picture yet, battery —", "Waiting for velmora"})
+        EXPECT_TRUE(shows(known)) << known;
+    for (const char* simulated : {"Launch (approve)", "Open live flight →", "Armed", "Waiting for you"})
+        EXPECT_TRUE(waitUntil([&] { return !shows(simulated); })) << simulated;
+    EXPECT_TRUE(shows("No picture received yet. " + trying));
+    EXPECT_TRUE(shows("Connecting…"));
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(link.posts.empty());
+
+    store().setSection(Section::live);
+    settle();
+    for (const char* metric :
+         {"Height", "Speed", "To visitor", "From pad", "Battery", "Wind", "Flight time", "Signal"})
+        EXPECT_TRUE(shows(QString(metric) + ", —")) << metric;
+    EXPECT_TRUE(shows("No mission under way"));
+    EXPECT_TRUE(shows("Nothing logged yet. Notices from the next flight appear here."));
+    EXPECT_FALSE(shows("Driveway camera"));
+}
+
+TEST_F(FreshnessTest, TheFirstGoodAnswerShowsTheSite) {
+    window();
+    refuse();
+    EXPECT_EQ(freshness(), Freshness::waiting) << "a refusal tells nothing of the site";
+    EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
+    LiveState state = LiveState::initial();
+    state.armed = false;
+    serve(state);
+    EXPECT_EQ(freshness(), Freshness::live);
+    EXPECT_TRUE(shows("Velmora is disarmed."));
+    EXPECT_TRUE(shows("Cameras, 3 of 3 online"));
+    EXPECT_TRUE(bannerGoes());
+}
+
+TEST_F(FreshnessTest, APictureIsOldAfterTwoAndAHalfSecondsOfSilence) {
+    window();
+    serve(LiveState::initial());
+    fly(2.45);
+    EXPECT_EQ(freshness(), Freshness::live);
+    EXPECT_TRUE(bannerGoes());
+    fly(0.1);
+    EXPECT_EQ(freshness(), Freshness::stale);
+    EXPECT_TRUE(shows(oldPicture("2 s")));
+    EXPECT_TRUE(shows("Your grounds are watched.")) << "the last picture stays";
+}
+
+TEST_F(FreshnessTest, APictureIsOldAfterTwoSecondsOfRefusals) {
+    window();
+    serve(LiveState::initial());
+    refuse();
+    fly(1.4);
+    EXPECT_EQ(freshness(), Freshness::live) << "one refusal is no outage";
+    refuse();
+    fly(0.1);
+    EXPECT_EQ(freshness(), Freshness::stale);
+    store().setSection(Section::live);
+    settle();
+    EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
+    EXPECT_TRUE(shows(oldPicture("2 s")));
+    click("Connection settings");
+    EXPECT_EQ(store().section(), Section::settings);
+}
+
+TEST_F(FreshnessTest, TheBannerCountsTheAgeUntilAGoodAnswerClearsIt) {
+    window();
+    serve(LiveState::initial());
+    fly(3);
+    ASSERT_TRUE(shows(oldPicture("2 s")) || shows(oldPicture("3 s")));
+    const Date heard = *store().heardAt();
+    const QString counted = oldPicture("119 s"), minutes = oldPicture("2 min"), hours = oldPicture("2 h");
+    now = heard + Seconds{119.5};
+    EXPECT_TRUE(waitUntil([&] { return shows(counted); }));
+    now = heard + Seconds{179};
+    EXPECT_TRUE(waitUntil([&] { return shows(minutes); }));
+    now = heard + Seconds{7300};
+    EXPECT_TRUE(waitUntil([&] { return shows(hours); }));
+    serve(LiveState::initial());
+    EXPECT_EQ(freshness(), Freshness::live);
+    EXPECT_TRUE(bannerGoes());
+    EXPECT_EQ(*store().heardAt(), now);
+}
+
+TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
+    window();
+    LiveState first = LiveState::initial();
+    serve(first);
+    tickAfter(0.5);
+    store().setSection(Section::settings);
+    settle();
+    QTest::keyClicks(find<QLineEdit>("Host"), "2");
+    EXPECT_EQ(freshness(), Freshness::waiting);
+    first.armed = false;
+    serve(first);
+    EXPECT_EQ(freshness(), Freshness::waiting) << "the request was sent to the other server";
+    serve(first);
+    EXPECT_EQ(freshness(), Freshness::live);
+    Settings settings = store().settings();
+    settings.flightHeight = 20;
+    store().setSettings(settings);
+    EXPECT_EQ(freshness(), Freshness::live);
+    ++settings.port;
+    store().setSettings(settings);
+    EXPECT_EQ(freshness(), Freshness::waiting);
+}
+
+TEST_F(FreshnessTest, DemoModeIsLiveAtOnce) {
+    window();
+    serve(LiveState::initial());
+    fly(5);
+    ASSERT_EQ(freshness(), Freshness::stale);
+    store().applyLinkMode(false);
+    EXPECT_EQ(freshness(), Freshness::live);
+    EXPECT_TRUE(bannerGoes());
+    store().applyLinkMode(true);
+    EXPECT_EQ(freshness(), Freshness::waiting) << "what was heard before the break is no picture of now";
+}
+
+} // namespace
+
+} // namespace velmora

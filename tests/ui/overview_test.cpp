@@ -1,0 +1,189 @@
+#include "ui/linked_ui_fixture.h"
+
+#include "ui/words.h"
+
+#include <QAbstractButton>
+
+namespace velmora {
+
+namespace {
+
+class OverviewTest : public LinkedUiTest {
+protected:
+    /// The rows of recent activity that begin with the outcome.
+    QList<QAbstractButton*> rows(Outcome outcome) {
+        QList<QAbstractButton*> found;
+        for (auto* button : window().findChildren<QAbstractButton*>())
+            if (button->isVisible() &&
+                button->accessibleName().startsWith(toQString(rawValue(outcome)) + ", "))
+                found.append(button);
+        return found;
+    }
+    bool offersVisits() {
+        int offered = 0;
+        for (const auto& [scenario, id] : rawValuesOf<Scenario>)
+            offered += shows(scenarioTitle(scenario)) ? 1 : 0;
+        EXPECT_TRUE(offered == 0 || offered == 3);
+        EXPECT_EQ(shows("Simulate a visitor"), offered == 3);
+        return offered > 0;
+    }
+};
+
+TEST_F(OverviewTest, HeadlineAndLedeTellHowTheGroundsStand) {
+    EXPECT_TRUE(find("Your grounds are watched."));
+    EXPECT_TRUE(
+        shows("3 cameras are looking for people they don't recognise. The drone is on its pad and only "
+              "flies when you say so."));
+    EXPECT_TRUE(shows("Armed"));
+    EXPECT_FALSE(shows("Arm system"));
+    click("Disarm");
+    EXPECT_TRUE(shows("Velmora is disarmed."));
+    EXPECT_TRUE(shows("Cameras still log people they don't recognise, but the drone won't offer to launch."));
+    EXPECT_TRUE(shows("Disarmed"));
+    EXPECT_FALSE(shows("Disarm"));
+    click("Arm system");
+    EXPECT_TRUE(store().state().armed);
+    EXPECT_TRUE(shows("Your grounds are watched."));
+
+    visit(Scenario::driveway);
+    EXPECT_TRUE(shows("Someone is on your grounds."));
+    approve();
+    store().setSection(Section::overview);
+    fly(4);
+    EXPECT_TRUE(shows("Your drone is on patrol."));
+    const QString metres = rounded(distance(store().state().drone.pos, store().state().visitor->pos));
+    EXPECT_TRUE(shows(phaseWord(phase()) + ", " + metres +
+                      " m. It stays inside your boundary and comes home on its own."));
+}
+
+TEST_F(OverviewTest, TheBannerNamesThePhaseAndLeadsToTheFlight) {
+    window();
+    EXPECT_FALSE(shows("Open live flight →"));
+    visit(Scenario::garden);
+    EXPECT_TRUE(shows("Waiting for you"));
+    EXPECT_EQ(store().section(), Section::overview);
+    approve();
+    store().setSection(Section::overview);
+    settle();
+    EXPECT_TRUE(shows("Taking off"));
+    click("Open live flight →");
+    EXPECT_EQ(store().section(), Section::live);
+    store().setSection(Section::overview);
+    store().send(Command::land);
+    fly(60);
+    ASSERT_EQ(phase(), Phase::docked);
+    EXPECT_TRUE(waitUntil([&] { return !shows("Open live flight →"); }));
+}
+
+TEST_F(OverviewTest, VisitsAreOfferedInDemoModeBetweenMissions) {
+    window();
+    EXPECT_TRUE(offersVisits());
+    EXPECT_FALSE(shows("Launch (approve)"));
+    click("Visitor in the east garden");
+    ASSERT_EQ(phase(), Phase::awaitingApproval);
+    EXPECT_EQ(store().state().visitor->cameraId, "garden");
+    EXPECT_FALSE(shows("Visitor in the east garden"));
+    click("Launch (approve)");
+    EXPECT_EQ(phase(), Phase::launching);
+    EXPECT_FALSE(offersVisits());
+    EXPECT_FALSE(shows("Launch (approve)"));
+}
+
+TEST_F(OverviewTest, AServerDecidesAboutVisitsAndArming) {
+    store().applyLinkMode(true);
+    window();
+    LiveState state = LiveState::initial();
+    serve(state);
+    EXPECT_FALSE(offersVisits());
+    EXPECT_FALSE(find("Disarm")->isEnabled());
+    state.phase = Phase::awaitingApproval;
+    serve(state);
+    EXPECT_FALSE(offersVisits());
+    click("Launch (approve)");
+    ASSERT_EQ(link.posts.size(), 1u);
+    EXPECT_EQ(link.posts[0].command, Command::approve);
+}
+
+TEST_F(OverviewTest, TheAlertsCellSaysWhereAlertsGo) {
+    window();
+    const auto tellsWith = [&](bool mac, const std::string& topic, const QString& where) {
+        Settings settings = store().settings();
+        settings.notifyMac = mac;
+        settings.ntfyTopic = topic;
+        store().setSettings(settings);
+        settle();
+        return shows("Alerts, " + where + ", Unknown faces trigger an alert, Every launch needs your yes");
+    };
+    EXPECT_TRUE(tellsWith(true, "", "This Mac"));
+    EXPECT_TRUE(tellsWith(true, "velmora-home", "This Mac + phone"));
+    EXPECT_TRUE(tellsWith(false, "velmora-home", "Phone"));
+    EXPECT_TRUE(tellsWith(false, "", "This window only"));
+}
+
+TEST_F(OverviewTest, TheStripTellsWindCamerasAndDrone) {
+    Settings settings = store().settings();
+    settings.maxWindKmh = 30.9;
+    store().setSettings(settings);
+    store().applyLinkMode(true);
+    window();
+    LiveState state = LiveState::initial();
+    state.windKmh = 30.9;
+    serve(state);
+    EXPECT_TRUE(shows("Wind, 31 km/h, Fine to fly (limit 30 km/h)")) << "at the limit it still flies";
+    EXPECT_TRUE(shows("Cameras, 3 of 3 online"));
+    EXPECT_TRUE(shows("Drone, On its pad, 92% battery · signal 96%"));
+
+    state.windKmh = 31;
+    state.site.cameras[1].online = false;
+    state.drone.pos = {20, 20};
+    state.drone.battery = 49.5;
+    state.drone.signal = 0.125;
+    serve(state);
+    EXPECT_TRUE(shows("Wind, 31 km/h, Too windy to fly"));
+    EXPECT_TRUE(shows("Cameras, 2 of 3 online"));
+    EXPECT_TRUE(shows("Drone, Docked, 50% battery · signal 13%"));
+    state.phase = Phase::returning;
+    serve(state);
+    EXPECT_TRUE(shows("Drone, Coming home, 50% battery · signal 13%"));
+}
+
+TEST_F(OverviewTest, TheNewestFiveVisitsAreListedAndAClickOpensOne) {
+    std::vector<MissionRecord> history;
+    for (int i = 0; i < 7; ++i)
+        history.push_back(record("M-" + std::to_string(i), rawValuesOf<Outcome>[std::size_t(i)].first, i));
+    records(history);
+    for (int i = 0; i < 7; ++i)
+        EXPECT_EQ(rows(history[std::size_t(i)].outcome).size(), i < 5 ? 1 : 0) << i;
+    QTest::mouseClick(rows(Outcome::lowBattery).at(0), Qt::LeftButton);
+    settle();
+    EXPECT_EQ(store().section(), Section::history);
+    EXPECT_EQ(store().selectedRecord(), "M-2");
+    EXPECT_TRUE(shows("Came home on low battery"));
+
+    store().setSection(Section::overview);
+    settle();
+    click("All activity →");
+    EXPECT_EQ(store().section(), Section::history);
+}
+
+TEST_F(OverviewTest, OfTwoVisitsWithOneIdTheClickedOneOpens) {
+    records({record("M-1", Outcome::visitorLeft, 10), record("M-1", Outcome::lowBattery, 20)});
+    QTest::mouseClick(rows(Outcome::lowBattery).at(0), Qt::LeftButton);
+    settle();
+    EXPECT_TRUE(shows("Came home on low battery"));
+}
+
+TEST_F(OverviewTest, AnEmptyHistorySaysSo) {
+    const QString nothing = "Nothing yet. When a camera spots someone you don't know, it appears here.";
+    window();
+    EXPECT_FALSE(shows(nothing));
+    EXPECT_EQ(rows(Outcome::visitorLeft).size(), 1);
+    store().clearDemoHistory();
+    settle();
+    EXPECT_TRUE(shows(nothing));
+    EXPECT_EQ(rows(Outcome::visitorLeft).size(), 0);
+}
+
+} // namespace
+
+} // namespace velmora

@@ -1,0 +1,242 @@
+#include "ui/linked_ui_fixture.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QSlider>
+#include <QWheelEvent>
+
+namespace velmora {
+
+namespace {
+
+const QString demoMode = QStringLiteral("Demo mode (built-in simulation)"),
+              serverMode = QStringLiteral("velmora on my network"),
+              portRefusal = QStringLiteral("Not stored: a port is a whole number from 1 to 65535.");
+
+class SettingsTest : public LinkedUiTest {
+protected:
+    void look() {
+        store().setSection(Section::settings);
+        window();
+    }
+    template <class Change>
+    void set(Change change) {
+        Settings settings = store().settings();
+        change(settings);
+        store().setSettings(settings);
+    }
+    QSlider& slider(const QString& name) {
+        auto* found = find<QSlider>(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        found->setFocus();
+        return *found;
+    }
+    /// The value that stands beside the slider.
+    bool tells(const QString& name, const QString& value) {
+        return find<QWidget>(*find<QSlider>(name)->parentWidget(), value) != nullptr;
+    }
+    void type(const QString& field, const QString& text) {
+        auto* line = find<QLineEdit>(field);
+        ASSERT_NE(line, nullptr);
+        line->setFocus();
+        line->selectAll();
+        if (text.isEmpty())
+            QTest::keyClick(line, Qt::Key_Delete);
+        QTest::keyClicks(line, text);
+        settle();
+    }
+    static void turnWheel(QWidget& widget) {
+        const QPointF middle = widget.rect().center();
+        QWheelEvent up(middle, widget.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &up);
+    }
+    QString shown(const QString& field) { return find<QLineEdit>(field)->text(); }
+};
+
+TEST_F(SettingsTest, ValuesAreCutNotRoundedAndLookingStoresNothing) {
+    set([](Settings& s) {
+        s.flightHeight = 15.9;
+        s.boundaryBuffer = 45;
+        s.approvalSeconds = 59.99;
+        s.maxWindKmh = -2.5;
+    });
+    const Settings before = store().settings();
+    const QByteArray file = content("settings.json");
+    look();
+    EXPECT_TRUE(tells("Flight height", "15 m"));
+    EXPECT_TRUE(tells("Stay this far inside", "45 m"));
+    EXPECT_TRUE(tells("Alert expires after", "59 s"));
+    EXPECT_TRUE(tells("Don't launch if wind is over", "-2 km/h"));
+    EXPECT_TRUE(tells("Return when battery is below", "30 %"));
+    store().setSection(Section::overview);
+    settle();
+    store().setSection(Section::settings);
+    settle();
+    EXPECT_EQ(store().settings(), before);
+    EXPECT_EQ(content("settings.json"), file);
+
+    QTest::keyClick(&slider("Stay this far inside"), Qt::Key_Left);
+    EXPECT_EQ(store().settings().boundaryBuffer, 14) << "a value from outside moves from the nearest bound";
+    EXPECT_EQ(store().settings().flightHeight, 15.9) << "the others are left";
+}
+
+TEST_F(SettingsTest, EverySliderStoresItsOwnLimitBetweenItsBounds) {
+    const struct {
+        QString name;
+        double Settings::*field;
+        double lower, upper;
+    } limits[] = {{"Flight height", &Settings::flightHeight, 10, 30},
+                  {"Never below", &Settings::minimumHeight, 8, 20},
+                  {"Follow distance", &Settings::followDistance, 8, 30},
+                  {"Stay this far inside", &Settings::boundaryBuffer, 2, 15},
+                  {"Return when battery is below", &Settings::returnBattery, 20, 50},
+                  {"Don't launch if wind is over", &Settings::maxWindKmh, 15, 38},
+                  {"Alert expires after", &Settings::approvalSeconds, 30, 120}};
+    look();
+    for (const auto& [name, field, lower, upper] : limits) {
+        Settings expected = store().settings();
+        const auto pressing = [&](Qt::Key key, double value) {
+            QTest::keyClick(&slider(name), key);
+            expected.*field = value;
+            EXPECT_EQ(store().settings(), expected) << name.toStdString() << ' ' << key;
+        };
+        pressing(Qt::Key_Home, lower);
+        pressing(Qt::Key_Left, lower);
+        pressing(Qt::Key_Right, lower + 1);
+        pressing(Qt::Key_PageUp, lower + 6);
+        pressing(Qt::Key_PageDown, lower + 1);
+        pressing(Qt::Key_End, upper);
+        pressing(Qt::Key_Down, upper - 1);
+    }
+    EXPECT_TRUE(tells("Alert expires after", "119 s"));
+    EXPECT_TRUE(content("settings.json").contains(R"("approvalSeconds":119)"));
+}
+
+TEST_F(SettingsTest, TheMouseMovesASliderToWhereItPressesAndDrags) {
+    look();
+    QSlider& height = slider("Flight height");
+    const int middle = height.height() / 2;
+    QTest::mousePress(&height, Qt::LeftButton, {}, {height.width() / 2, middle});
+    EXPECT_EQ(store().settings().flightHeight, 20);
+    QTest::mouseMove(&height, {height.width() + 500, middle});
+    QTest::mouseRelease(&height, Qt::LeftButton, {}, {height.width() - 1, middle});
+    QTest::mouseClick(&height, Qt::RightButton, {}, {2, middle});
+    EXPECT_EQ(store().settings().flightHeight, 30);
+}
+
+TEST_F(SettingsTest, TheWheelMovesASliderOnlyWhileItHasTheFocus) {
+    look();
+    QSlider& distance = slider("Follow distance");
+    slider("Flight height");
+    turnWheel(distance);
+    EXPECT_EQ(store().settings().followDistance, 15);
+    slider("Follow distance");
+    turnWheel(distance);
+    EXPECT_GT(store().settings().followDistance, 15);
+}
+
+TEST_F(SettingsTest, TheConnectionShowsTheServerOnlyInLinkMode) {
+    const QString caption = "The Mac running velmora serves the app API described in docs/APP_API.md.";
+    look();
+    EXPECT_TRUE(shows(caption));
+    EXPECT_FALSE(shows("Host") || shows("Port"));
+    click(serverMode);
+    EXPECT_TRUE(store().settings().linkMode);
+    EXPECT_TRUE(shows("Host") && shows("Port") && shows(caption));
+    const auto tellsStatus = [&](const QString& text) {
+        return find(*find<QLineEdit>("Host")->parentWidget(), text) != nullptr;
+    };
+    EXPECT_TRUE(tellsStatus("Connecting…"));
+    refuse();
+    EXPECT_TRUE(tellsStatus("Can't reach velmora — The connection was refused"));
+    serve(LiveState::initial());
+    EXPECT_TRUE(tellsStatus("Linked to velmora 2.1"));
+    click(demoMode);
+    EXPECT_FALSE(store().settings().linkMode);
+    EXPECT_EQ(store().linkStatus(), LinkStatus::demo());
+    EXPECT_TRUE(waitUntil([&] { return !shows("Host"); }));
+    QTest::keyClick(find(demoMode), Qt::Key_Down);
+    EXPECT_TRUE(store().settings().linkMode) << "by keys too";
+}
+
+TEST_F(SettingsTest, TheHostIsStoredAsItIsTyped) {
+    store().applyLinkMode(true);
+    look();
+    for (const QString typed : {" Velmora.local ", ""}) {
+        type("Host", typed);
+        EXPECT_EQ(store().settings().host, typed.toStdString());
+        EXPECT_EQ(shown("Host"), typed);
+    }
+}
+
+TEST_F(SettingsTest, APortThatIsNoneIsNotStoredAndTheFieldSaysSo) {
+    store().applyLinkMode(true);
+    look();
+    for (const QString refused : {"0", "65536", "99999", ""}) {
+        type("Port", refused);
+        EXPECT_EQ(shown("Port"), refused);
+        EXPECT_TRUE(shows(portRefusal)) << refused.toStdString();
+        EXPECT_NE(QString::number(store().settings().port), refused);
+        type("Port", "65535");
+        EXPECT_FALSE(shows(portRefusal));
+        EXPECT_EQ(store().settings().port, 65535);
+        set([](Settings& s) { s.port = 8765; });
+    }
+    type("Port", "1");
+    EXPECT_EQ(store().settings().port, 1);
+    type("Port", "x-7.e");
+    EXPECT_EQ(shown("Port"), "7") << "only digits go in";
+    type("Port", "0");
+    refuse();
+    EXPECT_EQ(shown("Port"), "0") << "not while someone types";
+    find("Host")->setFocus();
+    settle();
+    EXPECT_EQ(shown("Port"), "7") << "what is stored";
+    EXPECT_FALSE(shows(portRefusal));
+}
+
+TEST_F(SettingsTest, TrackingIsChosenWithItsNote) {
+    const QString
+        own = "Your cameras locate the visitor and Velmora steers the drone. Works with any supported "
+              "drone.",
+        native = "Velmora flies the drone to the visitor, then hands over to the drone's own tracking "
+                 "and takes back control near the boundary. Experimental: not yet confirmed on the "
+                 "Mini 4 Pro.";
+    look();
+    EXPECT_TRUE(shows(own));
+    click("DJI tracking hand-over");
+    EXPECT_EQ(store().settings().tracking, TrackingMode::native);
+    EXPECT_TRUE(shows(native));
+    EXPECT_FALSE(shows(own));
+    press(Qt::Key_Left);
+    EXPECT_EQ(store().settings().tracking, TrackingMode::own);
+    EXPECT_TRUE(shows(own));
+}
+
+TEST_F(SettingsTest, AlertsGoWhereTheOwnerSays) {
+    look();
+    QTest::mouseClick(find<QAbstractButton>("Alert on this Mac"), Qt::LeftButton);
+    EXPECT_FALSE(store().settings().notifyMac);
+    EXPECT_EQ(find<QLineEdit>("Phone (ntfy topic)")->placeholderText(), "e.g. velmora-home");
+    auto* topic = find<QLineEdit>("Phone (ntfy topic)");
+    topic->setFocus();
+    QTest::keyClicks(topic, " my/topic ");
+    EXPECT_EQ(store().settings().ntfyTopic, " my/topic ");
+    QTest::keyClick(topic, Qt::Key_Home);
+    QTest::keyClicks(topic, "ab");
+    EXPECT_EQ(store().settings().ntfyTopic, "ab my/topic ") << "the cursor stays where one types";
+}
+
+TEST_F(SettingsTest, TheWelcomeComesBackWithoutForgettingThatItWasDone) {
+    look();
+    const QByteArray file = content("settings.json");
+    click("Show welcome again");
+    EXPECT_TRUE(shows("Explore in demo mode"));
+    EXPECT_TRUE(store().settings().onboarded);
+    EXPECT_EQ(content("settings.json"), file);
+}
+
+} // namespace
+
+} // namespace velmora

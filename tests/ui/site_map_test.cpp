@@ -1,0 +1,366 @@
+#include "ui/map/site_map.h"
+
+#include "ui/look/tokens.h"
+#include "ui/map/drone_glyph.h"
+#include "ui/map/map_description.h"
+#include "ui/map/map_painting.h"
+#include "ui/ui_fixture.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace velmora {
+
+namespace {
+
+constexpr QSize canvas(600, 400); // 4 pixels a metre
+
+bool isLike(const QColor& color, const QColor& expected, int tolerance = 6) {
+    return std::abs(color.red() - expected.red()) <= tolerance &&
+           std::abs(color.green() - expected.green()) <= tolerance &&
+           std::abs(color.blue() - expected.blue()) <= tolerance;
+}
+
+#define EXPECT_COLOR(color, expected)                                                                        \
+    EXPECT_TRUE(isLike(color, expected))                                                                     \
+        << (color).name().toStdString() << " instead of " << (expected).name().toStdString()
+
+QColor onNavy(const QColor& color, double opacity) {
+    return SB::mixed(SB::navy, color, opacity);
+}
+
+/// The demo grounds without their picture and their cameras; shapes only until a test asks for labels.
+class MapPicture : public testing::Test {
+protected:
+    MapPicture() {
+        scene.state = LiveState::initial();
+        scene.state.site.planImage.clear();
+        scene.state.site.cameras.clear();
+        scene.showLabels = false;
+    }
+
+    QImage draw(double t = 0) const {
+        QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
+        image.fill(SB::navy);
+        QPainter painter(&image);
+        drawGrounds(painter, scene, canvas);
+        drawMission(painter, scene, canvas, t);
+        return image;
+    }
+    QColor at(double x, double y, double t = 0) const {
+        return draw(t).pixelColor(static_cast<int>(x), static_cast<int>(y));
+    }
+    void addCamera(const std::string& id, P pos, double heading, bool online = true) {
+        scene.state.site.cameras.push_back({id, id, pos, heading, "", online});
+    }
+    void see(P pos, const std::string& camera) {
+        scene.state.visitor = Visitor{pos, "Unknown person", 0.9, camera, true, {}};
+    }
+    void replay() {
+        scene.replay.emplace();
+        scene.replay->visitorPath = {{20, 50.125}, {40, 50.125}};
+        scene.replay->dronePath = {{74, 70}, {60, 55}};
+    }
+
+    MapScene scene;
+};
+
+TEST_F(MapPicture, ThePlanIsFittedWholeAndCentred) {
+    const MapTransform wide({300, 300}, {100, 50});
+    EXPECT_DOUBLE_EQ(wide.scale(), 3);
+    EXPECT_EQ(wide.plan(), QRectF(0, 75, 300, 150));
+    EXPECT_EQ(wide.map(P{100, 50}), QPointF(300, 225));
+    const MapTransform high({300, 300}, {50, 100});
+    EXPECT_EQ(high.plan(), QRectF(75, 0, 150, 300));
+    EXPECT_EQ(high.map(Bounds{10, 20, 40, 90}), QRectF(105, 60, 90, 210));
+}
+
+TEST_F(MapPicture, TheBoundaryIsDashedInPixelsOverItsBufferBand) {
+    scene.settings.boundaryBuffer = 5;
+    const QImage image = draw();
+    for (const int x : {31, 33, 42, 45}) // dashes of 6 and gaps of 5 from the corner at 29.6, 26.4
+        EXPECT_COLOR(image.pixelColor(x, 26), onNavy(SB::dTeal, 0.9)) << x;
+    for (const int x : {37, 39, 48})
+        EXPECT_LT(image.pixelColor(x, 26).green(), 90) << x;
+    EXPECT_COLOR(image.pixelColor(200, 36), onNavy(SB::lilac, 0.16));
+    EXPECT_COLOR(image.pixelColor(200, 60), SB::navy);
+    EXPECT_COLOR(image.pixelColor(200, 15), SB::navy);
+}
+
+TEST_F(MapPicture, OnlyTheCameraThatSeesTheVisitorIsBrighter) {
+    addCamera("a", {50, 40}, 0);
+    addCamera("b", {100, 60}, 90);
+    const double lit = 1 - 40 / 136.0; // 40 pixels from the camera, of a range of 34 m
+    const auto expectWedges = [&](double a, double b) {
+        EXPECT_COLOR(at(240, 160), onNavy(SB::softBlue, a * lit));
+        EXPECT_COLOR(at(400, 280), onNavy(SB::softBlue, b * lit));
+    };
+    expectWedges(0.16, 0.16);
+    see({130, 20}, "a");
+    expectWedges(0.3, 0.16);
+    see({130, 20}, "b");
+    expectWedges(0.16, 0.3);
+    EXPECT_COLOR(at(400, 200), SB::navy);       // behind a camera that looks down
+    EXPECT_COLOR(at(228, 188), SB::navy);       // 45 degrees aside
+    EXPECT_COLOR(at(200 + 138, 160), SB::navy); // out of range
+    EXPECT_GT(at(228, 160 + 15).blue(), 60);    // 28 degrees aside, towards +y
+    EXPECT_GT(at(228, 160 - 15).blue(), 60);
+}
+
+TEST_F(MapPicture, AnOfflineCameraHasAnAlertRing) {
+    addCamera("on", {50, 40}, 0);
+    addCamera("off", {100, 40}, 0, false);
+    EXPECT_COLOR(at(200, 160), SB::navy);
+    EXPECT_COLOR(at(195, 160), SB::softBlue);
+    EXPECT_COLOR(at(395, 160), SB::alert);
+}
+
+TEST_F(MapPicture, ATrailOfOnePointDrawsNothing) {
+    see({130, 20}, "a");
+    const QImage none = draw();
+    scene.state.drone.trail = {{40, 50}};
+    scene.state.visitor->trail = {{20, 30.125}};
+    EXPECT_EQ(draw(), none);
+    scene.state.visitor->trail.push_back({60, 30.125});
+    EXPECT_COLOR(at(160, 120), onNavy(SB::lilac, 0.55));
+    scene.state.drone.trail.push_back({40, 80});
+    const QImage both = draw();
+    int dashes = 0;
+    for (int y = 210; y < 290; ++y)
+        dashes += both.pixelColor(159, y).green() > 90;
+    EXPECT_GT(dashes, 30); // round caps lengthen each of the ten
+    EXPECT_LT(dashes, 75);
+}
+
+TEST_F(MapPicture, AReplayShowsItsPathsInsteadOfTheLiveOnes) {
+    replay();
+    scene.state.phase = Phase::following;
+    const QImage quiet = draw();
+    scene.state.drone.pos = {110, 40};
+    scene.state.drone.trail = {{90, 20}, {110, 40}};
+    see({130, 30}, "a");
+    scene.state.visitor->trail = {{130, 20}, {130, 30}};
+    EXPECT_EQ(draw(0.4), quiet);
+    EXPECT_COLOR(at(120, 200), onNavy(SB::lilac, 0.85));
+    for (const double end : {80.0, 160.0})
+        EXPECT_COLOR(at(end, 198), SB::lilac) << end;
+    scene.showLabels = true;
+    const QImage left = draw();
+    scene.replay->outcome = Outcome::expired;
+    EXPECT_NE(draw().copy(168, 190, 80, 20), left.copy(168, 190, 80, 20)); // the last point's caption
+}
+
+TEST_F(MapPicture, LabelsOffLeavesTheShapesAndNoText) {
+    scene.state.phase = Phase::following;
+    scene.state.drone.pos = {74, 40};
+    scene.state.drone.altitude = 15;
+    addCamera("a", {50, 40}, 180);
+    see({110, 40}, "a");
+    const QImage shapes = draw();
+    scene.state.visitor->label = "Someone else";
+    scene.state.site.cameras[0].name = "Another name";
+    scene.state.drone.altitude = 9;
+    EXPECT_EQ(draw(), shapes);
+    EXPECT_COLOR(shapes.pixelColor(440, 160), SB::lilac);
+    EXPECT_COLOR(shapes.pixelColor(296, 160), SB::dTitle);
+    EXPECT_GT(shapes.pixelColor(static_cast<int>(74 * 4 + 2.6 * 4), 282).green(), 120); // the pad's circle
+    scene.showLabels = true;
+    const QImage labelled = draw();
+    for (const QRect& place : {QRect(37, 33, 90, 11), QRect(450, 154, 80, 12), QRect(160, 140, 80, 11),
+                               QRect(282, 176, 28, 11), QRect(282, 298, 28, 11), QRect(470, 344, 90, 11)})
+        EXPECT_NE(labelled.copy(place), shapes.copy(place)) << place.x() << ' ' << place.y();
+}
+
+TEST_F(MapPicture, TheBufferIsCutAndTheHeightIsRounded) {
+    scene.showLabels = true;
+    const auto buffer = [&](double metres) {
+        scene.settings.boundaryBuffer = metres;
+        return draw().copy(460, 343, 102, 11);
+    };
+    scene.state.site.boundary = {{10, 10}, {142.5, 10}, {142.5, 90.5}, {10, 90.5}};
+    EXPECT_EQ(buffer(5.9), buffer(5));
+    EXPECT_NE(buffer(6), buffer(5));
+    scene.state.phase = Phase::following;
+    const auto height = [&](double metres) {
+        scene.state.drone.altitude = metres;
+        return draw();
+    };
+    EXPECT_EQ(height(14.5), height(15));
+    EXPECT_EQ(height(15.2), height(15));
+    EXPECT_NE(height(14.4), height(15));
+}
+
+TEST_F(MapPicture, RotorsTurnOnlyInFlightAndTheNoseLeads) {
+    const QImage parked = draw();
+    EXPECT_EQ(draw(0.05), parked);
+    scene.state.phase = Phase::enRoute;
+    EXPECT_NE(draw(0.05), draw(0));
+    scene.state.drone.pos = {75, 30};
+    for (const int quarter : {0, 1, 2, 3}) {
+        scene.state.drone.heading = 90 * quarter;
+        const QImage around = draw().copy(290, 110, 20, 20).transformed(QTransform().rotate(-90 * quarter));
+        const auto teal = [&](int x) { // near the axis of the heading
+            const QColor above = around.pixelColor(x, 9), below = around.pixelColor(x, 10);
+            return std::max(above.green() - above.red(), below.green() - below.red()) > 50;
+        };
+        EXPECT_TRUE(teal(15) && !teal(5)) << quarter;
+    }
+}
+
+TEST_F(MapPicture, ThePulseGrowsAndFadesEvery16Tenths) {
+    see({75.125, 30.125}, "a");
+    EXPECT_COLOR(at(313, 120, 0.8), onNavy(SB::lilac, 0.4));
+    EXPECT_COLOR(at(313, 120, 0), SB::navy);
+    EXPECT_EQ(draw(1.0), draw(2.6));
+}
+
+TEST_F(MapPicture, WhatMovesLiesInsideTheAreaThatEachFrameRepaints) {
+    scene.showLabels = true;
+    scene.state.phase = Phase::following;
+    scene.state.drone.pos = {40, 30};
+    see({90, 60}, "a");
+    const QRect before = liveArea(scene, canvas).toAlignedRect();
+    const QImage first = draw(0);
+    scene.state.drone.pos = {42, 33};
+    scene.state.drone.altitude = 9;
+    see({95, 63}, "a");
+    scene.state.visitor->label = "A visitor with a long name";
+    const QImage second = draw(0.7);
+    const QRect area = before | liveArea(scene, canvas).toAlignedRect();
+    int outside = 0;
+    for (int y = 0; y < canvas.height(); ++y)
+        for (int x = 0; x < canvas.width(); ++x)
+            outside += first.pixel(x, y) != second.pixel(x, y) && !area.contains(x, y);
+    EXPECT_EQ(outside, 0);
+}
+
+TEST_F(MapPicture, TheDescriptionTellsWhoIsWhere) {
+    EXPECT_EQ(mapDescription(scene),
+              "Map of your grounds. The drone is on its pad. Nobody is being watched.");
+    scene.state.phase = Phase::following;
+    scene.state.drone.pos = {74, 20.7};
+    scene.state.drone.altitude = 14.5;
+    see({74, 12.6}, "a");
+    EXPECT_EQ(
+        mapDescription(scene),
+        "Map of your grounds. The drone is at 15 m height, 50 m from its pad and 14 m from the boundary. "
+        "Unknown person is 8 m from the drone, 6 m inside the boundary.");
+    see({74, 4.7}, "a");
+    EXPECT_TRUE(
+        mapDescription(scene).endsWith("Unknown person is 16 m from the drone, outside the boundary."));
+    replay();
+    scene.replay->maxDistanceFromPad = 20.5;
+    EXPECT_EQ(mapDescription(scene),
+              "Replay of the visitor's path and of the drone's, at most 21 m from its pad.");
+    scene.replay->dronePath.clear();
+    EXPECT_EQ(mapDescription(scene), "Replay of the visitor's path; the drone stayed on its pad.");
+    scene.replay->visitorPath.clear();
+    EXPECT_EQ(mapDescription(scene), "Replay: nobody was tracked.");
+}
+
+/// A map on the screen whose frames are counted against those of another one in flight.
+class MapFrames : public MapPicture {
+protected:
+    class Counted : public SiteMap {
+    public:
+        Counted() : SiteMap(nullptr) {
+            resize(300, 200);
+            show();
+        }
+        int paints = 0;
+
+    protected:
+        void paintEvent(QPaintEvent* event) override {
+            ++paints;
+            SiteMap::paintEvent(event);
+        }
+    };
+
+    MapFrames() {
+        LiveState flying = LiveState::initial();
+        flying.phase = Phase::launching;
+        running.setState(flying, {});
+        scene.state.phase = Phase::following;
+        see({90, 60}, "a");
+        map.setState(scene.state, {});
+    }
+
+    void run(int frames) {
+        const int until = running.paints + frames;
+        QDeadlineTimer deadline(5000);
+        while (running.paints < until && !deadline.hasExpired())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        ASSERT_GE(running.paints, until);
+    }
+    /// Frames of the map while the other one draws several.
+    int frames() {
+        run(2);
+        map.paints = 0;
+        run(5);
+        return map.paints;
+    }
+    /// The same while drone and visitor move on.
+    int framesOfMovement() {
+        run(2);
+        map.paints = 0;
+        for (int i = 0; i < 4; ++i) {
+            scene.state.drone.pos.x += 0.5;
+            scene.state.drone.trail.push_back(scene.state.drone.pos);
+            show();
+            run(1);
+        }
+        return map.paints;
+    }
+    void show() { map.setState(scene.state, {}); }
+
+    Counted running, map;
+};
+
+TEST_F(MapFrames, AFlightIsAnimatedAndADockedDroneIsNot) {
+    EXPECT_GE(frames(), 3);
+    show();
+    scene.state.phase = Phase::docked;
+    scene.state.visitor.reset();
+    show();
+    EXPECT_EQ(frames(), 0);
+    scene.state.windKmh = 20;
+    scene.state.drone.battery = 50;
+    map.paints = 0;
+    show();
+    run(3);
+    EXPECT_EQ(map.paints, 0);
+    scene.state.drone.heading += 40;
+    show();
+    run(3);
+    EXPECT_EQ(map.paints, 1);
+}
+
+TEST_F(MapFrames, ACoveredOrHiddenMapRestsAndCatchesUp) {
+    map.hide();
+    EXPECT_EQ(framesOfMovement(), 0);
+    map.show();
+    EXPECT_GE(frames(), 3);
+    map.setCovered(true);
+    EXPECT_EQ(frames(), 0);
+    EXPECT_EQ(framesOfMovement(), 0);
+    map.setCovered(false);
+    EXPECT_GE(frames(), 3);
+}
+
+TEST_F(MapFrames, AnOldPictureAndAReplayAreStill) {
+    map.setFreshness(Freshness::stale);
+    EXPECT_EQ(frames(), 0);
+    map.setFreshness(Freshness::waiting);
+    EXPECT_EQ(frames(), 0);
+    EXPECT_EQ(map.accessibleName(), "Waiting for velmora");
+    map.setFreshness(Freshness::live);
+    EXPECT_GE(frames(), 3);
+    EXPECT_TRUE(map.accessibleName().startsWith("Map of your grounds. The drone is at"));
+    replay();
+    map.setReplay(*scene.replay, scene.state, {});
+    EXPECT_EQ(frames(), 0);
+}
+
+} // namespace
+
+} // namespace velmora

@@ -1,0 +1,226 @@
+#include "ui/served_fixture.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QMenuBar>
+#include <QTimer>
+
+namespace velmora {
+
+namespace {
+
+const QString alertCard = QStringLiteral("Someone you don't know is at the driveway camera.");
+const QStringList visits{"Visitor on the driveway", "Visitor in the east garden",
+                         "Visitor crossing the front lawn"};
+
+class WindowTest : public ServedTest {
+protected:
+    QAction* command(const QString& text) {
+        for (QAction* action : window().findChildren<QAction*>())
+            if (action->text() == text)
+                return action;
+        return nullptr;
+    }
+    bool offers(const QString& text) {
+        const QAction* action = command(text);
+        EXPECT_NE(action, nullptr) << text.toStdString();
+        return action && action->isEnabled();
+    }
+    void expectMenus(bool canStage, bool canAnswer) {
+        for (const QString& visit : visits)
+            EXPECT_EQ(offers(visit), canStage) << visit.toStdString();
+        EXPECT_EQ(offers("Launch (approve)"), canAnswer);
+        EXPECT_EQ(offers("Ignore alert"), canAnswer);
+        for (const char* always : {"Show welcome", "Hold position", "Return home", "Quit Velmora"})
+            EXPECT_TRUE(offers(always)) << always;
+    }
+    /// Tries every key that leads somewhere in the window.
+    void tryShortcuts() {
+        for (const Qt::Key key : {Qt::Key_1, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_2})
+            press(key, Qt::ControlModifier);
+        press(Qt::Key_F10);
+    }
+    bool menuIsActive() { return window().findChild<QMenuBar*>()->activeAction() != nullptr; }
+};
+
+TEST_F(WindowTest, DemoMenusFollowThePhase) {
+    window();
+    expectMenus(true, false);
+    visit(Scenario::driveway);
+    expectMenus(false, true);
+    approve();
+    expectMenus(false, false);
+    fly(200);
+    ASSERT_EQ(phase(), Phase::docked);
+    expectMenus(true, false);
+}
+
+TEST_F(WindowTest, LinkedMenusStageNothingAndAnswerOnlyWhatTheServerSays) {
+    visit(Scenario::driveway);
+    store().applyLinkMode(true);
+    window();
+    expectMenus(false, false);
+    serve(mission(Phase::awaitingApproval));
+    expectMenus(false, true);
+    serve(mission(Phase::docked));
+    expectMenus(false, false);
+}
+
+TEST_F(WindowTest, EachVisitIsStagedInFrontOfItsCamera) {
+    for (const auto& [scenario, camera] : rawValuesOf<Scenario>) {
+        command(visits[static_cast<int>(scenario)])->trigger();
+        ASSERT_TRUE(store().state().visitor.has_value());
+        EXPECT_EQ(store().state().visitor->cameraId, camera);
+        store().send(Command::ignore);
+    }
+}
+
+TEST_F(WindowTest, ShortcutsSendTheDronesCommands) {
+    window();
+    serve(mission(Phase::following));
+    press(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(lastPosted(), Command::hold);
+    press(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(lastPosted(), Command::returnHome);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    press(Qt::Key_Escape, Qt::ControlModifier);
+    EXPECT_EQ(link.posts.size(), 2U);
+}
+
+TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {
+    const QStringList rows{"Overview", "Live flight", "History", "Cameras", "Settings"};
+    window();
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        const int place = static_cast<int>(section);
+        press(Qt::Key(Qt::Key_1 + place), Qt::ControlModifier);
+        EXPECT_EQ(store().section(), section);
+        EXPECT_TRUE(find<QAbstractButton>(rows[place])->isChecked()) << id;
+        clickThrough(rows[4 - place]);
+        EXPECT_EQ(static_cast<int>(store().section()), 4 - place);
+    }
+}
+
+TEST_F(WindowTest, CtrlQQuitsAndCtrlWCloses) {
+    window();
+    QTimer::singleShot(0, [this] { press(Qt::Key_Q, Qt::ControlModifier); });
+    QTimer::singleShot(5000, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    window().show();
+    window().activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return window().isActiveWindow(); }));
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(WindowTest, NothingBehindTheAlertIsReached) {
+    window();
+    visit(Scenario::driveway);
+    clickThrough("Settings");
+    clickThrough("Maximise");
+    tryShortcuts();
+    EXPECT_EQ(store().section(), Section::overview);
+    EXPECT_FALSE(menuIsActive());
+    EXPECT_FALSE(window().isMaximized());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(phase(), Phase::awaitingApproval);
+    EXPECT_TRUE(shows(alertCard));
+
+    store().send(Command::ignore);
+    ASSERT_TRUE(waitUntil([&] { return !shows(alertCard); }));
+    clickThrough("Settings");
+    EXPECT_EQ(store().section(), Section::settings);
+}
+
+TEST_F(WindowTest, SearchStaysBehindACard) {
+    store().setSection(Section::history);
+    window();
+    visit(Scenario::driveway);
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_NE(QApplication::focusWidget(), find("Search the history"));
+}
+
+TEST_F(WindowTest, NothingBehindTheWelcomeIsReached) {
+    window();
+    store().setShowWelcome(true);
+    settle();
+    tryShortcuts();
+    EXPECT_EQ(store().section(), Section::overview);
+    EXPECT_FALSE(menuIsActive());
+    EXPECT_FALSE(shows("Settings"));
+}
+
+TEST_F(WindowTest, TheAlertClosesWhenItIsIgnoredAndWhenItExpires) {
+    Settings settings = store().settings();
+    settings.approvalSeconds = 15;
+    store().setSettings(settings);
+    window();
+    visit(Scenario::driveway);
+    ASSERT_TRUE(shows(alertCard));
+    EXPECT_TRUE(waitUntil([&] { return shows("Expires in, 15 s"); }));
+    pass(14.8);
+    EXPECT_TRUE(waitUntil([&] { return shows("Expires in, 1 s"); }));
+    pass(0.3);
+    EXPECT_EQ(store().history().front().outcome, Outcome::expired);
+    EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
+
+    visit(Scenario::driveway);
+    EXPECT_TRUE(shows(alertCard));
+    store().send(Command::ignore);
+    EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
+}
+
+TEST_F(WindowTest, TheAlertSaysWhatWasSeenInWholeNumbers) {
+    Settings settings = store().settings();
+    settings.flightHeight = 15.9;
+    settings.followDistance = 12.99;
+    store().setSettings(settings);
+    LiveState state = mission(Phase::awaitingApproval);
+    state.visitor->confidence = 0.865;
+    state.drone.battery = 79.5;
+    state.windKmh = 10.5;
+    window();
+    serve(state);
+    EXPECT_TRUE(shows("Someone you don't know is at the front lawn camera."));
+    const QString body =
+        "Launch the drone to keep an eye on them? It will fly at 15 m, follow about 12 m back, "
+        "stay inside your boundary and come home on its own.";
+    for (const QString& text :
+         {body, QString("Match, 87 % unknown"), QString("Battery, 80 %"), QString("Wind, 11 km/h")})
+        EXPECT_TRUE(waitUntil([&] { return shows(text); })) << text.toStdString();
+
+    state.visitor->cameraId = "attic";
+    serve(state);
+    EXPECT_TRUE(shows("Someone you don't know is at the grounds."));
+}
+
+TEST_F(WindowTest, TheAlertLiesOverAnyOtherCardAndGivesTheFocusBack) {
+    window();
+    command("About Velmora")->trigger();
+    ASSERT_TRUE(waitUntil([&] { return shows("Close") && find("About Velmora")->isVisible(); }));
+    press(Qt::Key_Tab);
+    QWidget* before = QApplication::focusWidget();
+    visit(Scenario::driveway);
+    ASSERT_TRUE(waitUntil([&] { return shows("Launch drone"); }));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), find("Ignore"));
+    store().send(Command::ignore);
+    ASSERT_TRUE(waitUntil([&] { return !shows(alertCard); }));
+    EXPECT_EQ(QApplication::focusWidget(), before);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([&] { return !shows("About Velmora"); }));
+}
+
+TEST_F(WindowTest, TheSidebarTellsPhaseBatteryAndLink) {
+    window();
+    EXPECT_TRUE(shows("Docked, battery 92%"));
+    EXPECT_TRUE(shows("Demo mode"));
+    LiveState state = mission(Phase::returning);
+    state.drone.battery = 30.5;
+    serve(state);
+    EXPECT_TRUE(shows("Coming home, battery 31%"));
+    EXPECT_TRUE(shows("Linked to velmora 2.1"));
+}
+
+} // namespace
+
+} // namespace velmora
