@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QLocale>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace velmora {
@@ -71,6 +73,14 @@ QString cameraName(const Site& site, std::string_view id) {
 
 QString rounded(double value) {
     return QString::number(whole(std::round(value)));
+}
+
+/// Not QString::number, which rounds 3.25 up; not printf, whose point is the locale's.
+QString oneDecimal(double value) {
+    std::array<char, 400> text{}; // the largest double has 309 digits
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 1).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
 QString percent(double fraction) {

@@ -20,6 +20,8 @@ QString cameraName(const Site& site, std::string_view id);
 
 /// The whole number nearest to the value, halves away from zero.
 QString rounded(double value);
+/// With one decimal place, as "%.1f" writes it.
+QString oneDecimal(double value);
 /// The fraction as a whole percent.
 QString percent(double fraction);
 

@@ -1,7 +1,6 @@
 #include "ui/map/site_map.h"
 
 #include "ui/look/tokens.h"
-#include "ui/map/drone_glyph.h"
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
 #include "ui/ui_fixture.h"

@@ -32,7 +32,8 @@ def _loft(name, rows, material, sides=20, power=3.2):
         for k in range(sides):
             t = 2 * math.pi * k / sides
             c, s = math.cos(t), math.sin(t)
-            verts.append((x, wide * math.copysign(abs(c) ** (2 / power), c), z + high * math.copysign(abs(s) ** (2 / power), s)))
+            verts.append((x, wide * math.copysign(abs(c) ** (2 / power), c),
+                          z + high * math.copysign(abs(s) ** (2 / power), s)))
     for i in range(len(rows) - 1):
         for k in range(sides):
             n = (k + 1) % sides
@@ -69,7 +70,8 @@ def _blade(name, length, material):
             a = 2 * math.pi * k / sides
             c, s = math.cos(a) * chord / 2, math.sin(a) * chord * 0.07
             sweep = -chord * 0.2 * t
-            verts.append((0.006 + t * length, sweep + c * math.cos(pitch) - s * math.sin(pitch), c * math.sin(pitch) + s * math.cos(pitch)))
+            verts.append((0.006 + t * length, sweep + c * math.cos(pitch) - s * math.sin(pitch),
+                          c * math.sin(pitch) + s * math.cos(pitch)))
     for i in range(count):
         for k in range(sides):
             n = (k + 1) % sides
@@ -82,19 +84,27 @@ def build(turns=(25, 140, 70, 10), spinning=False):
     looks = _looks()
     parts = []
     parts.append(_loft("Body", [(-0.135, 0.0, 0.022, 0.018), (-0.125, 0.0, 0.038, 0.028), (-0.06, 0.004, 0.049, 0.035),
-                                (0.03, 0.006, 0.05, 0.036), (0.09, 0.003, 0.043, 0.031), (0.12, -0.002, 0.033, 0.022), (0.128, -0.003, 0.022, 0.013)],
+                                (0.03, 0.006, 0.05, 0.036), (0.09, 0.003, 0.043, 0.031), (0.12, -0.002, 0.033, 0.022),
+                                (0.128, -0.003, 0.022, 0.013)],
                        looks["shell"]))
-    parts.append(_loft("Belly", [(-0.12, -0.02, 0.03, 0.012), (-0.05, -0.026, 0.045, 0.014), (0.06, -0.026, 0.042, 0.014), (0.105, -0.022, 0.028, 0.01)],
+    parts.append(_loft("Belly",
+                       [(-0.12, -0.02, 0.03, 0.012), (-0.05, -0.026, 0.045, 0.014), (0.06, -0.026, 0.042, 0.014),
+                        (0.105, -0.022, 0.028, 0.01)],
                        looks["dark"]))
-    parts.append(_loft("Battery", [(-0.128, 0.022, 0.02, 0.01), (-0.11, 0.027, 0.032, 0.013), (0.0, 0.03, 0.035, 0.015), (0.03, 0.03, 0.03, 0.011)],
+    parts.append(_loft("Battery",
+                       [(-0.128, 0.022, 0.02, 0.01), (-0.11, 0.027, 0.032, 0.013), (0.0, 0.03, 0.035, 0.015),
+                        (0.03, 0.03, 0.03, 0.011)],
                        looks["dark"]))
     parts.append(_box("Stripe", (0.045, -0.004, 0.036), (0.09, 0.004, 0.0405), looks["copper"], 0.0015))
     for i in range(4):
-        parts.append(_box(f"Charge {i}", (-0.06 + i * 0.012, -0.003, 0.0435), (-0.053 + i * 0.012, 0.003, 0.0462), looks["teal"], 0.0006))
-    parts.append(shapes.put(shapes.ellipsoid("Visor", (0.02, 0.0345, 0.0095), looks["lens"], 40, 24), None, (0.1125, 0, 0.0045)))
+        parts.append(_box(f"Charge {i}", (-0.06 + i * 0.012, -0.003, 0.0435), (-0.053 + i * 0.012, 0.003, 0.0462),
+                          looks["teal"], 0.0006))
+    parts.append(shapes.put(shapes.ellipsoid("Visor", (0.02, 0.0345, 0.0095), looks["lens"], 40, 24), None,
+                            (0.1125, 0, 0.0045)))
     for y in (-0.02, 0.02):
         parts.append(_tube("Eye", [(0.12, y, 0.0045), (0.1305, y * 0.97, 0.0045)], [0.0068, 0.0062], looks["dark"]))
-        parts.append(shapes.put(shapes.ellipsoid("Eye glass", (0.002, 0.0045, 0.0045), looks["lens"]), None, (0.1305, y * 0.97, 0.0045)))
+        parts.append(shapes.put(shapes.ellipsoid("Eye glass", (0.002, 0.0045, 0.0045), looks["lens"]), None,
+                                (0.1305, y * 0.97, 0.0045)))
         parts.append(_tube("Lower eye", [(0.02, y, -0.036), (0.02, y, -0.042)], [0.008, 0.007], looks["lens"]))
     for k, (root, tip, level) in enumerate(ARMS):
         parts += _arm(k, root, tip, level, looks, turns[k], spinning)
@@ -110,19 +120,25 @@ def _arm(k, root, tip, level, looks, turn, spinning):
     front = k < 2
     knee = Vector((root[0], root[1], level))
     end = Vector((tip[0], tip[1], level + (0.008 if front else 0.004)))
-    parts = [_tube(f"Hinge {k}", [(knee.x, knee.y, level - 0.02), (knee.x, knee.y, level + 0.016)], [0.0165, 0.0165], looks["dark"]),
+    parts = [_tube(f"Hinge {k}", [(knee.x, knee.y, level - 0.02), (knee.x, knee.y, level + 0.016)], [0.0165, 0.0165],
+                   looks["dark"]),
              _tube(f"Arm {k}", [knee, knee.lerp(end, 0.5), end], [0.0118, 0.0088, 0.0096], looks["shell"]),
              _tube(f"Cuff {k}", [knee.lerp(end, 0.16), knee.lerp(end, 0.24)], [0.0128, 0.0123], looks["copper"]),
-             _tube(f"Mount {k}", [end - Vector((0, 0, 0.016)), end + Vector((0, 0, 0.008))], [0.015, 0.0165], looks["shell"]),
-             _tube(f"Motor {k}", [end + Vector((0, 0, 0.008)), end + Vector((0, 0, 0.026))], [0.0172, 0.0158], looks["metal"], 36),
-             _tube(f"Hub {k}", [end + Vector((0, 0, 0.026)), end + Vector((0, 0, 0.034))], [0.0095, 0.006], looks["dark"])]
+             _tube(f"Mount {k}", [end - Vector((0, 0, 0.016)), end + Vector((0, 0, 0.008))], [0.015, 0.0165],
+                   looks["shell"]),
+             _tube(f"Motor {k}", [end + Vector((0, 0, 0.008)), end + Vector((0, 0, 0.026))], [0.0172, 0.0158],
+                   looks["metal"], 36),
+             _tube(f"Hub {k}", [end + Vector((0, 0, 0.026)), end + Vector((0, 0, 0.034))], [0.0095, 0.006],
+                   looks["dark"])]
     foot = -0.058 if front else -0.052
-    parts.append(_tube(f"Leg {k}", [end - Vector((0, 0, 0.012)), Vector((end.x * 1.015, end.y * 1.015, foot))], [0.0075, 0.0048], looks["dark"]))
+    parts.append(_tube(f"Leg {k}", [end - Vector((0, 0, 0.012)), Vector((end.x * 1.015, end.y * 1.015, foot))],
+                       [0.0075, 0.0048], looks["dark"]))
     light = shapes.ellipsoid(f"Light {k}", (0.006, 0.006, 0.004), looks["red" if front else "teal"])
     parts.append(shapes.put(light, None, end - Vector((0, 0, 0.018))))
     if spinning:
         for radius, cover in ((0.128, 0.16), (0.05, 0.2)):
-            disc = shapes.ellipsoid(f"Rotor {k}", (radius, radius, 0.0015), materials.veil(f"Rotor {cover}", (0.3, 0.32, 0.34), cover), 48, 4)
+            disc = shapes.ellipsoid(f"Rotor {k}", (radius, radius, 0.0015),
+                                    materials.veil(f"Rotor {cover}", (0.3, 0.32, 0.34), cover), 48, 4)
             parts.append(shapes.put(disc, None, end + Vector((0, 0, 0.031))))
         return parts
     blade = _blade(f"Blade {k}", 0.128, looks["blade"])

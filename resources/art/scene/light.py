@@ -1,4 +1,4 @@
-"""The light of each hour: an evening sky with thin cloud for the views, the blue hour for the plan, a studio for the drone."""
+"""The light of each hour: an evening sky with thin cloud, the blue hour for the plan, a studio for the drone."""
 
 import math
 
@@ -83,8 +83,10 @@ def studio():
     back.inputs["Color"].default_value = (0.8, 0.9, 1.0, 1)
     back.inputs["Strength"].default_value = 0.5
     tree.links.new(back.outputs[0], out.inputs["Surface"])
-    for place, size, power, colour in (((0.5, 0.9, 1.1), 0.9, 14, (1, 0.95, 0.88)), ((0.9, -0.9, 0.7), 0.6, 6, (0.75, 0.9, 1)),
-                                       ((-1.0, 0.1, 0.8), 0.7, 9, (0.8, 0.95, 1)), ((0.3, 0.2, -0.9), 1.2, 2.5, (0.7, 0.85, 1))):
+    for place, size, power, colour in (((0.5, 0.9, 1.1), 0.9, 14, (1, 0.95, 0.88)),
+                                       ((0.9, -0.9, 0.7), 0.6, 6, (0.75, 0.9, 1)),
+                                       ((-1.0, 0.1, 0.8), 0.7, 9, (0.8, 0.95, 1)),
+                                       ((0.3, 0.2, -0.9), 1.2, 2.5, (0.7, 0.85, 1))):
         lamp = bpy.data.lights.new("Panel", "AREA")
         lamp.size, lamp.energy, lamp.color = size, power, colour
         thing = bpy.data.objects.new("Panel", lamp)

@@ -150,7 +150,8 @@ def gravel(name, light, dark):
     grain = n.span(stones.outputs["Distance"], 0, 0.7)
     colour = n.mix(n.span(n.noise(where, 0.5, 5), 0.35, 0.7), light, dark)
     colour = n.mix(0.35, colour, stones.outputs["Color"], "SOFT_LIGHT")
-    colour = n.mix(n.span(n.noise(where, 12, 5, 0.7), 0.4, 0.7, 0, 0.5), colour, n.mix(0.5, colour, (0.03, 0.025, 0.02)))
+    colour = n.mix(n.span(n.noise(where, 12, 5, 0.7), 0.4, 0.7, 0, 0.5), colour,
+                   n.mix(0.5, colour, (0.03, 0.025, 0.02)))
     height = n.maths("SUBTRACT", n.noise(where, 8, 6, 0.7), grain)
     return n.surface(colour, 0.9, 0, 0.2, n.bump(height, 0.03, 0.8))
 

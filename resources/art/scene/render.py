@@ -10,6 +10,7 @@ import bpy
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
+import belongings  # noqa: E402
 import buildings  # noqa: E402
 import cameras  # noqa: E402
 import develop  # noqa: E402
@@ -19,15 +20,16 @@ import light  # noqa: E402
 import materials  # noqa: E402
 import measures as site  # noqa: E402
 import people  # noqa: E402
-import plants  # noqa: E402
+import planting  # noqa: E402
 
 
 def grounds():
     ground.lay()
     buildings.build()
-    plants.plant_trees()
-    plants.plant_hedge()
-    plants.plant_beds()
+    belongings.place()
+    planting.plant_trees()
+    planting.plant_hedge()
+    planting.plant_beds()
 
 
 def plan_base():
@@ -43,7 +45,7 @@ def snapshot(name, height, toward):
     people.walker(x, y, step)
     light.sky(height, toward, 0.16)
     cameras.wall(name)
-    plants.plant_lawn(site.CAMERAS[name][0], site.CAMERAS[name][1], 76, 48)
+    planting.plant_lawn(site.CAMERAS[name][0], site.CAMERAS[name][1], 76, 48)
     return (1280, 720)
 
 

@@ -67,31 +67,41 @@ int Headline::heightForWidth(int width) const {
     return static_cast<int>(lines * style_.line);
 }
 
-/// A tail such as a full stop stays with the word before it.
+/// The words of all three runs. What no space parts stays together on a line, such as a full stop and its
+/// word.
+std::vector<Headline::Piece> Headline::words() const {
+    std::vector<Piece> all;
+    for (const auto& [text, emphasised] :
+         {std::pair(sentence_.lead, false), std::pair(sentence_.emphasis, true),
+          std::pair(sentence_.tail, false)})
+        for (const QString& word : wordsOf(text))
+            all.push_back({word, emphasised});
+    return all;
+}
+
 std::vector<Headline::Piece> Headline::pieces(double width) const {
     const QFontMetricsF metrics(fontOf(style_));
+    const std::vector<Piece> all = words();
     std::vector<Piece> shown;
     double x = 0;
     int line = 0;
-    bool canBreak = false;
-    for (const auto& [text, emphasised] :
-         {std::pair(sentence_.lead, false), std::pair(sentence_.emphasis, true),
-          std::pair(sentence_.tail, false)}) {
-        for (const QString& word : wordsOf(text)) {
-            if (canBreak && x + metrics.horizontalAdvance(word.trimmed()) > width) {
-                x = 0;
-                ++line;
-            }
-            if (shown.empty() || shown.back().emphasised != emphasised || shown.back().line != line)
-                shown.push_back({{}, emphasised, x, line});
-            shown.back().text += word;
-            x += metrics.horizontalAdvance(word);
-            canBreak = word.back().isSpace();
-            if (word.endsWith('\n')) {
-                shown.back().text.chop(1);
-                x = 0;
-                ++line;
-            }
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        double together = 0;
+        for (std::size_t next = i; next < all.size() && (next == i || !all[next - 1].text.back().isSpace());
+             ++next)
+            together += metrics.horizontalAdvance(all[next].text.trimmed());
+        if (x > 0 && all[i - 1].text.back().isSpace() && x + together > width) {
+            x = 0;
+            ++line;
+        }
+        if (shown.empty() || shown.back().emphasised != all[i].emphasised || shown.back().line != line)
+            shown.push_back({{}, all[i].emphasised, x, line});
+        shown.back().text += all[i].text;
+        x += metrics.horizontalAdvance(all[i].text);
+        if (all[i].text.endsWith('\n')) {
+            shown.back().text.chop(1);
+            x = 0;
+            ++line;
         }
     }
     return shown;

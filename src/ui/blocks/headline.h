@@ -43,6 +43,7 @@ private:
         int line = 0;
     };
 
+    std::vector<Piece> words() const;
     std::vector<Piece> pieces(double width) const;
     void describe();
 

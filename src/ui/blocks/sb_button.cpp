@@ -16,7 +16,6 @@ namespace velmora {
 namespace {
 
 constexpr double guardedOpacity = 0.6;
-constexpr QColor none{0, 0, 0, 0};
 
 const TextStyle& textStyleOf(const SBButtonStyle& style) {
     return style.large ? Type::buttonLarge : Type::button;
@@ -26,6 +25,7 @@ const TextStyle& textStyleOf(const SBButtonStyle& style) {
 
 SBButtonLook SBButton::lookOf(SBButtonKind kind, Look look) {
     using SB::faded;
+    using SB::none;
     const auto choose = [look](SBButtonLook normal, SBButtonLook hover, SBButtonLook pressed,
                                SBButtonLook disabled) {
         switch (look) {

@@ -29,6 +29,7 @@ inline constexpr QColor lilac{196, 163, 245};
 inline constexpr QColor softBlue{144, 189, 250};
 inline constexpr QColor alert{180, 35, 24};
 inline constexpr QColor caution{156, 100, 0};
+inline constexpr QColor none{0, 0, 0, 0}; ///< no fill, no border
 
 /// The colour at an opacity from 0 to 1.
 inline QColor faded(QColor color, double opacity) {

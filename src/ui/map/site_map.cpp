@@ -82,6 +82,8 @@ void SiteMap::setCovered(bool covered) {
         return;
     covered_ = covered;
     runOrRest();
+    if (!covered)
+        update();
 }
 
 /// While frames run, the next one shows what moved; only what lies outside the moving parts is asked for
@@ -99,9 +101,9 @@ void SiteMap::setScene(MapScene scene) {
     if (newSize)
         updateGeometry();
     runOrRest();
-    if (grounds || paths)
+    if (!covered_ && (grounds || paths))
         update();
-    else if (standing && !frames_.isActive())
+    else if (!covered_ && standing && !frames_.isActive())
         showFrame();
     if (newStory || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
         describe();

@@ -56,7 +56,7 @@ void Telemetry::show(const LiveState& state, const Settings& settings, Date now,
     }
     const DroneState& drone = state.drone;
     height_->setValue(rounded(drone.altitude), tr("m"));
-    speed_->setValue(QString::number(drone.speed, 'f', 1), tr("m/s"));
+    speed_->setValue(oneDecimal(drone.speed), tr("m/s"));
     if (state.visitor)
         toVisitor_->setValue(rounded(distance(drone.pos, state.visitor->pos)), tr("m"));
     else

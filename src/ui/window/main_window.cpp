@@ -69,9 +69,9 @@ void MainWindow::buildSections() {
     connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
     sections_[Section::overview] = new OverviewView(store_, stack_);
     sections_[Section::live] = live;
-    auto* history = new HistoryView(store_, stack_);
-    connect(history, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
-    sections_[Section::history] = history;
+    history_ = new HistoryView(store_, stack_);
+    connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
+    sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
     sections_[Section::settings] = new SettingsView(store_, autostart_, stack_);
     for (const auto& [section, screen] : sections_)
@@ -95,8 +95,8 @@ void MainWindow::layOut() {
     column->addWidget(welcome_, 1);
 }
 
-/// The sections by number, closing the window, and the menus for those without a mouse. What lies under a
-/// card cannot be reached by keys either.
+/// The sections by number, the history's search, closing the window, and the menus for those without a mouse.
+/// What lies under a card cannot be reached by keys either.
 void MainWindow::addShortcuts() {
     const auto add = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, action] {
@@ -107,6 +107,10 @@ void MainWindow::addShortcuts() {
     int key = Qt::Key_1;
     for (const auto& [section, id] : rawValuesOf<Section>)
         add(QKeySequence(Qt::CTRL | Qt::Key(key++)), [this, shown = section] { store_.setSection(shown); });
+    add(QKeySequence::Find, [this] {
+        if (history_->isVisible())
+            history_->takeSearch();
+    });
     add(QKeySequence(Qt::Key_F10), [this] { menus_->setActiveAction(menus_->actions().front()); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this), &QShortcut::activated, this,
             &QWidget::close);

@@ -13,6 +13,7 @@ class AboutCard;
 class ApprovalOverlay;
 class CommandMenus;
 class ConfirmationCard;
+class HistoryView;
 class LandConfirmation;
 class OverlayCard;
 class ResizeBands;
@@ -49,6 +50,7 @@ private:
     WelcomeView* welcome_;
     SectionStack* stack_;
     std::map<Section, QWidget*> sections_;
+    HistoryView* history_;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
     ConfirmationCard* clearing_; ///< the demo history

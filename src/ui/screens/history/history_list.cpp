@@ -19,7 +19,6 @@
 #include <QListView>
 #include <QPainter>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -55,8 +54,6 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
         showCount();
         select(chosen_);
     });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_,
-            [this] { search_->setFocus(Qt::ShortcutFocusReason); });
     undoTime_.setSingleShot(true);
     undoTime_.setInterval(Measure::undoSeconds * 1000);
     connect(&undoTime_, &QTimer::timeout, this, [this] {
@@ -217,6 +214,10 @@ void HistoryList::select(std::optional<std::size_t> place) {
     if (index.isValid())
         records_->scrollTo(index);
     showing_ = false;
+}
+
+void HistoryList::takeSearch() {
+    search_->setFocus(Qt::ShortcutFocusReason);
 }
 
 void HistoryList::takeFocus() {

@@ -29,6 +29,8 @@ public:
     const std::vector<std::size_t>& shown() const { return model_->shown(); }
     void refresh();
     void select(std::optional<std::size_t> place);
+    /// Gives the search field the keyboard.
+    void takeSearch();
     /// Gives the records the keyboard.
     void takeFocus();
     /// Keeps a deleted record for a while, so that it can be put back.

@@ -70,6 +70,10 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     refresh();
 }
 
+void HistoryView::takeSearch() {
+    list_->takeSearch();
+}
+
 QWidget* HistoryView::buildEmpty() {
     auto* empty = new QWidget(this);
     auto* title = new Text(tr("No visit to replay yet"), Type::emptyTitle, SB::ink, empty);

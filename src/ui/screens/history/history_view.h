@@ -17,6 +17,9 @@ class HistoryView : public QWidget {
 public:
     HistoryView(AppStore& store, QWidget* parent);
 
+    /// Gives the search field the keyboard.
+    void takeSearch();
+
 signals:
     /// "Clear demo history" was pressed; nothing goes before the owner confirms.
     void clearDemoRequested();

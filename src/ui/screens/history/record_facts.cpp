@@ -150,7 +150,7 @@ void RecordFacts::showBoundary(const MissionRecord& record, const Site& site, co
                                 ? tr("The drone was %1 m outside the boundary at the furthest")
                                       .arg(rounded(-evidence->leastDistance))
                                 : tr("The drone stayed at least %1 m inside the boundary")
-                                      .arg(QString::number(evidence->leastDistance, 'f', 1));
+                                      .arg(oneDecimal(evidence->leastDistance));
     boundary_->setText(
         nearest + tr(" and was %1 in the %2 m buffer.")
                       .arg(duration(Seconds{evidence->secondsInBuffer}), rounded(settings.boundaryBuffer)));
