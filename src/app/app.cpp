@@ -41,7 +41,6 @@ App::App(AppService& service, const Options& options)
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
     connect(&tray_, &Tray::openRequested, this, [this] { showWindow(); });
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
-    connect(&signals_, &QuitSignals::quitRequested, qApp, &QCoreApplication::quit);
     if (!options.hidden)
         showWindow();
 }

@@ -2,7 +2,6 @@
 
 #include "app/app_service.h"
 #include "app/options.h"
-#include "app/quit_signals.h"
 #include "link/http_link.h"
 #include "sim/random.h"
 #include "store/app_store.h"
@@ -30,7 +29,6 @@ private:
     AppStore store_;
     MainWindow window_;
     Tray tray_;
-    QuitSignals signals_;
 };
 
 } // namespace velmora

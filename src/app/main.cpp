@@ -1,4 +1,5 @@
 #include "app/app.h"
+#include "app/quit_signals.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
@@ -45,6 +46,8 @@ int main(int argc, char* argv[]) {
     }
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
+    const QuitSignals quitSignals; // before anything that a signal could leave behind
+    QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
     AppService service(QDBusConnection::sessionBus());
     switch (service.claim(DataFiles::defaultDirectory().path())) {
     case AppService::Claim::handedOver:

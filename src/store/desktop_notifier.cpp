@@ -115,25 +115,26 @@ void DesktopNotifier::send(const DetectionNotification& notification, Posted& po
     connect(reply, &QDBusPendingCallWatcher::finished, this,
             [this, reply, identifier = notification.identifier] {
                 const QDBusPendingReply<uint> id = *reply;
-                if (id.isValid())
-                    onPosted(identifier, id.value());
-                else if (const auto entry = posted_.find(identifier);
-                         entry != posted_.end() && entry->second.id == 0)
-                    posted_.erase(entry);
+                onPosted(identifier, id.isValid() ? id.value() : 0);
                 reply->deleteLater();
             });
 }
 
 void DesktopNotifier::onPosted(const QString& identifier, uint id) {
     const auto entry = posted_.find(identifier);
-    if (entry == posted_.end() || entry->second.withdrawn) {
-        close(id);
+    const bool wanted = entry != posted_.end() && !entry->second.withdrawn;
+    if (!wanted) {
+        if (id > 0)
+            close(id);
         posted_.erase(identifier);
         return;
     }
-    entry->second.id = id;
+    if (id > 0)
+        entry->second.id = id;
     if (const auto next = std::exchange(entry->second.next, std::nullopt))
         send(*next, entry->second);
+    else if (entry->second.id == 0)
+        posted_.erase(entry);
 }
 
 void DesktopNotifier::withdrawAll() {

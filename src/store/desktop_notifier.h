@@ -58,6 +58,7 @@ private:
     void askForCapabilities();
     void forgetService();
     void send(const DetectionNotification& notification, Posted& posted);
+    /// The service took the notification, or refused it (id 0).
     void onPosted(const QString& identifier, uint id);
     void close(uint id);
     QVariantMap hintsFor(const DetectionNotification& notification) const;

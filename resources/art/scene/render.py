@@ -75,8 +75,8 @@ def welcome_hero():
     people.walker(78.6, 57.6, -105, 0.02, (0.1, 0.03, 0.03))
     flyer = drone.build(spinning=True)
     flyer.scale = (2.7, 2.7, 2.7)
-    flyer.location = site.at(64.25, 84.45, 9.2)
-    flyer.rotation_euler = (0.05, 0.1, 1.1)
+    flyer.location = site.at(64.25, 84.45, 8.62)
+    flyer.rotation_euler = (0.03, -0.14, 1.12)
     light.sky(6.5, 160, 0.2)
     cameras.free(site.at(60, 90, 9.6), site.at(72, 48, 3.5), 86)
     return (2720, 900)
@@ -125,4 +125,5 @@ def main():
         develop.develop(name, negative, os.path.abspath(os.path.join(here, "..")))
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,165 @@
+#include "desktop/notification_service.h"
+#include "store/desktop_notifier.h"
+#include "store/store_fixture.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+
+namespace velmora {
+
+namespace {
+
+template <class Condition>
+bool waitUntil(Condition condition) {
+    QDeadlineTimer deadline(5000);
+    while (!condition() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    return condition();
+}
+
+NotificationPicture pictureOf(const QString& name) {
+    return name.isEmpty() ? NotificationPicture{} : NotificationPicture{1, 1, 4, QByteArray("\1\2\3\4", 4)};
+}
+
+/// A notifier on the bus of the tests, with what it said.
+class NotifierTest : public testing::Test {
+protected:
+    void SetUp() override {
+        QObject::connect(&notifier, &DesktopNotifier::answered,
+                         [this](Command answer) { answers.push_back(answer); });
+        QObject::connect(&notifier, &DesktopNotifier::windowRequested,
+                         [this](const QString& token) { tokens.append(token); });
+    }
+
+    /// A service whose capabilities the notifier has asked for.
+    NotificationService& service(const QStringList& capabilities = {"actions", "body-markup"}) {
+        if (!service_) {
+            service_ = std::make_unique<NotificationService>(capabilities);
+            EXPECT_TRUE(waitUntil([&] { return service_->asked > 0; }));
+            settle();
+        }
+        return *service_;
+    }
+    /// Lets every message that is under way arrive: one there and back again.
+    void settle() {
+        const int before = service_->asked;
+        DesktopNotifier another(QDBusConnection::sessionBus(), pictureOf);
+        EXPECT_TRUE(waitUntil([&] { return service_->asked > before; }));
+        QCoreApplication::processEvents();
+    }
+    const NotificationService::Shown& post(const QString& identifier = "M-1",
+                                           const QString& title = "Title") {
+        const std::size_t before = service().shown.size();
+        notifier.post({identifier, title, "Body", "snapshot-driveway"});
+        EXPECT_TRUE(waitUntil([&] { return service().shown.size() > before; }));
+        settle();
+        return service().shown.back();
+    }
+
+    std::vector<Command> answers;
+    QStringList tokens;
+    DesktopNotifier notifier{QDBusConnection::sessionBus(), pictureOf};
+    std::unique_ptr<NotificationService> service_;
+};
+
+TEST_F(NotifierTest, TheNotificationSaysAllThatTheDesktopCanShow) {
+    const auto shown = post("M-1", QString::fromUtf8("Someone at the <gate>\n&\a"));
+    EXPECT_EQ(shown.summary, "Someone at the <gate>&");
+    EXPECT_EQ(shown.body, "Body");
+    EXPECT_EQ(shown.actions,
+              QStringList({"default", "Open Velmora", "LAUNCH", "Launch drone", "IGNORE", "Ignore"}));
+    EXPECT_EQ(shown.timeout, 0);
+    EXPECT_EQ(shown.hints["category"].toString(), "x-velmora.detection");
+    EXPECT_EQ(shown.hints["urgency"].metaType(), QMetaType::fromType<uchar>());
+    EXPECT_EQ(shown.hints["urgency"].toInt(), 2);
+    EXPECT_TRUE(shown.hints["resident"].toBool());
+    EXPECT_EQ(shown.hints["sound-name"].toString(), "alarm-clock-elapsed");
+    EXPECT_EQ(shown.hints["desktop-entry"].toString(), "org.velmora.Velmora");
+    EXPECT_TRUE(shown.hints.contains("image-data"));
+}
+
+TEST_F(NotifierTest, AServiceWithoutActionsGetsNone) {
+    service({"body"});
+    EXPECT_TRUE(post().actions.isEmpty());
+}
+
+TEST_F(NotifierTest, TheSameMissionReplacesItsOwn) {
+    const uint first = post("M-1").id;
+    EXPECT_EQ(post("M-1").replaces, first);
+    EXPECT_EQ(post("det").replaces, 0U);
+}
+
+TEST_F(NotifierTest, LaunchAnswersOnceAndOnlyForItsOwnNotification) {
+    const uint id = post().id;
+    service().invoke(id + 7, "LAUNCH");
+    service().invoke(id, "something else");
+    service().giveToken(id, "token");
+    service().invoke(id, "LAUNCH");
+    service().invoke(id, "LAUNCH");
+    ASSERT_TRUE(waitUntil([&] { return !answers.empty(); }));
+    settle();
+    EXPECT_EQ(answers, std::vector{Command::approve});
+    EXPECT_EQ(tokens.back(), "token");
+}
+
+TEST_F(NotifierTest, AClickOnTheBodyOnlyAsksForTheWindow) {
+    service().invoke(post().id, "default");
+    ASSERT_TRUE(waitUntil([&] { return !tokens.isEmpty(); }));
+    settle();
+    EXPECT_TRUE(answers.empty());
+}
+
+TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
+    const uint id = post().id;
+    notifier.withdrawAll();
+    EXPECT_TRUE(waitUntil([&] { return service().closed == std::vector{id}; }));
+    service().invoke(id, "LAUNCH");
+    settle();
+    EXPECT_TRUE(answers.empty());
+
+    notifier.post({"M-2", "Title", "Body", {}}); // withdrawn before its id is known
+    notifier.withdrawAll();
+    EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 2; }));
+}
+
+TEST_F(NotifierTest, ARefusingOrRestartedServiceIsSurvived) {
+    service().refuses = true;
+    notifier.post({"M-1", "Title", "Body", {}});
+    settle();
+    service().refuses = false;
+    const uint id = post().id;
+    service_.reset();
+    service();
+    service().invoke(id, "LAUNCH"); // of the service that is gone
+    settle();
+    EXPECT_TRUE(answers.empty());
+    EXPECT_EQ(post().replaces, 0U);
+}
+
+/// The whole road of an answer given outside the window.
+class NotifiedStoreTest : public StoreTest {};
+
+TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {
+    NotificationService service({"actions"});
+    DesktopNotifier real(QDBusConnection::sessionBus(), pictureOf);
+    AppStore store({[this] { return now; }, random, QDir(directory()), real, link});
+    QObject::connect(&real, &DesktopNotifier::answered, &store, &AppStore::send);
+    ASSERT_TRUE(waitUntil([&] { return service.asked > 0; }));
+    QCoreApplication::processEvents();
+    store.simulate(Scenario::driveway);
+    now += Seconds{0.05};
+    store.tick();
+    ASSERT_TRUE(waitUntil([&] { return !service.shown.empty(); }));
+    EXPECT_EQ(service.shown.front().summary, "Someone you don't know is at the driveway");
+    EXPECT_TRUE(waitUntil([&] {
+        service.invoke(service.shown.front().id, "LAUNCH");
+        return store.state().phase == Phase::launching;
+    }));
+    now += Seconds{0.05};
+    store.tick();
+    EXPECT_TRUE(waitUntil([&] { return !service.closed.empty(); }));
+}
+
+} // namespace
+
+} // namespace velmora
