@@ -1,3 +1,6 @@
+#include "desktop/tray_host.h"
+
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -19,14 +22,23 @@ class ProgramTest : public testing::Test {
 protected:
     /// Starts it; the bus of the tests, or none.
     std::unique_ptr<QProcess> start(const QStringList& arguments, bool bus = true) {
+        return run(VELMORA_PROGRAM, arguments, bus);
+    }
+    /// On a virtual display: a tray icon needs one.
+    std::unique_ptr<QProcess> startOnDisplay(const QStringList& arguments) {
+        return run("xvfb-run", QStringList{"-a", VELMORA_PROGRAM} + arguments, true);
+    }
+    std::unique_ptr<QProcess> run(const QString& program, const QStringList& arguments, bool bus) {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_DATA_HOME", home_.path());
         environment.insert("XDG_CONFIG_HOME", home_.path());
         if (!bus)
             environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+        if (program != VELMORA_PROGRAM)
+            environment.insert("QT_QPA_PLATFORM", "xcb");
         process->setProcessEnvironment(environment);
-        process->start(VELMORA_PROGRAM, arguments);
+        process->start(program, arguments);
         EXPECT_TRUE(process->waitForStarted());
         return process;
     }
@@ -111,6 +123,32 @@ TEST_F(ProgramTest, WithoutABusTheSecondWriterIsKeptOut) {
     EXPECT_FALSE(second->readAllStandardError().isEmpty());
     ::kill(static_cast<pid_t>(first->processId()), SIGINT);
     EXPECT_EQ(exitCodeOf(*first), 0);
+}
+
+TEST_F(ProgramTest, ALateTrayGetsTheIconAndItsMenuWorks) {
+    const auto program = startOnDisplay({"--hidden"});
+    waitForName();
+    TrayHost tray;
+    const auto labels = [&] {
+        QStringList texts;
+        for (const TrayHost::Entry& entry : tray.menu())
+            texts.append(entry.label);
+        return texts;
+    };
+    const auto waitFor = [](auto condition) {
+        QDeadlineTimer deadline(20'000);
+        while (!condition() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        return condition();
+    };
+    ASSERT_TRUE(waitFor([&] { return !tray.items().isEmpty(); }));
+    EXPECT_EQ(labels(), QStringList({QString::fromUtf8("Velmora — Docked"), "Armed", "Disarm", "Open Velmora",
+                                     "Quit Velmora"}));
+    EXPECT_FALSE(tray.menu().front().enabled);
+    tray.press("Disarm");
+    EXPECT_TRUE(waitFor([&] { return labels().contains("Disarmed") && labels().contains("Arm"); }));
+    tray.press("Quit Velmora");
+    EXPECT_EQ(exitCodeOf(*program), 0);
 }
 
 } // namespace

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QObject>
+
+#include <vector>
+
+namespace velmora {
+
+/// Plays the desktop's tray: takes the icons that register, and reads and presses their menus.
+class TrayHost : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ isHost)
+    Q_PROPERTY(int ProtocolVersion READ version)
+    Q_PROPERTY(QStringList RegisteredStatusNotifierItems READ items)
+
+public:
+    struct Entry {
+        int id = 0;
+        QString label;
+        bool enabled = true;
+    };
+
+    TrayHost() : bus_(QDBusConnection::sessionBus()) {
+        bus_.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
+                            QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAllProperties);
+        bus_.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
+    }
+    ~TrayHost() override { bus_.unregisterService(QStringLiteral("org.kde.StatusNotifierWatcher")); }
+
+    bool isHost() const { return true; }
+    int version() const { return 0; }
+    QStringList items() const { return items_; }
+
+    /// The visible lines of the first icon's menu; separators are left out.
+    std::vector<Entry> menu() const {
+        std::vector<Entry> entries;
+        const QDBusMessage reply = call(QStringLiteral("GetLayout"), {0, -1, QStringList()});
+        if (reply.arguments().size() < 2)
+            return entries;
+        const auto root = reply.arguments().at(1).value<QDBusArgument>();
+        int id = 0;
+        QVariantMap properties;
+        root.beginStructure();
+        root >> id >> properties;
+        root.beginArray();
+        while (!root.atEnd()) {
+            QDBusVariant child;
+            root >> child;
+            read(child.variant().value<QDBusArgument>(), entries);
+        }
+        return entries;
+    }
+    /// Presses the line with this label.
+    void press(const QString& label) const {
+        for (const Entry& entry : menu())
+            if (entry.label == label)
+                call(QStringLiteral("Event"),
+                     {entry.id, QStringLiteral("clicked"), QVariant::fromValue(QDBusVariant(QString())), 0U});
+    }
+
+public slots:
+    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service, const QDBusMessage& message) {
+        items_.append(service.startsWith('/') ? message.service() : service);
+    }
+    Q_SCRIPTABLE void RegisterStatusNotifierHost(const QString&) {}
+
+private:
+    static void read(const QDBusArgument& item, std::vector<Entry>& entries) {
+        int id = 0;
+        QVariantMap properties;
+        item.beginStructure();
+        item >> id >> properties;
+        const QString label = properties.value(QStringLiteral("label")).toString();
+        if (properties.value(QStringLiteral("visible"), true).toBool() && !label.isEmpty())
+            entries.push_back({id, label, properties.value(QStringLiteral("enabled"), true).toBool()});
+    }
+    QDBusMessage call(const QString& method, const QVariantList& arguments) const {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            items_.value(0), QStringLiteral("/MenuBar"), QStringLiteral("com.canonical.dbusmenu"), method);
+        message.setArguments(arguments);
+        return bus_.call(message, QDBus::BlockWithGui, 5000);
+    }
+
+    QDBusConnection bus_;
+    QStringList items_;
+};
+
+} // namespace velmora
