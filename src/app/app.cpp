@@ -48,8 +48,7 @@ App::App(AppService& service, const Options& options)
 void App::showWindow(const QString& activationToken) {
     if (!activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8()); // Qt's Wayland plugin takes it from there
-    if (window_.isMinimized())
-        window_.showNormal();
+    window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     window_.show();
     window_.raise();
     window_.activateWindow();

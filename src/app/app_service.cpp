@@ -1,5 +1,7 @@
 #include "app/app_service.h"
 
+#include "store/data_files.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDir>
@@ -26,19 +28,20 @@ QString tokenFrom(const QVariantMap& platformData) {
 AppService::AppService(const QDBusConnection& bus) : bus_(bus) {}
 
 /// The object is there before the name is, so that whoever finds the name owned finds someone who answers.
-AppService::Claim AppService::claim(const QString& dataDirectory) {
+AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
         const auto reply =
             bus_.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService,
                                               QDBusConnectionInterface::DontAllowReplacement);
         if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
-            return handOver() ? Claim::handedOver : Claim::refused;
+            return hidden || handOver() ? Claim::handedOver : Claim::refused;
     }
-    QDir().mkpath(dataDirectory);
+    DataFiles::makeDirectory(QDir(dataDirectory));
     lock_.emplace(dataDirectory + QStringLiteral("/lock"));
     lock_->setStaleLockTime(0);
-    return lock_->tryLock(0) ? Claim::granted : Claim::refused;
+    const bool taken = !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
+    return taken ? Claim::refused : Claim::granted; // a directory that cannot be written to keeps nobody out
 }
 
 bool AppService::handOver() {

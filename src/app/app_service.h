@@ -21,14 +21,15 @@ public:
     /// What became of the attempt to be the one.
     enum class Claim {
         granted,
-        handedOver, ///< another one runs and has been asked to come forward
+        handedOver, ///< another one runs, and comes forward unless the start was hidden
         refused     ///< another one writes to the same data and cannot be reached
     };
 
     explicit AppService(const QDBusConnection& bus);
 
-    /// Owns the bus name and the data directory from then on.
-    Claim claim(const QString& dataDirectory);
+    /// Owns the bus name and the data directory from then on. A hidden start does not call the running
+    /// window.
+    Claim claim(const QString& dataDirectory, bool hidden);
 
 signals:
     /// The window is asked for; the token lets it come to the front where the desktop wants one.

@@ -44,12 +44,13 @@ int main(int argc, char* argv[]) {
         (message->exitCode == 0 ? std::cout : std::cerr) << message->text.toStdString();
         return message->exitCode;
     }
+    const Options options = std::get<Options>(read);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
     const QuitSignals quitSignals; // before anything that a signal could leave behind
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
     AppService service(QDBusConnection::sessionBus());
-    switch (service.claim(DataFiles::defaultDirectory().path())) {
+    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden)) {
     case AppService::Claim::handedOver:
         return 0;
     case AppService::Claim::refused:
@@ -59,6 +60,6 @@ int main(int argc, char* argv[]) {
         break;
     }
     dress();
-    const App app(service, std::get<Options>(read));
+    const App app(service, options);
     return QApplication::exec();
 }

@@ -8,6 +8,18 @@ namespace {
 
 constexpr int usageError = 2;
 
+/// Without what the toolkit takes for itself, such as "-session ID" when a session is restored.
+QStringList withoutToolkitOptions(const QStringList& arguments) {
+    static const QStringList toolkit{"-session", "-platform", "-display"};
+    QStringList own;
+    for (qsizetype i = 0; i < arguments.size(); ++i)
+        if (toolkit.contains(arguments[i]))
+            ++i; // and its value
+        else
+            own.append(arguments[i]);
+    return own;
+}
+
 } // namespace
 
 std::variant<Options, Message> readOptions(const QStringList& arguments) {
@@ -19,7 +31,7 @@ std::variant<Options, Message> readOptions(const QStringList& arguments) {
     const QCommandLineOption version({"v", "version"}, QStringLiteral("Show the version."));
     const QCommandLineOption hidden("hidden", QStringLiteral("Start with no window; the tray opens it."));
     parser.addOptions({help, version, hidden});
-    if (!parser.parse(arguments))
+    if (!parser.parse(withoutToolkitOptions(arguments)))
         return Message{parser.errorText() + QStringLiteral("\nTry --help.\n"), usageError};
     if (!parser.positionalArguments().isEmpty())
         return Message{QStringLiteral("Unexpected argument '%1'.\nTry --help.\n")

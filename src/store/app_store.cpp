@@ -68,9 +68,13 @@ void AppStore::tick() {
         advanceSimulator(now, elapsed);
     updateFreshness();
     const Phase before = lastPhase_;
+    const bool anotherMission = state_.missionId != lastMission_;
     lastPhase_ = state_.phase;
+    lastMission_ = state_.missionId;
     if (state_.phase != before)
         phaseChanged(before, state_.phase);
+    else if (anotherMission && state_.phase == Phase::awaitingApproval)
+        alertReplaced();
 }
 
 void AppStore::advanceSimulator(Date now, double elapsed) {
@@ -112,6 +116,13 @@ void AppStore::received(const FetchResult& result, int server) {
         setLinkStatus(LinkStatus::failed(std::get<LinkError>(result).text));
     }
     updateFreshness();
+}
+
+/// A server may go from one waiting alert to the next between two polls.
+void AppStore::alertReplaced() {
+    world_.notifier.withdrawAll();
+    notifyDetection();
+    emit attentionRequested();
 }
 
 void AppStore::phaseChanged(Phase from, Phase to) {
@@ -233,10 +244,13 @@ void AppStore::setSettings(const Settings& settings) {
         return;
     const bool otherServer = settings.linkMode != settings_.linkMode || settings.host != settings_.host ||
                              settings.port != settings_.port;
+    const bool leavesLink = settings_.linkMode && !settings.linkMode;
     settings_ = settings;
     files_.saveSettings(settings_);
     sim_.settings = settings_;
     emit settingsChanged();
+    if (leavesLink)
+        setState(sim_.state); // before the screens may believe what they show
     if (otherServer)
         forgetServer();
 }

@@ -98,6 +98,7 @@ private:
     void poll();
     void received(const FetchResult& result, int server);
     void phaseChanged(Phase from, Phase to);
+    void alertReplaced();
     void notifyDetection();
     void record(const MissionRecord& record);
     void historyEdited();
@@ -121,6 +122,7 @@ private:
     int server_ = 0;       ///< counts the servers asked, so that a late answer of another one is told apart
     double pollClock_ = 0; ///< seconds gathered towards the next poll
     Phase lastPhase_ = Phase::docked;
+    std::optional<std::string> lastMission_;
 };
 
 } // namespace velmora

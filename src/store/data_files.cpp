@@ -23,14 +23,6 @@ std::string objection(const std::vector<MissionRecord>&) {
     return {};
 }
 
-/// Makes the directory if it is missing, for the owner's eyes only.
-void makeDirectory(const QDir& directory) {
-    if (directory.exists())
-        return;
-    QDir().mkpath(directory.absolutePath());
-    QFile::setPermissions(directory.absolutePath(), ownerDirectory);
-}
-
 } // namespace
 
 DataFiles::DataFiles(QDir directory) : directory_(std::move(directory)) {}
@@ -38,6 +30,13 @@ DataFiles::DataFiles(QDir directory) : directory_(std::move(directory)) {}
 QDir DataFiles::defaultDirectory() {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                 QStringLiteral("/Velmora"));
+}
+
+void DataFiles::makeDirectory(const QDir& directory) {
+    if (directory.exists())
+        return;
+    QDir().mkpath(directory.absolutePath());
+    QFile::setPermissions(directory.absolutePath(), ownerDirectory);
 }
 
 template <class T>

@@ -18,6 +18,9 @@ public:
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();
 
+    /// Makes a directory with its parents if it is missing, for the owner's eyes only.
+    static void makeDirectory(const QDir& directory);
+
     std::optional<Settings> loadSettings();
     std::optional<std::vector<MissionRecord>> loadHistory();
 

@@ -18,6 +18,7 @@ const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLit
               defaultAction = QStringLiteral("default");
 constexpr uchar criticalUrgency = 2;
 constexpr int neverExpires = 0;
+constexpr int quietAfterAnswer = 2000; // milliseconds
 
 QDBusMessage call(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
@@ -71,15 +72,19 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
                  SLOT(onActivationToken(uint, QString)));
     bus_.connect(service, path, service, QStringLiteral("NotificationClosed"), this,
                  SLOT(onNotificationClosed(uint, uint)));
-    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotifier::forgetService);
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotifier::onOwnerChanged);
     askForCapabilities();
 }
 
-/// Another service knows nothing of what was posted to the last one.
-void DesktopNotifier::forgetService() {
-    posted_.clear();
-    capabilities_.clear();
-    askForCapabilities();
+/// A service that went knows nothing any more of what was posted; a new one is asked what it can do. One that
+/// our own call has started has the notification already.
+void DesktopNotifier::onOwnerChanged(const QString&, const QString& before, const QString& now) {
+    if (!before.isEmpty()) {
+        posted_.clear();
+        capabilities_.clear();
+    }
+    if (!now.isEmpty())
+        askForCapabilities();
 }
 
 void DesktopNotifier::askForCapabilities() {
@@ -97,10 +102,12 @@ void DesktopNotifier::post(const DetectionNotification& notification) {
         return;
     const auto [entry, isNew] = posted_.try_emplace(notification.identifier);
     Posted& posted = entry->second;
-    if (!isNew && posted.id == 0)
+    if (!isNew && posted.id == 0) {
         posted.next = notification;
-    else
+        posted.withdrawn = false;
+    } else {
         send(notification, posted);
+    }
 }
 
 void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
@@ -110,7 +117,6 @@ void DesktopNotifier::send(const DetectionNotification& notification, Posted& po
     QDBusMessage message = call(QStringLiteral("Notify"));
     message << QStringLiteral("Velmora") << posted.id << QStringLiteral("org.velmora.Velmora")
             << printable(notification.title) << body << actions() << hintsFor(notification) << neverExpires;
-    posted.answered = false;
     auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this,
             [this, reply, identifier = notification.identifier] {
@@ -178,13 +184,15 @@ DesktopNotifier::Posted* DesktopNotifier::find(uint id) {
     return id == 0 || entry == posted_.end() ? nullptr : &entry->second;
 }
 
-/// The signal goes to everyone on the bus, so only notifications of this run count, and each answers once.
+/// The signal goes to everyone on the bus, so only notifications of this run count, and a double click counts
+/// once.
 void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
     Posted* posted = find(id);
-    if (!posted || posted->answered)
+    if (!posted || !posted->quiet.hasExpired())
         return;
     const QString token = posted->token;
-    posted->answered = action == launchAction || action == ignoreAction;
+    if (action == launchAction || action == ignoreAction)
+        posted->quiet.setRemainingTime(quietAfterAnswer);
     if (action != ignoreAction)
         emit windowRequested(token);
     if (action == launchAction)

@@ -5,6 +5,7 @@
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
+#include <QDeadlineTimer>
 #include <QObject>
 
 #include <functional>
@@ -48,15 +49,15 @@ private slots:
 private:
     /// A notification of this run, from the moment it is sent.
     struct Posted {
-        uint id = 0;            ///< 0 until the service has answered
-        bool withdrawn = false; ///< before the service had answered
-        bool answered = false;
+        uint id = 0;             ///< 0 until the service has answered
+        bool withdrawn = false;  ///< before the service had answered
+        QDeadlineTimer quiet{0}; ///< until a second press counts as another answer
         QString token;
         std::optional<DetectionNotification> next; ///< to replace it as soon as its id is known
     };
 
     void askForCapabilities();
-    void forgetService();
+    void onOwnerChanged(const QString& service, const QString& before, const QString& now);
     void send(const DetectionNotification& notification, Posted& posted);
     /// The service took the notification, or refused it (id 0).
     void onPosted(const QString& identifier, uint id);

@@ -211,6 +211,7 @@ TEST_F(LiveViewTest, BatteryAndWindWarnAtTheirLimits) {
     serve(state);
     EXPECT_TRUE(isPainted("Battery, 30 %", SB::caution));
     EXPECT_TRUE(isPainted("Wind, 25 km/h", SB::caution));
+    settings = store().settings(); // which are linked by now
     settings.maxWindKmh = 26;
     store().setSettings(settings);
     settle();

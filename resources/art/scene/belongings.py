@@ -74,7 +74,7 @@ def _car():
         smooth = thing.modifiers.new("Smooth", "SUBSURF")
         smooth.levels = smooth.render_levels = 2
     parts = shapes.Builder()
-    parts.box((-1.75, -0.56, 1.5), (0.1, 0.56, 1.56), paint)
+    parts.box((-1.7, -0.52, 1.36), (0.05, 0.52, 1.475), paint)
     for x in (-1.42, 1.42):
         for y in (-0.83, 0.83):
             parts.tube([(x, y - 0.13, 0.38), (x, y + 0.13, 0.38)], [0.4, 0.4], dark, 28)
@@ -135,7 +135,7 @@ def _furniture(looks):
     for dx in (-0.55, 0.55):
         made.chair(x + dx, y + 0.95, 0.22)
         made.chair(x + dx, y - 0.95, -0.22)
-    made.bench(84.3, 65.2)
+    made.bench(86.4, 63.2)
     made.bench(106.3, 33.6)
     made.parts.tube([site.at(x, y, 0), site.at(x, y, 2.55)], [0.03, 0.025], looks["frame"], 10)
     canvas = materials.cloth("Canvas", (0.52, 0.47, 0.38), (0.43, 0.385, 0.31))

@@ -191,12 +191,12 @@ def _chimney(h, x, y):
 def _garage(looks):
     g = House(looks)
     left, top, right, bottom = site.GARAGE
-    g.walls(site.GARAGE, 0, 3.1, "stone")
-    g.hip_roof(site.GARAGE, 3.1, 0.55, "tiles", 0.45, ("low", "high"))
+    g.walls(site.GARAGE, 0, 3.7, "stone")
+    g.hip_roof(site.GARAGE, 3.7, 0.55, "tiles", 0.45, ("low", "high"))
     for y in (36.4, 42.3):
         g.opening("east", right, y, 0.05, 4.2, 2.35, "timber", (1, 1), 0.14, False)
     for x in (35.6, 44.2):
-        g.opening("south", bottom, x, 1.2, 1.1, 1.1, "pane", (2, 2))
+        g.opening("south", bottom, x, 1.3, 1.1, 1.2, "pane", (2, 2))
     g.opening("west", left, 39.5, 1.1, 1.3, 1.2, "pane", (2, 2))
     g.done("Garage")
 

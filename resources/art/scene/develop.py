@@ -13,7 +13,7 @@ LOOKS = {
     "snapshot-front": (0.65, "Medium High Contrast", 1.06, (1.03, 1.0, 0.96)),
     "snapshot-garden": (0.3, "Medium High Contrast", 1.06, (1.02, 1.0, 0.97)),
     "drone-render": (0.35, "Medium High Contrast", 1.0, (1.0, 1.0, 1.0)),
-    "welcome-hero": (0.7, "Medium High Contrast", 1.02, (1.04, 1.0, 0.97)),
+    "welcome-hero": (0.85, "Medium High Contrast", 1.02, (1.04, 1.0, 0.97)),
 }
 
 

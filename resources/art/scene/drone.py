@@ -80,7 +80,7 @@ def _blade(name, length, material):
     return shapes.mesh(name, verts, faces, [material], smooth=True)
 
 
-def build(turns=(25, 140, 70, 10), spinning=False):
+def build(turns=(58, 140, 70, 10), spinning=False):
     looks = _looks()
     parts = []
     parts.append(_loft("Body", [(-0.135, 0.0, 0.022, 0.018), (-0.125, 0.0, 0.038, 0.028), (-0.06, 0.004, 0.049, 0.035),

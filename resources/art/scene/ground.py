@@ -7,6 +7,7 @@ import materials
 import measures as site
 import shapes
 
+
 def height_at(x, y):
     """Level on the site, low hills far out, so that the horizon is not a ruled line."""
     away = math.hypot(max(-x, 0, x - site.SIZE[0]), max(-y, 0, y - site.SIZE[1]))
@@ -31,6 +32,7 @@ def lay():
 
 def _land():
     """Fine near the site, coarse far away."""
+
     def lines(low, high, near_low, near_high):
         far = [low + (near_low - low) * i / 14 for i in range(14)]
         near = [near_low + (near_high - near_low) * i / 40 for i in range(41)]
@@ -38,13 +40,12 @@ def _land():
 
     xs, ys = lines(-500, 650, -25, 175), lines(-500, 600, -25, 125)
     verts = [site.at(x, y, height_at(x, y)) for y in ys for x in xs]
-    faces, indices = [], []
+    faces = []
     for j in range(len(ys) - 1):
         for i in range(len(xs) - 1):
             a = j * len(xs) + i
             faces.append((a, a + len(xs), a + len(xs) + 1, a + 1))
-            indices.append(0)
-    shapes.put(shapes.mesh("Land", verts, faces, [materials.grass("Grass")], None, indices, True))
+    shapes.put(shapes.mesh("Land", verts, faces, [materials.grass("Grass")], smooth=True))
 
 
 def _path(name, points, width, material, lift):

@@ -149,7 +149,9 @@ def gravel(name, light, dark):
     stones.inputs["Scale"].default_value = 26
     grain = n.span(stones.outputs["Distance"], 0, 0.7)
     colour = n.mix(n.span(n.noise(where, 0.5, 5), 0.35, 0.7), light, dark)
-    colour = n.mix(0.35, colour, stones.outputs["Color"], "SOFT_LIGHT")
+    each = n.add("ShaderNodeSeparateRGB")
+    n.link(stones.outputs["Color"], each.inputs[0])
+    colour = n.mix(0.5, colour, n.span(each.outputs[0], 0, 1, 0.15, 0.85), "SOFT_LIGHT")
     colour = n.mix(n.span(n.noise(where, 12, 5, 0.7), 0.4, 0.7, 0, 0.5), colour,
                    n.mix(0.5, colour, (0.03, 0.025, 0.02)))
     height = n.maths("SUBTRACT", n.noise(where, 8, 6, 0.7), grain)

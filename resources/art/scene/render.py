@@ -8,6 +8,7 @@ import sys
 
 import bpy
 
+sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import belongings  # noqa: E402
@@ -64,7 +65,7 @@ def snapshot_garden():
 def drone_render():
     drone.build()
     light.studio()
-    cameras.free((0.8, -0.33, 0.31), (0.0, 0.0, -0.008), 37)
+    cameras.free((0.8, -0.33, 0.31), (0.012, 0.03, -0.012), 39)
     return (1200, 800)
 
 
@@ -104,7 +105,7 @@ def take(name, negative, draft):
     cycles = scene.cycles
     cycles.device, cycles.samples = "CPU", 30 if draft else 320
     cycles.use_denoising = False
-    cycles.use_adaptive_sampling, cycles.adaptive_threshold = True, 0.1 if draft else 0.025
+    cycles.use_adaptive_sampling, cycles.adaptive_threshold = True, 0.1 if draft else 0.03
     cycles.max_bounces, cycles.diffuse_bounces, cycles.glossy_bounces, cycles.transmission_bounces = 4, 2, 2, 2
     cycles.sample_clamp_indirect, cycles.caustics_reflective, cycles.caustics_refractive = 3.0, False, False
     scene.render.film_transparent = name in develop.CLEAR

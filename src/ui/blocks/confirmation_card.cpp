@@ -31,6 +31,8 @@ ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
     connect(keep_, &SBButton::clicked, this, &OverlayCard::close);
     connect(this, &OverlayCard::dismissed, this, &OverlayCard::close);
     connect(act, &SBButton::clicked, this, [this] {
+        if (!isOpen())
+            return;
         close();
         emit confirmed();
     });

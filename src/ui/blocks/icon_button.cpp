@@ -1,5 +1,6 @@
 #include "ui/blocks/icon_button.h"
 
+#include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -13,6 +14,7 @@ IconButton::IconButton(Icon icon, const QString& name, QWidget* parent)
     setFixedSize(Measure::buttonHeight, Measure::buttonHeight);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
+    letEnterPress(this);
     FocusRing::setLook(this, {Measure::buttonRadius});
     setIcon(icon, name);
 }

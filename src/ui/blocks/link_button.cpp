@@ -1,11 +1,10 @@
 #include "ui/blocks/link_button.h"
 
+#include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-
-#include <QKeyEvent>
 
 #include <cmath>
 
@@ -18,19 +17,13 @@ LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(p
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
+    letEnterPress(this);
     FocusRing::setLook(this, {Measure::badgeRadius});
 }
 
 QSize LinkButton::sizeHint() const {
     return {static_cast<int>(std::ceil(textWidth(text(), Type::link))) + 1,
             static_cast<int>(Type::link.line)};
-}
-
-void LinkButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
 }
 
 void LinkButton::paintEvent(QPaintEvent*) {

@@ -80,13 +80,17 @@ void OverlayCard::close() {
     if (!open_)
         return;
     open_ = false;
+    QWidget* focus = QApplication::focusWidget();
+    const bool hasFocus = focus && (focus == this || isAncestorOf(focus));
     picture_ = card_->grab();
     card_->hide();
     animate(1, 0, Motion::cardOut);
+    if (!hasFocus)
+        return;
     if (focusBefore_ && focusBefore_->isVisible())
         focusBefore_->setFocus(Qt::OtherFocusReason);
     else
-        clearFocus();
+        focus->clearFocus();
 }
 
 void OverlayCard::animate(double from, double to, int duration) {
@@ -142,6 +146,8 @@ QList<QWidget*> OverlayCard::focusable() const {
 
 /// Round and round among the card's own controls, in their reading order.
 bool OverlayCard::focusNextPrevChild(bool next) {
+    if (!open_)
+        return QWidget::focusNextPrevChild(next);
     const QList<QWidget*> controls = focusable();
     if (controls.isEmpty())
         return true;

@@ -32,6 +32,8 @@ protected:
     /// What has the focus when the card opens: the card itself, so that no key can press a button by
     /// accident.
     virtual void takeFirstFocus();
+    /// Fits the card to content that has changed.
+    void layCard();
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -40,7 +42,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void layCard();
     void animate(double from, double to, int duration);
     void settled();
     QList<QWidget*> focusable() const;

@@ -1,5 +1,6 @@
 #include "ui/blocks/switch.h"
 
+#include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
@@ -14,6 +15,7 @@ Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
     setAccessibleName(name);
     setFixedSize(Measure::switchSize);
     setFocusPolicy(Qt::StrongFocus);
+    letEnterPress(this);
     FocusRing::setLook(this, {Measure::switchSize.height() / 2.0});
     position_.setDuration(Motion::toggle);
     position_.setStartValue(0.0);

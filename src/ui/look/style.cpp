@@ -181,6 +181,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
                      QStyleHintReturn* returned) const {
     switch (hint) {
     case SH_UnderlineShortcut:
+    case SH_MenuBar_AltKeyNavigation:
         return 0;
     case SH_MenuBar_MouseTracking:
     case SH_Menu_MouseTracking:

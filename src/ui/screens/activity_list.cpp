@@ -1,5 +1,6 @@
 #include "ui/screens/activity_list.h"
 
+#include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/status_dot.h"
@@ -10,7 +11,6 @@
 #include "ui/words.h"
 
 #include <QAbstractButton>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -23,6 +23,7 @@ public:
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
         setAttribute(Qt::WA_Hover);
+        letEnterPress(this);
         FocusRing::setLook(this, {Measure::badgeRadius});
     }
 
@@ -35,12 +36,6 @@ public:
     }
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-            click();
-        else
-            QAbstractButton::keyPressEvent(event);
-    }
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         paintStatusDot(painter, {Measure::activityDotX, height() / 2.0},

@@ -110,19 +110,26 @@ QWidget* ApprovalOverlay::buildButtons() {
 }
 
 void ApprovalOverlay::followPhase() {
-    const bool known = store_.freshness() != Freshness::waiting;
+    const bool known =
+        store_.freshness() == Freshness::live; // nobody can be answered over a link that is down
     if (!known || store_.state().phase != Phase::awaitingApproval) {
         countdown_.stop();
         close();
         return;
     }
     refresh();
-    if (isOpen())
+    const bool another = mission_ != store_.state().missionId;
+    if (isOpen() && !another)
         return;
+    mission_ = store_.state().missionId;
     const auto deadline = store_.state().approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
     countdown_.start(countdownEvery);
+    if (isOpen()) {
+        layCard();
+        beginGuard();
+    }
     open();
 }
 
@@ -152,6 +159,10 @@ void ApprovalOverlay::countDown() {
 /// A window that was away shows the card anew, so the guard begins anew.
 void ApprovalOverlay::showEvent(QShowEvent* event) {
     OverlayCard::showEvent(event);
+    beginGuard();
+}
+
+void ApprovalOverlay::beginGuard() {
     guard(true);
     guardTime_.start(guardedFor);
 }

@@ -33,6 +33,7 @@ private:
     void followPhase();
     void refresh();
     void countDown();
+    void beginGuard();
     void guard(bool guarded);
 
     AppStore& store_;
@@ -47,7 +48,8 @@ private:
     SBButton* launch_;
     QTimer guardTime_;
     QTimer countdown_;
-    double wholeTime_ = 0; ///< seconds that were left when the alert came
+    std::optional<std::string> mission_; ///< that the card asks about
+    double wholeTime_ = 0;               ///< seconds that were left when the alert came
 };
 
 } // namespace velmora

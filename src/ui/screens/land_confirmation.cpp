@@ -9,10 +9,13 @@ LandConfirmation::LandConfirmation(AppStore& store, QWidget* window)
            tr("Keep flying"), tr("Land now")},
           window) {
     connect(this, &ConfirmationCard::confirmed, this, [&store] { store.send(Command::land); });
-    connect(&store, &AppStore::stateChanged, this, [this, &store] {
-        if (!airborne(store.state().phase))
+    const auto closeUnlessFlying = [this, &store] {
+        if (!airborne(store.state().phase) || store.freshness() == Freshness::waiting)
             close();
-    });
+    };
+    connect(&store, &AppStore::stateChanged, this, closeUnlessFlying);
+    connect(&store, &AppStore::freshnessChanged, this, closeUnlessFlying);
+    connect(&store, &AppStore::sectionChanged, this, &OverlayCard::close);
 }
 
 } // namespace velmora

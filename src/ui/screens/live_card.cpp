@@ -23,6 +23,8 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
       note_(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this)),
       line_(new Hairline(this, Hairline::Tone::dark)),
       telemetry_(new Telemetry(this)) {
+    everySecond_.setInterval(1000);
+    connect(&everySecond_, &QTimer::timeout, this, &LiveCard::refresh);
     refresh();
 }
 
@@ -30,6 +32,10 @@ void LiveCard::refresh() {
     map_->setState(store_.state(), store_.settings());
     map_->setFreshness(store_.freshness());
     telemetry_->show(store_.state(), store_.settings(), store_.now(), store_.freshness());
+    if (store_.freshness() != Freshness::stale || !isVisible())
+        everySecond_.stop();
+    else if (!everySecond_.isActive())
+        everySecond_.start();
     const QString age = store_.freshness() == Freshness::stale ? StaleBanner::pictureAge(store_) : QString();
     if (age == pictureAge_)
         return;

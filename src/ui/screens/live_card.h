@@ -2,6 +2,7 @@
 
 #include "store/app_store.h"
 
+#include <QTimer>
 #include <QWidget>
 
 namespace velmora {
@@ -36,6 +37,7 @@ private:
     QWidget* line_;
     QString pictureAge_; ///< empty while the picture is fresh
     Telemetry* telemetry_;
+    QTimer everySecond_; ///< counts the age of an old picture
     bool narrow_ = false;
 };
 

@@ -75,7 +75,7 @@ ActiveBanner::ActiveBanner(AppStore& store, QWidget* parent)
     row->setContentsMargins(Measure::bannerMargins);
     row->setSpacing(Measure::gap8);
     row->addWidget(dot_);
-    row->addWidget(phase_, 1);
+    row->addWidget(phase_, 1, Qt::AlignVCenter);
     row->addWidget(open);
     connect(open, &SBButton::clicked, this, [this] { store_.setSection(Section::live); });
 }

@@ -41,6 +41,7 @@ public:
 
     void refresh();
     QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return false; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -20,6 +20,7 @@
 #include "ui/window/title_strip.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -36,7 +37,7 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     setObjectName(QStringLiteral("main"));
     setWindowFlag(Qt::FramelessWindowHint);
     setMinimumSize(Measure::windowMinimum);
-    resize(Measure::windowDefault);
+    resize(Measure::windowDefault.boundedTo(screen()->availableSize()));
     buildSections();
     layOut();
 
@@ -111,7 +112,10 @@ void MainWindow::addShortcuts() {
         if (history_->isVisible())
             history_->takeSearch();
     });
-    add(QKeySequence(Qt::Key_F10), [this] { menus_->setActiveAction(menus_->actions().front()); });
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, [this] {
+        if (!isCovered())
+            menus_->setActiveAction(menus_->actions().front());
+    });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this), &QShortcut::activated, this,
             &QWidget::close);
 }

@@ -1,5 +1,7 @@
 #include "ui/window/section_row.h"
 
+#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
@@ -17,6 +19,8 @@ SectionRow::SectionRow(Icon icon, const QString& title, QWidget* parent)
     setAutoExclusive(true);
     setFixedHeight(Measure::sectionRow);
     setFocusPolicy(Qt::TabFocus);
+    letEnterPress(this);
+    FocusRing::setLook(this, {Measure::buttonRadius});
 }
 
 void SectionRow::setMark(std::optional<SectionMark> mark) {

@@ -13,6 +13,7 @@
 #include "ui/words.h"
 
 #include <QBuffer>
+#include <QDialog>
 #include <QMenu>
 #include <QVBoxLayout>
 
@@ -63,8 +64,11 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::historyChanged, this, &HistoryView::refresh);
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::chooseSelectedRecord);
     connect(&store_, &AppStore::stateChanged, this, [this] {
-        if (store_.state().phase == Phase::awaitingApproval)
-            detail_->pause();
+        if (store_.state().phase != Phase::awaitingApproval)
+            return;
+        detail_->pause();
+        for (QDialog* dialog : window()->findChildren<QDialog*>())
+            dialog->reject(); // nothing may lie over the alert
     });
     connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
     refresh();
