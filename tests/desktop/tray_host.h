@@ -53,6 +53,8 @@ public:
             root >> child;
             read(child.variant().value<QDBusArgument>(), entries);
         }
+        root.endArray();
+        root.endStructure();
         return entries;
     }
     /// Presses the line with this label.
@@ -75,6 +77,9 @@ private:
         QVariantMap properties;
         item.beginStructure();
         item >> id >> properties;
+        item.beginArray();
+        item.endArray();
+        item.endStructure();
         const QString label = properties.value(QStringLiteral("label")).toString();
         if (properties.value(QStringLiteral("visible"), true).toBool() && !label.isEmpty())
             entries.push_back({id, label, properties.value(QStringLiteral("enabled"), true).toBool()});
