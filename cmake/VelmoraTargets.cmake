@@ -24,6 +24,18 @@ if(VELMORA_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(velmora_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELMORA_FUZZERS)
+    target_compile_options(velmora_options INTERFACE
+        -fsanitize=fuzzer-no-link -fsanitize-ignorelist=${CMAKE_SOURCE_DIR}/tests/fuzz/libraries.ignorelist)
+endif()
+
+# velmora_precompile(TARGET): reads the headers that nearly every file about widgets includes once for the whole target.
+# Only a preset that enables precompiled headers does so; the others see that every file includes what it uses.
+function(velmora_precompile target)
+    target_precompile_headers(${target} PRIVATE
+        <QPainter> <QTimer> <QVBoxLayout> <QWidget> <algorithm> <chrono> <functional> <optional> <vector>
+        ${CMAKE_SOURCE_DIR}/src/store/app_store.h)
+endfunction()
 
 # velmora_layer(NAME [QT] SOURCES ... DEPENDS ...): one folder of src/ as a static library `velmora_NAME`;
 # QT for a folder whose classes have signals or slots.

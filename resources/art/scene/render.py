@@ -65,7 +65,7 @@ def snapshot_garden():
 def drone_render():
     drone.build()
     light.studio()
-    cameras.free((0.8, -0.33, 0.31), (0.012, 0.03, -0.012), 39)
+    cameras.free((0.8, -0.33, 0.31), (0.012, 0.045, -0.012), 42)
     return (1200, 800)
 
 

@@ -4,10 +4,20 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <cmath>
+
 namespace velmora {
 
+namespace {
+
+double badgeWidth(const QString& text) {
+    return textWidth(text, Type::badge) + 2 * Measure::badgePadding;
+}
+
+} // namespace
+
 double paintBadge(QPainter& painter, double right, double y, const QString& text) {
-    const double width = textWidth(text, Type::badge) + 2 * Measure::badgePadding;
+    const double width = badgeWidth(text);
     const QRectF badge(right - width, y - Measure::badgeHeight / 2.0, width, Measure::badgeHeight);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(SB::rule);
@@ -15,6 +25,16 @@ double paintBadge(QPainter& painter, double right, double y, const QString& text
     painter.drawRoundedRect(badge.adjusted(0.5, 0.5, -0.5, -0.5), Measure::badgeRadius, Measure::badgeRadius);
     drawText(painter, badge, text, Type::badge, SB::muted, Qt::AlignCenter);
     return width;
+}
+
+Badge::Badge(const QString& text, QWidget* parent) : QWidget(parent), text_(text) {
+    setFixedSize(static_cast<int>(std::ceil(badgeWidth(text))), Measure::badgeHeight);
+    setAccessibleName(text);
+}
+
+void Badge::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintBadge(painter, width(), height() / 2.0, text_);
 }
 
 NumberBadge::NumberBadge(int number, QWidget* parent) : QWidget(parent), number_(number) {

@@ -140,7 +140,7 @@ inline constexpr int chevron = 14;
 inline constexpr int historyFoot = 60;
 inline constexpr int undoSeconds = 10;
 inline constexpr int detailLeft = 32, detailRight = 40;
-inline constexpr int detailLog = 170; // that the replay map leaves for the log
+inline constexpr int detailLog = 120; // that the replay map leaves for the log
 inline constexpr QSize alertPicture(192, 108);
 inline constexpr int emptyIcon = 40, emptyWidth = 340;
 inline constexpr int replaySlider = 28;

@@ -50,7 +50,7 @@ QWidget* LiveRail::buildLog() {
     auto* content = new QWidget(area);
     nothingLogged_ = new Text(tr("Nothing logged yet. Notices from the next flight appear here."),
                               Type::label2, SB::muted, content);
-    log_ = new LogList(content);
+    log_ = new LogList(LogList::Rows::told, content);
     auto* entries = new QVBoxLayout(content);
     entries->setContentsMargins(0, 0, Measure::gap12, 0);
     entries->addWidget(nothingLogged_);

@@ -1,12 +1,16 @@
 #include "ui/screens/log_list.h"
 
+#include "ui/blocks/accessibility.h"
+#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/look/measures.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/words.h"
 
-#include <QMouseEvent>
+#include <QAbstractButton>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -32,9 +36,15 @@ QColor colorOf(Notice::Level level) {
 
 /// One notice. Its text is a child, so that assistive technology reads it; time and dot are painted beside
 /// it.
-class LogRow : public QWidget {
+class LogRow : public QAbstractButton {
 public:
-    explicit LogRow(QWidget* parent) : QWidget(parent), text_(new Text({}, Type::log, SB::body, this)) {
+    LogRow(LogList::Rows kind, QWidget* parent)
+        : QAbstractButton(parent), text_(new Text({}, Type::log, SB::body, this)) {
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        if (kind == LogList::Rows::pressed)
+            bePressed();
+        else
+            beTold();
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(Measure::logTextX, 0, 0, 0);
         column->addWidget(text_);
@@ -44,7 +54,8 @@ public:
         time_ = timeOfDay(notice.time);
         color_ = colorOf(notice.level);
         text_->setText(toQString(notice.text));
-        text_->setAccessibleName(time_ + ' ' + text_->text());
+        (focusPolicy() == Qt::NoFocus ? static_cast<QWidget*>(text_) : this)
+            ->setAccessibleName(time_ + ' ' + text_->text());
         update();
     }
 
@@ -57,13 +68,30 @@ protected:
         paintStatusDot(painter, dot, {.color = color_, .diameter = Measure::statusDotInRow});
     }
 
+    void enterEvent(QEnterEvent*) override {
+        if (focusPolicy() != Qt::NoFocus)
+            text_->setColor(SB::ink);
+    }
+    void leaveEvent(QEvent*) override { text_->setColor(SB::body); }
+
 private:
+    void bePressed() {
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::PointingHandCursor);
+        letEnterPress(this);
+        FocusRing::setLook(this, {Measure::badgeRadius});
+    }
+    void beTold() {
+        setFocusPolicy(Qt::NoFocus);
+        declareRole(this, QAccessible::Grouping);
+    }
+
     Text* text_;
     QString time_;
     QColor color_;
 };
 
-LogList::LogList(QWidget* parent) : QWidget(parent), column_(new QVBoxLayout(this)) {
+LogList::LogList(Rows rows, QWidget* parent) : QWidget(parent), kind_(rows), column_(new QVBoxLayout(this)) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(Measure::gap8);
 }
@@ -72,10 +100,8 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
     if (notices == notices_)
         return;
     notices_ = notices;
-    while (rows_.size() < notices.size()) {
-        rows_.push_back(new LogRow(this));
-        column_->insertWidget(static_cast<int>(rows_.size()) - 1, rows_.back());
-    }
+    while (rows_.size() < notices.size())
+        addRow();
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         rows_[i]->setVisible(i < notices.size());
         if (i < notices.size())
@@ -83,12 +109,12 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
     }
 }
 
-void LogList::mouseReleaseEvent(QMouseEvent* event) {
-    for (std::size_t i = 0; i < notices_.size(); ++i)
-        if (rows_[i]->geometry().contains(event->pos())) {
-            emit activated(notices_[i]);
-            return;
-        }
+void LogList::addRow() {
+    const std::size_t index = rows_.size();
+    auto* row = new LogRow(kind_, this);
+    connect(row, &QAbstractButton::clicked, this, [this, index] { emit activated(notices_[index]); });
+    rows_.push_back(row);
+    column_->insertWidget(static_cast<int>(index), row);
 }
 
 } // namespace velmora

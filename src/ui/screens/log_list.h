@@ -12,23 +12,25 @@ namespace velmora {
 
 class LogRow;
 
-/// Notices in a column: time, dot, text.
+/// Notices in a column: time, dot, text. Where they lead somewhere, each is pressed like a button.
 class LogList : public QWidget {
     Q_OBJECT
 
 public:
-    explicit LogList(QWidget* parent);
+    enum class Rows { told, pressed };
+
+    LogList(Rows rows, QWidget* parent);
 
     void setNotices(const std::vector<Notice>& notices);
 
 signals:
-    /// A click on a notice.
+    /// The owner pressed a notice.
     void activated(const velmora::Notice& notice);
 
-protected:
-    void mouseReleaseEvent(QMouseEvent* event) override;
-
 private:
+    void addRow();
+
+    Rows kind_;
     QVBoxLayout* column_;
     std::vector<LogRow*> rows_;
     std::vector<Notice> notices_;

@@ -1,6 +1,7 @@
 #include "ui/window/status_badges.h"
 
 #include "ui/blocks/accessibility.h"
+#include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/icons.h"
@@ -88,7 +89,8 @@ LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
     : QWidget(parent),
       store_(store),
       dot_(new StatusDot({.color = SB::dot}, this)),
-      text_(new Text({}, Type::linkStatus, SB::muted, this)) {
+      text_(new Text({}, Type::linkStatus, SB::muted, this)),
+      demo_(new Badge(tr("Demo"), this)) {
     text_->setMaximumLines(3);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2, Measure::gap12, 0, 0);
@@ -99,12 +101,14 @@ LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
     firstLine->addStretch(1);
     row->addLayout(firstLine);
     row->addWidget(text_, 1, Qt::AlignTop);
+    row->addWidget(demo_, 0, Qt::AlignTop);
     connect(&store_, &AppStore::linkStatusChanged, this, &LinkBadge::refresh);
     refresh();
 }
 
 void LinkBadge::refresh() {
     text_->setText(store_.linkStatus().text());
+    demo_->setVisible(store_.linkStatus().kind == LinkStatus::Case::demo);
     dot_->setLook({.color = linkColor(store_.linkStatus())});
 }
 

@@ -6,6 +6,7 @@
 
 namespace velmora {
 
+class Badge;
 class StatusDot;
 class Text;
 
@@ -29,7 +30,7 @@ private:
     bool low_ = false;
 };
 
-/// The link in the sidebar: a dot and its status text.
+/// The link in the sidebar: a dot and its status text, and the demo's badge.
 class LinkBadge : public QWidget {
     Q_OBJECT
 
@@ -42,6 +43,7 @@ private:
     AppStore& store_;
     StatusDot* dot_;
     Text* text_;
+    Badge* demo_;
 };
 
 } // namespace velmora

@@ -26,6 +26,7 @@ namespace velmora {
 
 RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), player_(new ReplayPlayer(this)), content_(new QWidget(this)) {
+    auto* heading = buildHeading(content_);
     map_ = new SiteMap(content_);
     map_->installEventFilter(this);
     chip_ = new Chip(map_);
@@ -36,7 +37,7 @@ RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     column->setContentsMargins(Measure::detailLeft, Measure::pageMargins.top(), Measure::detailRight,
                                Measure::pageMargins.bottom());
     column->setSpacing(0);
-    column->addWidget(buildHeading(content_));
+    column->addWidget(heading);
     column->addSpacing(Measure::gap16);
     column->addWidget(map_);
     column->addSpacing(Measure::gap8);
