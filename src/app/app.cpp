@@ -35,7 +35,7 @@ App::App(AppService& service, const Options& options)
       tray_(store_) {
     store_.start();
     SelfCheck::runIfRequested(store_);
-    connect(&notifier_, &DesktopNotifier::answered, &store_, &AppStore::send);
+    connect(&notifier_, &DesktopNotifier::answered, &store_, &AppStore::answer);
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);

@@ -37,6 +37,12 @@ void finishWelcome(AppStore& store) {
     store.setSettings(settings);
 }
 
+/// A server's drone is none of the run's business.
+void sendInDemo(AppStore& store, Command command) {
+    if (!store.settings().linkMode)
+        store.send(command);
+}
+
 /// The run: every action is scheduled at once, each so many seconds after the one before.
 class Timetable {
 public:
@@ -83,12 +89,12 @@ void runIfRequested(AppStore& store) {
     run.sectionAt(0.5, Section::overview);
     run.at(0, [&store] { store.simulate(Scenario::driveway); });
     run.shotAt(2, "06-approval");
-    run.at(0.5, [&store] { store.send(Command::approve); });
+    run.at(0.5, [&store] { sendInDemo(store, Command::approve); });
     run.shotAt(24, "02-live");
     run.sectionAt(0.5, Section::overview);
     run.shotAt(1, "07-overview-flying");
     run.sectionAt(0.5, Section::live);
-    run.at(0, [&store] { store.send(Command::returnHome); });
+    run.at(0, [&store] { sendInDemo(store, Command::returnHome); });
     run.shotAt(20, "08-live-returning");
     run.at(1, [] { QCoreApplication::quit(); });
 }

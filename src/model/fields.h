@@ -12,6 +12,8 @@ struct Field {
     std::string_view name;
     Value Record::*member;
 };
+template <class Record, class Value>
+Field(std::string_view, Value Record::*) -> Field<Record, Value>;
 
 /// The table of a record's fields, in the order they are written. Each record specialises it beside its
 /// struct; equality, writing and reading all walk it, so a field is listed nowhere else.

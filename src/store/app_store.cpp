@@ -21,10 +21,14 @@ constexpr double pollInterval = 0.5;      // seconds
 constexpr double failingUntilStale = 2;   // seconds since the last good answer
 constexpr double silentUntilStale = 2.5;  // seconds since the last good answer
 
+QString notificationIdentifier(const LiveState& state) {
+    return QString::fromStdString(state.missionId.value_or("det"));
+}
+
 DetectionNotification detectionNotification(const LiveState& state) {
     const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
     const QString name = camera ? QString::fromStdString(camera->name) : QStringLiteral("a camera");
-    return {QString::fromStdString(state.missionId.value_or("det")),
+    return {notificationIdentifier(state),
             QStringLiteral("Someone you don't know is at the ") + name.toLower(),
             QStringLiteral("Launch the drone to keep an eye on them?"),
             camera ? QString::fromStdString(camera->snapshot) : QString()};
@@ -62,6 +66,8 @@ void AppStore::tick() {
     const Date now = world_.clock();
     const double elapsed = std::min((now - lastTick_).count(), longestTick);
     lastTick_ = now;
+    if (heardAt_)
+        heardAt_ = std::min(*heardAt_, now); // or a clock that is set back would put it into the future
     if (settings_.linkMode)
         advancePolling(elapsed);
     else
@@ -87,9 +93,10 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
     setState(sim_.state);
 }
 
-/// A poll that falls due while one is outstanding is dropped, not postponed.
+/// A poll that falls due while one is outstanding is dropped, not postponed. A clock that is set far back
+/// does not keep the server unasked for as long.
 void AppStore::advancePolling(double elapsed) {
-    pollClock_ += elapsed;
+    pollClock_ = std::max(pollClock_ + elapsed, -pollInterval);
     if (pollClock_ < pollInterval)
         return;
     pollClock_ = 0;
@@ -152,6 +159,12 @@ void AppStore::send(Command command) {
         if (store && !store->pollInFlight_)
             store->poll();
     });
+}
+
+/// A server may replace the alert in the moment before the tick that withdraws its notification.
+void AppStore::answer(Command command, const QString& notification) {
+    if (state_.phase != Phase::awaitingApproval || notification == notificationIdentifier(state_))
+        send(command);
 }
 
 void AppStore::setArmed(bool armed) {

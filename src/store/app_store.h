@@ -64,6 +64,8 @@ public:
 
     /// Carries out one of the owner's commands, in the simulator or at the server.
     void send(Command command);
+    /// The owner's answer in a notification; nothing when another alert waits by now.
+    void answer(Command command, const QString& notification);
     /// Demo mode only: a server decides for itself whether it is armed.
     void setArmed(bool armed);
     void applyLinkMode(bool linked);

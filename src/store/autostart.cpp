@@ -48,7 +48,7 @@ bool Autostart::setOn(bool on) const {
     if (!QDir().mkpath(directory_))
         return false;
     QSaveFile file(path());
-    return file.open(QIODevice::WriteOnly) && file.write(entry) > 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(entry) > 0 && file.flush() && file.commit();
 }
 
 } // namespace velmora

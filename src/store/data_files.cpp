@@ -2,9 +2,9 @@
 
 #include "model/json.h"
 #include "model/limits.h"
+#include "store/replace_file.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace velmora {
@@ -75,7 +75,6 @@ void DataFiles::saveHistory(const std::vector<MissionRecord>& history) {
     save(history_, encode(newest));
 }
 
-/// Through a file beside it and a rename, so that a crash or a full disk leaves the old content or the new.
 void DataFiles::save(File& file, const std::optional<std::string>& bytes) {
     if (!bytes)
         return;
@@ -84,12 +83,7 @@ void DataFiles::save(File& file, const std::optional<std::string>& bytes) {
     if (file.unreadable && !keepCopy(path))
         return;
     file.unreadable = false;
-    QSaveFile replacement(path);
-    if (!replacement.open(QIODevice::WriteOnly))
-        return;
-    replacement.setPermissions(ownerFile);
-    replacement.write(bytes->data(), static_cast<qint64>(bytes->size()));
-    replacement.commit();
+    replaceFile(path, *bytes);
 }
 
 /// Copies the file as "name.unreadable", or with the first free number after that.

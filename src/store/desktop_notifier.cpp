@@ -179,31 +179,30 @@ QVariantMap DesktopNotifier::hintsFor(const DetectionNotification& notification)
     return hints;
 }
 
-DesktopNotifier::Posted* DesktopNotifier::find(uint id) {
-    const auto entry = std::ranges::find_if(posted_, [id](const auto& one) { return one.second.id == id; });
-    return id == 0 || entry == posted_.end() ? nullptr : &entry->second;
+std::map<QString, DesktopNotifier::Posted>::iterator DesktopNotifier::find(uint id) {
+    return std::ranges::find_if(posted_, [id](const auto& one) { return id != 0 && one.second.id == id; });
 }
 
 /// The signal goes to everyone on the bus, so only notifications of this run count, and a double click counts
 /// once.
 void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
-    Posted* posted = find(id);
-    if (!posted || !posted->quiet.hasExpired())
+    const auto entry = find(id);
+    if (entry == posted_.end() || !entry->second.quiet.hasExpired())
         return;
-    const QString token = posted->token;
+    const QString identifier = entry->first, token = entry->second.token;
     if (action == launchAction || action == ignoreAction)
-        posted->quiet.setRemainingTime(quietAfterAnswer);
+        entry->second.quiet.setRemainingTime(quietAfterAnswer);
     if (action != ignoreAction)
         emit windowRequested(token);
     if (action == launchAction)
-        emit answered(Command::approve);
+        emit answered(Command::approve, identifier);
     else if (action == ignoreAction)
-        emit answered(Command::ignore);
+        emit answered(Command::ignore, identifier);
 }
 
 void DesktopNotifier::onActivationToken(uint id, const QString& token) {
-    if (Posted* posted = find(id))
-        posted->token = token;
+    if (const auto entry = find(id); entry != posted_.end())
+        entry->second.token = token;
 }
 
 void DesktopNotifier::onNotificationClosed(uint id, uint) {

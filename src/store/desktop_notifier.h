@@ -36,8 +36,8 @@ public:
     void withdrawAll() override;
 
 signals:
-    /// The owner chose "Launch drone" or "Ignore".
-    void answered(velmora::Command command);
+    /// The owner chose "Launch drone" or "Ignore" in the notification with this identifier.
+    void answered(velmora::Command command, const QString& identifier);
     /// The window is asked for; the token lets it come to the front where the desktop wants one.
     void windowRequested(const QString& activationToken);
 
@@ -64,7 +64,7 @@ private:
     void close(uint id);
     QVariantMap hintsFor(const DetectionNotification& notification) const;
     QStringList actions() const;
-    Posted* find(uint id);
+    std::map<QString, Posted>::iterator find(uint id);
 
     QDBusConnection bus_;
     QDBusServiceWatcher watcher_;

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QVariantMap>
 
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -40,9 +41,16 @@ public:
     void invoke(uint id, const QString& action) { signal(QStringLiteral("ActionInvoked"), {id, action}); }
     void giveToken(uint id, const QString& token) { signal(QStringLiteral("ActivationToken"), {id, token}); }
 
+    void answerHeld() {
+        for (const QDBusMessage& message : std::exchange(held, {}))
+            bus_.send(message.createReply(++lastId_));
+    }
+
     std::vector<Shown> shown;
     std::vector<uint> closed;
     bool refuses = false; ///< answers Notify with an error
+    bool hangs = false;   ///< answers Notify when it is told to
+    std::vector<QDBusMessage> held;
 
 public slots:
     Q_SCRIPTABLE QStringList GetCapabilities() {
@@ -55,6 +63,11 @@ public slots:
         if (refuses) {
             message.setDelayedReply(true);
             bus_.send(message.createErrorReply(QStringLiteral("org.example.Refused"), {}));
+            return 0;
+        }
+        if (hangs) {
+            message.setDelayedReply(true);
+            held.push_back(message);
             return 0;
         }
         const uint id = replaces > 0 ? replaces : ++lastId_;

@@ -1,21 +1,11 @@
 #include "desktop/notification_service.h"
+#include "desktop/virtual_display.h"
 #include "store/desktop_notifier.h"
 #include "store/store_fixture.h"
-
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 
 namespace velmora {
 
 namespace {
-
-template <class Condition>
-bool waitUntil(Condition condition) {
-    QDeadlineTimer deadline(5000);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    return condition();
-}
 
 NotificationPicture pictureOf(const QString& name) {
     return name.isEmpty() ? NotificationPicture{} : NotificationPicture{1, 1, 4, QByteArray("\1\2\3\4", 4)};
@@ -129,11 +119,80 @@ TEST_F(NotifierTest, ARefusingOrRestartedServiceIsSurvived) {
     service().refuses = false;
     const uint id = post().id;
     service_.reset();
-    service();
+    notifier.post({"M-2", "Title", "Body", {}}); // while there is none
+    notifier.withdrawAll();
+    service({"body"});
     service().invoke(id, "LAUNCH"); // of the service that is gone
     settle();
     EXPECT_TRUE(answers.empty());
     EXPECT_EQ(post().replaces, 0U);
+    EXPECT_TRUE(service().shown.back().actions.isEmpty()) << "what it can do was asked for again";
+}
+
+TEST_F(NotifierTest, AServiceThatHangsIsNotWaitedFor) {
+    service().hangs = true;
+    notifier.post({"M-1", "Title", "Body", {}});
+    ASSERT_TRUE(waitUntil([&] { return service().held.size() == 1; }));
+    notifier.post({"M-1", "Later title", "Body", {}});
+    notifier.withdrawAll();
+    service().hangs = false;
+    service().answerHeld();
+    EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 1; })) << "late, but not left standing";
+    EXPECT_EQ(post().replaces, 0U);
+}
+
+TEST_F(NotifierTest, WithoutABusItIsSilent) {
+    DesktopNotifier alone(QDBusConnection(QStringLiteral("nowhere")), pictureOf);
+    alone.post({"M-1", "Title", "Body", {}});
+    alone.withdrawAll();
+}
+
+TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
+    const uint id = post().id;
+    for (uint i = 0; i < 1000; ++i) {
+        service().invoke(id + 1 + i, i % 2 == 0 ? "LAUNCH" : "IGNORE");
+        service().invoke(id, QString("LAUNCH").repeated(int(i % 4) + 2));
+    }
+    service().invoke(id, "LAUNCH");
+    ASSERT_TRUE(waitUntil([&] { return !answers.empty(); }));
+    settle();
+    EXPECT_EQ(answers, std::vector{Command::approve});
+}
+
+/// With the services that people run, on a virtual display.
+class RealServiceTest : public NotifierTest {
+protected:
+    void expectBothAnswers(RealService& real) {
+        notifier.post({"M-1", "At the <driveway>", "Launch?", {}});
+        ASSERT_TRUE(real.choose("Launch drone"));
+        EXPECT_TRUE(waitUntil([&] { return answers == std::vector{Command::approve}; }));
+        notifier.withdrawAll();
+        notifier.post({"M-2", "At the garden", "Launch?", {}});
+        ASSERT_TRUE(real.choose("Ignore"));
+        EXPECT_TRUE(waitUntil([&] { return answers.size() == 2 && answers.back() == Command::ignore; }));
+        notifier.withdrawAll();
+        answers.clear();
+    }
+
+    VirtualDisplay display;
+};
+
+TEST_F(RealServiceTest, DunstAnswersAndMayDieWithANotificationUp) {
+    auto dunst = std::make_unique<Dunst>(display);
+    expectBothAnswers(*dunst);
+    notifier.post({"M-3", "At the gate", "Launch?", {}});
+    EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 1; }));
+    dunst.reset();
+    EXPECT_TRUE(waitUntil([] { return !RealService::isThere(); }));
+    notifier.post({"M-3", "At the gate", "Launch?", {}});
+    dunst = std::make_unique<Dunst>(display);
+    expectBothAnswers(*dunst);
+    EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 0; }));
+}
+
+TEST_F(RealServiceTest, XfceAnswers) {
+    Xfce xfce(display);
+    expectBothAnswers(xfce);
 }
 
 /// The whole road of an answer given outside the window.
@@ -143,7 +202,7 @@ TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {
     NotificationService service({"actions"});
     DesktopNotifier real(QDBusConnection::sessionBus(), pictureOf);
     AppStore store({[this] { return now; }, random, QDir(directory()), real, link});
-    QObject::connect(&real, &DesktopNotifier::answered, &store, &AppStore::send);
+    QObject::connect(&real, &DesktopNotifier::answered, &store, &AppStore::answer);
     ASSERT_TRUE(waitUntil([&] { return service.asked > 0; }));
     QCoreApplication::processEvents();
     store.simulate(Scenario::driveway);

@@ -57,6 +57,14 @@ public:
         root.endStructure();
         return entries;
     }
+    QStringList labels() const {
+        QStringList texts;
+        for (const Entry& entry : menu())
+            texts.append(entry.label);
+        return texts;
+    }
+    /// Tells that the menu is about to be seen.
+    void open() const { call(QStringLiteral("AboutToShow"), {0}); }
     /// Presses the line with this label.
     void press(const QString& label) const {
         for (const Entry& entry : menu())

@@ -92,15 +92,15 @@ protected:
         QTest::keyClicks(QApplication::focusWidget(), text);
         settle();
     }
-    /// Exports what the menu's entry offers; its bytes.
-    QByteArray exported(const QString& entry, const QString& proposed) {
+    /// Exports what the menu's entry offers into the home or another folder; its bytes.
+    QByteArray exported(const QString& entry, const QString& proposed, const QString& folder = {}) {
         click("Export…");
         pick(entry);
         auto* dialog = window().findChild<QFileDialog*>();
         if (!dialog)
             return {};
         EXPECT_EQ(QFileInfo(dialog->selectedFiles().value(0)).fileName(), proposed);
-        const QString name = home.filePath(proposed);
+        const QString name = folder.isEmpty() ? home.filePath(proposed) : folder + proposed;
         dialog->selectFile(name);
         static_cast<QDialog*>(dialog)->accept();
         delete dialog;
@@ -118,24 +118,24 @@ TEST_F(HistoryTest, FiltersNarrowTheListAndSayHowFar) {
     EXPECT_TRUE(lists("4 visits", {"Visitor left your grounds, Driveway, ", "Alert expired", "You ignored"}));
     EXPECT_TRUE(rowOf("You ignored the alert, Garden").data().toString().endsWith(", demo"));
     click("Flown");
-    EXPECT_TRUE(lists("2 of 4 visits", {"Visitor left", "Came home on low battery, Front, "}));
+    EXPECT_TRUE(lists("2 of 4", {"Visitor left", "Came home on low battery, Front, "}));
     click("Stayed docked");
-    EXPECT_TRUE(lists("2 of 4 visits", {"You ignored", "Alert expired"}));
+    EXPECT_TRUE(lists("2 of 4", {"You ignored", "Alert expired"}));
     click("With demo");
-    pick("Without demo");
-    EXPECT_TRUE(lists("1 of 4 visits", {"Alert expired"}));
-    click("Without demo");
+    pick("No demo");
+    EXPECT_TRUE(lists("1 of 4", {"Alert expired"}));
+    click("No demo");
     pick("Only demo");
-    EXPECT_TRUE(lists("1 of 4 visits", {"You ignored"}));
+    EXPECT_TRUE(lists("1 of 4", {"You ignored"}));
     click("All");
     click("All cameras");
     pick("Driveway");
-    EXPECT_TRUE(lists("1 of 4 visits", {"Visitor left"}));
+    EXPECT_TRUE(lists("1 of 4", {"Visitor left"}));
     store().removeRecord(3);
     settle();
-    EXPECT_TRUE(lists("1 of 3 visits", {"Visitor left"}));
+    EXPECT_TRUE(lists("1 of 3", {"Visitor left"}));
     search("nobody has this");
-    EXPECT_TRUE(shows("No visits match.") && shows("0 of 3 visits"));
+    EXPECT_TRUE(shows("No visits match.") && shows("0 of 3"));
     click("Show all");
     EXPECT_TRUE(lists("3 visits", {"Came home"}) && shows("With demo") && shows("All cameras"));
     EXPECT_FALSE(shows("No visits match."));
@@ -151,7 +151,7 @@ TEST_F(HistoryTest, TheSearchReadsCamerasLabelsOutcomesNoticesAndIds) {
           std::pair("low batt", "Came home"), std::pair(" rode out ", "Came home"),
           std::pair("m-4", "Alert expired")}) {
         search(text);
-        EXPECT_TRUE(lists("1 of 4 visits", {found})) << text;
+        EXPECT_TRUE(lists("1 of 4", {found})) << text;
         press(Qt::Key_Escape);
         EXPECT_EQ(QApplication::focusWidget(), &list());
         EXPECT_TRUE(shows("4 visits"));
@@ -200,6 +200,13 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     EXPECT_EQ(list().currentIndex(), rowOf("You ignored"));
     EXPECT_TRUE(shows("You ignored the alert"));
     EXPECT_FALSE(shows("Undo"));
+
+    click("Stayed docked");
+    choose("You ignored");
+    press(Qt::Key_Delete);
+    EXPECT_TRUE(shows("Alert expired — drone stayed docked")) << "the next that is listed";
+    click("Undo");
+    click("All");
 
     choose("Alert expired");
     click(deleteVisit);
@@ -364,6 +371,11 @@ TEST_F(HistoryTest, ExportsAreWhatTheyPromise) {
               recordsCsv({history[0], history[2]}));
     const QWidget* map = find("Replay of the visitor's path and of the drone's, at most 42 m from its pad.");
     EXPECT_EQ(QImage::fromData(exported("Map as a picture…", "velmora-M----1.png")).size(), map->size() * 2);
+    EXPECT_EQ(exported("Record as JSON…", "velmora-M----1.json", "/proc/"), QByteArray());
+    settle();
+    EXPECT_TRUE(shows("The file was not saved")) << "nobody may write there";
+    click("Close");
+    EXPECT_FALSE(shows("The file was not saved"));
 }
 
 } // namespace

@@ -14,12 +14,12 @@ ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
       body_(new Text(words.body, Type::confirmationBody, SB::body, card())),
       keep_(new SBButton(words.keep, {.kind = SBButtonKind::secondary}, card())) {
     setAccessibleName(words.title);
-    auto* act = new SBButton(words.act, {.kind = SBButtonKind::danger}, card());
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Measure::gap12);
     buttons->addStretch(1);
     buttons->addWidget(keep_);
-    buttons->addWidget(act);
+    if (!words.act.isEmpty())
+        addAct(words.act, buttons);
 
     column()->setContentsMargins(Measure::confirmationMargins);
     column()->addWidget(new Text(words.title, Type::confirmationTitle, SB::ink, card()));
@@ -30,6 +30,11 @@ ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
 
     connect(keep_, &SBButton::clicked, this, &OverlayCard::close);
     connect(this, &OverlayCard::dismissed, this, &OverlayCard::close);
+}
+
+void ConfirmationCard::addAct(const QString& text, QHBoxLayout* buttons) {
+    auto* act = new SBButton(text, {.kind = SBButtonKind::danger}, card());
+    buttons->addWidget(act);
     connect(act, &SBButton::clicked, this, [this] {
         if (!isOpen())
             return;

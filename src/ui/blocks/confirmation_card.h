@@ -2,6 +2,8 @@
 
 #include "ui/blocks/overlay_card.h"
 
+class QHBoxLayout;
+
 namespace velmora {
 
 class SBButton;
@@ -16,7 +18,7 @@ public:
         QString title;
         QString body;
         QString keep; ///< the button that changes nothing
-        QString act;  ///< the button that does it
+        QString act;  ///< the button that does it; without one the card only tells
     };
 
     ConfirmationCard(const Words& words, QWidget* window);
@@ -30,6 +32,8 @@ protected:
     void takeFirstFocus() override;
 
 private:
+    void addAct(const QString& text, QHBoxLayout* buttons);
+
     Text* body_;
     SBButton* keep_;
 };

@@ -4,6 +4,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -24,12 +27,27 @@ QColor colorOf(Hairline::Tone tone) {
 
 } // namespace
 
+void paintHairline(QPainter& painter, const QRect& line, const QColor& color) {
+    const double scale = painter.device()->devicePixelRatioF();
+    const double thickness = std::max(std::floor(scale), 1.0) / scale;
+    QRectF thin = line;
+    if (line.width() < line.height())
+        thin.setWidth(thickness);
+    else
+        thin.setHeight(thickness);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(thin, color);
+    painter.restore();
+}
+
 Hairline::Hairline(QWidget* parent, Tone tone) : QWidget(parent), color_(colorOf(tone)) {
     setFixedHeight(1);
 }
 
 void Hairline::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), color_);
+    QPainter painter(this);
+    paintHairline(painter, rect(), color_);
 }
 
 } // namespace velmora

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -16,7 +17,7 @@ namespace velmora {
 MenuButton::MenuButton(const QString& name, QWidget* parent) : QAbstractButton(parent) {
     setAccessibleDescription(name);
     setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     FocusRing::setLook(this, {Measure::badgeRadius});
     connect(this, &QAbstractButton::clicked, this, &MenuButton::open);
 }
@@ -37,12 +38,18 @@ QSize MenuButton::sizeHint() const {
     return {static_cast<int>(std::ceil(width)) + 1, static_cast<int>(Type::compactRow.line)};
 }
 
+QSize MenuButton::minimumSizeHint() const {
+    return {std::min(sizeHint().width(), Measure::menuButtonMinimum), sizeHint().height()};
+}
+
 void MenuButton::open() {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (int i = 0; i < options_.size(); ++i)
-        connect(menu->addAction(QString(options_[i]).replace('&', QStringLiteral("&&"))), &QAction::triggered,
-                this, [this, i] { emit chose(i); });
+        connect(
+            menu->addAction(
+                elided(options_[i], Type::compactRow, Measure::menuText).replace('&', QStringLiteral("&&"))),
+            &QAction::triggered, this, [this, i] { emit chose(i); });
     menu->popup(mapToGlobal(QPoint(0, height() + Measure::gap4)));
 }
 
@@ -56,7 +63,8 @@ void MenuButton::keyPressEvent(QKeyEvent* event) {
 void MenuButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor color = underMouse() ? SB::blue : SB::ink;
-    drawText(painter, rect(), text(), Type::compactRow, color, Qt::AlignVCenter);
+    const QRectF words = QRectF(rect()).adjusted(0, 0, -Measure::gap4 - Measure::chevron, 0);
+    drawText(painter, words, text(), Type::compactRow, color, Qt::AlignVCenter);
     const QRectF chevron(width() - Measure::chevron, (height() - Measure::chevron) / 2.0, Measure::chevron,
                          Measure::chevron);
     paintIcon(painter, chevron, Icon::chevron, color);

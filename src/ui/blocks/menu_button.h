@@ -15,6 +15,7 @@ public:
     void setOptions(const QStringList& options, int chosen);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 signals:
     void chose(int option);

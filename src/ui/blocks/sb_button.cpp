@@ -89,7 +89,14 @@ void SBButton::setGuarded(bool guarded) {
     if (guarded == guarded_)
         return;
     guarded_ = guarded;
+    if (guarded)
+        forgetPress();
     update();
+}
+
+void SBButton::forgetPress() {
+    forgotten_ = true;
+    setDown(false);
 }
 
 QSize SBButton::sizeHint() const {
@@ -128,7 +135,15 @@ bool SBButton::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
+        forgotten_ = guarded_;
+        if (guarded_)
+            return true;
+        break;
+    case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
+        if (forgotten_)
+            return true;
+        break;
     case QEvent::Shortcut:
         if (guarded_)
             return true;

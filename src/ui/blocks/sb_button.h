@@ -35,8 +35,10 @@ class SBButton : public QAbstractButton {
 public:
     SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent);
 
-    /// A guarded button is paler and takes neither clicks nor keys.
+    /// A guarded button is paler and takes neither clicks nor keys, and lets go of a press that is under way.
     void setGuarded(bool guarded);
+    /// What is pressed now counts for nothing when it is released.
+    void forgetPress();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -57,6 +59,7 @@ private:
     SBButtonLook from_, shown_, target_;
     QVariantAnimation fade_;
     bool guarded_ = false;
+    bool forgotten_ = false; ///< the press under way
 };
 
 } // namespace velmora

@@ -4,10 +4,21 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <QTextDocument>
+
 #include <algorithm>
 #include <cmath>
 
 namespace velmora {
+
+namespace {
+
+/// A tooltip takes a text that looks like mark-up for such; what a server sends is shown as it was written.
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
+}
+
+} // namespace
 
 Text::Text(const QString& text, const TextStyle& style, const QColor& color, QWidget* parent)
     : QWidget(parent), text_(text), style_(style), color_(color) {
@@ -72,7 +83,7 @@ QStringList Text::lines(int width) const {
 
 void Text::tellWhatIsCut() {
     if (maximumLines_ > 0)
-        setToolTip(lines(width()).join(' ').endsWith(QChar(0x2026)) ? text_ : QString());
+        setToolTip(lines(width()).join(' ').endsWith(QChar(0x2026)) ? plainToolTip(text_) : QString());
 }
 
 void Text::resizeEvent(QResizeEvent*) {

@@ -137,6 +137,8 @@ inline constexpr int recordRow = 60, dayRow = 30, recordInset = 12, recordTitleT
 inline constexpr int selectionBar = 3;
 inline constexpr QSize thumbnail(36, 24);
 inline constexpr int chevron = 14;
+inline constexpr int menuButtonMinimum = 60;
+inline constexpr double menuText = 320; // longer options are elided
 inline constexpr int historyFoot = 60;
 inline constexpr int undoSeconds = 10;
 inline constexpr int detailLeft = 32, detailRight = 40;

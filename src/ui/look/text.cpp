@@ -1,5 +1,6 @@
 #include "ui/look/text.h"
 
+#include <QCache>
 #include <QFontMetricsF>
 #include <QPainterPath>
 #include <QTextLayout>
@@ -76,6 +77,26 @@ double baselineOf(const TextStyle& style) {
     return (style.line - metrics.ascent() - metrics.descent()) / 2 + metrics.ascent();
 }
 
+namespace {
+
+/// The outlines of a text from a baseline at the origin. Shaping and reading them takes longer than filling
+/// them, and most texts are painted again and again.
+QPainterPath outlinesOf(const QString& text, const TextStyle& style) {
+    using Key = std::pair<std::pair<int, double>, std::pair<double, QString>>;
+    constexpr int mostElements = 40'000; // about 1 MB
+    static QCache<Key, QPainterPath> cache(mostElements);
+    const Key key{{static_cast<int>(style.face), style.size}, {style.tracking, text}};
+    if (const QPainterPath* known = cache.object(key))
+        return *known;
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    outlines.addText({}, fontOf(style), text);
+    cache.insert(key, new QPainterPath(outlines), outlines.elementCount() + 1);
+    return outlines;
+}
+
+} // namespace
+
 /// Small glyphs are filled as outlines: drawn as glyphs, FreeType thickens the stems of this typeface by a
 /// weight.
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
@@ -86,11 +107,8 @@ void drawRun(QPainter& painter, QPointF baseline, const QString& text, const Tex
         painter.drawText(baseline, text);
         return;
     }
-    QPainterPath outlines;
-    outlines.setFillRule(Qt::WindingFill);
-    outlines.addText(baseline, fontOf(style), text);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outlines, color);
+    painter.fillPath(outlinesOf(text, style).translated(baseline), color);
 }
 
 void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,

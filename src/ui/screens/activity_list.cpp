@@ -2,6 +2,7 @@
 
 #include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
+#include "ui/blocks/hairline.h"
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
@@ -12,6 +13,8 @@
 
 #include <QAbstractButton>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace velmora {
 
@@ -28,6 +31,10 @@ public:
     }
 
     void setRecord(const MissionRecord& record, Date now) {
+        const Shown shown{record.start, record.outcome, std::floor(secondsSince1970(now) / 60)};
+        if (shown == shown_)
+            return;
+        shown_ = shown;
         color_ = outcomeColor(record.outcome);
         time_ = dayAndTime(record.start, now);
         setText(outcomeText(record.outcome));
@@ -45,10 +52,20 @@ protected:
         drawText(painter, line.adjusted(0, 0, -timeWidth - Measure::gap12, 0), text(), Type::compactRow,
                  underMouse() ? SB::blue : SB::ink, Qt::AlignVCenter);
         drawText(painter, line, time_, Type::label2, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
-        painter.fillRect(0, height() - 1, width(), 1, SB::rule2);
+        paintHairline(painter, {0, height() - 1, width(), 1}, SB::rule2);
     }
 
 private:
+    /// What the texts come from; working out a time takes long, and days end on a minute.
+    struct Shown {
+        Date start;
+        Outcome outcome = Outcome::visitorLeft;
+        double minute = -1; ///< of the present
+
+        bool operator==(const Shown&) const = default;
+    };
+
+    Shown shown_;
     QColor color_;
     QString time_;
 };

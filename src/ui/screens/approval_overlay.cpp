@@ -128,8 +128,9 @@ void ApprovalOverlay::followPhase() {
     countdown_.start(countdownEvery);
     if (isOpen()) {
         layCard();
-        beginGuard();
+        setFocus(Qt::OtherFocusReason);
     }
+    beginGuard();
     open();
 }
 
@@ -172,9 +173,12 @@ void ApprovalOverlay::guard(bool guarded) {
     launch_->setGuarded(guarded);
 }
 
+/// The second click of a double one finds the guard again.
 void ApprovalOverlay::answer(Command command) {
-    if (isOpen() && isVisible() && !guardTime_.isActive())
-        store_.send(command);
+    if (!isOpen() || !isVisible() || guardTime_.isActive())
+        return;
+    beginGuard();
+    store_.send(command);
 }
 
 } // namespace velmora

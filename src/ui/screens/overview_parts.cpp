@@ -4,6 +4,7 @@
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/tokens.h"
+#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QHBoxLayout>
@@ -117,12 +118,15 @@ VisitOffers::VisitOffers(AppStore& store, QWidget* parent)
 void VisitOffers::refresh() {
     const Phase phase = store_.state().phase;
     const bool demo = !store_.settings().linkMode;
-    const bool waits = phase == Phase::awaitingApproval && store_.freshness() != Freshness::waiting;
+    if (const auto alert = waitingAlert(store_); alert != alert_) {
+        alert_ = alert;
+        launch_->forgetPress();
+    }
     heading_->setVisible(demo);
     for (SBButton* visit : visits_)
         visit->setVisible(demo && phase == Phase::docked);
-    launch_->setVisible(waits);
-    setVisible(waits || (demo && phase == Phase::docked));
+    launch_->setVisible(alert_.has_value());
+    setVisible(alert_ || (demo && phase == Phase::docked));
 }
 
 } // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace velmora {
@@ -66,6 +68,7 @@ private:
     Text* heading_;
     std::vector<SBButton*> visits_;
     SBButton* launch_;
+    std::optional<std::string> alert_; ///< that the launch is offered for
 };
 
 } // namespace velmora

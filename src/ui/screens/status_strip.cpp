@@ -3,6 +3,7 @@
 #include "model/whole.h"
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/art_image.h"
+#include "ui/blocks/hairline.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
@@ -142,10 +143,12 @@ void StatusStrip::resizeEvent(QResizeEvent*) {
 
 void StatusStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(0, 0, width(), 1, SB::rule);
+    paintHairline(painter, {0, 0, width(), 1}, SB::rule);
     for (std::size_t i = 1; i < cells_.size(); ++i)
-        painter.fillRect(cells_[i]->x() - Measure::cellPadding, 1 + Measure::statusStripTop, 1,
-                         Measure::statusStripCell, SB::rule);
+        paintHairline(
+            painter,
+            {cells_[i]->x() - Measure::cellPadding, 1 + Measure::statusStripTop, 1, Measure::statusStripCell},
+            SB::rule);
 }
 
 } // namespace velmora

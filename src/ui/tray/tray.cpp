@@ -1,5 +1,6 @@
 #include "ui/tray/tray.h"
 
+#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QDBusConnection>
@@ -61,16 +62,26 @@ void Tray::buildMenu() {
     phase_ = addLine();
     armed_ = addLine();
     menu_.addSeparator();
-    launch_ = addCommand(tr("Launch drone"), Command::approve);
-    ignore_ = addCommand(tr("Ignore"), Command::ignore);
+    launch_ = addCommand(tr("Launch drone"), [this] { answer(Command::approve); });
+    ignore_ = addCommand(tr("Ignore"), [this] { answer(Command::ignore); });
     afterAnswers_ = menu_.addSeparator();
-    home_ = addCommand(tr("Return home"), Command::returnHome);
+    home_ = addCommand(tr("Return home"), [this] { store_.send(Command::returnHome); });
     afterHome_ = menu_.addSeparator();
-    arming_ = menu_.addAction(QString());
-    connect(arming_, &QAction::triggered, this, [this] { store_.setArmed(!store_.state().armed); });
-    connect(menu_.addAction(tr("Open Velmora")), &QAction::triggered, this, &Tray::openRequested);
+    arming_ = addCommand({}, [this] { store_.setArmed(!store_.state().armed); });
+    addCommand(tr("Open Velmora"), [this] { emit openRequested(); });
     menu_.addSeparator();
-    connect(menu_.addAction(tr("Quit Velmora")), &QAction::triggered, this, &Tray::quitRequested);
+    addCommand(tr("Quit Velmora"), [this] { emit quitRequested(); });
+    connect(&menu_, &QMenu::aboutToShow, this, [this] { openedFor_ = waitingAlert(store_); });
+}
+
+/// A menu may be open while an alert comes or gives way to the next, and its lines move under the pointer.
+/// What was not opened for the alert that waits now only brings the window, which asks anew.
+void Tray::answer(Command command) {
+    const auto alert = waitingAlert(store_);
+    if (alert && alert == openedFor_)
+        store_.send(command);
+    else
+        emit openRequested();
 }
 
 QAction* Tray::addLine() {
@@ -79,10 +90,11 @@ QAction* Tray::addLine() {
     return line;
 }
 
-QAction* Tray::addCommand(const QString& text, Command command) {
-    QAction* action = menu_.addAction(text);
-    connect(action, &QAction::triggered, this, [this, command] { store_.send(command); });
-    return action;
+template <class Action>
+QAction* Tray::addCommand(const QString& text, Action action) {
+    QAction* line = menu_.addAction(text);
+    connect(line, &QAction::triggered, this, action);
+    return line;
 }
 
 /// Qt decides once for a run whether the desktop has a tray, so the icon is made only when one is there.

@@ -26,10 +26,12 @@ signals:
 private:
     void buildMenu();
     QAction* addLine();
-    QAction* addCommand(const QString& text, Command command);
+    template <class Action>
+    QAction* addCommand(const QString& text, Action action);
     void watchForTray();
     void showIcon();
     void refresh();
+    void answer(Command command);
 
     AppStore& store_;
     QMenu menu_;
@@ -45,6 +47,7 @@ private:
     QTimer patience_; ///< until a tray of the old kind is taken
     std::unique_ptr<QSystemTrayIcon> icon_;
     QString shownIcon_;
+    std::optional<std::string> openedFor_; ///< the alert that waited when the menu was opened
 };
 
 } // namespace velmora

@@ -1,8 +1,11 @@
 #include "ui/window/command_menus.h"
 
+#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QMenu>
+
+#include <utility>
 
 namespace velmora {
 
@@ -58,12 +61,22 @@ QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySe
     return action;
 }
 
+/// A menu that was opened before the alert came does not answer it.
+void CommandMenus::closeMenus() {
+    for (QMenu* menu : findChildren<QMenu*>())
+        if (menu->isVisible())
+            menu->close();
+}
+
 void CommandMenus::refresh() {
     const Phase phase = store_.state().phase;
     const bool canStage = !store_.settings().linkMode && phase == Phase::docked;
     for (QAction* visit : visits_)
         visit->setEnabled(canStage);
-    const bool waits = phase == Phase::awaitingApproval && store_.freshness() != Freshness::waiting;
+    const auto alert = waitingAlert(store_);
+    if (std::exchange(alert_, alert) != alert && alert)
+        closeMenus();
+    const bool waits = alert && store_.freshness() == Freshness::live;
     approve_->setEnabled(waits);
     ignore_->setEnabled(waits);
 }

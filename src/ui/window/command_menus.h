@@ -24,10 +24,12 @@ private:
     void buildDemo();
     void buildDrone();
     void refresh();
+    void closeMenus();
     QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut);
 
     AppStore& store_;
     QList<QAction*> visits_;
+    std::optional<std::string> alert_; ///< that waits
     QAction* approve_ = nullptr;
     QAction* ignore_ = nullptr;
 };

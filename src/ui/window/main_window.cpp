@@ -45,9 +45,10 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     landing_ = new LandConfirmation(store_, this);
     clearing_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
+    notSaved_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
     about_ = new AboutCard(this);
-    for (OverlayCard* overlay : {static_cast<OverlayCard*>(approval_), static_cast<OverlayCard*>(landing_),
-                                 static_cast<OverlayCard*>(clearing_), static_cast<OverlayCard*>(about_)})
+    for (OverlayCard* overlay :
+         std::initializer_list<OverlayCard*>{approval_, landing_, clearing_, notSaved_, about_})
         addOverlay(overlay);
     new FocusRing(this);
     bands_ = new ResizeBands(this);
@@ -72,6 +73,10 @@ void MainWindow::buildSections() {
     sections_[Section::live] = live;
     history_ = new HistoryView(store_, stack_);
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
+    connect(history_, &HistoryView::exportFailed, this, [this](const QString& why) {
+        notSaved_->setBody(why + ' ' + tr("Choose another folder and export it again."));
+        notSaved_->open();
+    });
     sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
     sections_[Section::settings] = new SettingsView(store_, autostart_, stack_);

@@ -54,6 +54,7 @@ private:
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
     ConfirmationCard* clearing_; ///< the demo history
+    ConfirmationCard* notSaved_; ///< an export
     AboutCard* about_;
     QList<OverlayCard*> overlays_;
     ResizeBands* bands_;

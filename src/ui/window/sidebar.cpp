@@ -79,7 +79,7 @@ void Sidebar::showFlight() {
 void Sidebar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), SB::panel);
-    painter.fillRect(width() - 1, 0, 1, height(), SB::rule);
+    paintHairline(painter, {width() - 1, 0, 1, height()}, SB::rule);
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "ui/window/title_strip.h"
 
+#include "ui/blocks/hairline.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 
@@ -76,7 +77,7 @@ void TitleStrip::paintEvent(QPaintEvent*) {
     if (!overSidebar_)
         return;
     painter.fillRect(0, 0, Measure::sidebar, height(), SB::panel);
-    painter.fillRect(Measure::sidebar - 1, 0, 1, height(), SB::rule);
+    paintHairline(painter, {Measure::sidebar - 1, 0, 1, height()}, SB::rule);
 }
 
 void TitleStrip::mousePressEvent(QMouseEvent* event) {

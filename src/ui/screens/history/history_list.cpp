@@ -73,6 +73,7 @@ QWidget* HistoryList::buildFilters() {
     camera_ = new MenuButton(tr("Camera"), block);
     demo_ = new MenuButton(tr("Demo visits"), block);
     count_ = new Label2({}, false, block);
+    count_->setMaximumLines(1);
     auto* menus = new QHBoxLayout;
     menus->setSpacing(Measure::gap16);
     menus->addWidget(camera_);
@@ -177,14 +178,15 @@ void HistoryList::showFilters() {
     const HistoryFilter& filter = model_->filter();
     camera_->setOptions(QStringList{tr("All cameras")} + cameras_,
                         filter.camera.isEmpty() ? 0 : static_cast<int>(cameras_.indexOf(filter.camera)) + 1);
-    demo_->setOptions({tr("With demo"), tr("Without demo"), tr("Only demo")}, static_cast<int>(filter.demo));
+    demo_->setOptions({tr("With demo"), tr("No demo"), tr("Only demo")}, static_cast<int>(filter.demo));
 }
 
 /// How many of how many, and which of the pane's parts there is reason to show.
 void HistoryList::showCount() {
     const std::size_t all = store_.history().size(), shown = model_->shown().size();
-    count_->setText(shown == all ? (all == 1 ? tr("1 visit") : tr("%1 visits").arg(all))
-                                 : tr("%1 of %2 visits").arg(shown).arg(all));
+    count_->setText(shown < all ? tr("%1 of %2").arg(shown).arg(all)
+                    : all == 1  ? tr("1 visit")
+                                : tr("%1 visits").arg(all));
     filters_->setVisible(all > 0);
     nothing_->setVisible(all == 0);
     noMatch_->setVisible(all > 0 && shown == 0);
@@ -212,8 +214,16 @@ void HistoryList::select(std::optional<std::size_t> place) {
     const QModelIndex index = place ? model_->indexOf(*place) : QModelIndex();
     records_->setCurrentIndex(index);
     if (index.isValid())
-        records_->scrollTo(index);
+        scrollTo(index);
     showing_ = false;
+}
+
+/// The first record of a day is shown with the day above it.
+void HistoryList::scrollTo(const QModelIndex& index) {
+    const QModelIndex above = index.siblingAtRow(index.row() - 1);
+    if (above.isValid() && !model_->placeOf(above))
+        records_->scrollTo(above);
+    records_->scrollTo(index);
 }
 
 void HistoryList::takeSearch() {
@@ -293,7 +303,8 @@ void HistoryList::resizeEvent(QResizeEvent*) {
 }
 
 void HistoryList::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(width() - 1, 0, 1, height(), SB::rule);
+    QPainter painter(this);
+    paintHairline(painter, {width() - 1, 0, 1, height()}, SB::rule);
 }
 
 } // namespace velmora

@@ -57,6 +57,7 @@ private:
     void clearFilters();
     void showFilters();
     void showCount();
+    void scrollTo(const QModelIndex& index);
     void undo();
     bool handleListKey(int key);
 

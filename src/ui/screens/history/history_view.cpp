@@ -154,11 +154,18 @@ void HistoryView::chooseSelectedRecord() {
             choose(static_cast<std::size_t>(record - store_.history().begin()));
 }
 
+/// The record to turn to when this one goes: the next that is listed, or else the one before it.
+std::size_t HistoryView::neighbour(std::size_t place) const {
+    const auto& shown = list_->shown();
+    const auto row = std::ranges::find(shown, place);
+    if (row == shown.end() || shown.size() < 2)
+        return place + 1 < store_.history().size() ? place + 1 : place - std::min<std::size_t>(place, 1);
+    return row + 1 != shown.end() ? *(row + 1) : *(row - 1);
+}
+
 void HistoryView::remove(std::size_t place) {
     const MissionRecord record = store_.history()[place];
-    const std::size_t next =
-        place + 1 < store_.history().size() ? place + 1 : place - std::min<std::size_t>(place, 1);
-    chosen_ = store_.history()[next];
+    chosen_ = store_.history()[neighbour(place)];
     detail_->setRecord(*chosen_);
     store_.setSelectedRecord(chosen_->id);
     store_.removeRecord(place);
@@ -172,7 +179,8 @@ void HistoryView::offerExports(QPoint below) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto offer = [&](const QString& title, const QString& suffix, const QString& filter, auto bytes) {
         connect(menu->addAction(title), &QAction::triggered, this, [=, this] {
-            saveExport({title, name + suffix, filter, bytes()}, window());
+            saveExport({title, name + suffix, filter, bytes()}, window(),
+                       [this](const QString& why) { emit exportFailed(why); });
         });
     };
     offer(tr("Record as JSON…"), QStringLiteral(".json"), tr("JSON (*.json)"),

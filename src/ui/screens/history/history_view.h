@@ -23,6 +23,8 @@ public:
 signals:
     /// "Clear demo history" was pressed; nothing goes before the owner confirms.
     void clearDemoRequested();
+    /// An export was not written; a sentence that says which file and why.
+    void exportFailed(const QString& why);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -35,6 +37,7 @@ private:
     void chooseSelectedRecord();
     std::optional<std::size_t> chosenPlace() const;
     void remove(std::size_t place);
+    std::size_t neighbour(std::size_t place) const;
     void offerExports(QPoint below);
 
     AppStore& store_;

@@ -2,9 +2,11 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QSaveFile>
 #include <QStandardPaths>
+
+#include <optional>
+#include <utility>
 
 namespace velmora {
 
@@ -14,28 +16,27 @@ QString tr(const char* text) {
     return QCoreApplication::translate("RecordExport", text);
 }
 
-void write(const QString& path, const QByteArray& bytes, QWidget* parent) {
+/// What went wrong; nothing if the file was written.
+std::optional<QString> write(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return;
-    auto* message = new QMessageBox(QMessageBox::Warning, tr("Not saved"),
-                                    tr("The file could not be saved: %1").arg(file.errorString()),
-                                    QMessageBox::Ok, parent);
-    message->setTextFormat(Qt::PlainText);
-    message->setAttribute(Qt::WA_DeleteOnClose);
-    message->open();
+        return std::nullopt;
+    return tr("%1 could not be written: %2.").arg(path, file.errorString());
 }
 
 } // namespace
 
-void saveExport(const ExportFile& file, QWidget* parent) {
+void saveExport(const ExportFile& file, QWidget* window, std::function<void(const QString&)> failed) {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto* dialog = new QFileDialog(parent, file.title, documents, file.filter);
+    auto* dialog = new QFileDialog(window, file.title, documents, file.filter);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(file.name);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QFileDialog::fileSelected, parent,
-                     [bytes = file.bytes, parent](const QString& path) { write(path, bytes, parent); });
+    QObject::connect(dialog, &QFileDialog::fileSelected, window,
+                     [bytes = file.bytes, failed = std::move(failed)](const QString& path) {
+                         if (const auto why = write(path, bytes))
+                             failed(*why);
+                     });
     dialog->open();
 }
 

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace velmora {
@@ -16,8 +18,8 @@ struct ExportFile {
     QByteArray bytes;
 };
 
-/// Asks where to save the file and writes it, whole or not at all. An error is told in a dialog of the
-/// window.
-void saveExport(const ExportFile& file, QWidget* parent);
+/// Asks in a dialog of the window where to save the file and writes it, whole or not at all. `failed` gets a
+/// sentence that says which file and why.
+void saveExport(const ExportFile& file, QWidget* window, std::function<void(const QString&)> failed);
 
 } // namespace velmora

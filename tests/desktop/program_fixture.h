@@ -1,0 +1,74 @@
+#pragma once
+
+#include "desktop/tray_host.h"
+#include "desktop/virtual_display.h"
+#include "model/json.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+namespace velmora {
+
+/// The program itself, with a home of its own.
+class ProgramTest : public testing::Test {
+protected:
+    using Surroundings = std::vector<std::pair<QString, QString>>;
+
+    /// Starts it without a display, on the bus of the tests or on none.
+    std::unique_ptr<QProcess> start(const QStringList& arguments, bool bus = true) {
+        return run(VELMORA_PROGRAM, arguments,
+                   bus ? Surroundings{} : Surroundings{{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
+    }
+    std::unique_ptr<QProcess> startOn(const VirtualDisplay& display, const QStringList& arguments) {
+        return run(VELMORA_PROGRAM, arguments, {{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}});
+    }
+    std::unique_ptr<QProcess> run(const QString& program, const QStringList& arguments,
+                                  const Surroundings& surroundings) {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* kind : {"DATA", "CONFIG", "CACHE"})
+            environment.insert(QString("XDG_%1_HOME").arg(kind), home(QString(kind).toLower()));
+        for (const auto& [name, value] : surroundings)
+            environment.insert(name, value);
+        process->setProcessEnvironment(environment);
+        process->start(program, arguments);
+        EXPECT_TRUE(process->waitForStarted());
+        return process;
+    }
+    static int exitCodeOf(QProcess& process, int patience = 20'000) {
+        EXPECT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished(patience));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return process.exitCode();
+    }
+    /// Waits until the program owns its name, and so answers.
+    static void waitForName() { ASSERT_TRUE(waitUntil(owned)); }
+    static bool owned() {
+        return QDBusConnection::sessionBus().interface()->isServiceRegistered("org.velmora.Velmora");
+    }
+    static QDBusMessage call(const QString& method, const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall("org.velmora.Velmora", "/org/velmora/Velmora",
+                                                              "org.freedesktop.Application", method);
+        message.setArguments(arguments);
+        return QDBusConnection::sessionBus().call(message);
+    }
+
+    /// Where the program keeps its "data", "config" or "cache".
+    QString home(const QString& kind) const { return home_.path() + '/' + kind; }
+    QString lockPath() const { return home("data") + "/Velmora/lock"; }
+    /// Lets the program find itself linked to a server on loopback.
+    void linkTo(quint16 port) const {
+        Settings settings;
+        settings.onboarded = settings.linkMode = true;
+        settings.host = "127.0.0.1";
+        settings.port = port;
+        QDir().mkpath(home("data") + "/Velmora");
+        QFile file(home("data") + "/Velmora/settings.json");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromStdString(encode(settings).value()));
+    }
+
+private:
+    QTemporaryDir home_;
+};
+
+} // namespace velmora

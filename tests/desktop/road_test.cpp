@@ -1,0 +1,64 @@
+#include "desktop/program_fixture.h"
+#include "standin-server/standin_server.h"
+
+namespace velmora {
+
+namespace {
+
+/// The program linked to grounds whose time only the test moves, among the desktop's real parts.
+class RoadTest : public ProgramTest {
+protected:
+    void pass(int seconds) {
+        for (int i = 0; i < seconds; ++i)
+            site.advance(now += Seconds{1});
+    }
+    bool reaches(Phase phase) {
+        return waitUntil([&] { return site.state().phase == phase; });
+    }
+
+    SystemRandom random;
+    Date now = std::chrono::time_point_cast<Date::duration>(std::chrono::system_clock::now());
+    SimulatedSite site{Scenario::driveway, Seconds{300}, now, random};
+    AppApi api{site, [this] { return now; }};
+};
+
+TEST_F(RoadTest, FromTheVisitToTheWayHomeWithoutTheWindow) {
+    Options options;
+    options.port = 0;
+    StandinServer server(options, api);
+    ASSERT_EQ(server.listen(), "");
+    linkTo(server.port());
+    const VirtualDisplay display;
+    Dunst dunst(display);
+    TrayHost tray;
+    const auto program = startOn(display, {"--hidden"});
+    const auto trayShows = [&](const QString& line) {
+        return waitUntil([&] { return tray.labels().contains(line); });
+    };
+    ASSERT_TRUE(trayShows(QString::fromUtf8("Velmora — Docked")));
+
+    pass(3);
+    ASSERT_TRUE(trayShows("Launch drone"));
+    EXPECT_TRUE(waitUntil([&] { return dunst.shown() == 1; }));
+    tray.press("Launch drone"); // in a menu that was opened before the alert, if at all
+    tray.open();
+    tray.press("Ignore");
+    ASSERT_TRUE(reaches(Phase::docked));
+    EXPECT_TRUE(waitUntil([&] { return dunst.shown() == 0; }));
+
+    pass(300);
+    ASSERT_TRUE(dunst.choose("Launch drone"));
+    ASSERT_TRUE(reaches(Phase::launching));
+    pass(30);
+    ASSERT_TRUE(trayShows(QString::fromUtf8("Velmora — Following")));
+    tray.press("Return home");
+    ASSERT_TRUE(reaches(Phase::returning));
+    pass(250);
+    EXPECT_TRUE(trayShows(QString::fromUtf8("Velmora — Docked")));
+    tray.press("Quit Velmora");
+    EXPECT_EQ(exitCodeOf(*program), 0);
+}
+
+} // namespace
+
+} // namespace velmora
