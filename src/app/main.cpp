@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QSettings>
 
 #include <iostream>
 
@@ -18,6 +19,11 @@ namespace {
 std::variant<Options, Message> optionsFrom(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     return readOptions(QCoreApplication::arguments());
+}
+
+/// Qt's file dialog remembers its places: with the other data, and nowhere else.
+void keepSettingsWithTheData() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
 }
 
 void dress() {
@@ -59,6 +65,7 @@ int main(int argc, char* argv[]) {
     case AppService::Claim::granted:
         break;
     }
+    keepSettingsWithTheData();
     dress();
     const App app(service, options);
     return QApplication::exec();

@@ -96,7 +96,7 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
 /// A poll that falls due while one is outstanding is dropped, not postponed. A clock that is set far back
 /// does not keep the server unasked for as long.
 void AppStore::advancePolling(double elapsed) {
-    pollClock_ = std::max(pollClock_ + elapsed, -pollInterval);
+    pollClock_ = std::max(pollClock_ + elapsed, -longestTick);
     if (pollClock_ < pollInterval)
         return;
     pollClock_ = 0;

@@ -16,10 +16,8 @@ protected:
     /// `pictures` is where the self-check run leaves its own; without it there is no such run.
     std::unique_ptr<QProcess> startOnRecord(const QString& pictures = {}) {
         EXPECT_TRUE(QDir().mkpath(log_.path()) && QDir().mkpath(home("data")));
-        Surroundings surroundings{{"DISPLAY", display.name()},
-                                  {"QT_QPA_PLATFORM", "xcb"},
-                                  {"XDG_RUNTIME_DIR", home({})},
-                                  {"ASAN_OPTIONS", "detect_leaks=0"}}; // which cannot work on record
+        Surroundings surroundings{
+            {"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}, {"XDG_RUNTIME_DIR", home({})}};
         if (!pictures.isEmpty())
             surroundings.push_back({"VL_SNAPSHOT_DIR", pictures});
         return run("strace",

@@ -159,10 +159,10 @@ TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
     EXPECT_EQ(answers, std::vector{Command::approve});
 }
 
-/// With the services that people run, on a virtual display.
+/// With a service that people run, on a virtual display.
 class RealServiceTest : public NotifierTest {
 protected:
-    void expectBothAnswers(RealService& real) {
+    void expectBothAnswers(Dunst& real) {
         notifier.post({"M-1", "At the <driveway>", "Launch?", {}});
         ASSERT_TRUE(real.choose("Launch drone"));
         EXPECT_TRUE(waitUntil([&] { return answers == std::vector{Command::approve}; }));
@@ -183,16 +183,11 @@ TEST_F(RealServiceTest, DunstAnswersAndMayDieWithANotificationUp) {
     notifier.post({"M-3", "At the gate", "Launch?", {}});
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 1; }));
     dunst.reset();
-    EXPECT_TRUE(waitUntil([] { return !RealService::isThere(); }));
+    EXPECT_TRUE(waitUntil([] { return !Dunst::isThere(); }));
     notifier.post({"M-3", "At the gate", "Launch?", {}});
     dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 0; }));
-}
-
-TEST_F(RealServiceTest, XfceAnswers) {
-    Xfce xfce(display);
-    expectBothAnswers(xfce);
 }
 
 /// The whole road of an answer given outside the window.

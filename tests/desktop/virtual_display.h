@@ -49,11 +49,6 @@ public:
         process->start(program, arguments);
         return process;
     }
-    QByteArray outputOf(const QString& program, const QStringList& arguments) const {
-        const auto process = run(program, arguments);
-        process->waitForFinished();
-        return process->readAllStandardOutput();
-    }
 
 private:
     QTemporaryDir home_;
@@ -61,48 +56,20 @@ private:
     RunningProgram server_{new QProcess};
 };
 
-/// A notification service as people run it, and a hand that answers there.
-class RealService {
-public:
-    virtual ~RealService() = default;
-
-    /// Presses the action, once the notification is there.
-    virtual bool choose(const QString& action) = 0;
-
-    static bool isThere() { return QDBusConnection::sessionBus().interface()->isServiceRegistered(name()); }
-    static QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments) {
-        QDBusMessage message = QDBusMessage::createMethodCall(
-            name(), QStringLiteral("/org/freedesktop/Notifications"), interface, method);
-        message.setArguments(arguments);
-        return QDBusConnection::sessionBus().call(message, QDBus::BlockWithGui, 20'000);
-    }
-
-protected:
-    /// Until whoever listens on this process' connection knows what the service can do.
-    static bool waitForService() {
-        if (!waitUntil(isThere))
-            return false;
-        QCoreApplication::processEvents();
-        call(name(), QStringLiteral("GetCapabilities"), {});
-        QCoreApplication::processEvents();
-        return true;
-    }
-
-private:
-    static QString name() { return QStringLiteral("org.freedesktop.Notifications"); }
-};
-
-/// Its menu of actions is a script of the test's.
-class Dunst : public RealService {
+/// A notification service as people run it, whose menu of actions is a script of the test's.
+class Dunst {
 public:
     explicit Dunst(const VirtualDisplay& display) : picker_(display.home() + QStringLiteral("/pick")) {
         const QString rules = display.home() + QStringLiteral("/dunstrc");
         write(rules, "[global]\ndmenu = " + picker_);
         program_ = display.run(QStringLiteral("dunst"), {"-conf", rules});
-        waitForService();
+        waitUntilReady();
     }
 
-    bool choose(const QString& action) override {
+    static bool isThere() { return QDBusConnection::sessionBus().interface()->isServiceRegistered(name()); }
+
+    /// Presses the action, once the notification is there.
+    bool choose(const QString& action) {
         write(picker_, "#!/bin/sh\nexec grep -m1 '" + action + "'\n");
         QFile::setPermissions(picker_, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
         const bool there = waitUntil([this] { return shown() > 0; });
@@ -116,6 +83,21 @@ public:
     }
 
 private:
+    static QString name() { return QStringLiteral("org.freedesktop.Notifications"); }
+    static QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            name(), QStringLiteral("/org/freedesktop/Notifications"), interface, method);
+        message.setArguments(arguments);
+        return QDBusConnection::sessionBus().call(message, QDBus::BlockWithGui, 20'000);
+    }
+    /// Until whoever listens on this process' connection knows what the service can do.
+    static void waitUntilReady() {
+        if (!waitUntil(isThere))
+            return;
+        QCoreApplication::processEvents();
+        call(name(), QStringLiteral("GetCapabilities"), {});
+        QCoreApplication::processEvents();
+    }
     static void write(const QString& path, const QString& text) {
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
@@ -124,51 +106,6 @@ private:
 
     QString picker_;
     RunningProgram program_;
-};
-
-/// Pressed with the mouse: its buttons stand in one row at the notification's lower edge.
-class Xfce : public RealService {
-public:
-    explicit Xfce(const VirtualDisplay& display) : display_(display) {
-        settings_ = display.run(programOf("org.xfce.Xfconf"));
-        waitUntil(
-            [] { return QDBusConnection::sessionBus().interface()->isServiceRegistered("org.xfce.Xfconf"); });
-        program_ = display.run(programOf("org.xfce.xfce4-notifyd.Notifications"));
-        waitForService();
-    }
-
-    bool choose(const QString& action) override {
-        constexpr int aboveEdge = 31; // pixels, the middle of the buttons
-        const double across = action == QStringLiteral("Ignore") ? 5.0 / 6 : 0.5;
-        QList<int> place;
-        const bool there = waitUntil([&] {
-            place.clear();
-            for (const QByteArray& line : display_
-                                              .outputOf("xdotool", {"search", "--onlyvisible", "--class", ".",
-                                                                    "getwindowgeometry", "--shell"})
-                                              .split('\n'))
-                if (line.contains('='))
-                    place.append(line.split('=')[1].toInt());
-            return place.size() >= 5;
-        });
-        if (there)
-            display_.outputOf("xdotool", {"mousemove", QString::number(place[1] + int(place[3] * across)),
-                                          QString::number(place[2] + place[4] - aboveEdge), "click", "1"});
-        return there;
-    }
-
-private:
-    static QString programOf(const QString& service) {
-        QFile file("/usr/share/dbus-1/services/" + service + ".service");
-        if (file.open(QIODevice::ReadOnly))
-            for (const QByteArray& line : file.readAll().split('\n'))
-                if (line.startsWith("Exec="))
-                    return QString::fromUtf8(line.mid(5).trimmed());
-        return {};
-    }
-
-    const VirtualDisplay& display_;
-    RunningProgram settings_, program_;
 };
 
 } // namespace velmora

@@ -43,7 +43,8 @@ protected:
         image.fill(SB::navy);
         QPainter painter(&image);
         drawGrounds(painter, scene, canvas);
-        drawMission(painter, scene, canvas, t);
+        drawPaths(painter, scene, canvas);
+        drawMovers(painter, scene, canvas, t);
         return image;
     }
     QColor at(double x, double y, double t = 0) const {

@@ -218,13 +218,17 @@ void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas) {
     pass.drawPad();
 }
 
-void drawMission(QPainter& painter, const MapScene& scene, QSizeF canvas, double t) {
+void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas) {
     MapPass pass(painter, scene, canvas);
     pass.drawPaths();
-    if (scene.replay) {
+    if (scene.replay)
         pass.drawReplayMarkers();
+}
+
+void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double t) {
+    if (scene.replay)
         return;
-    }
+    MapPass pass(painter, scene, canvas);
     pass.drawVisitor(t);
     pass.drawDroneWithHeight(t);
 }

@@ -10,10 +10,14 @@ namespace velmora {
 /// the buffer and the camera that sees someone, so the map keeps it as a picture.
 void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
-/// What moves on the grounds, or a finished mission's paths. `t` is the frame's time in seconds.
-void drawMission(QPainter& painter, const MapScene& scene, QSizeF canvas, double t);
+/// The ways that drone and visitor came, or those of a finished mission with where they began and ended. They
+/// grow twice a second, so the map keeps them as a picture, too.
+void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
-/// Where drawMission paints something that moves from frame to frame, pixels.
+/// Drone and visitor, which a finished mission is without. `t` is the frame's time in seconds.
+void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double t);
+
+/// Where drawMovers paints something that moves from frame to frame, pixels.
 QRectF liveArea(const MapScene& scene, QSizeF canvas);
 
 } // namespace velmora

@@ -98,6 +98,7 @@ void SiteMap::setScene(MapScene scene) {
                           scene.replay != scene_.replay;
     scene_ = std::move(scene);
     groundsStale_ |= grounds;
+    pathsStale_ |= paths;
     if (newSize)
         updateGeometry();
     runOrRest();
@@ -158,17 +159,36 @@ void SiteMap::hideEvent(QHideEvent*) {
     runOrRest();
 }
 
-const QPixmap& SiteMap::grounds() {
-    const QSize pixels = size() * devicePixelRatioF();
-    if (!groundsStale_ && grounds_.size() == pixels)
-        return grounds_;
-    groundsStale_ = false;
-    grounds_ = QPixmap(pixels);
-    grounds_.setDevicePixelRatio(devicePixelRatioF());
-    grounds_.fill(SB::navy);
-    QPainter painter(&grounds_);
+QPixmap SiteMap::blank(double scale) const {
+    QPixmap picture(size() * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(SB::navy);
+    return picture;
+}
+
+/// What of the two kept pictures is not as the scene any more.
+void SiteMap::drawStill() {
+    if (groundsStale_ || grounds_.size() != size() * devicePixelRatioF()) {
+        grounds_ = blank(devicePixelRatioF());
+        QPainter painter(&grounds_);
+        drawGrounds(painter, scene_, size());
+        pathsStale_ = true;
+    }
+    if (pathsStale_) {
+        still_ = grounds_;
+        QPainter painter(&still_);
+        drawPaths(painter, scene_, size());
+    }
+    groundsStale_ = pathsStale_ = false;
+}
+
+QPixmap SiteMap::picture(int scale) const {
+    QPixmap picture = blank(scale);
+    QPainter painter(&picture);
     drawGrounds(painter, scene_, size());
-    return grounds_;
+    drawPaths(painter, scene_, size());
+    drawMovers(painter, scene_, size(), Motion::seconds());
+    return picture;
 }
 
 void SiteMap::paintEvent(QPaintEvent*) {
@@ -188,11 +208,12 @@ void SiteMap::paintEvent(QPaintEvent*) {
     }
     if (freshness == Freshness::stale)
         painter.setOpacity(dimmedOpacity);
-    fillRounded(grounds());
+    drawStill();
+    fillRounded(still_);
     QPainterPath corners;
     corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
     painter.setClipPath(corners, Qt::IntersectClip);
-    drawMission(painter, scene_, size(), Motion::seconds());
+    drawMovers(painter, scene_, size(), Motion::seconds());
 }
 
 } // namespace velmora

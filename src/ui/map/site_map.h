@@ -27,6 +27,9 @@ public:
     /// Something lies over the map: no frames until it is gone.
     void setCovered(bool covered);
 
+    /// The whole map as it stands, drawn anew at so many pixels for one of its own.
+    QPixmap picture(int scale) const;
+
     bool hasHeightForWidth() const override { return true; }
     /// The height that the site's proportions give for a width.
     int heightForWidth(int width) const override;
@@ -43,7 +46,8 @@ private:
     void runOrRest();
     void showFrame();
     void describe();
-    const QPixmap& grounds();
+    void drawStill();
+    QPixmap blank(double scale) const;
 
     MapScene scene_;
     Freshness freshness_ = Freshness::live;
@@ -52,7 +56,9 @@ private:
     QBasicTimer frames_;
     QRectF shownArea_; ///< of the last frame's moving parts
     bool groundsStale_ = true;
+    bool pathsStale_ = true;
     QPixmap grounds_;
+    QPixmap still_; ///< the grounds with the paths on them
     double describedAt_ = 0;
 };
 

@@ -107,7 +107,7 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent)
 }
 
 void CamerasView::refresh() {
-    if (isVisible())
+    if (page_->isSeen())
         grid_->show(store_);
 }
 

@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+class Page;
+
 /// Cameras: what sets off an alert, camera by camera.
 class CamerasView : public QWidget {
     Q_OBJECT
@@ -24,7 +26,7 @@ private:
 
     AppStore& store_;
     Grid* grid_;
-    QWidget* page_;
+    Page* page_;
 };
 
 } // namespace velmora

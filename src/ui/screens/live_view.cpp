@@ -102,7 +102,7 @@ LiveView::LiveView(AppStore& store, QWidget* parent)
 }
 
 void LiveView::refresh() {
-    if (!isVisible())
+    if (!page_->isSeen())
         return;
     page_->setHeadline(headlineFor(store_));
     content_->stale->setOpen(store_.freshness() != Freshness::live);

@@ -142,7 +142,7 @@ OverviewView::OverviewView(AppStore& store, QWidget* parent)
 }
 
 void OverviewView::refresh() {
-    if (!isVisible())
+    if (!page_->isSeen())
         return;
     const bool known = store_.freshness() != Freshness::waiting;
     page_->setHeadline(headlineFor(store_));

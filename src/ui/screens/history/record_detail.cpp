@@ -105,11 +105,7 @@ void RecordDetail::pause() {
 
 QPixmap RecordDetail::mapPicture() const {
     constexpr int scale = 2;
-    QPixmap picture(map_->size() * scale);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(SB::navy);
-    map_->render(&picture, {}, {}, QWidget::RenderFlags());
-    return picture;
+    return map_->picture(scale);
 }
 
 /// As wide as the pane, as long as it leaves room for the log below.

@@ -16,10 +16,10 @@ QString tr(const char* text) {
     return QCoreApplication::translate("RecordExport", text);
 }
 
-/// What went wrong; nothing if the file was written.
+/// What went wrong; nothing if the file was written. A full disk may refuse only what is flushed.
 std::optional<QString> write(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
         return std::nullopt;
     return tr("%1 could not be written: %2.").arg(path, file.errorString());
 }

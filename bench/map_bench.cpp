@@ -1,0 +1,93 @@
+#include "samples.h"
+#include "ui/map/site_map.h"
+
+#include <QApplication>
+#include <QTimerEvent>
+#include <benchmark/benchmark.h>
+
+namespace velmora {
+
+namespace {
+
+constexpr QSize mapSize(900, 600);
+
+/// A map on the screen that shows the state.
+class ShownMap {
+public:
+    explicit ShownMap(const LiveState& state) : map_(nullptr), state_(state) {
+        map_.resize(mapSize);
+        map_.setState(state_, Settings{});
+        map_.show();
+        QApplication::processEvents();
+        map_.repaint();
+    }
+
+    /// What a frame's timer does, and the painting that follows.
+    void frame() {
+        QTimerEvent due(0);
+        QCoreApplication::sendEvent(&map_, &due);
+        QCoreApplication::sendPostedEvents(&map_, QEvent::UpdateRequest);
+    }
+    void whole() { map_.repaint(); }
+    /// The grounds anew: another camera sees the visitor.
+    void grounds() {
+        auto& seen = state_.visitor->cameraId;
+        seen = seen == "front" ? "driveway" : "front";
+        map_.setState(state_, Settings{});
+        map_.repaint();
+    }
+
+private:
+    SiteMap map_;
+    LiveState state_;
+};
+
+void mapFrame(benchmark::State& run) {
+    ShownMap map(samples::followingState());
+    for ([[maybe_unused]] auto iteration : run)
+        map.frame();
+}
+BENCHMARK(mapFrame)->Name("map frame")->Unit(benchmark::kMicrosecond);
+
+void wholeMap(benchmark::State& run) {
+    ShownMap map(samples::followingState());
+    for ([[maybe_unused]] auto iteration : run)
+        map.whole();
+}
+BENCHMARK(wholeMap)->Name("map frame, every pixel")->Unit(benchmark::kMicrosecond);
+
+void grounds(benchmark::State& run) {
+    ShownMap map(samples::followingState());
+    for ([[maybe_unused]] auto iteration : run)
+        map.grounds();
+}
+BENCHMARK(grounds)->Name("map, grounds anew")->Unit(benchmark::kMillisecond);
+
+void longTrails(benchmark::State& run) {
+    ShownMap map(samples::withTrails(samples::followingState(), static_cast<std::size_t>(run.range(0))));
+    for ([[maybe_unused]] auto iteration : run)
+        map.frame();
+}
+BENCHMARK(longTrails)
+    ->Name("map frame, trail points")
+    ->Arg(160)
+    ->Arg(1000)
+    ->Arg(10'000)
+    ->Unit(benchmark::kMicrosecond);
+
+void manyCameras(benchmark::State& run) {
+    const auto count = static_cast<std::size_t>(run.range(0));
+    ShownMap map(samples::withBoundary(samples::withCameras(samples::followingState(), count), count));
+    for ([[maybe_unused]] auto iteration : run)
+        map.frame();
+}
+BENCHMARK(manyCameras)
+    ->Name("map frame, cameras and boundary points")
+    ->Arg(4)
+    ->Arg(40)
+    ->Arg(400)
+    ->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+} // namespace velmora

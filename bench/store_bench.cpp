@@ -1,0 +1,98 @@
+#include "allocations.h"
+#include "model/json.h"
+#include "ui/window/main_window.h"
+#include "world.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+#include <benchmark/benchmark.h>
+
+namespace velmora {
+
+void World::writeHistory(const std::vector<MissionRecord>& history) const {
+    QFile file(directory().filePath("history.json"));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QByteArray::fromStdString(*encode(history)));
+}
+
+namespace {
+
+void loadHistory(benchmark::State& run) {
+    const World world(samples::flownHistory(200));
+    for ([[maybe_unused]] auto iteration : run)
+        benchmark::DoNotOptimize(DataFiles(world.directory()).loadHistory());
+}
+BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMillisecond);
+
+/// A few seconds of following, each tick heard by the whole window, which is hidden.
+void hiddenTick(benchmark::State& run) {
+    World world(samples::flownHistory(200));
+    const MainWindow window(world.store(), Autostart(world.directory().path()));
+    world.follow();
+    const auto before = allocations();
+    for ([[maybe_unused]] auto iteration : run)
+        world.tick();
+    run.counters["allocations"] =
+        static_cast<double>(allocations() - before) / static_cast<double>(run.iterations());
+}
+BENCHMARK(hiddenTick)
+    ->Name("tick, following, window hidden")
+    ->Iterations(400)
+    ->Repetitions(9)
+    ->Unit(benchmark::kMicrosecond);
+
+/// Keeps the longest time between two timeouts of the store's timer.
+class TickWatch : public QObject {
+public:
+    TickWatch() { qApp->installEventFilter(this); }
+
+    qint64 longest = 0; // nanoseconds
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* timer = qobject_cast<QTimer*>(watched);
+        if (event->type() == QEvent::Timer && timer && timer->interval() == 50) {
+            longest = std::max(longest, sinceTick_.isValid() ? sinceTick_.nsecsElapsed() : 0);
+            sinceTick_.start();
+        }
+        return false;
+    }
+
+private:
+    QElapsedTimer sinceTick_;
+};
+
+/// The longest time between two ticks while a mission joins a full history, the window showing it.
+void recording(benchmark::State& run) {
+    World world(samples::flownHistory(200));
+    AppStore& store = world.store();
+    MainWindow window(store, Autostart(world.directory().path()));
+    window.show();
+    world.follow();
+    store.setSection(Section::history);
+    QTest::qWait(500);
+    store.send(Command::land);
+    while (store.state().drone.altitude > 1)
+        world.tick();
+    const TickWatch watch;
+    for ([[maybe_unused]] auto iteration : run) {
+        world.run();
+        while (!world.docked())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QTest::qWait(300);
+        run.SetIterationTime(static_cast<double>(watch.longest) / 1e9);
+    }
+}
+BENCHMARK(recording)
+    ->Name("recording at the cap, longest gap")
+    ->Iterations(1)
+    ->Repetitions(9)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace velmora

@@ -1,0 +1,61 @@
+#include "model/json.h"
+#include "sim/simulator.h"
+
+#include <filesystem>
+#include <fstream>
+
+using namespace velmora;
+
+namespace {
+
+using Missions = std::vector<MissionRecord>;
+constexpr std::size_t pointsKept = 3; // short documents are mutated faster and more thoroughly
+
+/// Writes a document into the corpus of a reader.
+template <class T>
+void add(const std::filesystem::path& corpus, const T& value, KeyStyle keys = KeyStyle::fieldNames) {
+    static int count = 0;
+    create_directories(corpus);
+    std::ofstream(corpus / std::to_string(count++)) << encode(value, keys).value();
+}
+
+void addMissions(const std::filesystem::path& corpus, Date at, Random& random) {
+    Missions all;
+    for (const auto& [scenario, name] : rawValuesOf<Scenario>)
+        for (const std::optional<double> approveAfter : {std::optional(9.0), std::optional<double>()}) {
+            all.push_back(*Simulator::rehearse(scenario, approveAfter, {}, at, Settings{}, random));
+            all.back().dronePath.resize(pointsKept);
+            all.back().visitorPath.resize(pointsKept);
+            add(corpus, Missions{all.back()});
+        }
+    add(corpus, all);
+}
+
+/// The site at a few moments of a visit, as a server would tell of it.
+void addStates(const std::filesystem::path& corpus, Date at, Random& random) {
+    Simulator simulator(LiveState::initial(), Settings{}, random);
+    add(corpus, simulator.state, KeyStyle::snakeCase);
+    simulator.trigger(Scenario::driveway, at);
+    simulator.send(Command::approve, at);
+    for (int tick = 0; tick < 600; ++tick) {
+        simulator.step(0.1, at + Seconds{tick * 0.1});
+        if (tick % 200 == 99)
+            add(corpus, simulator.state, KeyStyle::snakeCase);
+    }
+}
+
+} // namespace
+
+/// Writes the good documents that fuzzing starts from below the folder given, one folder for each reader.
+int main(int argc, char* argv[]) {
+    const std::filesystem::path root(argc > 1 ? argv[1] : "seeds");
+    SystemRandom random;
+    const Date at = dateFromSeconds(1'700'000'042);
+    Settings settings;
+    settings.ntfyTopic = "Grüße \"🚶\"\n";
+    settings.alertPeople = {{"front", true}, {"", false}};
+    add(root / "settings", settings);
+    addMissions(root / "history", at, random);
+    addStates(root / "server_state", at, random);
+    return 0;
+}

@@ -1,0 +1,92 @@
+#include "store_fixture.h"
+
+#include <cstdlib>
+#include <ctime>
+
+namespace velmora {
+
+namespace {
+
+constexpr double hour = 3600, night = 9 * hour;
+
+class ClockFaultsTest : public StoreTest {
+protected:
+    void SetUp() override {
+        setenv("TZ", "Europe/London", 1);
+        tzset();
+    }
+    void TearDown() override {
+        unsetenv("TZ");
+        tzset();
+    }
+    void alert() {
+        store().simulate(Scenario::driveway);
+        pass(2);
+        ASSERT_EQ(phase(), Phase::awaitingApproval);
+    }
+    const MissionRecord& newest() { return store().history().front(); }
+};
+
+} // namespace
+
+TEST_F(ClockFaultsTest, TheWallClockJudgesTheDeadlineHoweverItGotThere) {
+    constexpr double summerBegins = 1743296400, winterBegins = 1761440400; // 2025, where the tests are
+    for (const auto& [start, jump] :
+         {std::pair(summerBegins, 0.05), {winterBegins, 0.05}, {0.0, 5.0}, {0.0, hour}, {0.0, night}}) {
+        now = dateFromSeconds(std::max(start - 30, secondsSince1970(now)));
+        alert();
+        const auto missions = store().history().size();
+        const Date deadline = store().state().approvalDeadline.value();
+        while (now < deadline)
+            tickAfter(jump);
+        EXPECT_EQ(phase(), Phase::docked) << jump;
+        EXPECT_EQ(newest().outcome, Outcome::expired);
+        EXPECT_TRUE(deadline <= newest().end && newest().end <= now);
+        EXPECT_EQ(store().history().size(), missions + 1);
+        EXPECT_EQ(notifier.withdrawals, static_cast<int>(notifier.posted.size()));
+    }
+}
+
+TEST_F(ClockFaultsTest, NoAlertIsStuckWhenTheClockIsSetBack) {
+    alert();
+    tickAfter(-hour);
+    store().send(Command::approve);
+    EXPECT_EQ(phase(), Phase::launching) << "it can still be answered";
+    store().send(Command::land);
+    pass(10);
+    alert();
+    tickAfter(-hour);
+    pass(180);
+    EXPECT_EQ(phase(), Phase::docked) << "the visitor leaves in time, whatever the clock says";
+    EXPECT_EQ(newest().outcome, Outcome::expired);
+}
+
+TEST_F(ClockFaultsTest, AFlightGoesOnAfterANightsSuspendAndThroughStalls) {
+    alert();
+    store().send(Command::approve);
+    pass(20);
+    const auto missions = store().history().size();
+    tickAfter(night);
+    EXPECT_TRUE(airborne(phase()));
+    for (int stall = 0; stall < 100 && phase() != Phase::docked; ++stall)
+        tickAfter(5);
+    EXPECT_EQ(newest().outcome, Outcome::visitorLeft);
+    EXPECT_EQ(store().history().size(), missions + 1);
+}
+
+TEST_F(ClockFaultsTest, AServerIsAskedOnAndItsPictureAgesThroughEveryJump) {
+    linked();
+    pass(0.55);
+    for (const double jump : {-hour, hour, -night, night, -0.2}) {
+        link.fetches.back()(FetchedState{LiveState::initial(), "1"});
+        const std::size_t asked = link.fetches.size();
+        tickAfter(jump);
+        EXPECT_LE(*store().heardAt(), now) << jump;
+        pass(3);
+        EXPECT_EQ(store().freshness(), Freshness::stale) << jump;
+        pass(2.6);
+        EXPECT_EQ(link.fetches.size(), asked + 1) << "not silenced by " << jump;
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ledger.h"
+#include "ui/window/main_window.h"
+#include "world.h"
+
+namespace velmora {
+
+/// Someone who uses everything at random: stages visits, answers alerts or lets them be, commands the drone,
+/// leafs through the sections and records, changes settings, resizes and closes the window.
+class Owner {
+public:
+    Owner(SeededRandom& random, AppStore& store, Ledger& ledger, QWidget& window)
+        : random_(random), store_(store), ledger_(ledger), window_(window) {}
+
+    /// What the owner does in one second; each kind of act has a frequency of its own.
+    void act() {
+        sometimes(1.0 / 30, [this] { ledger_.simulate(random_.anyOf<Scenario>()); });
+        sometimes(1.0 / 30, [this] { command(); });
+        sometimes(1.0 / 10, [this] { store_.setSection(random_.anyOf<Section>()); });
+        sometimes(1.0 / 30, [this] { store_.openRecord(random_.below(recordsKept)); });
+        sometimes(1.0 / 60, [this] { changeSettings(); });
+        sometimes(1.0 / 60, [this] { window_.setVisible(!window_.isVisible()); });
+        sometimes(1.0 / 60, [this] { window_.resize(1100 + small(500), 720 + small(300)); });
+        sometimes(1.0 / 300, [this] { store_.setArmed(random_.happens(0.8)); });
+        sometimes(1.0 / 600, [this] { store_.applyLinkMode(!store_.settings().linkMode); });
+        while (store_.history().size() > recordsKept)
+            store_.removeRecord(store_.history().size() - 1);
+    }
+
+private:
+    static constexpr std::size_t recordsKept = 40; ///< bounded, so that flat memory shows as flat
+
+    template <class Deed>
+    void sometimes(double chance, Deed deed) {
+        if (!random_.happens(chance))
+            return;
+        deed();
+        ledger_.look();
+    }
+    int small(std::size_t limit) { return static_cast<int>(random_.below(limit)); }
+
+    /// Alerts are mostly approved, so that there is something to fly.
+    void command() {
+        const bool waiting = store_.state().phase == Phase::awaitingApproval;
+        store_.send(waiting && random_.happens(0.8) ? Command::approve : random_.anyOf<Command>());
+    }
+
+    void changeSettings() {
+        Settings settings = store_.settings();
+        settings.flightHeight = random_.uniform(10, 25);
+        settings.followDistance = random_.uniform(8, 25);
+        settings.returnBattery = random_.uniform(20, 60);
+        settings.approvalSeconds = random_.uniform(20, 90);
+        settings.maxWindKmh = random_.uniform(15, 40);
+        settings.tracking = random_.anyOf<TrackingMode>();
+        store_.setSettings(settings);
+    }
+
+    SeededRandom& random_;
+    AppStore& store_;
+    Ledger& ledger_;
+    QWidget& window_;
+};
+
+} // namespace velmora
