@@ -21,6 +21,19 @@ std::variant<Options, Message> optionsFrom(int argc, char* argv[]) {
     return readOptions(QCoreApplication::arguments());
 }
 
+/// A relative place counts for nothing by the desktop's rules: it would be another one in every directory.
+void forgetRelativePlaces() {
+    for (const char* place : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        if (QDir::isRelativePath(qEnvironmentVariable(place)))
+            qunsetenv(place);
+}
+
+/// Qt itself would end the program with an abort and advice that does not help.
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
 /// Qt's file dialog remembers its places: with the other data, and nowhere else.
 void keepSettingsWithTheData() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
@@ -51,6 +64,11 @@ int main(int argc, char* argv[]) {
         return message->exitCode;
     }
     const Options options = std::get<Options>(read);
+    if (!hasDisplay()) {
+        std::cerr << "Velmora needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n";
+        return 1;
+    }
+    forgetRelativePlaces();
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
     const QuitSignals quitSignals; // before anything that a signal could leave behind

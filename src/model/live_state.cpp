@@ -34,6 +34,12 @@ LiveState LiveState::initial() {
     return state;
 }
 
+std::string alertOf(const LiveState& state) {
+    if (state.missionId || !state.missionStart)
+        return state.missionId.value_or("");
+    return dateText(*state.missionStart).value_or("");
+}
+
 void addNotice(LiveState& state, Notice notice) {
     constexpr std::size_t limit = 40;
     state.notices.insert(state.notices.begin(), std::move(notice));

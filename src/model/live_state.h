@@ -102,6 +102,9 @@ inline constexpr auto fieldsOf<LiveState> =
                Field{"notices", &LiveState::notices},
                Field{"site", &LiveState::site}};
 
+/// Tells the alert of one mission from that of the next: the mission's id, or when it began.
+std::string alertOf(const LiveState& state);
+
 /// Puts the notice in front of the others; beyond forty the oldest goes.
 void addNotice(LiveState& state, Notice notice);
 

@@ -74,12 +74,12 @@ void AppStore::tick() {
         advanceSimulator(now, elapsed);
     updateFreshness();
     const Phase before = lastPhase_;
-    const bool anotherMission = state_.missionId != lastMission_;
+    const bool anotherAlert = alertOf(state_) != lastAlert_;
     lastPhase_ = state_.phase;
-    lastMission_ = state_.missionId;
+    lastAlert_ = alertOf(state_);
     if (state_.phase != before)
         phaseChanged(before, state_.phase);
-    else if (anotherMission && state_.phase == Phase::awaitingApproval)
+    else if (anotherAlert && state_.phase == Phase::awaitingApproval)
         alertReplaced();
 }
 

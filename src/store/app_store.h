@@ -124,7 +124,7 @@ private:
     int server_ = 0;       ///< counts the servers asked, so that a late answer of another one is told apart
     double pollClock_ = 0; ///< seconds gathered towards the next poll
     Phase lastPhase_ = Phase::docked;
-    std::optional<std::string> lastMission_;
+    std::string lastAlert_;
 };
 
 } // namespace velmora

@@ -81,7 +81,7 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
 void DesktopNotifier::onOwnerChanged(const QString&, const QString& before, const QString& now) {
     if (!before.isEmpty()) {
         posted_.clear();
-        capabilities_.clear();
+        capabilities_.reset();
     }
     if (!now.isEmpty())
         askForCapabilities();
@@ -112,7 +112,7 @@ void DesktopNotifier::post(const DetectionNotification& notification) {
 
 void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
     QString body = printable(notification.body);
-    if (capabilities_.contains(QStringLiteral("body-markup")))
+    if (capabilities_ && capabilities_->contains(QStringLiteral("body-markup")))
         body = body.toHtmlEscaped();
     QDBusMessage message = call(QStringLiteral("Notify"));
     message << QStringLiteral("Velmora") << posted.id << QStringLiteral("org.velmora.Velmora")
@@ -162,8 +162,9 @@ void DesktopNotifier::close(uint id) {
     bus_.asyncCall(message);
 }
 
+/// A service that this very call starts has not told what it can do, and most can.
 QStringList DesktopNotifier::actions() const {
-    if (!capabilities_.contains(QStringLiteral("actions")))
+    if (capabilities_ && !capabilities_->contains(QStringLiteral("actions")))
         return {};
     return {defaultAction, tr("Open Velmora"), launchAction, tr("Launch drone"), ignoreAction, tr("Ignore")};
 }

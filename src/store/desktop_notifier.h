@@ -69,8 +69,8 @@ private:
     QDBusConnection bus_;
     QDBusServiceWatcher watcher_;
     std::function<NotificationPicture(const QString&)> pictureOf_;
-    QStringList capabilities_;
-    std::map<QString, Posted> posted_; ///< by identifier
+    std::optional<QStringList> capabilities_; ///< of the service; absent until it has told
+    std::map<QString, Posted> posted_;        ///< by identifier
 };
 
 } // namespace velmora

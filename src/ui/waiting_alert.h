@@ -4,12 +4,12 @@
 
 namespace velmora {
 
-/// The mission whose alert waits for the owner's answer, so that an answer begun for one alert does not count
-/// for the next; absent while none waits, empty for an alert without a mission.
+/// The alert that waits for the owner's answer, so that an answer begun for one does not count for the next;
+/// absent while none waits.
 inline std::optional<std::string> waitingAlert(const AppStore& store) {
     if (store.freshness() == Freshness::waiting || store.state().phase != Phase::awaitingApproval)
         return std::nullopt;
-    return store.state().missionId.value_or("");
+    return alertOf(store.state());
 }
 
 } // namespace velmora

@@ -29,7 +29,21 @@ QDateTime localTime(Date date) {
 } // namespace
 
 QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (QChar& character : words) {
+        const char16_t code = character.unicode();
+        const bool control = code < 0x20 || (code >= 0x7f && code < 0xa0);
+        const bool breaksLine = code == 0x2028 || code == 0x2029;
+        const bool turnsDirection = code >= 0x202a && code <= 0x202e;
+        if (control || breaksLine || turnsDirection)
+            character = ' ';
+    }
+    return words;
+}
+
+QString isolated(const QString& words) {
+    constexpr char16_t begin = 0x2068, end = 0x2069;
+    return words.isRightToLeft() ? QChar(begin) + words + QChar(end) : words;
 }
 
 QString phaseWord(Phase phase) {

@@ -6,8 +6,13 @@
 
 namespace velmora {
 
-/// A record's UTF-8 text as the screens use it.
+/// A record's UTF-8 text as the screens use it: one line, without characters that control what stands around
+/// it.
 QString toQString(std::string_view text);
+
+/// Words to stand within a line of others, whose order they leave alone though they may be read from right to
+/// left.
+QString isolated(const QString& words);
 
 /// The phase as the owner reads it, such as "Coming home".
 QString phaseWord(Phase phase);

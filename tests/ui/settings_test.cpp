@@ -192,7 +192,7 @@ TEST_F(SettingsTest, APortThatIsNoneIsNotStoredAndTheFieldSaysSo) {
     EXPECT_EQ(shown("Port"), "0") << "not while someone types";
     find("Host")->setFocus();
     settle();
-    EXPECT_EQ(shown("Port"), "7") << "what is stored";
+    EXPECT_EQ(shown("Port"), "8765") << "the one from before";
     EXPECT_FALSE(shows(portRefusal));
 }
 

@@ -5,6 +5,7 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -25,7 +26,7 @@ void Chip::setText(const QString& text) {
     if (text == accessibleName())
         return;
     setAccessibleName(text);
-    const double words = textWidth(text, Type::caption.withTabularDigits());
+    const double words = std::min(textWidth(text, Type::caption.withTabularDigits()), Measure::chipText);
     resize(static_cast<int>(std::ceil(textX + words)) + Measure::chipPadding, Measure::chipHeight);
     update();
 }
@@ -38,8 +39,8 @@ void Chip::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(rect(), Measure::thumbnailRadius, Measure::thumbnailRadius);
     paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
                    {.color = SB::dTeal, .diameter = Measure::statusDotInRow});
-    drawText(painter, QRectF(textX, 0, width() - textX, height()), accessibleName(),
-             Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
+    drawText(painter, QRectF(textX, 0, width() - textX - Measure::chipPadding + 1, height()),
+             accessibleName(), Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
 }
 
 } // namespace velmora

@@ -48,12 +48,14 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         return false;
     if (event->type() == QEvent::FocusIn && widget->window() == window()) {
         const auto look = lookOf(widget);
-        if (look && (look->field || isKeyboard(static_cast<QFocusEvent*>(event)->reason())))
+        if (look && (look->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !jumps_)))
             follow(widget, *look);
         else
             unfollow();
-    } else if (event->type() == QEvent::FocusOut && widget == target_) {
-        unfollow();
+    } else if (event->type() == QEvent::FocusOut) {
+        jumps_ = !widget->isVisible();
+        if (widget == target_)
+            unfollow();
     } else if (target_ && moves(event->type()) && watched_.contains(widget)) {
         place();
     }

@@ -38,6 +38,7 @@ private:
     QPointer<QWidget> target_;
     Look look_;
     QList<QPointer<QWidget>> watched_; ///< the target and what it lies in: when they move, the ring does
+    bool jumps_ = false;               ///< what had the focus was hidden, so Qt moves it on
     QRect clip_;                       ///< what scroll areas leave to be seen
 };
 

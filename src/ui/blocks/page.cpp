@@ -19,22 +19,19 @@ Page::Page(const Parts& parts, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(buildHeading(parts));
     column->addSpacing(parts.contentGap);
-    column->addWidget(parts.content, parts.scroll ? 0 : 1);
-    if (parts.scroll)
+    column->addWidget(parts.content, parts.fills ? 1 : 0);
+    if (!parts.fills)
         column->addStretch(1);
-    shown_ = frame;
-    if (parts.scroll) {
-        auto* area = new ScrollArea(this);
-        area->setWidget(frame);
-        shown_ = area;
-    }
+    auto* area = new ScrollArea(this);
+    area->setWidget(frame);
+    area_ = area;
     const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
     frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
 }
 
 /// Wide windows leave the room at the right.
 void Page::resizeEvent(QResizeEvent*) {
-    shown_->setGeometry(0, 0, std::min(width(), shown_->maximumWidth()), height());
+    area_->setGeometry(rect());
 }
 
 QWidget* Page::buildHeading(const Parts& parts) {

@@ -9,7 +9,7 @@ namespace velmora {
 class Text;
 
 /// The frame of a section's screen: eyebrow, headline, optional lede, something beside the heading, then the
-/// content.
+/// content. It scrolls where the window is too low for it.
 class Page : public QWidget {
     Q_OBJECT
 
@@ -19,8 +19,8 @@ public:
         QString eyebrow;
         Sentence headline;
         std::optional<QString> lede = std::nullopt;
-        int ledeWidth = 0; ///< at most, pixels; 0 for the usual
-        bool scroll = false;
+        int ledeWidth = 0;  ///< at most, pixels; 0 for the usual
+        bool fills = false; ///< the content takes the whole height, where there is enough
         int width = 0;      ///< of heading and content at most, pixels; 0 for the usual
         int contentGap = 0; ///< between heading and content, pixels
         QWidget* trailing = nullptr;
@@ -41,7 +41,7 @@ private:
     QWidget* buildHeading(const Parts& parts);
 
     Headline* headline_;
-    QWidget* shown_;
+    QWidget* area_;
     Text* lede_ = nullptr;
 };
 

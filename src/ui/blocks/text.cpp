@@ -33,6 +33,7 @@ void Text::setText(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
+    linesWidth_ = -1;
     setAccessibleName(text);
     tellWhatIsCut();
     updateGeometry();
@@ -53,6 +54,7 @@ void Text::setAlignment(Qt::Alignment alignment) {
 
 void Text::setMaximumLines(int lines) {
     maximumLines_ = lines;
+    linesWidth_ = -1;
     updateGeometry();
 }
 
@@ -73,12 +75,14 @@ int Text::heightForWidth(int width) const {
     return static_cast<int>(std::ceil(static_cast<double>(lines(width).size()) * style_.line));
 }
 
-QStringList Text::lines(int width) const {
+const QStringList& Text::lines(int width) const {
     if (wrapWidth_ > 0)
         width = std::min(width, wrapWidth_);
-    if (maximumLines_ == 1)
-        return {elided(text_, style_, width)};
-    return brokenIntoLines(text_, style_, width, maximumLines_);
+    if (width != linesWidth_)
+        lines_ = maximumLines_ == 1 ? QStringList{elided(text_, style_, width)}
+                                    : brokenIntoLines(text_, style_, width, maximumLines_);
+    linesWidth_ = width;
+    return lines_;
 }
 
 void Text::tellWhatIsCut() {

@@ -33,7 +33,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QStringList lines(int width) const;
+    const QStringList& lines(int width) const;
     void tellWhatIsCut();
 
     QString text_;
@@ -42,6 +42,8 @@ private:
     Qt::Alignment alignment_ = Qt::AlignLeft;
     int maximumLines_ = 0;
     int wrapWidth_ = 0;
+    mutable QStringList lines_;   ///< as broken last
+    mutable int linesWidth_ = -1; ///< that they were broken to; -1 for none
 };
 
 /// The small upper-case label above a headline.

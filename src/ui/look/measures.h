@@ -142,7 +142,7 @@ inline constexpr double menuText = 320; // longer options are elided
 inline constexpr int historyFoot = 60;
 inline constexpr int undoSeconds = 10;
 inline constexpr int detailLeft = 32, detailRight = 40;
-inline constexpr int detailLog = 120; // that the replay map leaves for the log
+inline constexpr int detailLog = 138; // that the replay map leaves for the log
 inline constexpr QSize alertPicture(192, 108);
 inline constexpr int emptyIcon = 40, emptyWidth = 340;
 inline constexpr int replaySlider = 28;
@@ -171,6 +171,7 @@ inline constexpr int approvalBar = 3;
 inline constexpr int chipInset = 16;
 inline constexpr int chipHeight = 24;
 inline constexpr int chipPadding = 10;
+inline constexpr double chipText = 200; // at most
 
 // The landing confirmation
 inline constexpr int confirmationCard = 420;

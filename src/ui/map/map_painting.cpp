@@ -25,6 +25,7 @@ constexpr double visitorRadius = 5, pulseFrom = 6, pulseGrowth = 14;
 constexpr double markerRadius = 4;
 constexpr double altitudeOffset = 16, visitorLabelOffset = 10, markerLabelOffset = 8;
 constexpr double lastingPathWidth = 1.8;
+constexpr double longestPath = 24'000;
 
 QString tr(const char* text) {
     return QCoreApplication::translate("SiteMap", text);
@@ -187,10 +188,22 @@ private:
         if (path.size() < 2)
             return;
         QPolygonF line;
-        for (const P& point : path)
-            line.append(view_.map(point));
+        for (auto point = path.begin() + newestPart(path); point != path.end(); ++point)
+            line.append(view_.map(*point));
         painter_.setPen(pen);
         painter_.drawPolyline(line);
+    }
+
+    /// Where the part of a path begins that is drawn. Longer ones cover the map until nothing can be told
+    /// apart, and a tangle takes seconds to stroke.
+    std::ptrdiff_t newestPart(const std::vector<P>& path) const {
+        double left = longestPath / view_.scale();
+        auto from = std::ssize(path) - 1;
+        for (; from > 0 && left > 0; --from) {
+            const auto i = static_cast<std::size_t>(from);
+            left -= std::hypot(path[i].x - path[i - 1].x, path[i].y - path[i - 1].y);
+        }
+        return from;
     }
 
     void drawMarker(P at, const QString& caption) {

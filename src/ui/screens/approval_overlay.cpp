@@ -19,8 +19,9 @@ namespace velmora {
 
 namespace {
 
-constexpr int guardedFor = 600;     // milliseconds
-constexpr int countdownEvery = 250; // milliseconds
+constexpr int guardedFor = 600;           // milliseconds
+constexpr int countdownEvery = 250;       // milliseconds
+constexpr int patienceWithAnswers = 5000; // milliseconds; a command may take three seconds
 
 QString titleFor(const CameraInfo* camera) {
     const QString place = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
@@ -44,6 +45,8 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, QWidget* window)
     guardTime_.setSingleShot(true);
     connect(&guardTime_, &QTimer::timeout, this, [this] { guard(false); });
     connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
+    patience_.setSingleShot(true);
+    connect(&patience_, &QTimer::timeout, this, &ApprovalOverlay::stepAside);
     connect(ignore_, &SBButton::clicked, this, [this] { answer(Command::ignore); });
     connect(launch_, &SBButton::clicked, this, [this] { answer(Command::approve); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
@@ -114,14 +117,17 @@ void ApprovalOverlay::followPhase() {
         store_.freshness() == Freshness::live; // nobody can be answered over a link that is down
     if (!known || store_.state().phase != Phase::awaitingApproval) {
         countdown_.stop();
+        patience_.stop();
+        unheeded_.reset();
         close();
         return;
     }
     refresh();
-    const bool another = mission_ != store_.state().missionId;
-    if (isOpen() && !another)
+    const std::string alert = alertOf(store_.state());
+    if (alert == unheeded_ || (isOpen() && alert == asked_))
         return;
-    mission_ = store_.state().missionId;
+    asked_ = alert;
+    patience_.stop();
     const auto deadline = store_.state().approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
@@ -137,7 +143,7 @@ void ApprovalOverlay::followPhase() {
 void ApprovalOverlay::refresh() {
     const LiveState& state = store_.state();
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
-    const QString place = camera ? toQString(camera->name) : tr("Grounds");
+    const QString place = camera ? isolated(toQString(camera->name)) : tr("Grounds");
     const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
     picture_->setAlert(camera ? toQString(camera->snapshot) : QString(),
                        time.isEmpty() ? place : place + QStringLiteral(" · ") + time);
@@ -178,7 +184,16 @@ void ApprovalOverlay::answer(Command command) {
     if (!isOpen() || !isVisible() || guardTime_.isActive())
         return;
     beginGuard();
+    patience_.start(patienceWithAnswers);
     store_.send(command);
+}
+
+/// A server that goes on asking after an answer must not keep the owner from the rest of the window. The
+/// overview still offers the launch.
+void ApprovalOverlay::stepAside() {
+    unheeded_ = asked_;
+    countdown_.stop();
+    close();
 }
 
 } // namespace velmora

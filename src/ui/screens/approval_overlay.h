@@ -35,6 +35,7 @@ private:
     void countDown();
     void beginGuard();
     void guard(bool guarded);
+    void stepAside();
 
     AppStore& store_;
     ApprovalPicture* picture_;
@@ -48,8 +49,10 @@ private:
     SBButton* launch_;
     QTimer guardTime_;
     QTimer countdown_;
-    std::optional<std::string> mission_; ///< that the card asks about
-    double wholeTime_ = 0;               ///< seconds that were left when the alert came
+    QTimer patience_;                     ///< until an answer should have had an effect
+    std::optional<std::string> asked_;    ///< the alert that the card asks about
+    std::optional<std::string> unheeded_; ///< an alert whose answer had no effect
+    double wholeTime_ = 0;                ///< seconds that were left when the alert came
 };
 
 } // namespace velmora

@@ -97,7 +97,6 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent)
            .lede = tr("Each camera can alert on faces it doesn't recognise, and optionally on any person it "
                       "sees. People you've named in UniFi Protect never trigger the drone."),
            .ledeWidth = Measure::camerasLedeWidth,
-           .scroll = true,
            .contentGap = Measure::gap32,
            .content = grid_},
           this)) {

@@ -94,20 +94,20 @@ void ConnectionForm::storeHost(const QString& host) {
     store_.setSettings(settings);
 }
 
+/// While a port is typed it passes through others; one that ends refused leaves the one from before.
 void ConnectionForm::storePort(const QString& text) {
     const auto port = portFrom(text);
     port_->setRefused(!port);
     refusal_->setVisible(!port);
-    if (!port)
-        return;
     Settings settings = store_.settings();
-    settings.port = *port;
+    settings.port = port.value_or(portBefore_);
     store_.setSettings(settings);
 }
 
 /// What is stored, in place of what was refused.
 void ConnectionForm::showPort() {
-    port_->show(QString::number(store_.settings().port));
+    portBefore_ = store_.settings().port;
+    port_->show(QString::number(portBefore_));
     port_->setRefused(false);
     refusal_->setVisible(false);
 }

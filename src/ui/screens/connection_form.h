@@ -33,6 +33,7 @@ private:
     Fold* serverFold_;
     TextField* host_;
     TextField* port_;
+    std::int64_t portBefore_ = 0; ///< that was stored when typing began
     Text* refusal_;
     StatusDot* dot_;
     Text* status_;

@@ -46,11 +46,16 @@ void FlightControls::refresh() {
             ? tr("Approve or ignore the alert to continue.")
             : tr("Nothing to control — the drone launches only after you approve an alert."));
     explanation_->setVisible(!flying);
-    hold_->setVisible(flying && phase != Phase::holding);
-    resume_->setVisible(phase == Phase::holding);
-    returnHome_->setVisible(flying);
-    land_->setVisible(flying);
-    simulate_->setVisible(!flying && !store_.settings().linkMode);
+    const auto offer = [this](SBButton* button, bool offered) {
+        if (!offered && button->hasFocus())
+            setFocus(Qt::OtherFocusReason); // or it passes on to the next button, which is another command
+        button->setVisible(offered);
+    };
+    offer(hold_, flying && phase != Phase::holding);
+    offer(resume_, phase == Phase::holding);
+    offer(returnHome_, flying);
+    offer(land_, flying);
+    offer(simulate_, !flying && !store_.settings().linkMode);
 }
 
 } // namespace velmora

@@ -12,7 +12,15 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace velmora {
+
+namespace {
+
+constexpr std::ptrdiff_t mostNotices = 100; // a server may send many more than anyone reads during a flight
+
+} // namespace
 
 LiveRail::LiveRail(AppStore& store, QWidget* parent)
     : QWidget(parent),
@@ -58,11 +66,14 @@ QWidget* LiveRail::buildLog() {
     entries->addStretch(1);
     area->setWidget(content);
     area->setFade(Measure::logFade);
+    area->setMinimumHeight(static_cast<int>(Type::log.line));
 
+    auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);
+    heading->setMaximumLines(1); // so that the block's height does not hang on its width, and may give way
     auto* column = new QVBoxLayout(block);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::gap8);
-    column->addWidget(new Text(tr("Flight log"), Type::groupHeading, SB::ink, block));
+    column->addWidget(heading);
     column->addWidget(area, 1);
     return block;
 }
@@ -77,7 +88,8 @@ void LiveRail::refresh() {
         visitor_->setVisitor(*state.visitor, state.site);
     nothingLogged_->setVisible(!known || state.notices.empty());
     log_->setVisible(known && !state.notices.empty());
-    log_->setNotices(state.notices);
+    const auto shown = std::min(std::ssize(state.notices), mostNotices);
+    log_->setNotices({state.notices.begin(), state.notices.begin() + shown});
 }
 
 } // namespace velmora

@@ -10,6 +10,7 @@
 #include "ui/words.h"
 
 #include <QEvent>
+#include <QLayout>
 
 #include <algorithm>
 
@@ -65,6 +66,14 @@ public:
     LiveCard* const card;
     LiveRail* const rail;
 
+    /// Below this height the page scrolls.
+    QSize minimumSizeHint() const override {
+        const int beside = rail->layout()->hasHeightForWidth()
+                               ? rail->layout()->minimumHeightForWidth(rail->width())
+                               : rail->minimumSizeHint().height();
+        return {0, top() + std::max(card->minimumHeight(), beside)};
+    }
+
 protected:
     void resizeEvent(QResizeEvent*) override { lay(); }
     bool event(QEvent* event) override {
@@ -74,16 +83,24 @@ protected:
     }
 
 private:
+    int top() const { return stale->isHidden() ? 0 : stale->height(); }
     void lay() {
         stale->setGeometry(0, 0, width(), stale->height());
-        const int top = stale->isHidden() ? 0 : stale->height();
-        const int room = height() - top;
+        const int room = height() - top();
         const int widest = width() - Measure::gutter - Measure::railMinimum;
-        const QSize size = card->fitted(widest, room, width() < Measure::narrowContent);
-        card->setGeometry({{0, top}, size});
+        const bool narrow = width() < Measure::narrowContent;
+        card->setMinimumHeight(card->fitted(widest, 0, narrow).height());
+        const QSize size = card->fitted(widest, room, narrow);
+        card->setGeometry({{0, top()}, size});
         const int left = size.width() + Measure::gutter;
-        rail->setGeometry(left, top, std::min(width() - left, Measure::railMaximum), room);
+        rail->setGeometry(left, top(), std::min(width() - left, Measure::railMaximum), room);
+        if (const int least = minimumSizeHint().height(); least != least_) {
+            least_ = least;
+            updateGeometry();
+        }
     }
+
+    int least_ = 0; ///< height, as last told to the page
 };
 
 LiveView::LiveView(AppStore& store, QWidget* parent)
@@ -92,6 +109,7 @@ LiveView::LiveView(AppStore& store, QWidget* parent)
       content_(new Content(store)),
       page_(new Page({.eyebrow = tr("Live flight"),
                       .headline = headlineFor(store),
+                      .fills = true,
                       .contentGap = Measure::gap20,
                       .content = content_},
                      this)) {

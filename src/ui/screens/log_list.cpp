@@ -18,6 +18,8 @@ namespace velmora {
 
 namespace {
 
+constexpr int mostLines = 6; // of one notice
+
 QColor colorOf(Notice::Level level) {
     switch (level) {
     case Notice::Level::good:
@@ -41,6 +43,7 @@ public:
     LogRow(LogList::Rows kind, QWidget* parent)
         : QAbstractButton(parent), text_(new Text({}, Type::log, SB::body, this)) {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        text_->setMaximumLines(mostLines);
         if (kind == LogList::Rows::pressed)
             bePressed();
         else
@@ -100,6 +103,7 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
     if (notices == notices_)
         return;
     notices_ = notices;
+    column_->setEnabled(false); // or every row that comes lays out all of them
     while (rows_.size() < notices.size())
         addRow();
     for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -107,6 +111,8 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
         if (i < notices.size())
             rows_[i]->setNotice(notices[i]);
     }
+    column_->setEnabled(true);
+    column_->invalidate();
 }
 
 void LogList::addRow() {

@@ -62,8 +62,9 @@ void MapCard::paintEvent(QPaintEvent*) {
     const QRectF legend(0, height() - Measure::mapLegend + 4, width(), Measure::mapLegend - 4);
     double x = paintKey(painter, legend, 0, tr("Drone"), SB::dTeal, true);
     x = paintKey(painter, legend, x, tr("Visitor"), SB::lilac, false);
-    paintKey(painter, legend, x, tr("Camera view"), SB::softBlue, false);
-    drawText(painter, legend, buffer_, Type::legend, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
+    x = paintKey(painter, legend, x, tr("Camera view"), SB::softBlue, false);
+    if (x - Measure::gap8 + textWidth(buffer_, Type::legend) <= width())
+        drawText(painter, legend, buffer_, Type::legend, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
 }
 
 } // namespace velmora

@@ -72,6 +72,7 @@ public:
         column->setSpacing(0);
         column->addWidget(stale);
         column->addWidget(active);
+        body->setMinimumHeight(Measure::overviewMapMinimum + Measure::mapTitle + Measure::mapLegend);
         column->addWidget(body, 1);
         column->addWidget(strip);
     }
@@ -132,6 +133,7 @@ OverviewView::OverviewView(AppStore& store, QWidget* parent)
       page_(new Page({.eyebrow = tr("Overview"),
                       .headline = headlineFor(store),
                       .lede = ledeFor(store),
+                      .fills = true,
                       .contentGap = Measure::gap24,
                       .trailing = armSwitch_,
                       .content = content_},

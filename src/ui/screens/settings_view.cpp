@@ -66,7 +66,6 @@ SettingsView::SettingsView(AppStore& store, const Autostart& autostart, QWidget*
       page_(new Page({.eyebrow = tr("Settings"),
                       .headline = {tr("How the drone "), tr("behaves"), tr(".")},
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
-                      .scroll = true,
                       .width = Measure::settingsWidth,
                       .contentGap = Measure::gap20,
                       .content = buildForm()},
@@ -198,12 +197,12 @@ QWidget* SettingsView::buildRules() {
 
 QWidget* SettingsView::buildAbout() {
     QWidget* rows = block();
-    auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::secondary}, rows);
     columnOf(rows)->addWidget(
         new Text(tr("Velmora 1.0 · consumer app for the velmora framework"), Type::body, SB::body, rows));
     columnOf(rows)->addWidget(
         new Label2(tr("Set in Inter, used under the SIL Open Font License."), false, rows));
     startAtLogin_ = new Switch(tr("Start Velmora when I log in"), rows);
+    auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::secondary}, rows);
     auto* folder = new SBButton(tr("Open data folder"), {.kind = SBButtonKind::secondary}, rows);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Measure::gap8);

@@ -14,7 +14,7 @@ namespace velmora {
 namespace {
 
 const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
-constexpr int patienceForOldTray = 15'000; // milliseconds
+constexpr int patienceForOldTray = 60'000; // milliseconds
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
 QString iconFor(Phase phase) {

@@ -61,7 +61,13 @@ void Sidebar::addSections() {
 }
 
 void Sidebar::showSection() {
-    rows_[store_.section()]->setChecked(true);
+    // The tab key stops at the current one, the arrows go on from there.
+    for (const auto& [section, row] : rows_)
+        row->setFocusPolicy(section == store_.section() ? Qt::TabFocus : Qt::NoFocus);
+    SectionRow* current = rows_[store_.section()];
+    current->setChecked(true);
+    if (focusWidget() && focusWidget()->hasFocus() && focusWidget() != current)
+        current->setFocus(Qt::OtherFocusReason);
 }
 
 void Sidebar::showFlight() {

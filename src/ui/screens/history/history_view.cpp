@@ -86,7 +86,7 @@ QWidget* HistoryView::buildEmpty() {
         Type::confirmationBody, SB::body, empty);
     for (Text* text : {title, body}) {
         text->setAlignment(Qt::AlignHCenter);
-        text->setFixedWidth(Measure::emptyWidth);
+        text->setFixedSize(Measure::emptyWidth, text->heightForWidth(Measure::emptyWidth));
     }
     simulate_ = new SBButton(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary}, empty);
     connect(simulate_, &SBButton::clicked, this,

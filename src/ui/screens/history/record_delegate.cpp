@@ -17,7 +17,7 @@ namespace velmora {
 namespace {
 
 QString factsOf(const MissionRecord& record) {
-    QStringList facts{toQString(record.cameraName),
+    QStringList facts{isolated(toQString(record.cameraName)),
                       timeOfDay(record.start).chopped(3)}; // without the seconds
     if (lengthOf(record) >= 1)
         facts.append(duration(Seconds{lengthOf(record)}));

@@ -82,7 +82,7 @@ QWidget* RecordDetail::buildHeading(QWidget* parent) {
 
 void RecordDetail::setRecord(const MissionRecord& record) {
     record_ = record;
-    eyebrow_->setText(toQString(record.cameraName) + QStringLiteral(" · ") +
+    eyebrow_->setText(isolated(toQString(record.cameraName)) + QStringLiteral(" · ") +
                       dayAndTime(record.start, store_.now()));
     title_->setSentence(outcomeSentence(record.outcome));
     facts_->setRecord(record, store_.state().site, store_.settings());

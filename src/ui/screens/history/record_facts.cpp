@@ -129,7 +129,7 @@ void RecordFacts::setRecord(const MissionRecord& record, const Site& site, const
 
 void RecordFacts::showMetrics(const MissionRecord& record) {
     const Seconds length{lengthOf(record)};
-    duration_->setValue(clockTime(length), tr("min"));
+    duration_->setValue(clockTime(Seconds{std::round(length.count())}), tr("min"));
     if (flew(record.outcome)) {
         furthest_->setValue(rounded(record.maxDistanceFromPad), tr("m"));
         battery_->setValue(rounded(record.batteryUsed), tr("%"));

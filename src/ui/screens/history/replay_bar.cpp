@@ -12,6 +12,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -74,7 +76,7 @@ void ReplayBar::refresh() {
     play_->setIcon(playing ? Icon::pause : Icon::play, playing ? tr("Pause") : tr("Play"));
     slider_->show(player_.position());
     time_->setText(clockTime(Seconds{player_.position()}) + QStringLiteral(" / ") +
-                   clockTime(Seconds{player_.length()}));
+                   clockTime(Seconds{std::round(player_.length())}));
 }
 
 } // namespace velmora
