@@ -22,6 +22,12 @@ protected:
         state.missionId = id;
         serve(state);
     }
+    void namelessAlert(double begun) {
+        LiveState state = mission(Phase::awaitingApproval);
+        state.missionId.reset();
+        state.missionStart = now + Seconds{begun};
+        serve(state);
+    }
     QAbstractButton& button(const QString& name) {
         EXPECT_TRUE(waitUntil([&] { return shows(name); })) << name.toStdString();
         return *find<QAbstractButton>(name);
@@ -79,6 +85,16 @@ TEST_F(ApprovalGuardTest, AClickBegunForOneAlertDoesNotAnswerTheNext) {
     EXPECT_EQ(launches(), Missions());
     QTest::mouseRelease(&hold(launch), Qt::LeftButton);
     EXPECT_EQ(launches(), Missions({"M-2"}));
+}
+
+TEST_F(ApprovalGuardTest, AlertsOfAServerThatNamesNoMissionAreToldApartByTheirBeginning) {
+    window();
+    namelessAlert(-9);
+    QAbstractButton& pressed = hold(launch);
+    namelessAlert(-2);
+    outwaitGuard();
+    dragBackAndRelease(pressed);
+    EXPECT_EQ(launches(), Missions());
 }
 
 TEST_F(ApprovalGuardTest, AKeyHeldForOneAlertDoesNotAnswerTheNext) {

@@ -75,8 +75,8 @@ void ReplayBar::refresh() {
     const bool playing = player_.isPlaying();
     play_->setIcon(playing ? Icon::pause : Icon::play, playing ? tr("Pause") : tr("Play"));
     slider_->show(player_.position());
-    time_->setText(clockTime(Seconds{player_.position()}) + QStringLiteral(" / ") +
-                   clockTime(Seconds{std::round(player_.length())}));
+    const auto clock = [](double seconds) { return clockTime(Seconds{std::round(seconds)}); };
+    time_->setText(clock(player_.position()) + QStringLiteral(" / ") + clock(player_.length()));
 }
 
 } // namespace velmora
