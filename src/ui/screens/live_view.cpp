@@ -87,7 +87,7 @@ private:
     void lay() {
         stale->setGeometry(0, 0, width(), stale->height());
         const int room = height() - top();
-        const int widest = width() - Measure::gutter - Measure::railMinimum;
+        const int widest = std::max(width() - Measure::gutter - Measure::railMinimum, 0);
         const bool narrow = width() < Measure::narrowContent;
         card->setMinimumHeight(card->fitted(widest, 0, narrow).height());
         const QSize size = card->fitted(widest, room, narrow);
