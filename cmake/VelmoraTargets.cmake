@@ -56,7 +56,5 @@ function(velmora_tests name)
     gtest_discover_tests(velmora_${name}_tests
         TEST_PREFIX ${name}.
         DISCOVERY_TIMEOUT 60
-        PROPERTIES
-            TIMEOUT 120
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=1;UBSAN_OPTIONS=print_stacktrace=1")
+        PROPERTIES TIMEOUT 120)
 endfunction()
