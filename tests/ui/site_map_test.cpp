@@ -41,9 +41,13 @@ protected:
     QImage draw(double t = 0) const {
         QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
         image.fill(SB::navy);
+        QImage paths = image;
+        paths.fill(Qt::transparent);
+        QPainter onPaths(&paths);
+        drawPaths(onPaths, scene, canvas);
         QPainter painter(&image);
         drawGrounds(painter, scene, canvas);
-        drawPaths(painter, scene, canvas);
+        painter.drawImage(0, 0, paths);
         drawMovers(painter, scene, canvas, t);
         return image;
     }
@@ -130,6 +134,16 @@ TEST_F(MapPicture, ATrailOfOnePointDrawsNothing) {
         dashes += both.pixelColor(159, y).green() > 90;
     EXPECT_GT(dashes, 30); // round caps lengthen each of the ten
     EXPECT_LT(dashes, 75);
+}
+
+TEST_F(MapPicture, ALongTrailIsAsClearWhereItsPiecesMeet) {
+    see({130, 20}, "a");
+    scene.state.visitor->trail = {{5, 30.125}};
+    for (int metres = 6; metres < 120; ++metres)
+        scene.state.visitor->trail.push_back({double(metres), 30.125});
+    const QImage line = draw();
+    for (int x = 80; x < 440; ++x)
+        ASSERT_TRUE(isLike(line.pixelColor(x, 120), onNavy(SB::lilac, 0.55))) << x;
 }
 
 TEST_F(MapPicture, AReplayShowsItsPathsInsteadOfTheLiveOnes) {

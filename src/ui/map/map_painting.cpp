@@ -9,6 +9,7 @@
 #include "ui/words.h"
 
 #include <QCoreApplication>
+#include <QLineF>
 #include <QPainterPath>
 
 #include <cmath>
@@ -25,7 +26,7 @@ constexpr double visitorRadius = 5, pulseFrom = 6, pulseGrowth = 14;
 constexpr double markerRadius = 4;
 constexpr double altitudeOffset = 16, visitorLabelOffset = 10, markerLabelOffset = 8;
 constexpr double lastingPathWidth = 1.8;
-constexpr double longestPath = 24'000;
+constexpr double longestPath = 24'000, pathPiece = 200;
 
 QString tr(const char* text) {
     return QCoreApplication::translate("SiteMap", text);
@@ -184,14 +185,29 @@ private:
         painter_.fillPath(wedge, light);
     }
 
-    void drawPath(const std::vector<P>& path, const QPen& pen) {
+    /// Strokes a path piece by piece, because one stroke of a long tangle takes many times as long. A piece
+    /// replaces the end of the one before instead of darkening it.
+    void drawPath(const std::vector<P>& path, QPen pen) {
         if (path.size() < 2)
             return;
-        QPolygonF line;
-        for (auto point = path.begin() + newestPart(path); point != path.end(); ++point)
-            line.append(view_.map(*point));
-        painter_.setPen(pen);
-        painter_.drawPolyline(line);
+        painter_.setCompositionMode(QPainter::CompositionMode_Source);
+        QPolygonF piece;
+        double length = 0;
+        for (auto point = path.begin() + newestPart(path); point != path.end(); ++point) {
+            const QPointF at = view_.map(*point);
+            if (!piece.empty())
+                length += QLineF(piece.back(), at).length();
+            piece.append(at);
+            if (length < pathPiece && std::next(point) != path.end())
+                continue;
+            painter_.setPen(pen);
+            painter_.drawPolyline(piece);
+            if (pen.style() == Qt::CustomDashLine)
+                pen.setDashOffset(pen.dashOffset() + length / pen.widthF());
+            piece = {at};
+            length = 0;
+        }
+        painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
 
     /// Where the part of a path begins that is drawn. Longer ones cover the map until nothing can be told

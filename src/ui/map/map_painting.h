@@ -11,7 +11,7 @@ namespace velmora {
 void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
 /// The ways that drone and visitor came, or those of a finished mission with where they began and ended. They
-/// grow twice a second, so the map keeps them as a picture, too.
+/// grow twice a second, so the map keeps them as a picture, too: they are drawn on a transparent one.
 void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
 /// Drone and visitor, which a finished mission is without. `t` is the frame's time in seconds.

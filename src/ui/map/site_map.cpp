@@ -159,34 +159,43 @@ void SiteMap::hideEvent(QHideEvent*) {
     runOrRest();
 }
 
-QPixmap SiteMap::blank(double scale) const {
+QPixmap SiteMap::blank(double scale, const QColor& color) const {
     QPixmap picture(size() * scale);
     picture.setDevicePixelRatio(scale);
-    picture.fill(SB::navy);
+    picture.fill(color);
     return picture;
 }
 
 /// What of the two kept pictures is not as the scene any more.
 void SiteMap::drawStill() {
-    if (groundsStale_ || grounds_.size() != size() * devicePixelRatioF()) {
-        grounds_ = blank(devicePixelRatioF());
+    if (grounds_.size() != size() * devicePixelRatioF()) {
+        grounds_ = blank(devicePixelRatioF(), SB::navy);
+        paths_ = blank(devicePixelRatioF(), Qt::transparent);
+        groundsStale_ = true;
+    }
+    if (groundsStale_) {
         QPainter painter(&grounds_);
+        painter.fillRect(rect(), SB::navy);
         drawGrounds(painter, scene_, size());
         pathsStale_ = true;
     }
     if (pathsStale_) {
-        still_ = grounds_;
-        QPainter painter(&still_);
+        paths_.fill(Qt::transparent);
+        QPainter painter(&paths_);
         drawPaths(painter, scene_, size());
     }
     groundsStale_ = pathsStale_ = false;
 }
 
 QPixmap SiteMap::picture(int scale) const {
-    QPixmap picture = blank(scale);
+    QPixmap picture = blank(scale, SB::navy);
+    QPixmap paths = blank(scale, Qt::transparent);
+    QPainter onPaths(&paths);
+    drawPaths(onPaths, scene_, size());
+    onPaths.end();
     QPainter painter(&picture);
     drawGrounds(painter, scene_, size());
-    drawPaths(painter, scene_, size());
+    painter.drawPixmap(0, 0, paths);
     drawMovers(painter, scene_, size(), Motion::seconds());
     return picture;
 }
@@ -209,7 +218,8 @@ void SiteMap::paintEvent(QPaintEvent*) {
     if (freshness == Freshness::stale)
         painter.setOpacity(dimmedOpacity);
     drawStill();
-    fillRounded(still_);
+    fillRounded(grounds_);
+    fillRounded(paths_);
     QPainterPath corners;
     corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
     painter.setClipPath(corners, Qt::IntersectClip);

@@ -47,7 +47,7 @@ private:
     void showFrame();
     void describe();
     void drawStill();
-    QPixmap blank(double scale) const;
+    QPixmap blank(double scale, const QColor& color) const;
 
     MapScene scene_;
     Freshness freshness_ = Freshness::live;
@@ -58,7 +58,7 @@ private:
     bool groundsStale_ = true;
     bool pathsStale_ = true;
     QPixmap grounds_;
-    QPixmap still_; ///< the grounds with the paths on them
+    QPixmap paths_; ///< transparent but for the paths
     double describedAt_ = 0;
 };
 
