@@ -160,6 +160,23 @@ TEST_F(ApprovalGuardTest, NothingPressedWhileTheCardComesUpCounts) {
     EXPECT_EQ(launches(), Missions());
 }
 
+TEST_F(ApprovalGuardTest, TheCardOfAServerThatHeedsNoAnswerStepsAsideUntilTheNextAlert) {
+    window();
+    alert("M-1");
+    QTest::mouseRelease(&hold(launch), Qt::LeftButton);
+    for (int second = 0; second < 4; ++second) {
+        pass(1);
+        alert("M-1");
+    }
+    EXPECT_TRUE(shows(launch)) << "a command may be slow";
+    pass(2);
+    alert("M-1");
+    EXPECT_TRUE(waitUntil([&] { return !shows(launch); }));
+    EXPECT_TRUE(shows(offer));
+    alert("M-2");
+    EXPECT_TRUE(waitUntil([&] { return shows(launch); }));
+}
+
 TEST_F(ApprovalGuardTest, TheOverviewsButtonAnswersTheAlertThatItWasPressedFor) {
     window();
     alert("M-1");

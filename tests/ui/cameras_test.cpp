@@ -109,6 +109,10 @@ TEST_F(CamerasTest, CardsStayWhileTheirStateChangesAndFollowTheSite) {
     EXPECT_EQ(count("Online"), 2);
     QTest::mouseClick(theSwitch(people, "Gate"), Qt::LeftButton);
     EXPECT_TRUE(store().settings().alertPeople.at("gate"));
+
+    state.site.cameras.clear();
+    serve(state);
+    EXPECT_TRUE(shows("No cameras yet"));
 }
 
 } // namespace

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int guardedFor = 600;           // milliseconds
 constexpr int countdownEvery = 250;       // milliseconds
-constexpr int patienceWithAnswers = 5000; // milliseconds; a command may take three seconds
+constexpr double patienceWithAnswers = 5; // seconds; a command may take three
 
 QString titleFor(const CameraInfo* camera) {
     const QString place = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
@@ -45,8 +45,6 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, QWidget* window)
     guardTime_.setSingleShot(true);
     connect(&guardTime_, &QTimer::timeout, this, [this] { guard(false); });
     connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
-    patience_.setSingleShot(true);
-    connect(&patience_, &QTimer::timeout, this, &ApprovalOverlay::stepAside);
     connect(ignore_, &SBButton::clicked, this, [this] { answer(Command::ignore); });
     connect(launch_, &SBButton::clicked, this, [this] { answer(Command::approve); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
@@ -117,17 +115,19 @@ void ApprovalOverlay::followPhase() {
         store_.freshness() == Freshness::live; // nobody can be answered over a link that is down
     if (!known || store_.state().phase != Phase::awaitingApproval) {
         countdown_.stop();
-        patience_.stop();
+        answeredAt_.reset();
         unheeded_.reset();
         close();
         return;
     }
     refresh();
     const std::string alert = alertOf(store_.state());
+    if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > patienceWithAnswers)
+        stepAside();
     if (alert == unheeded_ || (isOpen() && alert == asked_))
         return;
     asked_ = alert;
-    patience_.stop();
+    answeredAt_.reset();
     const auto deadline = store_.state().approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
@@ -184,7 +184,7 @@ void ApprovalOverlay::answer(Command command) {
     if (!isOpen() || !isVisible() || guardTime_.isActive())
         return;
     beginGuard();
-    patience_.start(patienceWithAnswers);
+    answeredAt_ = store_.now();
     store_.send(command);
 }
 

@@ -49,8 +49,8 @@ private:
     SBButton* launch_;
     QTimer guardTime_;
     QTimer countdown_;
-    QTimer patience_;                     ///< until an answer should have had an effect
     std::optional<std::string> asked_;    ///< the alert that the card asks about
+    std::optional<Date> answeredAt_;      ///< when the owner last answered it
     std::optional<std::string> unheeded_; ///< an alert whose answer had no effect
     double wholeTime_ = 0;                ///< seconds that were left when the alert came
 };

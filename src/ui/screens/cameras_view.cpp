@@ -23,16 +23,17 @@ bool sameCameras(const std::vector<CameraInfo>& cameras, const std::vector<Camer
 class CamerasView::Grid : public QWidget {
 public:
     explicit Grid(QWidget* parent)
-        : QWidget(parent),
-          waiting_(new Text(CamerasView::tr("Waiting for velmora"), Type::emptyTitle, SB::ink, this)) {
-        waiting_->setGeometry(0, 0, Measure::cameraMinimum, static_cast<int>(Type::emptyTitle.line));
+        : QWidget(parent), noCamera_(new Text({}, Type::emptyTitle, SB::ink, this)) {
+        noCamera_->setGeometry(0, 0, Measure::camerasLedeWidth, static_cast<int>(Type::emptyTitle.line));
     }
 
     void show(AppStore& store) {
         static const std::vector<CameraInfo> unknown;
         const bool known = store.freshness() != Freshness::waiting;
-        waiting_->setVisible(!known);
         const auto& cameras = known ? store.state().site.cameras : unknown;
+        noCamera_->setText(known ? CamerasView::tr("No cameras yet")
+                                 : CamerasView::tr("Waiting for velmora"));
+        noCamera_->setVisible(cameras.empty());
         if (!sameCameras(cameras, cards_)) {
             for (CameraCard* card : cards_)
                 card->deleteLater();
@@ -53,7 +54,7 @@ public:
     int heightForWidth(int width) const override {
         const int rows = (static_cast<int>(cards_.size()) + columns(width) - 1) / columns(width);
         if (rows == 0)
-            return waiting_->height();
+            return noCamera_->height();
         return rows * cardHeight(width) + std::max(rows - 1, 0) * Measure::cameraRowGap;
     }
     QSize sizeHint() const override { return {Measure::cameraMinimum, heightForWidth(width())}; }
@@ -83,7 +84,7 @@ private:
         }
     }
 
-    Text* waiting_; ///< before the server has told of any camera
+    Text* noCamera_; ///< says why there are no cards
     std::vector<CameraCard*> cards_;
 };
 

@@ -34,6 +34,7 @@ SliderLine::SliderLine(const QString& label, const Range& range, QWidget* parent
 void SliderLine::show(double value) {
     const std::int64_t shown = whole(value);
     value_->setText(QString::number(shown) + ' ' + unit_);
+    slider_->setAccessibleDescription(value_->text());
     slider_->show(static_cast<int>(std::clamp<std::int64_t>(shown, slider_->minimum(), slider_->maximum())));
 }
 
