@@ -34,7 +34,7 @@ AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
         const auto reply =
             bus_.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService,
                                               QDBusConnectionInterface::DontAllowReplacement);
-        if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
+        if (reply.isValid() && reply.value() != QDBusConnectionInterface::ServiceRegistered)
             return hidden || handOver() ? Claim::handedOver : Claim::refused;
     }
     DataFiles::makeDirectory(QDir(dataDirectory));

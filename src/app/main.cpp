@@ -1,5 +1,6 @@
 #include "app/app.h"
 #include "app/quit_signals.h"
+#include "app/self_check.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
@@ -73,7 +74,8 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     const QuitSignals quitSignals; // before anything that a signal could leave behind
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
-    AppService service(QDBusConnection::sessionBus());
+    // A self-check run stands beside a Velmora that is open, which would be shown in its place.
+    AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
     switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden)) {
     case AppService::Claim::handedOver:
         return 0;

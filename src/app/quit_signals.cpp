@@ -26,7 +26,8 @@ void onSignal(int) {
 
 QuitSignals::QuitSignals() : notifier_(openPipe(), QSocketNotifier::Read) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(signal, onSignal);
+        if (std::signal(signal, onSignal) == SIG_IGN)
+            std::signal(signal, SIG_IGN); // as after nohup
     connect(&notifier_, &QSocketNotifier::activated, this, &QuitSignals::quitRequested);
 }
 

@@ -9,6 +9,7 @@ namespace velmora::SelfCheck {
 
 namespace {
 
+constexpr const char* directoryVariable = "VL_SNAPSHOT_DIR";
 constexpr QSize pictureSize(1360, 860);
 constexpr int mainWindowWidth = 600; // at least; menus and cards are narrower
 
@@ -68,10 +69,14 @@ private:
 
 } // namespace
 
+bool isRequested() {
+    return qEnvironmentVariableIsSet(directoryVariable);
+}
+
 void runIfRequested(AppStore& store) {
-    if (!qEnvironmentVariableIsSet("VL_SNAPSHOT_DIR"))
+    if (!isRequested())
         return;
-    const QDir directory(qEnvironmentVariable("VL_SNAPSHOT_DIR"));
+    const QDir directory(qEnvironmentVariable(directoryVariable));
     directory.mkpath(QStringLiteral("."));
 
     Timetable run(store, directory);

@@ -1,8 +1,7 @@
 #include "link/state_guard.h"
 
 #include "model/limits.h"
-
-#include <algorithm>
+#include "model/objection.h"
 
 namespace velmora {
 
@@ -20,54 +19,28 @@ inline constexpr std::size_t mostEntries<Notice> = 1000;
 template <>
 inline constexpr std::size_t mostEntries<CameraInfo> = 100;
 
-/// The place and the name of the first excess in a value; empty when there is none.
-template <class Value>
-std::string excess(const Value&) {
-    return {};
-}
-
-std::string excess(const std::string& text) {
-    return text.size() > longestText ? ": longer than " + std::to_string(longestText) + " bytes" : "";
-}
-
-template <Described Record>
-std::string excess(const Record& record);
-
-template <class Item>
-std::string excess(const std::vector<Item>& items) {
-    if (items.size() > mostEntries<Item>)
-        return ": more than " + std::to_string(mostEntries<Item>) + " entries";
-    for (std::size_t i = 0; i < items.size(); ++i)
-        if (const std::string found = excess(items[i]); !found.empty())
-            return '[' + std::to_string(i) + ']' + found;
-    return {};
-}
-
-template <class Item>
-std::string excess(const std::optional<Item>& item) {
-    return item ? excess(*item) : std::string();
-}
-
-template <Described Record>
-std::string excess(const Record& record) {
-    std::string found;
-    forEachField<Record>([&](const auto& field) {
-        if (!found.empty())
-            return;
-        const std::string place = excess(record.*(field.member));
-        if (!place.empty())
-            found = '.' + std::string(field.name) + place;
-    });
-    return found;
-}
+struct SizesAreModest {
+    template <class Value>
+    std::string operator()(const Value&) const {
+        return {};
+    }
+    std::string operator()(const std::string& text) const {
+        return text.size() > longestText ? "longer than " + std::to_string(longestText) + " bytes" : "";
+    }
+    template <class Item>
+    std::string operator()(const std::vector<Item>& items) const {
+        return items.size() > mostEntries<Item>
+                   ? "more than " + std::to_string(mostEntries<Item>) + " entries"
+                   : "";
+    }
+};
 
 } // namespace
 
 std::string troubleIn(const LiveState& state) {
     if (std::string misfit = unusableField(state); !misfit.empty())
         return misfit;
-    const std::string found = excess(state);
-    return found.empty() ? found : found.substr(1);
+    return firstObjection(state, SizesAreModest());
 }
 
 QString versionText(const QByteArray& header) {

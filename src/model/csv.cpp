@@ -46,12 +46,11 @@ void addLine(std::string& csv, std::initializer_list<std::string> fields) {
     csv += lineEnd;
 }
 
-void addPath(std::string& csv, const std::vector<P>& path, double from, const char* who) {
-    double seconds = from;
-    for (const P& point : path) {
-        addLine(csv, {numberText(seconds), who, numberText(point.x), numberText(point.y), {}});
-        seconds += secondsBetweenPathPoints;
-    }
+void addPath(std::string& csv, const std::vector<P>& path, double from, double interval, const char* who) {
+    double place = 0;
+    for (const P& point : path)
+        addLine(csv,
+                {numberText(from + interval * place++), who, numberText(point.x), numberText(point.y), {}});
 }
 
 } // namespace
@@ -59,11 +58,9 @@ void addPath(std::string& csv, const std::vector<P>& path, double from, const ch
 std::string pathsCsv(const MissionRecord& record) {
     std::string csv;
     addLine(csv, {"seconds", "who", "x", "y", "text"});
-    addPath(csv, record.visitorPath, 0, "visitor");
-    const double flown = record.dronePath.empty()
-                             ? 0
-                             : static_cast<double>(record.dronePath.size() - 1) * secondsBetweenPathPoints;
-    addPath(csv, record.dronePath, lengthOf(record) - flown, "drone");
+    const PathTimes times = pathTimes(record);
+    addPath(csv, record.visitorPath, 0, times.interval, "visitor");
+    addPath(csv, record.dronePath, times.droneFrom, times.interval, "drone");
     for (const Notice& notice : record.notices)
         addLine(csv,
                 {numberText((notice.time - record.start).count()), "notice", {}, {}, field(notice.text)});

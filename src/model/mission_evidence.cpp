@@ -26,21 +26,28 @@ bool tells(const Notice& notice, const StepText& step) {
     return step.anywhere ? place != std::string::npos : place == 0;
 }
 
-/// Distance from the nearest edge of the bounds; negative outside them.
-double distanceInside(const Bounds& bounds, P p) {
-    return std::min({p.x - bounds.minX, bounds.maxX - p.x, p.y - bounds.minY, bounds.maxY - p.y});
+const Notice* firstTelling(const MissionRecord& record, const StepText& step) {
+    const auto notice =
+        std::ranges::find_if(record.notices, [&](const Notice& candidate) { return tells(candidate, step); });
+    return notice == record.notices.end() ? nullptr : &*notice;
 }
 
-/// Seconds that a path of so many points covers.
-double spanOf(std::size_t points) {
-    return points == 0 ? 0 : static_cast<double>(points - 1) * secondsBetweenPathPoints;
+/// Seconds from point to point, by the path whose whole time is known. Points that are missing in it, or too
+/// many, say nothing about the rest.
+double intervalOf(const MissionRecord& record) {
+    constexpr double longest = 1.1 * pathInterval;
+    const Notice* approved = firstTelling(record, stepTexts.front());
+    const bool flown = !record.dronePath.empty() && approved;
+    const double seconds = flown ? (record.end - approved->time).count() : lengthOf(record);
+    const auto points = static_cast<double>(flown ? record.dronePath.size() : record.visitorPath.size());
+    return pathInterval * points <= seconds && seconds <= longest * points ? seconds / points : pathInterval;
 }
 
-/// Number of points, half a second apart from `first` on, that lie at or before the moment.
-std::size_t pointsUntil(double seconds, double first, std::size_t count) {
+/// Number of points from `first` on that lie at or before the moment.
+std::size_t pointsUntil(double seconds, double first, double interval, std::size_t count) {
     if (seconds < first)
         return 0;
-    const double whole = (seconds - first) / secondsBetweenPathPoints;
+    const double whole = (seconds - first) / interval;
     return whole >= static_cast<double>(count) ? count : std::min(count, static_cast<std::size_t>(whole) + 1);
 }
 
@@ -51,9 +58,7 @@ std::vector<ResponseMoment> responseTimeline(const MissionRecord& record) {
     for (const StepText& step : stepTexts) {
         if (moments.back().step == step.step)
             continue;
-        const auto notice = std::ranges::find_if(
-            record.notices, [&](const Notice& candidate) { return tells(candidate, step); });
-        if (notice != record.notices.end())
+        if (const Notice* notice = firstTelling(record, step))
             moments.push_back({step.step, notice->time});
     }
     moments.push_back({ResponseStep::ended, record.end});
@@ -65,12 +70,13 @@ std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, co
     if (!flew(record.outcome) || record.dronePath.empty())
         return std::nullopt;
     const Bounds bounds = boundsOf(site);
+    const double interval = intervalOf(record);
     BoundaryEvidence evidence{std::numeric_limits<double>::max(), 0};
     for (const P& point : record.dronePath) {
-        const double inside = distanceInside(bounds, point);
+        const double inside = bounds.distanceInside(point);
         evidence.leastDistance = std::min(evidence.leastDistance, inside);
         if (inside < buffer)
-            evidence.secondsInBuffer += secondsBetweenPathPoints;
+            evidence.secondsInBuffer += interval;
     }
     return evidence;
 }
@@ -79,11 +85,21 @@ double lengthOf(const MissionRecord& record) {
     return std::max((record.end - record.start).count(), 0.0);
 }
 
+PathTimes pathTimes(const MissionRecord& record) {
+    PathTimes times{intervalOf(record), 0, lengthOf(record)};
+    const auto spanOf = [&](const std::vector<P>& path) {
+        return path.empty() ? 0 : static_cast<double>(path.size() - 1) * times.interval;
+    };
+    times.visitorTo = spanOf(record.visitorPath);
+    times.droneFrom -= spanOf(record.dronePath);
+    return times;
+}
+
 MissionRecord cutAt(const MissionRecord& record, double seconds) {
     MissionRecord cut = record;
-    const double droneFrom = lengthOf(record) - spanOf(record.dronePath.size());
-    cut.visitorPath.resize(pointsUntil(seconds, 0, record.visitorPath.size()));
-    cut.dronePath.resize(pointsUntil(seconds, droneFrom, record.dronePath.size()));
+    const PathTimes times = pathTimes(record);
+    cut.visitorPath.resize(pointsUntil(seconds, 0, times.interval, record.visitorPath.size()));
+    cut.dronePath.resize(pointsUntil(seconds, times.droneFrom, times.interval, record.dronePath.size()));
     std::erase_if(cut.notices,
                   [&](const Notice& notice) { return (notice.time - record.start).count() > seconds; });
     if (seconds < lengthOf(record) && cut.outcome == Outcome::visitorLeft)
@@ -93,12 +109,10 @@ MissionRecord cutAt(const MissionRecord& record, double seconds) {
 }
 
 std::vector<Stretch> gapsOf(const MissionRecord& record) {
-    const double length = lengthOf(record);
-    const double visitorTo = record.visitorPath.empty() ? 0 : spanOf(record.visitorPath.size());
-    const double droneFrom = record.dronePath.empty() ? length : length - spanOf(record.dronePath.size());
-    if (droneFrom - visitorTo <= secondsBetweenPathPoints)
+    const PathTimes times = pathTimes(record);
+    if (times.droneFrom - times.visitorTo < 2 * times.interval)
         return {};
-    return {{visitorTo, std::min(droneFrom, length)}};
+    return {{times.visitorTo, std::min(times.droneFrom, lengthOf(record))}};
 }
 
 } // namespace velmora

@@ -7,9 +7,6 @@
 
 namespace velmora {
 
-/// Path points lie half a second apart: the visitor's from the mission's start, the drone's up to its end.
-inline constexpr double secondsBetweenPathPoints = 0.5;
-
 /// The steps of a response, in their order.
 enum class ResponseStep { seen, answered, airborne, onStation, comingHome, ended };
 
@@ -22,6 +19,15 @@ struct ResponseMoment {
 /// The steps that the record's notices tell of, from the detection to the end; a step that never happened is
 /// left out.
 std::vector<ResponseMoment> responseTimeline(const MissionRecord& record);
+
+/// When a record's path points were taken, in seconds after its start.
+struct PathTimes {
+    double interval = pathInterval; ///< from point to point; steps that come late stretch it by up to a tenth
+    double visitorTo = 0;           ///< the visitor's last; the first was taken at the start
+    double droneFrom = 0;           ///< the drone's first; the last was taken at the end
+};
+
+PathTimes pathTimes(const MissionRecord& record);
 
 /// How the drone kept to the boundary.
 struct BoundaryEvidence {

@@ -4,6 +4,9 @@
 
 namespace velmora {
 
+/// Path points are taken with the first step at or after this many seconds since the last.
+inline constexpr double pathInterval = 0.5;
+
 /// One finished mission, or a detection that was only logged.
 struct MissionRecord {
     std::string id; ///< not unique: two missions may share one
@@ -14,8 +17,8 @@ struct MissionRecord {
     std::string label;      ///< what the cameras called the visitor
     double confidence = 0;  ///< 0 to 1
     Outcome outcome = Outcome::visitorLeft;
-    std::vector<P> dronePath;      ///< sampled every half second
-    std::vector<P> visitorPath;    ///< sampled every half second
+    std::vector<P> dronePath;      ///< while airborne, so up to the end
+    std::vector<P> visitorPath;    ///< from the start
     double maxDistanceFromPad = 0; ///< metres
     double batteryUsed = 0;        ///< percentage points
     std::vector<Notice> notices;   ///< oldest first

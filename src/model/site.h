@@ -2,6 +2,7 @@
 
 #include "model/point.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,8 @@ struct Bounds {
 
     /// Edges included.
     bool contains(P p) const { return minX <= p.x && p.x <= maxX && minY <= p.y && p.y <= maxY; }
+    /// Metres from the nearest edge; negative outside.
+    double distanceInside(P p) const { return std::min({p.x - minX, maxX - p.x, p.y - minY, maxY - p.y}); }
 };
 
 inline Bounds boundsOf(const Site& site) {

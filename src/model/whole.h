@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 
 namespace velmora {
 
@@ -11,8 +10,8 @@ constexpr bool fitsWhole(double number) {
     return number >= -limit && number < limit;
 }
 
-/// The number truncated toward zero, as texts print it. Readers refuse documents with numbers that do not
-/// fit, so a misfit is a slip of ours; it is printed as 0 rather than left undefined.
+/// The number truncated toward zero, as texts print it. Settings and server states with numbers that do not
+/// fit are refused where they are read; one in a mission's record is printed as 0.
 constexpr std::int64_t whole(double number) {
     return fitsWhole(number) ? static_cast<std::int64_t>(number) : 0;
 }

@@ -12,7 +12,6 @@ namespace {
 constexpr double walkingSpeed = 1.45;     // m/s
 constexpr double patienceOutside = 6;     // seconds outside before a visitor counts as gone
 constexpr double batteryPerSecond = 0.09; // percent used in flight
-constexpr double sampleInterval = 0.5;    // seconds
 constexpr std::size_t trailLength = 160;  // samples
 
 void appendToTrail(std::vector<P>& trail, P p) {
@@ -140,7 +139,7 @@ void Simulator::stepTelemetry(double dt) {
 
 void Simulator::sample(double dt) {
     sampleClock_ += dt;
-    if (sampleClock_ < sampleInterval)
+    if (sampleClock_ < pathInterval)
         return;
     sampleClock_ = 0;
     if (airborne(state.phase)) {

@@ -18,6 +18,7 @@ constexpr double longestTick = 5;         // seconds; a longer gap, as after sle
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
 constexpr double pollInterval = 0.5;      // seconds
+constexpr double earlyTick = 0.005;       // seconds by which ten ticks may fall short of half a second
 constexpr double failingUntilStale = 2;   // seconds since the last good answer
 constexpr double silentUntilStale = 2.5;  // seconds since the last good answer
 
@@ -54,6 +55,7 @@ AppStore::AppStore(World world, QObject* parent)
     if (settings_.linkMode)
         linkStatus_ = LinkStatus::connecting();
     updateFreshness();
+    timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(tickInterval);
     connect(&timer_, &QTimer::timeout, this, &AppStore::tick);
 }
@@ -97,7 +99,7 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
 /// does not keep the server unasked for as long.
 void AppStore::advancePolling(double elapsed) {
     pollClock_ = std::max(pollClock_ + elapsed, -longestTick);
-    if (pollClock_ < pollInterval)
+    if (pollClock_ + earlyTick < pollInterval)
         return;
     pollClock_ = 0;
     if (!pollInFlight_)
@@ -163,7 +165,8 @@ void AppStore::send(Command command) {
 
 /// A server may replace the alert in the moment before the tick that withdraws its notification.
 void AppStore::answer(Command command, const QString& notification) {
-    if (state_.phase != Phase::awaitingApproval || notification == notificationIdentifier(state_))
+    const bool itsAlert = notification == notificationIdentifier(state_) && alertOf(state_) == lastAlert_;
+    if (freshness_ != Freshness::waiting && (state_.phase != Phase::awaitingApproval || itsAlert))
         send(command);
 }
 
@@ -190,6 +193,7 @@ void AppStore::applyLinkMode(bool linked) {
 void AppStore::forgetServer() {
     ++server_;
     heardAt_.reset();
+    world_.notifier.withdrawAll();
     if (settings_.linkMode)
         setLinkStatus(LinkStatus::connecting());
     updateFreshness();
@@ -235,9 +239,12 @@ void AppStore::removeRecord(std::size_t place) {
     historyEdited();
 }
 
-void AppStore::restoreRecord(std::size_t place, const MissionRecord& record) {
-    history_.insert(history_.begin() + static_cast<std::ptrdiff_t>(std::min(place, history_.size())), record);
+std::size_t AppStore::restoreRecord(const MissionRecord& record) {
+    const auto older = std::ranges::find_if(
+        history_, [&](const MissionRecord& other) { return other.start < record.start; });
+    const auto place = history_.insert(older, record) - history_.begin();
     historyEdited();
+    return static_cast<std::size_t>(place);
 }
 
 void AppStore::historyEdited() {

@@ -75,8 +75,8 @@ public:
     void clearDemoHistory();
     /// Removes one record by its place in the history.
     void removeRecord(std::size_t place);
-    /// Puts a removed record back where it was, or at the end of a history that is shorter now.
-    void restoreRecord(std::size_t place, const MissionRecord& record);
+    /// Puts a removed record back above the older ones; returns its place.
+    std::size_t restoreRecord(const MissionRecord& record);
 
 signals:
     void stateChanged();

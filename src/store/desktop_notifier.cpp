@@ -18,6 +18,7 @@ const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLit
               defaultAction = QStringLiteral("default");
 constexpr uchar criticalUrgency = 2;
 constexpr int neverExpires = 0;
+constexpr uint dismissedByUser = 2;    // a reason of NotificationClosed
 constexpr int quietAfterAnswer = 2000; // milliseconds
 
 QDBusMessage call(const QString& method) {
@@ -206,8 +207,15 @@ void DesktopNotifier::onActivationToken(uint id, const QString& token) {
         entry->second.token = token;
 }
 
-void DesktopNotifier::onNotificationClosed(uint id, uint) {
-    std::erase_if(posted_, [id](const auto& one) { return one.second.id == id; });
+/// Whoever dismisses an alert without an answer is shown the window.
+void DesktopNotifier::onNotificationClosed(uint id, uint reason) {
+    const auto entry = find(id);
+    if (entry == posted_.end())
+        return;
+    const Posted closed = entry->second;
+    posted_.erase(entry);
+    if (reason == dismissedByUser && closed.quiet.hasExpired())
+        emit windowRequested(closed.token);
 }
 
 } // namespace velmora

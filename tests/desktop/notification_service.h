@@ -39,6 +39,7 @@ public:
     }
 
     void invoke(uint id, const QString& action) { signal(QStringLiteral("ActionInvoked"), {id, action}); }
+    void dismiss(uint id, uint reason) { signal(QStringLiteral("NotificationClosed"), {id, reason}); }
     void giveToken(uint id, const QString& token) { signal(QStringLiteral("ActivationToken"), {id, token}); }
 
     void answerHeld() {

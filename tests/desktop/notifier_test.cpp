@@ -99,6 +99,18 @@ TEST_F(NotifierTest, AClickOnTheBodyOnlyAsksForTheWindow) {
     EXPECT_TRUE(answers.empty());
 }
 
+TEST_F(NotifierTest, WhoeverDismissesAnAlertUnansweredIsShownTheWindow) {
+    const uint answered = post("M-1").id, expired = post("M-2").id, dismissed = post("M-3").id;
+    service().invoke(answered, "IGNORE");
+    service().dismiss(answered, 2);
+    service().dismiss(expired, 1);
+    service().dismiss(dismissed, 2);
+    service().dismiss(dismissed, 2);
+    ASSERT_TRUE(waitUntil([&] { return !tokens.isEmpty(); }));
+    settle();
+    EXPECT_EQ(tokens.size(), 1);
+}
+
 TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
     const uint id = post().id;
     notifier.withdrawAll();

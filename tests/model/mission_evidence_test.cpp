@@ -128,6 +128,19 @@ TEST(MissionEvidence, ADroneThatFlewLongerThanTheRecordLastsIsCutWithoutFault) {
     EXPECT_THAT(gapsOf(record), IsEmpty());
 }
 
+TEST(MissionEvidence, PointsThatEachCameALittleLateReachFromTheStartToTheEnd) {
+    MissionRecord record = flight();
+    record.visitorPath = path(19); // 0.526 s apart
+    record.dronePath.clear();
+    EXPECT_THAT(gapsOf(record), IsEmpty());
+    EXPECT_EQ(pointsAt(record, 9), std::pair(18ul, 0ul));
+
+    record.dronePath = path(13); // 7 s after the approval
+    EXPECT_NEAR(pathTimes(record).interval, 0.538, 0.001);
+    EXPECT_NEAR(pathTimes(record).droneFrom, 3.538, 0.001);
+    EXPECT_EQ(pointsAt(record, 10), std::pair(19ul, 13ul));
+}
+
 TEST(MissionEvidence, AGapIsWhereNeitherPathHasPoints) {
     MissionRecord record = flight();
     ASSERT_EQ(gapsOf(record).size(), 1u);

@@ -234,6 +234,13 @@ TEST_F(ApprovalGuardTest, ANotificationAnswersOnlyItsOwnAlert) {
     EXPECT_EQ(launches(), Missions());
     store().answer(Command::approve, "M-2");
     EXPECT_EQ(launches(), Missions({"M-2"}));
+
+    namelessAlert(-9);
+    LiveState next = store().state();
+    next.missionStart = now;
+    LinkedUiTest::serve(next);
+    store().answer(Command::approve, "det"); // before the tick that notifies of the next one
+    EXPECT_EQ(launches(), Missions({"M-2"}));
 }
 
 } // namespace

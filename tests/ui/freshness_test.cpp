@@ -89,7 +89,7 @@ TEST_F(FreshnessTest, APictureIsOldAfterTwoSecondsOfRefusals) {
     fly(1.4);
     EXPECT_EQ(freshness(), Freshness::live) << "one refusal is no outage";
     refuse();
-    fly(0.1);
+    fly(0.15);
     EXPECT_EQ(freshness(), Freshness::stale);
     store().setSection(Section::live);
     settle();

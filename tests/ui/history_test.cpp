@@ -201,6 +201,15 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     EXPECT_TRUE(shows("You ignored the alert"));
     EXPECT_FALSE(shows("Undo"));
 
+    choose("You ignored");
+    press(Qt::Key_Delete);
+    visit(Scenario::driveway);
+    store().send(Command::ignore);
+    tickAfter(0.05);
+    click("Undo");
+    EXPECT_EQ(store().history()[2].id, "M-2") << "below a visit that has ended meanwhile";
+    store().removeRecord(0);
+
     click("Stayed docked");
     choose("You ignored");
     press(Qt::Key_Delete);
@@ -218,6 +227,16 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     click("Undo");
     EXPECT_EQ(onFile(), std::vector<std::string>{"M-1"}) << "the last one deleted";
     EXPECT_TRUE(shows("Visitor left your grounds"));
+}
+
+TEST_F(HistoryTest, TheDaysAreNamedAnewWhenAnotherHasBegun) {
+    look(four());
+    EXPECT_TRUE(rowOf("Today").isValid());
+    pass(86'400);
+    store().setSection(Section::overview);
+    store().setSection(Section::history);
+    EXPECT_TRUE(rowOf("Yesterday").isValid());
+    EXPECT_FALSE(rowOf("Today").isValid());
 }
 
 TEST_F(HistoryTest, OfTwoVisitsWithOneIdTheChosenOneIsMeant) {

@@ -54,6 +54,19 @@ TEST(LookTest, EveryFaceIsTheBundledOne) {
     EXPECT_EQ(widths.size(), 5U);
 }
 
+TEST(LookTest, OnlyDigitsStandInCellsOfTheirOwn) {
+    TextStyle plain{SBFont::Face::medium, 16, 24}, tabular = plain;
+    tabular.tabular = true;
+    EXPECT_EQ(textWidth("11:11", tabular), textWidth("00:00", tabular));
+    EXPECT_LT(textWidth("11:11", plain), textWidth("00:00", plain));
+    for (const char16_t* letters :
+         {u"\u05D7\u05E6\u05E8 2", u"\u0645\u062F\u062E\u0644 1", u"AVA To \U0001F6AA"}) {
+        const QString text = QString::fromUtf16(letters);
+        EXPECT_EQ(textWidth(text, tabular), textWidth(text, plain)) << text.toStdString();
+        EXPECT_EQ(inkOf(text, tabular, Qt::AlignLeft), inkOf(text, plain, Qt::AlignLeft));
+    }
+}
+
 TEST(LookTest, TrackingStandsBetweenLettersOnly) {
     TextStyle plain = spaced;
     plain.tracking = 0;

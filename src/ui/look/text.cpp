@@ -22,16 +22,29 @@ bool isAsciiDigit(QChar character) {
     return character >= '0' && character <= '9';
 }
 
-/// Every digit in a cell as wide as "0"; returns the width of the line.
+bool isRightToLeft(QChar character) {
+    return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
+}
+
+/// Scripts that run from right to left order digits and letters among themselves.
+bool isTabular(const QString& text, const TextStyle& style) {
+    return style.tabular && std::ranges::none_of(text, isRightToLeft);
+}
+
+/// Every digit in a cell as wide as "0", what stands between digits in one piece; returns the width of the
+/// line.
 template <class Draw>
 double layTabular(const QString& text, const TextStyle& style, const QFontMetricsF& metrics, Draw draw) {
     const double cell = metrics.horizontalAdvance(QStringLiteral("0"));
     double x = 0;
-    for (const QChar character : text) {
-        const double advance = metrics.horizontalAdvance(QString(character)); // with its tracking
-        const bool digit = isAsciiDigit(character);
-        draw(digit ? x + (cell - advance) / 2 : x, character);
+    for (auto from = text.begin(); from != text.end();) {
+        const bool digit = isAsciiDigit(*from);
+        const auto to = digit ? from + 1 : std::find_if(from, text.end(), isAsciiDigit);
+        const QString piece(from, to - from);
+        const double advance = metrics.horizontalAdvance(piece); // with its tracking
+        draw(digit ? x + (cell - advance) / 2 : x, piece);
         x += digit ? cell : advance;
+        from = to;
     }
     return text.isEmpty() ? 0 : x - style.tracking;
 }
@@ -40,8 +53,8 @@ double casedWidth(const QString& text, const TextStyle& style) {
     if (text.isEmpty())
         return 0;
     const QFontMetricsF metrics(fontOf(style));
-    if (style.tabular)
-        return layTabular(text, style, metrics, [](double, QChar) {});
+    if (isTabular(text, style))
+        return layTabular(text, style, metrics, [](double, const QString&) {});
     return metrics.horizontalAdvance(text) - style.tracking;
 }
 
@@ -126,12 +139,12 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
         top = rect.center().y() - style.line / 2;
 
     const double baseline = std::round(top + baselineOf(style));
-    if (!style.tabular) {
+    if (!isTabular(shown, style)) {
         drawRun(painter, {x, baseline}, shown, style, color);
         return;
     }
-    layTabular(shown, style, QFontMetricsF(fontOf(style)), [&](double offset, QChar character) {
-        drawRun(painter, {x + offset, baseline}, character, style, color);
+    layTabular(shown, style, QFontMetricsF(fontOf(style)), [&](double offset, const QString& piece) {
+        drawRun(painter, {x + offset, baseline}, piece, style, color);
     });
 }
 

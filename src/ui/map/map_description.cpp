@@ -14,11 +14,6 @@ QString tr(const char* text) {
     return QCoreApplication::translate("SiteMap", text);
 }
 
-/// Metres from a point inside the bounds to their nearest edge.
-double toBoundary(const Bounds& bounds, P p) {
-    return std::min({p.x - bounds.minX, bounds.maxX - p.x, p.y - bounds.minY, bounds.maxY - p.y});
-}
-
 QString describeReplay(const MissionRecord& record) {
     if (record.visitorPath.empty())
         return tr("Replay: nobody was tracked.");
@@ -34,14 +29,15 @@ QString describeDrone(const LiveState& state) {
     const DroneState& drone = state.drone;
     return tr("The drone is at %1 m height, %2 m from its pad and %3 m from the boundary.")
         .arg(rounded(drone.altitude), rounded(distance(drone.pos, state.site.pad)),
-             rounded(std::max(toBoundary(boundsOf(state.site), drone.pos), 0.0)));
+             rounded(std::max(boundsOf(state.site).distanceInside(drone.pos), 0.0)));
 }
 
 QString describeVisitor(const Visitor& visitor, const LiveState& state) {
     const Bounds bounds = boundsOf(state.site);
-    const QString where = bounds.contains(visitor.pos)
-                              ? tr("%1 m inside the boundary").arg(rounded(toBoundary(bounds, visitor.pos)))
-                              : tr("outside the boundary");
+    const QString where =
+        bounds.contains(visitor.pos)
+            ? tr("%1 m inside the boundary").arg(rounded(bounds.distanceInside(visitor.pos)))
+            : tr("outside the boundary");
     const QString label = visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label);
     return tr("%1 is %2 m from the drone, %3.")
         .arg(label, rounded(distance(visitor.pos, state.drone.pos)), where);

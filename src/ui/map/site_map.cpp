@@ -144,7 +144,7 @@ void SiteMap::timerEvent(QTimerEvent*) {
 
 /// Asks for the moving parts only, where they were and where they are.
 void SiteMap::showFrame() {
-    const QRectF area = liveArea(scene_, size());
+    const QRectF area = liveArea(scene_, size()) & QRectF(rect());
     update((area | shownArea_).toAlignedRect());
     shownArea_ = area;
 }

@@ -179,9 +179,9 @@ void ApprovalOverlay::guard(bool guarded) {
     launch_->setGuarded(guarded);
 }
 
-/// The second click of a double one finds the guard again.
+/// The second click of a double one finds the guard again. The menu answers also while the card is away.
 void ApprovalOverlay::answer(Command command) {
-    if (!isOpen() || !isVisible() || guardTime_.isActive())
+    if (isOpen() && (!isVisible() || guardTime_.isActive()))
         return;
     beginGuard();
     answeredAt_ = store_.now();

@@ -76,9 +76,8 @@ void CommandMenus::refresh() {
     const auto alert = waitingAlert(store_);
     if (std::exchange(alert_, alert) != alert && alert)
         closeMenus();
-    const bool waits = alert && store_.freshness() == Freshness::live;
-    approve_->setEnabled(waits);
-    ignore_->setEnabled(waits);
+    approve_->setEnabled(alert.has_value());
+    ignore_->setEnabled(alert.has_value());
 }
 
 } // namespace velmora

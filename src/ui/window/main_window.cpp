@@ -20,6 +20,7 @@
 #include "ui/window/title_strip.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -59,11 +60,18 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
     connect(clearing_, &ConfirmationCard::confirmed, &store_, &AppStore::clearDemoHistory);
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
-    connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    connect(&store_, &AppStore::attentionRequested, this, &MainWindow::makeWayForAlert);
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     showSection();
     showWelcome();
     showCover();
+}
+
+/// Nothing may lie over an alert.
+void MainWindow::makeWayForAlert() {
+    for (QDialog* dialog : findChildren<QDialog*>())
+        dialog->reject();
+    QApplication::alert(this);
 }
 
 void MainWindow::buildSections() {

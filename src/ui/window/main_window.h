@@ -36,6 +36,7 @@ private:
     void layOut();
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
+    void makeWayForAlert();
     void showSection();
     void showWelcome();
     void askToClearDemo();

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 
@@ -200,6 +201,7 @@ void HistoryList::refresh() {
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
+    model_->followDay();
     showFilters();
     showCount();
     const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo);
@@ -234,8 +236,8 @@ void HistoryList::takeFocus() {
     records_->setFocus(Qt::OtherFocusReason);
 }
 
-void HistoryList::offerUndo(std::size_t place, const MissionRecord& record) {
-    deleted_ = {place, record};
+void HistoryList::offerUndo(const MissionRecord& record) {
+    deleted_ = record;
     undoTime_.start();
     refresh();
 }
@@ -243,11 +245,9 @@ void HistoryList::offerUndo(std::size_t place, const MissionRecord& record) {
 void HistoryList::undo() {
     if (!deleted_)
         return;
-    const auto [place, record] = *deleted_;
-    deleted_.reset();
+    const MissionRecord record = *std::exchange(deleted_, std::nullopt);
     undoTime_.stop();
-    store_.restoreRecord(place, record);
-    emit selected(place);
+    emit selected(store_.restoreRecord(record));
 }
 
 bool HistoryList::handleListKey(int key) {

@@ -34,7 +34,7 @@ public:
     /// Gives the records the keyboard.
     void takeFocus();
     /// Keeps a deleted record for a while, so that it can be put back.
-    void offerUndo(std::size_t place, const MissionRecord& record);
+    void offerUndo(const MissionRecord& record);
 
 signals:
     void selected(std::size_t place);
@@ -77,7 +77,7 @@ private:
     SBButton* clearDemo_;
     QWidget* undoLine_;
     QTimer undoTime_;
-    std::optional<std::pair<std::size_t, MissionRecord>> deleted_;
+    std::optional<MissionRecord> deleted_;
     std::optional<std::size_t> chosen_; ///< place of the marked record, also while a filter hides it
     QStringList cameras_;               ///< names to choose from
     bool showing_ = false;              ///< a selection that is shown, not made by the owner

@@ -20,12 +20,18 @@ void HistoryModel::setFilter(const HistoryFilter& filter) {
     rebuild();
 }
 
+void HistoryModel::followDay() {
+    if (dayName(namedAt_, store_.now()) != dayName(store_.now(), store_.now()))
+        rebuild();
+}
+
 void HistoryModel::rebuild() {
     beginResetModel();
     rows_.clear();
     shown_.clear();
     const auto& history = store_.history();
     const Date now = store_.now();
+    namedAt_ = now;
     QString day;
     for (std::size_t place = 0; place < history.size(); ++place) {
         if (!filter_.matches(history[place]))

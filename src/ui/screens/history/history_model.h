@@ -27,6 +27,9 @@ public:
     const HistoryFilter& filter() const { return filter_; }
     void setFilter(const HistoryFilter& filter);
 
+    /// Names the days anew when another one has begun.
+    void followDay();
+
     /// Places in the store's history of the records shown, in order.
     const std::vector<std::size_t>& shown() const { return shown_; }
     /// Place in the store's history; absent for a caption.
@@ -34,7 +37,6 @@ public:
     QModelIndex indexOf(std::size_t place) const;
     /// The record in a row; null for a caption.
     const MissionRecord* recordAt(const QModelIndex& index) const;
-    Date now() const { return store_.now(); }
 
 private:
     struct Row {
@@ -46,6 +48,7 @@ private:
 
     AppStore& store_;
     HistoryFilter filter_;
+    Date namedAt_; ///< when the days were named
     std::vector<Row> rows_;
     std::vector<std::size_t> shown_;
 };

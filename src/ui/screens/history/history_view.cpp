@@ -13,7 +13,6 @@
 #include "ui/words.h"
 
 #include <QBuffer>
-#include <QDialog>
 #include <QMenu>
 #include <QVBoxLayout>
 
@@ -63,14 +62,9 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     });
     connect(&store_, &AppStore::historyChanged, this, &HistoryView::refresh);
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::chooseSelectedRecord);
-    connect(&store_, &AppStore::stateChanged, this, [this] {
-        if (store_.state().phase != Phase::awaitingApproval)
-            return;
-        detail_->pause();
-        for (QDialog* dialog : window()->findChildren<QDialog*>())
-            dialog->reject(); // nothing may lie over the alert
-    });
+    connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
+    connect(&everyMinute_, &QTimer::timeout, list_, &HistoryList::refresh);
     refresh();
 }
 
@@ -169,7 +163,7 @@ void HistoryView::remove(std::size_t place) {
     detail_->setRecord(*chosen_);
     store_.setSelectedRecord(chosen_->id);
     store_.removeRecord(place);
-    list_->offerUndo(place, record);
+    list_->offerUndo(record);
 }
 
 void HistoryView::offerExports(QPoint below) {
@@ -210,7 +204,12 @@ void HistoryView::resizeEvent(QResizeEvent*) {
 
 void HistoryView::showEvent(QShowEvent*) {
     refresh();
+    everyMinute_.start(std::chrono::minutes(1));
     list_->takeFocus();
+}
+
+void HistoryView::hideEvent(QHideEvent*) {
+    everyMinute_.stop();
 }
 
 } // namespace velmora

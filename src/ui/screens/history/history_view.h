@@ -2,6 +2,7 @@
 
 #include "store/app_store.h"
 
+#include <QTimer>
 #include <QWidget>
 
 namespace velmora {
@@ -29,6 +30,7 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* buildEmpty();
@@ -45,6 +47,7 @@ private:
     RecordDetail* detail_;
     SBButton* simulate_ = nullptr;
     QWidget* empty_;
+    QTimer everyMinute_;                  ///< while shown: another day may have begun
     std::optional<MissionRecord> chosen_; ///< ids are not unique, so the whole record tells which
 };
 

@@ -23,13 +23,13 @@ ReplaySlider::ReplaySlider(QWidget* parent) : QAbstractSlider(parent) {
     setPageStep(10);
     FocusRing::setLook(this, {Measure::buttonRadius});
     connect(this, &QAbstractSlider::valueChanged, this,
-            [this](int steps) { emit moved(std::min(steps * secondsBetweenPathPoints, length_)); });
+            [this](int steps) { emit moved(std::min(steps * pathInterval, length_)); });
 }
 
 void ReplaySlider::setRecord(const MissionRecord& record) {
     const QSignalBlocker silently(this);
     length_ = lengthOf(record);
-    setRange(0, static_cast<int>(std::ceil(length_ / secondsBetweenPathPoints)));
+    setRange(0, static_cast<int>(std::ceil(length_ / pathInterval)));
     gaps_ = gapsOf(record);
     marks_.clear();
     for (const Notice& notice : record.notices)
@@ -42,7 +42,7 @@ void ReplaySlider::show(double seconds) {
         return;
     const QSignalBlocker silently(this);
     shown_ = seconds;
-    setValue(static_cast<int>(std::lround(seconds / secondsBetweenPathPoints)));
+    setValue(static_cast<int>(std::lround(seconds / pathInterval)));
     update();
 }
 
@@ -53,7 +53,7 @@ double ReplaySlider::xOf(double seconds) const {
 
 void ReplaySlider::moveTo(double x) {
     const double share = (x - Measure::replayThumb / 2) / std::max(width() - Measure::replayThumb, 1.0);
-    setValue(static_cast<int>(std::lround(std::clamp(share, 0.0, 1.0) * length_ / secondsBetweenPathPoints)));
+    setValue(static_cast<int>(std::lround(std::clamp(share, 0.0, 1.0) * length_ / pathInterval)));
 }
 
 void ReplaySlider::mousePressEvent(QMouseEvent* event) {
