@@ -20,7 +20,7 @@ RadioChoice::RadioChoice(const QString& text, QWidget* parent) : QRadioButton(te
 }
 
 QSize RadioChoice::sizeHint() const {
-    const double width = Measure::radioCircle + Measure::radioGap + textWidth(text(), Type::body);
+    const double width = Measure::radioCircle + Measure::radioGap + textWidth(text(), Type::compactRow);
     return {static_cast<int>(std::ceil(width)) + 1, Measure::radioRow};
 }
 
@@ -42,7 +42,7 @@ void RadioChoice::paintEvent(QPaintEvent*) {
         painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
     }
     const QRectF words(circle.right() + Measure::radioGap, 0, width(), height());
-    drawText(painter, words, text(), Type::body, SB::ink, Qt::AlignVCenter);
+    drawText(painter, words, text(), Type::compactRow, SB::ink, Qt::AlignVCenter);
 }
 
 /// One option of a segmented choice.
@@ -54,7 +54,7 @@ public:
         setCheckable(true);
         setAutoExclusive(true);
         setFocusPolicy(Qt::StrongFocus);
-        FocusRing::setLook(this, {Measure::thumbnailRadius});
+        FocusRing::setLook(this, {.radius = Measure::buttonRadius, .roundParent = true});
     }
 
     QSize sizeHint() const override {

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
+#include <QScrollArea>
 
 namespace velmora {
 
@@ -46,6 +47,8 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(watched);
     if (!widget || widget == this)
         return false;
+    if (event->type() == QEvent::KeyPress)
+        jumps_ = false; // what the focus does now is the owner's doing
     if (event->type() == QEvent::FocusIn && widget->window() == window()) {
         const auto look = lookOf(widget);
         if (look && (look->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !jumps_)))
@@ -54,7 +57,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
             unfollow();
     } else if (event->type() == QEvent::FocusOut) {
         jumps_ = !widget->isVisible();
-        if (widget == target_)
+        if (watched_.contains(widget))
             unfollow();
     } else if (target_ && moves(event->type()) && watched_.contains(widget)) {
         place();
@@ -63,8 +66,11 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FocusRing::follow(QWidget* widget, const Look& look) {
-    target_ = widget;
+    target_ = look.roundParent ? widget->parentWidget() : widget;
     look_ = look;
+    for (QWidget* one = widget->parentWidget(); one; one = one->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(one))
+            area->ensureWidgetVisible(target_, 0, Measure::gap28); // clear of a fade at the end
     watched_.clear();
     for (QWidget* one = widget; one && one != window(); one = one->parentWidget())
         watched_.append(one);

@@ -16,8 +16,9 @@ public:
     /// How the ring fits a widget.
     struct Look {
         double radius = 0;
-        bool dark = false;  ///< on a navy surface
-        bool field = false; ///< a text field: a halo at its border, whatever moved the focus
+        bool dark = false;        ///< on a navy surface
+        bool field = false;       ///< a text field: a halo at its border, whatever moved the focus
+        bool roundParent = false; ///< one part of a control that is ringed as a whole
     };
 
     /// A widget without a look gets no ring.

@@ -22,8 +22,7 @@ LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(p
 }
 
 QSize LinkButton::sizeHint() const {
-    return {static_cast<int>(std::ceil(textWidth(text(), Type::link))) + 1,
-            static_cast<int>(Type::link.line)};
+    return {static_cast<int>(std::ceil(textWidth(text(), Type::link))), static_cast<int>(Type::link.line)};
 }
 
 void LinkButton::paintEvent(QPaintEvent*) {

@@ -56,9 +56,11 @@ void Metric::paintEvent(QPaintEvent*) {
     QRectF row(0, 0, width(), Type::caption.line);
     drawText(painter, row, label_, Type::caption, quiet, Qt::AlignLeft);
     row = QRectF(0, row.bottom() + Measure::metricGap, width(), style_.line);
-    drawText(painter, row, value_, style_, tint_.value_or(plain), Qt::AlignLeft);
-    const double sharedBaseline = baselineOf(style_) - baselineOf(Type::unit);
-    row.adjust(textWidth(value_, style_) + Measure::unitGap, sharedBaseline, 0, 0);
+    const TextStyle& style = textWidth(value_, style_) > width() ? Type::metric : style_;
+    row.translate(0, baselineOf(style_) - baselineOf(style));
+    drawText(painter, row, value_, style, tint_.value_or(plain), Qt::AlignLeft);
+    const double sharedBaseline = baselineOf(style) - baselineOf(Type::unit);
+    row.adjust(textWidth(value_, style) + Measure::unitGap, sharedBaseline, 0, 0);
     drawText(painter, row, unit_, Type::unit, tint_.value_or(quiet), Qt::AlignLeft);
 }
 

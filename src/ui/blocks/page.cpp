@@ -59,6 +59,10 @@ QWidget* Page::buildHeading(const Parts& parts) {
     return heading;
 }
 
+void Page::showTop() {
+    area_->verticalScrollBar()->setValue(0);
+}
+
 void Page::setHeadline(const Sentence& headline) {
     headline_->setSentence(headline);
 }

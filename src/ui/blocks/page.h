@@ -6,6 +6,7 @@
 
 namespace velmora {
 
+class ScrollArea;
 class Text;
 
 /// The frame of a section's screen: eyebrow, headline, optional lede, something beside the heading, then the
@@ -29,6 +30,7 @@ public:
 
     Page(const Parts& parts, QWidget* parent);
 
+    void showTop();
     void setHeadline(const Sentence& headline);
     void setLede(const QString& lede);
     /// Whether anyone can see it: a minimised window's widgets stay visible.
@@ -41,7 +43,7 @@ private:
     QWidget* buildHeading(const Parts& parts);
 
     Headline* headline_;
-    QWidget* area_;
+    ScrollArea* area_;
     Text* lede_ = nullptr;
 };
 

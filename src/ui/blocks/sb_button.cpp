@@ -100,7 +100,9 @@ void SBButton::forgetPress() {
 }
 
 QSize SBButton::sizeHint() const {
-    const int padding = style_.large ? Measure::buttonPaddingLarge : Measure::buttonPadding;
+    const int padding = style_.large                         ? Measure::buttonPaddingLarge
+                        : style_.kind == SBButtonKind::quiet ? Measure::buttonPaddingQuiet
+                                                             : Measure::buttonPadding;
     double width = 2.0 * padding + 2 + textWidth(text(), textStyleOf(style_));
     if (style_.icon)
         width += Measure::buttonIcon + Measure::gap8;

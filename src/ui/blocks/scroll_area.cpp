@@ -1,5 +1,6 @@
 #include "ui/blocks/scroll_area.h"
 
+#include "ui/blocks/focus_ring.h"
 #include "ui/blocks/overlay_scroll_bar.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -45,6 +46,12 @@ ScrollArea::ScrollArea(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     viewport()->setAutoFillBackground(false);
     viewport()->installEventFilter(this);
+}
+
+void ScrollArea::letKeysScroll() {
+    FocusRing::setLook(this, {Measure::badgeRadius});
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int, int end) { setFocusPolicy(end > 0 ? Qt::TabFocus : Qt::NoFocus); });
 }
 
 void ScrollArea::setFade(int pixels) {

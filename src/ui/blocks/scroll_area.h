@@ -17,6 +17,8 @@ public:
 
     /// Height over which the end fades into the page while more follows, pixels; 0 for none.
     void setFade(int pixels);
+    /// While there is more than fits, the tab key stops here and the arrows scroll.
+    void letKeysScroll();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -49,7 +49,6 @@ inline constexpr int droneBadgeRow = 68;
 inline constexpr int droneBadgeCircle = 36;
 inline constexpr int droneBadgeIcon = 24;
 inline constexpr QSize batteryBar(44, 4);
-inline constexpr int linkDot = 8;
 inline constexpr int linkGap = 10;
 
 // Pages
@@ -60,7 +59,7 @@ inline constexpr int gutter = 32;
 
 // Building blocks
 inline constexpr int buttonHeight = 36, buttonHeightLarge = 40;
-inline constexpr int buttonPadding = 16, buttonPaddingLarge = 20;
+inline constexpr int buttonPadding = 16, buttonPaddingLarge = 20, buttonPaddingQuiet = 12;
 inline constexpr int buttonIcon = 16;
 inline constexpr int metricGap = 6;
 inline constexpr int unitGap = 3;
@@ -90,7 +89,9 @@ inline constexpr int activityRow = 40, activityDotX = 3, activityTitleX = 18;
 // Live flight
 inline constexpr int railMinimum = 288, railMaximum = 480;
 inline constexpr int mapMinimumHeight = 280;
-inline constexpr int narrowContent = 900; // below it the telemetry takes two rows
+inline constexpr int liveCardMinimum = 480; // under which the telemetry is cut
+inline constexpr int narrowContent = 900;   // below it the telemetry takes two rows, as in a card below
+inline constexpr int wideTelemetry = 560;
 inline constexpr int noteRow = 47;
 inline constexpr int cardInset = 20;
 inline constexpr int telemetry = 106, telemetryNarrow = 146;
@@ -113,15 +114,16 @@ inline constexpr int logFade = 24;
 // Overview
 inline constexpr int overviewRailMinimum = 320;
 inline constexpr int overviewMapMinimum = 290;
+inline constexpr int mapCardMinimum = 450; // under which the legend is cut
 inline constexpr int mapTitle = 32, mapLegend = 36;
 inline constexpr int legendSample = 22, legendGap = 8;
 inline constexpr int statusStripTop = 16, statusStripCell = 76, cellPadding = 20;
 inline constexpr QSize dronePicture(84, 56), dronePictureNarrow(54, 36);
 inline constexpr int activityRows = 5;
 inline constexpr int bannerHeight = 48;
-inline constexpr QMargins bannerMargins(20, 0, 8, 0);
-inline constexpr QMargins armSwitchMargins(20, 12, 12, 12);
-inline constexpr QMargins staleMargins(20, 12, 8, 12);
+inline constexpr QMargins bannerMargins(14, 0, 8, 0); // 20 but for the halo of the dot
+inline constexpr QMargins armSwitchMargins(14, 12, 12, 12);
+inline constexpr QMargins staleMargins(20, 12, 12, 12);
 
 // Cameras
 inline constexpr int camerasLedeWidth = 680;
@@ -139,7 +141,6 @@ inline constexpr QSize thumbnail(36, 24);
 inline constexpr int chevron = 14;
 inline constexpr int menuButtonMinimum = 60;
 inline constexpr double menuText = 320; // longer options are elided
-inline constexpr int historyFoot = 60;
 inline constexpr int undoSeconds = 10;
 inline constexpr int detailLeft = 32, detailRight = 40;
 inline constexpr int detailLog = 138; // that the replay map leaves for the log

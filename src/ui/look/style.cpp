@@ -45,7 +45,8 @@ std::pair<QString, QString> textAndShortcut(const QStyleOptionMenuItem& item) {
 void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     const QRectF row = QRectF(item.rect).adjusted(Measure::menuRowInset, 0, -Measure::menuRowInset, 0);
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
-        painter.fillRect(QRectF(item.rect.left(), std::floor(row.center().y()), item.rect.width(), 1),
+        painter.fillRect(QRectF(item.rect.left() + Measure::menuPadding, std::floor(row.center().y()),
+                                item.rect.width() - 2 * Measure::menuPadding, 1),
                          SB::rule2);
         return;
     }

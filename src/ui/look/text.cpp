@@ -13,6 +13,27 @@ namespace velmora {
 namespace {
 
 constexpr double fitTolerance = 0.5; // pixels by which a measured text may exceed its own width
+constexpr double enlarged = 8; // Qt rounds fonts to whole pixels, so texts are laid out this much larger
+
+QFont enlargedFontOf(const TextStyle& style) {
+    QFont font = SBFont::font(style.face, style.size * enlarged);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * enlarged);
+    return font;
+}
+
+/// Widths of texts in a style, pixels.
+class Ruler {
+public:
+    explicit Ruler(const TextStyle& style) : metrics_(enlargedFontOf(style)) {}
+
+    double advance(const QString& text) const { return metrics_.horizontalAdvance(text) / enlarged; }
+    QString elided(const QString& text, double width) const {
+        return metrics_.elidedText(text, Qt::ElideRight, std::max(width, 0.0) * enlarged);
+    }
+
+private:
+    QFontMetricsF metrics_;
+};
 
 QString cased(const QString& text, const TextStyle& style) {
     return style.upperCase ? text.toUpper() : text;
@@ -34,14 +55,15 @@ bool isTabular(const QString& text, const TextStyle& style) {
 /// Every digit in a cell as wide as "0", what stands between digits in one piece; returns the width of the
 /// line.
 template <class Draw>
-double layTabular(const QString& text, const TextStyle& style, const QFontMetricsF& metrics, Draw draw) {
-    const double cell = metrics.horizontalAdvance(QStringLiteral("0"));
+double layTabular(const QString& text, const TextStyle& style, Draw draw) {
+    const Ruler ruler(style);
+    const double cell = ruler.advance(QStringLiteral("0"));
     double x = 0;
     for (auto from = text.begin(); from != text.end();) {
         const bool digit = isAsciiDigit(*from);
         const auto to = digit ? from + 1 : std::find_if(from, text.end(), isAsciiDigit);
         const QString piece(from, to - from);
-        const double advance = metrics.horizontalAdvance(piece); // with its tracking
+        const double advance = ruler.advance(piece); // with its tracking
         draw(digit ? x + (cell - advance) / 2 : x, piece);
         x += digit ? cell : advance;
         from = to;
@@ -52,16 +74,15 @@ double layTabular(const QString& text, const TextStyle& style, const QFontMetric
 double casedWidth(const QString& text, const TextStyle& style) {
     if (text.isEmpty())
         return 0;
-    const QFontMetricsF metrics(fontOf(style));
     if (isTabular(text, style))
-        return layTabular(text, style, metrics, [](double, const QString&) {});
-    return metrics.horizontalAdvance(text) - style.tracking;
+        return layTabular(text, style, [](double, const QString&) {});
+    return Ruler(style).advance(text) - style.tracking;
 }
 
 QString casedElided(const QString& text, const TextStyle& style, double width) {
     if (casedWidth(text, style) <= width + fitTolerance)
         return text;
-    return QFontMetricsF(fontOf(style)).elidedText(text, Qt::ElideRight, std::max(width, 0.0));
+    return Ruler(style).elided(text, width);
 }
 
 /// Emoji are pictures without outlines.
@@ -103,7 +124,8 @@ QPainterPath outlinesOf(const QString& text, const TextStyle& style) {
         return *known;
     QPainterPath outlines;
     outlines.setFillRule(Qt::WindingFill);
-    outlines.addText({}, fontOf(style), text);
+    outlines.addText({}, enlargedFontOf(style), text);
+    outlines = QTransform::fromScale(1 / enlarged, 1 / enlarged).map(outlines);
     cache.insert(key, new QPainterPath(outlines), outlines.elementCount() + 1);
     return outlines;
 }
@@ -143,18 +165,18 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
         drawRun(painter, {x, baseline}, shown, style, color);
         return;
     }
-    layTabular(shown, style, QFontMetricsF(fontOf(style)), [&](double offset, const QString& piece) {
+    layTabular(shown, style, [&](double offset, const QString& piece) {
         drawRun(painter, {x + offset, baseline}, piece, style, color);
     });
 }
 
 QStringList brokenIntoLines(const QString& text, const TextStyle& style, double width, int maximumLines) {
     const QString shown = cased(text, style);
-    QTextLayout layout(shown, fontOf(style));
+    QTextLayout layout(shown, enlargedFontOf(style));
     layout.beginLayout();
     QStringList lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width + fitTolerance);
+        line.setLineWidth((width + fitTolerance) * enlarged);
         if (maximumLines > 0 && lines.size() + 1 == maximumLines) {
             lines.append(casedElided(shown.mid(line.textStart()).trimmed(), style, width));
             break;

@@ -51,15 +51,17 @@ inline constexpr TextStyle rowTitle{Face::medium, 13.5, 20};
 inline constexpr TextStyle rowTitleStrong{Face::semiBold, 13.5, 20};
 inline constexpr TextStyle compactRow{Face::medium, 13, 20};
 inline constexpr TextStyle body{Face::regular, 13, 20};
+inline constexpr TextStyle emptyNote{Face::regular, 13.5, 22};
 inline constexpr TextStyle bodyStrong{Face::semiBold, 13, 20};
 inline constexpr TextStyle status{Face::semiBold, 14, 20};
 inline constexpr TextStyle label2{Face::regular, 12, 18};
 inline constexpr TextStyle linkStatus{Face::regular, 12, 16};
+inline constexpr TextStyle connection{Face::medium, 12.5, 18};
 inline constexpr TextStyle controlsNote{Face::regular, 12.5, 18};
 inline constexpr TextStyle log{Face::regular, 12.5, 18};
 inline constexpr TextStyle logTime{Face::regular, 12, 18, 0, false, true};
 inline constexpr TextStyle legend{Face::regular, 11.5, 16};
-inline constexpr TextStyle overlayNote{Face::regular, 11.25, 16}; // keeps the note on one line
+inline constexpr TextStyle overlayNote{Face::regular, 11.5, 18};
 inline constexpr TextStyle eyebrow{Face::semiBold, 11, 16, 1.4, true};
 inline constexpr TextStyle caption{Face::semiBold, 9, 12, 1.1, true};
 inline constexpr TextStyle mapCaption{Face::semiBold, 9, 11, 1.1, true};

@@ -62,7 +62,7 @@ QWidget* ConnectionForm::buildServer() {
     port_->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,5}")), port_));
     auto* fields = new QHBoxLayout;
-    fields->setSpacing(Measure::gap8);
+    fields->setSpacing(Measure::linkGap);
     fields->addWidget(new Text(tr("Host"), Type::body, SB::muted, block), 0, Qt::AlignVCenter);
     fields->addWidget(host_);
     fields->addSpacing(Measure::gap12);
@@ -73,14 +73,14 @@ QWidget* ConnectionForm::buildServer() {
     refusal_ =
         new Text(tr("Not stored: a port is a whole number from 1 to 65535."), Type::label2, SB::alert, block);
     dot_ = new StatusDot({.color = SB::dot, .diameter = Measure::statusDotInRow}, block);
-    status_ = new Text({}, Type::controlsNote, SB::ink, block);
+    status_ = new Text({}, Type::connection, SB::ink, block);
     auto* statusLine = new QHBoxLayout;
     statusLine->setSpacing(Measure::linkGap);
     statusLine->addWidget(dot_, 0, Qt::AlignVCenter);
     statusLine->addWidget(status_, 1);
 
     auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(Measure::radioIndent, Measure::gap8, 0, 0);
+    column->setContentsMargins(Measure::radioIndent, Measure::gap12, 0, Measure::gap4);
     column->setSpacing(Measure::gap8);
     column->addLayout(fields);
     column->addWidget(refusal_);

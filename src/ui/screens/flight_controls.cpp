@@ -16,7 +16,11 @@ FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(paren
     column->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
     column->addSpacing(Measure::gap4);
     explanation_ = new Text({}, Type::controlsNote, SB::muted, this);
-    column->addWidget(explanation_);
+    explained_ = new QWidget(this);
+    auto* above = new QVBoxLayout(explained_);
+    above->setContentsMargins(0, 0, 0, Measure::gap4);
+    above->addWidget(explanation_);
+    column->addWidget(explained_);
 
     const auto add = [&](const QString& text, SBButtonStyle style) {
         auto* button = new SBButton(text, style, this);
@@ -45,7 +49,7 @@ void FlightControls::refresh() {
         phase == Phase::awaitingApproval
             ? tr("Approve or ignore the alert to continue.")
             : tr("Nothing to control — the drone launches only after you approve an alert."));
-    explanation_->setVisible(!flying);
+    explained_->setVisible(!flying);
     const auto offer = [this](SBButton* button, bool offered) {
         if (!offered && button->hasFocus())
             setFocus(Qt::OtherFocusReason); // or it passes on to the next button, which is another command

@@ -25,6 +25,7 @@ signals:
 private:
     AppStore& store_;
     Text* explanation_;
+    QWidget* explained_; ///< the explanation with the room below it
     SBButton* hold_;
     SBButton* resume_;
     SBButton* returnHome_;

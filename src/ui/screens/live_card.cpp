@@ -31,7 +31,9 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
 void LiveCard::refresh() {
     map_->setState(store_.state(), store_.settings());
     map_->setFreshness(store_.freshness());
-    telemetry_->show(store_.state(), store_.settings(), store_.now(), store_.freshness());
+    const bool old = store_.freshness() == Freshness::stale;
+    telemetry_->show(store_.state(), store_.settings(), old ? *store_.heardAt() : store_.now(),
+                     store_.freshness());
     if (store_.freshness() != Freshness::stale || !isVisible())
         everySecond_.stop();
     else if (!everySecond_.isActive())
@@ -49,16 +51,13 @@ QSize LiveCard::fitted(int width, int height, bool narrow) {
     const int below = Measure::noteRow + line_->height() + Telemetry::heightFor(narrow);
     const int room = std::max(height - below, Measure::mapMinimumHeight);
     const P site = store_.state().site.size;
-    const int fits = std::min(width, static_cast<int>(room * site.x / site.y));
-    return {fits, mapHeight(fits) + below};
-}
-
-int LiveCard::mapHeight(int width) const {
-    return map_->heightForWidth(width);
+    const int fits =
+        std::min(width, std::max(static_cast<int>(room * site.x / site.y), Measure::liveCardMinimum));
+    return {fits, std::min(map_->heightForWidth(fits), room) + below};
 }
 
 void LiveCard::resizeEvent(QResizeEvent*) {
-    const int mapBottom = mapHeight(width());
+    const int mapBottom = height() - Measure::noteRow - line_->height() - Telemetry::heightFor(narrow_);
     const int noteTop = mapBottom + (Measure::noteRow - note_->sizeHint().height()) / 2;
     const int inner = width() - 2 * Measure::cardInset;
     map_->setGeometry(0, 0, width(), mapBottom);

@@ -28,7 +28,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int mapHeight(int width) const;
     void paintPictureAge(QPainter& painter) const;
 
     AppStore& store_;

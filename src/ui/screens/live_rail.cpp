@@ -32,10 +32,10 @@ LiveRail::LiveRail(AppStore& store, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::gap16);
     column->addWidget(timeline_);
-    column->addWidget(new Hairline(this));
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addWidget(controls_);
     column->addWidget(visitorBlock_);
-    column->addWidget(new Hairline(this));
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addWidget(buildLog(), 1);
     connect(controls_, &FlightControls::landRequested, this, &LiveRail::landRequested);
     refresh();
@@ -47,7 +47,7 @@ QWidget* LiveRail::buildVisitor() {
     auto* column = new QVBoxLayout(block);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::gap16);
-    column->addWidget(new Hairline(block));
+    column->addWidget(new Hairline(block, Hairline::Tone::between));
     column->addWidget(visitor_);
     return block;
 }
@@ -60,12 +60,14 @@ QWidget* LiveRail::buildLog() {
                               Type::label2, SB::muted, content);
     log_ = new LogList(LogList::Rows::told, content);
     auto* entries = new QVBoxLayout(content);
-    entries->setContentsMargins(0, 0, Measure::gap12, 0);
+    entries->setContentsMargins(0, 0, 0, 0);
     entries->addWidget(nothingLogged_);
     entries->addWidget(log_);
     entries->addStretch(1);
     area->setWidget(content);
     area->setFade(Measure::logFade);
+    area->setAccessibleName(tr("Flight log"));
+    area->letKeysScroll();
     area->setMinimumHeight(static_cast<int>(Type::log.line));
 
     auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);

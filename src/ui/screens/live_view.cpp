@@ -86,11 +86,12 @@ private:
     int top() const { return stale->isHidden() ? 0 : stale->height(); }
     void lay() {
         stale->setGeometry(0, 0, width(), stale->height());
-        const int room = height() - top();
+        const int room = height() - top(), inView = std::min(height(), parentWidget()->height()) - top();
         const int widest = std::max(width() - Measure::gutter - Measure::railMinimum, 0);
-        const bool narrow = width() < Measure::narrowContent;
+        const bool narrow = width() < Measure::narrowContent ||
+                            card->fitted(widest, inView, false).width() < Measure::wideTelemetry;
         card->setMinimumHeight(card->fitted(widest, 0, narrow).height());
-        const QSize size = card->fitted(widest, room, narrow);
+        const QSize size = card->fitted(widest, inView, narrow);
         card->setGeometry({{0, top()}, size});
         const int left = size.width() + Measure::gutter;
         rail->setGeometry(left, top(), std::min(width() - left, Measure::railMaximum), room);
@@ -114,8 +115,8 @@ LiveView::LiveView(AppStore& store, QWidget* parent)
                       .content = content_},
                      this)) {
     connect(content_->rail, &LiveRail::landRequested, this, &LiveView::landRequested);
-    for (const auto changed :
-         {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged})
+    for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged,
+                               &AppStore::freshnessChanged, &AppStore::linkStatusChanged})
         connect(&store_, changed, this, &LiveView::refresh);
 }
 
@@ -123,7 +124,7 @@ void LiveView::refresh() {
     if (!page_->isSeen())
         return;
     page_->setHeadline(headlineFor(store_));
-    content_->stale->setOpen(store_.freshness() != Freshness::live);
+    content_->stale->setOpen(StaleBanner::isDue(store_));
     content_->card->refresh();
     content_->rail->refresh();
 }

@@ -49,8 +49,9 @@ QSize MapCard::fitted(int width, int height) const {
     constexpr int around = Measure::mapTitle + Measure::mapLegend;
     const P site = store_.state().site.size;
     const int room = std::max(height - around, Measure::overviewMapMinimum);
-    const int fits = std::min(width, static_cast<int>(room * site.x / site.y));
-    return {fits, map_->heightForWidth(fits) + around};
+    const int fits =
+        std::min(width, std::max(static_cast<int>(room * site.x / site.y), Measure::mapCardMinimum));
+    return {fits, std::min(map_->heightForWidth(fits), room) + around};
 }
 
 void MapCard::resizeEvent(QResizeEvent*) {

@@ -139,7 +139,7 @@ OverviewView::OverviewView(AppStore& store, QWidget* parent)
                       .content = content_},
                      this)) {
     for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
-                               &AppStore::freshnessChanged})
+                               &AppStore::freshnessChanged, &AppStore::linkStatusChanged})
         connect(&store_, changed, this, &OverviewView::refresh);
 }
 
@@ -150,7 +150,7 @@ void OverviewView::refresh() {
     page_->setHeadline(headlineFor(store_));
     page_->setLede(ledeFor(store_));
     armSwitch_->refresh();
-    content_->stale->setOpen(store_.freshness() != Freshness::live);
+    content_->stale->setOpen(StaleBanner::isDue(store_));
     content_->active->setOpen(known && store_.state().phase != Phase::docked);
     content_->activeBanner->refresh();
     content_->map->refresh();

@@ -29,8 +29,8 @@ QPointF markerCenter(std::size_t step) {
 void paintConnector(QPainter& painter, std::size_t step, Progress next) {
     const double gap = Measure::timelineMarker / 2;
     const QPointF from = markerCenter(step) + QPointF(0, gap), to = markerCenter(step + 1) - QPointF(0, gap);
-    painter.setPen(QPen(next == Progress::pending ? SB::rule : SB::teal, 1));
-    painter.drawLine(from, to);
+    painter.fillRect(QRectF(from, QPointF(to.x() + 1, to.y())),
+                     next == Progress::pending ? SB::rule : SB::teal);
 }
 
 void paintDisc(QPainter& painter, QPointF center, double radius, const QColor& color) {

@@ -199,15 +199,16 @@ QWidget* SettingsView::buildAbout() {
     QWidget* rows = block();
     columnOf(rows)->addWidget(
         new Text(tr("Velmora 1.0 · consumer app for the velmora framework"), Type::body, SB::body, rows));
+    columnOf(rows)->addSpacing(Measure::gap4);
     columnOf(rows)->addWidget(
         new Label2(tr("Set in Inter, used under the SIL Open Font License."), false, rows));
     startAtLogin_ = new Switch(tr("Start Velmora when I log in"), rows);
-    auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::secondary}, rows);
+    auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::quiet}, rows);
     auto* folder = new SBButton(tr("Open data folder"), {.kind = SBButtonKind::secondary}, rows);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Measure::gap8);
-    buttons->addWidget(welcome);
     buttons->addWidget(folder);
+    buttons->addWidget(welcome);
     buttons->addStretch(1);
     columnOf(rows)->addSpacing(Measure::gap8);
     columnOf(rows)->addWidget(labelled(tr("Start Velmora when I log in"), startAtLogin_, rows));
@@ -241,8 +242,10 @@ void SettingsView::resizeEvent(QResizeEvent*) {
     page_->setGeometry(rect());
 }
 
+/// Whoever is sent here for the connection finds it at the top.
 void SettingsView::showEvent(QShowEvent*) {
     refresh();
+    page_->showTop();
 }
 
 } // namespace velmora

@@ -10,6 +10,7 @@
 namespace velmora {
 
 class ConnectionForm;
+class Page;
 class SegmentedChoice;
 class SliderLine;
 class Switch;
@@ -61,7 +62,7 @@ private:
     Switch* notify_ = nullptr;
     TextField* topic_ = nullptr;
     Switch* startAtLogin_ = nullptr;
-    QWidget* page_;
+    Page* page_;
 };
 
 } // namespace velmora

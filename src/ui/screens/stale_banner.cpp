@@ -35,6 +35,11 @@ StaleBanner::StaleBanner(AppStore& store, QWidget* parent)
     everySecond_.setInterval(1000);
 }
 
+bool StaleBanner::isDue(const AppStore& store) {
+    return store.freshness() == Freshness::stale ||
+           (store.freshness() == Freshness::waiting && store.linkStatus().kind == LinkStatus::Case::failed);
+}
+
 QString StaleBanner::pictureAge(const AppStore& store) {
     return store.heardAt() ? tr("Picture %1 old").arg(age(store.now() - *store.heardAt())) : QString();
 }

@@ -16,6 +16,8 @@ class StaleBanner : public QWidget {
 public:
     StaleBanner(AppStore& store, QWidget* parent);
 
+    /// Whether there is something to say; a server that is only being connected to may still answer.
+    static bool isDue(const AppStore& store);
     /// "Picture 42 s old".
     static QString pictureAge(const AppStore& store);
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double shares[] = {1.15, 0.85, 0.95, 1.05}; // of the width, one for each cell
 constexpr double sumOfShares = 4;
-constexpr double valueTop = 14, linesTop = 38; // pixels
+constexpr double valueTop = 16, linesTop = 40; // pixels
 
 QString destination(const Settings& settings) {
     const bool phone = !settings.ntfyTopic.empty();

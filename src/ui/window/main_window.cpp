@@ -58,13 +58,17 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
     connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
     connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
-    connect(clearing_, &ConfirmationCard::confirmed, &store_, &AppStore::clearDemoHistory);
+    connect(clearing_, &ConfirmationCard::confirmed, this, [this] {
+        store_.clearDemoHistory();
+        history_->takeFocus();
+    });
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, &MainWindow::makeWayForAlert);
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     showSection();
     showWelcome();
     showCover();
+    setFocus(); // on nothing that a key would press
 }
 
 /// Nothing may lie over an alert.

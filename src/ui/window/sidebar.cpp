@@ -35,9 +35,9 @@ QVBoxLayout* Sidebar::foot() {
     auto* column = new QVBoxLayout;
     column->setContentsMargins(Measure::sectionPadding, 0, Measure::sectionPadding, 0);
     column->setSpacing(0);
-    column->addWidget(new Hairline(this));
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addWidget(new DroneBadge(store_, this));
-    column->addWidget(new Hairline(this));
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addWidget(new LinkBadge(store_, this));
     return column;
 }

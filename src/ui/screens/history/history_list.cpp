@@ -29,8 +29,7 @@ namespace velmora {
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
     filters_ = buildFilters();
-    nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
-                        Type::body, SB::body, this);
+    nothing_ = buildNothing();
     noMatch_ = buildNoMatch();
     auto* records = buildRecords();
     foot_ = buildFoot();
@@ -44,10 +43,10 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     above->addSpacing(Measure::gap20);
     above->addWidget(filters_);
     above->addWidget(nothing_);
-    above->addWidget(noMatch_);
     auto* column = new QVBoxLayout(this);
     column->setSpacing(0);
     column->addLayout(above);
+    column->addWidget(noMatch_);
     column->addWidget(records, 1);
     column->addStretch();
     column->addWidget(foot_);
@@ -125,12 +124,27 @@ QWidget* HistoryList::buildRecords() {
     return records_;
 }
 
+QWidget* HistoryList::buildNothing() {
+    auto* block = new QWidget(this);
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap20);
+    column->addWidget(new Hairline(block));
+    column->addWidget(
+        new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
+                 Type::emptyNote, SB::body, block));
+    return block;
+}
+
 QWidget* HistoryList::buildNoMatch() {
     auto* block = new QWidget(this);
     auto* all = new SBButton(tr("Show all"), {.kind = SBButtonKind::quiet}, block);
+    auto* words = new QHBoxLayout;
+    words->setContentsMargins(Measure::recordInset, Measure::gap16, 0, 0);
+    words->addWidget(new Text(tr("No visits match."), Type::body, SB::body, block));
     auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, Measure::gap16, 0, 0);
-    column->addWidget(new Text(tr("No visits match."), Type::body, SB::body, block));
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(words);
     column->addWidget(all, 0, Qt::AlignLeft);
     connect(all, &SBButton::clicked, this, &HistoryList::clearFilters);
     return block;
@@ -149,11 +163,15 @@ QWidget* HistoryList::buildFoot() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, Measure::gap12, Measure::recordInset, Measure::gap12);
     row->addWidget(clearDemo_, 0, Qt::AlignLeft);
+    row->addStrut(Measure::buttonHeight);
     row->addWidget(undoLine_, 1);
     auto* column = new QVBoxLayout(foot);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new Hairline(foot));
+    auto* above = new QHBoxLayout;
+    above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
+    above->addWidget(new Hairline(foot));
+    column->addLayout(above);
     column->addLayout(row);
     connect(clearDemo_, &SBButton::clicked, this, &HistoryList::clearDemoRequested);
     connect(undo, &QAbstractButton::clicked, this, &HistoryList::undo);

@@ -51,6 +51,7 @@ protected:
 private:
     QWidget* buildFilters();
     QWidget* buildRecords();
+    QWidget* buildNothing();
     QWidget* buildNoMatch();
     QWidget* buildFoot();
     void applyFilter();
@@ -69,7 +70,7 @@ private:
     MenuButton* demo_;
     Text* count_;
     QWidget* filters_;
-    Text* nothing_;
+    QWidget* nothing_;
     QWidget* noMatch_;
     QListView* records_;
     OverlayScrollBar* bar_;

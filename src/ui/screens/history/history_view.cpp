@@ -65,7 +65,10 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
     connect(&everyMinute_, &QTimer::timeout, list_, &HistoryList::refresh);
-    refresh();
+}
+
+void HistoryView::takeFocus() {
+    list_->takeFocus();
 }
 
 void HistoryView::takeSearch() {
@@ -109,6 +112,8 @@ std::optional<std::size_t> HistoryView::chosenPlace() const {
 
 /// The record that was chosen, or else the newest.
 void HistoryView::refresh() {
+    if (!isVisible())
+        return;
     list_->refresh();
     const bool any = !store_.history().empty();
     detail_->setVisible(any);

@@ -20,6 +20,8 @@ public:
 
     /// Gives the search field the keyboard.
     void takeSearch();
+    /// Gives the records the keyboard.
+    void takeFocus();
 
 signals:
     /// "Clear demo history" was pressed; nothing goes before the owner confirms.

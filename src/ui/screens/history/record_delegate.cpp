@@ -40,21 +40,21 @@ void paintRecord(QPainter& painter, const QRectF& row, const MissionRecord& reco
     if (selected)
         paintSelection(painter, row);
     const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
-    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, 0, 0);
+    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
+    thumbnail.moveCenter(inner.center());
+    thumbnail.moveRight(inner.right());
+    paintPathThumbnail(painter, thumbnail, record);
+    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, -thumbnail.width() - Measure::gap8, 0);
     QRectF title(words.left(), row.top() + Measure::recordTitleTop, words.width(), Type::rowTitle.line);
     paintStatusDot(painter, {inner.left() + Measure::activityDotX, title.center().y()},
                    {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
-    if (record.demo)
-        title.setRight(title.right() - Measure::gap8 -
-                       paintBadge(painter, title.right(), title.center().y(),
-                                  QCoreApplication::translate("History", "Demo")));
     drawText(painter, title, outcomeText(record.outcome), Type::rowTitle, SB::ink, Qt::AlignVCenter);
 
     QRectF facts(words.left(), title.bottom(), words.width(), Type::label2.line);
-    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
-    thumbnail.moveBottomRight({words.right(), row.bottom() - Measure::gap4});
-    paintPathThumbnail(painter, thumbnail, record);
-    facts.setRight(thumbnail.left() - Measure::gap8);
+    if (record.demo)
+        facts.setRight(facts.right() - Measure::gap8 -
+                       paintBadge(painter, facts.right(), facts.center().y(),
+                                  QCoreApplication::translate("History", "Demo")));
     drawText(painter, facts, factsOf(record), Type::label2, SB::muted, Qt::AlignVCenter);
 }
 

@@ -78,7 +78,7 @@ RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::gap20);
     column->addWidget(buildMetrics());
-    column->addWidget(new Hairline(this));
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addLayout(row);
     connect(log_, &LogList::activated, this,
             [this](const Notice& notice) { emit momentRequested((notice.time - start_).count()); });
