@@ -64,7 +64,11 @@ void drawCaption(QPainter& painter, QPointF at, Qt::Alignment anchor, const QStr
 class MapPass {
 public:
     MapPass(QPainter& painter, const MapScene& scene, QSizeF canvas)
-        : painter_(painter), scene_(scene), site_(scene.state.site), view_(canvas, site_.size) {
+        : painter_(painter),
+          scene_(scene),
+          site_(scene.state.site),
+          view_(canvas, site_.size),
+          width_(canvas.width()) {
         painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     }
 
@@ -148,8 +152,7 @@ public:
                    QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
         drawCircle(painter_, at, visitorRadius, SB::lilac, QPen(Qt::white, 1.5));
         if (scene_.showLabels)
-            drawCaption(painter_, at + QPointF(visitorLabelOffset, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                        toQString(scene_.state.visitor->label), SB::lilac);
+            drawCaptionBeside(at, visitorLabelOffset, toQString(scene_.state.visitor->label));
     }
 
     void drawDroneWithHeight(double t) {
@@ -226,14 +229,24 @@ private:
         const QPointF center = view_.map(at);
         drawCircle(painter_, center, markerRadius, SB::lilac, Qt::NoPen);
         if (scene_.showLabels)
-            drawCaption(painter_, center + QPointF(markerLabelOffset, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                        caption, SB::lilac);
+            drawCaptionBeside(center, markerLabelOffset, caption);
+    }
+
+    /// At the right of a point, or above its left where the map ends too soon.
+    void drawCaptionBeside(QPointF point, double offset, const QString& caption) {
+        if (point.x() + offset + textWidth(caption, Type::mapCaption) <= width_)
+            drawCaption(painter_, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter, caption,
+                        SB::lilac);
+        else
+            drawCaption(painter_, point - QPointF(0, offset), Qt::AlignRight | Qt::AlignBottom, caption,
+                        SB::lilac);
     }
 
     QPainter& painter_;
     const MapScene& scene_;
     const Site& site_;
     MapTransform view_;
+    double width_; ///< of the canvas
 };
 
 } // namespace
@@ -276,9 +289,10 @@ QRectF liveArea(const MapScene& scene, QSizeF canvas) {
     if (const auto& visitor = scene.state.visitor) {
         area |= around(visitor->pos,
                        std::max(pulseFrom + pulseGrowth, scene.settings.followDistance * view.scale()));
-        const double label = textWidth(toQString(visitor->label), Type::mapCaption);
+        const double beside = visitorLabelOffset + textWidth(toQString(visitor->label), Type::mapCaption);
         area |= around(visitor->pos, 0)
-                    .adjusted(0, -Type::mapCaption.line, visitorLabelOffset + label, Type::mapCaption.line);
+                    .adjusted(-beside, -visitorLabelOffset - Type::mapCaption.line, beside,
+                              Type::mapCaption.line);
     }
     return area;
 }

@@ -12,6 +12,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -36,25 +38,34 @@ void paintSelection(QPainter& painter, const QRectF& row) {
     painter.drawRoundedRect(bar, Measure::selectionBar / 2.0, Measure::selectionBar / 2.0);
 }
 
+/// The paths at the right, below the badge of a demo visit; returns the width that they take.
+double paintAside(QPainter& painter, const QRectF& inner, const MissionRecord& record) {
+    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
+    thumbnail.moveCenter(inner.center());
+    thumbnail.moveRight(inner.right());
+    double width = thumbnail.width();
+    if (record.demo) {
+        thumbnail.translate(0, (Measure::badgeHeight + Measure::gap4) / 2.0);
+        const double middle = thumbnail.top() - Measure::gap4 - Measure::badgeHeight / 2.0;
+        width = std::max(width, paintBadge(painter, inner.right(), middle,
+                                           QCoreApplication::translate("History", "Demo")));
+    }
+    paintPathThumbnail(painter, thumbnail, record);
+    return width;
+}
+
 void paintRecord(QPainter& painter, const QRectF& row, const MissionRecord& record, bool selected) {
     if (selected)
         paintSelection(painter, row);
     const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
-    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
-    thumbnail.moveCenter(inner.center());
-    thumbnail.moveRight(inner.right());
-    paintPathThumbnail(painter, thumbnail, record);
-    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, -thumbnail.width() - Measure::gap8, 0);
+    const double beside = paintAside(painter, inner, record);
+    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, -beside - Measure::gap8, 0);
     QRectF title(words.left(), row.top() + Measure::recordTitleTop, words.width(), Type::rowTitle.line);
     paintStatusDot(painter, {inner.left() + Measure::activityDotX, title.center().y()},
                    {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
     drawText(painter, title, outcomeText(record.outcome), Type::rowTitle, SB::ink, Qt::AlignVCenter);
 
-    QRectF facts(words.left(), title.bottom(), words.width(), Type::label2.line);
-    if (record.demo)
-        facts.setRight(facts.right() - Measure::gap8 -
-                       paintBadge(painter, facts.right(), facts.center().y(),
-                                  QCoreApplication::translate("History", "Demo")));
+    const QRectF facts(words.left(), title.bottom(), words.width(), Type::label2.line);
     drawText(painter, facts, factsOf(record), Type::label2, SB::muted, Qt::AlignVCenter);
 }
 
