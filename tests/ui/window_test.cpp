@@ -100,6 +100,18 @@ TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {
     }
 }
 
+TEST_F(WindowTest, TheFirstKeyPressesNothingAndTabGoesOnWhereTheOwnerIs) {
+    window();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(store().state().armed);
+    press(Qt::Key_3, Qt::ControlModifier);
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(store().state().armed) << "the list that had the focus is gone";
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), find("Disarm"));
+}
+
 TEST_F(WindowTest, CtrlQQuitsAndCtrlWCloses) {
     window();
     QTimer::singleShot(0, [this] { press(Qt::Key_Q, Qt::ControlModifier); });

@@ -12,6 +12,7 @@
 #include <QLineF>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -25,6 +26,7 @@ constexpr double cameraRadius = 4.5; // pixels, as everything below
 constexpr double visitorRadius = 5, pulseFrom = 6, pulseGrowth = 14;
 constexpr double markerRadius = 4;
 constexpr double altitudeOffset = 16, visitorLabelOffset = 10, markerLabelOffset = 8;
+constexpr double captionEdge = 4; // between a caption and the map's edge
 constexpr double lastingPathWidth = 1.8;
 constexpr double longestPath = 24'000, pathPiece = 200;
 
@@ -238,8 +240,8 @@ private:
             drawCaption(painter_, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter, caption,
                         SB::lilac);
         else
-            drawCaption(painter_, point - QPointF(0, offset), Qt::AlignRight | Qt::AlignBottom, caption,
-                        SB::lilac);
+            drawCaption(painter_, {std::min(point.x(), width_ - captionEdge), point.y() - offset},
+                        Qt::AlignRight | Qt::AlignBottom, caption, SB::lilac);
     }
 
     QPainter& painter_;

@@ -68,7 +68,6 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     showSection();
     showWelcome();
     showCover();
-    setFocus(); // on nothing that a key would press
 }
 
 /// Nothing may lie over an alert.
@@ -169,15 +168,24 @@ void MainWindow::askToClearDemo() {
     clearing_->open();
 }
 
+/// What is hidden would pass its focus on to another control, which the next key would press.
 void MainWindow::showWelcome() {
     const bool welcome = store_.showWelcome();
+    setFocus();
     welcome_->setVisible(welcome);
     house_->setVisible(!welcome);
     strip_->setOverSidebar(!welcome);
 }
 
+/// As with the welcome; the tab key goes on with the new section.
 void MainWindow::showSection() {
-    stack_->showSection(sections_[store_.section()]);
+    QWidget* screen = sections_[store_.section()];
+    const bool worksInSection = focusWidget() && stack_->isAncestorOf(focusWidget());
+    if (worksInSection)
+        setFocus();
+    stack_->showSection(screen);
+    if (worksInSection && focusWidget() == this)
+        screen->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace velmora
