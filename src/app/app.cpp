@@ -4,7 +4,6 @@
 #include "ui/look/art.h"
 
 #include <QApplication>
-#include <QWindow>
 
 namespace velmora {
 

@@ -1,7 +1,6 @@
 #include "model/date.h"
 
 #include <array>
-#include <cmath>
 #include <cstdio>
 
 namespace velmora {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <concepts>
 #include <string_view>
 #include <tuple>
 

@@ -112,7 +112,7 @@ void watchTimer(int seconds) {
     check(std::abs(drift) < driftAllowed, "the timer keeps time");
 }
 
-/// Ten thousand missions, as many as a foreign program may have put into the file.
+/// Far more missions than the program writes, as a foreign one may have put into the file.
 void loadLargeHistory() {
     constexpr std::size_t fileSize = 300'000'000;
     World world(1);

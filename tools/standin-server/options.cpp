@@ -2,8 +2,6 @@
 
 #include <QCommandLineParser>
 
-#include <functional>
-
 namespace velmora {
 
 namespace {

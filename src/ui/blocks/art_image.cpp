@@ -6,7 +6,6 @@
 #include "ui/look/tokens.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace velmora {
 

@@ -7,8 +7,6 @@
 
 #include <QHBoxLayout>
 
-#include <algorithm>
-
 namespace velmora {
 
 Page::Page(const Parts& parts, QWidget* parent)

@@ -14,7 +14,7 @@ QString fileOf(Icon icon) {
     static const char* const names[] = {"overview",    "live",        "history", "cameras", "settings",
                                         "minimise",    "maximise",    "restore", "close",   "check",
                                         "paper-plane", "broken-link", "drone",   "chevron", "export",
-                                        "delete",      "play",        "pause",   "search"};
+                                        "delete",      "play",        "pause"};
     return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(names[static_cast<std::size_t>(icon)]));
 }
 

@@ -26,8 +26,7 @@ enum class Icon {
     exportRecord,
     deleteRecord,
     play,
-    pause,
-    search
+    pause
 };
 
 /// Draws the icon in one colour, fitted into the rectangle.

@@ -7,7 +7,6 @@ inline constexpr int hover = 120;
 inline constexpr int toggle = 140;
 inline constexpr int banner = 180;
 inline constexpr int formFold = 160;
-inline constexpr int veil = 180;
 inline constexpr int cardIn = 220;
 inline constexpr int cardOut = 140;
 inline constexpr int sectionChange = 160;

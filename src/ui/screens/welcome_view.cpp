@@ -100,16 +100,16 @@ QWidget* WelcomeView::buildButtons() {
     auto* buttons = new QWidget(this);
     auto* explore =
         new SBButton(tr("Explore in demo mode"), {.kind = SBButtonKind::primary, .large = true}, buttons);
-    auto* connect_ =
+    auto* network =
         new SBButton(tr("Connect to velmora"), {.kind = SBButtonKind::secondary, .large = true}, buttons);
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Measure::gap12);
     row->addWidget(explore);
-    row->addWidget(connect_);
+    row->addWidget(network);
     row->addStretch(1);
     connect(explore, &SBButton::clicked, this, [this] { finish(false); });
-    connect(connect_, &SBButton::clicked, this, [this] { finish(true); });
+    connect(network, &SBButton::clicked, this, [this] { finish(true); });
     return buttons;
 }
 

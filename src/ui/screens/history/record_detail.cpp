@@ -17,7 +17,6 @@
 #include "ui/words.h"
 
 #include <QEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>

@@ -2,7 +2,6 @@
 
 #include "model/mission_record.h"
 
-#include <QAbstractSlider>
 #include <QWidget>
 
 namespace velmora {
