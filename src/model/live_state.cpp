@@ -34,6 +34,11 @@ LiveState LiveState::initial() {
     return state;
 }
 
+bool isOverPad(const LiveState& state) {
+    constexpr double reach = 1; // metres
+    return distance(state.drone.pos, state.site.pad) <= reach;
+}
+
 std::string alertOf(const LiveState& state) {
     if (state.missionId || !state.missionStart)
         return state.missionId.value_or("");

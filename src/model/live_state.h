@@ -102,6 +102,9 @@ inline constexpr auto fieldsOf<LiveState> =
                Field{"notices", &LiveState::notices},
                Field{"site", &LiveState::site}};
 
+/// Whether the drone is within a metre of its pad.
+bool isOverPad(const LiveState& state);
+
 /// Tells the alert of one mission from that of the next: the mission's id, or when it began.
 std::string alertOf(const LiveState& state);
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/wait_until.h"
+
 #include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QObject>
 
@@ -96,7 +96,7 @@ private:
         QDBusMessage message = QDBusMessage::createMethodCall(
             items_.value(0), QStringLiteral("/MenuBar"), QStringLiteral("com.canonical.dbusmenu"), method);
         message.setArguments(arguments);
-        return bus_.call(message, QDBus::BlockWithGui, 5000);
+        return replyTo(message, bus_);
     }
 
     QDBusConnection bus_;

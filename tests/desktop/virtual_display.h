@@ -88,7 +88,7 @@ private:
         QDBusMessage message = QDBusMessage::createMethodCall(
             name(), QStringLiteral("/org/freedesktop/Notifications"), interface, method);
         message.setArguments(arguments);
-        return QDBusConnection::sessionBus().call(message, QDBus::BlockWithGui, 20'000);
+        return replyTo(message, QDBusConnection::sessionBus());
     }
     /// Until whoever listens on this process' connection knows what the service can do.
     static void waitUntilReady() {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDeadlineTimer>
 #include <QTimer>
 
@@ -15,6 +18,14 @@ bool waitUntil(Condition condition) {
     while (!condition() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     return condition();
+}
+
+/// The reply to a call, invalid when there is none. A call that blocks in an event loop of its own would miss
+/// a reply that comes before the loop begins.
+inline QDBusMessage replyTo(const QDBusMessage& call, const QDBusConnection& bus) {
+    const QDBusPendingCall pending = bus.asyncCall(call);
+    waitUntil([&] { return pending.isFinished(); });
+    return pending.reply();
 }
 
 } // namespace velmora

@@ -16,13 +16,13 @@ namespace {
 constexpr double darkHalo = 0.22;
 constexpr double pulseFrom = 8, pulseTo = 20; // diameters
 
+} // namespace
+
 void paintDisc(QPainter& painter, QPointF center, double diameter, const QColor& color) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawEllipse(center, diameter / 2, diameter / 2);
 }
-
-} // namespace
 
 void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look) {
     painter.setRenderHint(QPainter::Antialiasing);

@@ -19,6 +19,7 @@ struct DotLook {
     bool operator==(const DotLook&) const = default;
 };
 
+void paintDisc(QPainter& painter, QPointF center, double diameter, const QColor& color);
 void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look);
 
 /// A dot whose halo pulses while a mission is under way.

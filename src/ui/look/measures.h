@@ -3,7 +3,7 @@
 #include <QMargins>
 #include <QSize>
 
-/// The sizes and distances of the screens, in logical pixels.
+/// The sizes and distances of the screens in logical pixels, and a few counts and ratios.
 namespace velmora::Measure {
 
 inline constexpr int gap4 = 4, gap8 = 8, gap12 = 12, gap16 = 16, gap20 = 20, gap24 = 24, gap28 = 28,
@@ -103,7 +103,7 @@ inline constexpr double timelineMarker = 14;
 inline constexpr double timelineMarkerX = 7;
 inline constexpr double timelineTick = 12;
 inline constexpr double timelineHalo = 4;
-inline constexpr double timelineHole = 3;
+inline constexpr double timelineHole = 6;
 inline constexpr double timelineTitleX = 28;
 inline constexpr QSize visitorPicture(72, 54);
 inline constexpr int visitorGap = 14;
@@ -141,7 +141,6 @@ inline constexpr QSize thumbnail(36, 24);
 inline constexpr int chevron = 14;
 inline constexpr int menuButtonMinimum = 60;
 inline constexpr double menuText = 320; // longer options are elided
-inline constexpr int undoSeconds = 10;
 inline constexpr int detailLeft = 32, detailRight = 40;
 inline constexpr int detailLog = 138; // that the replay map leaves for the log
 inline constexpr QSize alertPicture(192, 108);

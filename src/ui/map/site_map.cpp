@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -113,6 +114,13 @@ void SiteMap::setScene(MapScene scene) {
 int SiteMap::heightForWidth(int width) const {
     const P size = scene_.state.site.size;
     return static_cast<int>(std::lround(width * size.y / size.x));
+}
+
+QSize SiteMap::fitted(QSize room, int least) const {
+    const P size = scene_.state.site.size;
+    const int wanted = std::max(static_cast<int>(room.height() * size.x / size.y), least);
+    const int width = std::min(room.width(), wanted);
+    return {width, std::min(heightForWidth(width), room.height())};
 }
 
 void SiteMap::describe() {

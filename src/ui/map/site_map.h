@@ -33,6 +33,9 @@ public:
     bool hasHeightForWidth() const override { return true; }
     /// The height that the site's proportions give for a width.
     int heightForWidth(int width) const override;
+    /// The largest map that fits, though not narrower than `least` where there is room: then the plan is
+    /// centred.
+    QSize fitted(QSize room, int least) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -49,11 +49,8 @@ QSize LiveCard::fitted(int width, int height, bool narrow) {
     narrow_ = narrow;
     telemetry_->setNarrow(narrow);
     const int below = Measure::noteRow + line_->height() + Telemetry::heightFor(narrow);
-    const int room = std::max(height - below, Measure::mapMinimumHeight);
-    const P site = store_.state().site.size;
-    const int fits =
-        std::min(width, std::max(static_cast<int>(room * site.x / site.y), Measure::liveCardMinimum));
-    return {fits, std::min(map_->heightForWidth(fits), room) + below};
+    const QSize room(width, std::max(height - below, Measure::mapMinimumHeight));
+    return map_->fitted(room, Measure::liveCardMinimum) + QSize(0, below);
 }
 
 void LiveCard::resizeEvent(QResizeEvent*) {

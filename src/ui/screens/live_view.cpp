@@ -46,10 +46,8 @@ Sentence headlineFor(const AppStore& store) {
     case Phase::landing:
         break;
     }
-    constexpr double padReach = 1; // metres: nearer than this is on the pad
-    const bool onPad = distance(state.drone.pos, state.site.pad) <= padReach;
     return sentence(LiveView::tr("Landing "),
-                    onPad ? LiveView::tr("on its pad") : LiveView::tr("where it is"));
+                    isOverPad(state) ? LiveView::tr("on its pad") : LiveView::tr("where it is"));
 }
 
 } // namespace

@@ -47,11 +47,8 @@ void MapCard::refresh() {
 
 QSize MapCard::fitted(int width, int height) const {
     constexpr int around = Measure::mapTitle + Measure::mapLegend;
-    const P site = store_.state().site.size;
-    const int room = std::max(height - around, Measure::overviewMapMinimum);
-    const int fits =
-        std::min(width, std::max(static_cast<int>(room * site.x / site.y), Measure::mapCardMinimum));
-    return {fits, std::min(map_->heightForWidth(fits), room) + around};
+    const QSize room(width, std::max(height - around, Measure::overviewMapMinimum));
+    return map_->fitted(room, Measure::mapCardMinimum) + QSize(0, around);
 }
 
 void MapCard::resizeEvent(QResizeEvent*) {

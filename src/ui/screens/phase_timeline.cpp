@@ -1,6 +1,7 @@
 #include "ui/screens/phase_timeline.h"
 
 #include "ui/blocks/accessibility.h"
+#include "ui/blocks/status_dot.h"
 #include "ui/look/icons.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
@@ -33,31 +34,25 @@ void paintConnector(QPainter& painter, std::size_t step, Progress next) {
                      next == Progress::pending ? SB::rule : SB::teal);
 }
 
-void paintDisc(QPainter& painter, QPointF center, double radius, const QColor& color) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawEllipse(center, radius, radius);
-}
-
 void paintMarker(QPainter& painter, QPointF center, Progress progress) {
-    constexpr double radius = Measure::timelineMarker / 2;
+    constexpr double diameter = Measure::timelineMarker;
     switch (progress) {
     case Progress::done: {
-        paintDisc(painter, center, radius, SB::teal);
+        paintDisc(painter, center, diameter, SB::teal);
         QRectF tick(0, 0, Measure::timelineTick, Measure::timelineTick);
         tick.moveCenter(center);
         paintIcon(painter, tick, Icon::check, SB::page);
         break;
     }
     case Progress::current:
-        paintDisc(painter, center, radius + Measure::timelineHalo, SB::dotBg);
-        paintDisc(painter, center, radius, SB::teal);
+        paintDisc(painter, center, diameter + 2 * Measure::timelineHalo, SB::dotBg);
+        paintDisc(painter, center, diameter, SB::teal);
         paintDisc(painter, center, Measure::timelineHole, SB::page);
         break;
     case Progress::pending:
         painter.setPen(QPen(SB::rule, 1));
         painter.setBrush(SB::page);
-        painter.drawEllipse(center, radius - 0.5, radius - 0.5);
+        painter.drawEllipse(center, (diameter - 1) / 2, (diameter - 1) / 2);
         break;
     }
 }

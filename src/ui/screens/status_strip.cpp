@@ -96,8 +96,7 @@ void StatusStrip::refresh() {
 }
 
 void StatusStrip::showDrone(const LiveState& state) {
-    constexpr double padReach = 1; // metres
-    const bool onPad = state.phase == Phase::docked && distance(state.drone.pos, state.site.pad) <= padReach;
+    const bool onPad = state.phase == Phase::docked && isOverPad(state);
     cells_[0]->setContent(
         onPad ? tr("On its pad") : phaseWord(state.phase),
         {tr("%1% battery · signal %2%").arg(rounded(state.drone.battery), percent(state.drone.signal))});

@@ -22,9 +22,16 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+constexpr auto undoOffered = std::chrono::seconds(10);
+
+} // namespace
 
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
@@ -55,7 +62,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
         select(chosen_);
     });
     undoTime_.setSingleShot(true);
-    undoTime_.setInterval(Measure::undoSeconds * 1000);
+    undoTime_.setInterval(undoOffered);
     connect(&undoTime_, &QTimer::timeout, this, [this] {
         deleted_.reset();
         refresh();
