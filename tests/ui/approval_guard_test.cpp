@@ -176,6 +176,13 @@ TEST_F(ApprovalGuardTest, TheCardOfAServerThatHeedsNoAnswerStepsAsideUntilTheNex
     EXPECT_TRUE(shows(offer));
     alert("M-2");
     EXPECT_TRUE(waitUntil([&] { return shows(launch); }));
+
+    pass(3); // the link is silent
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(launches(), Missions({"M-1", "M-2"}));
+    pass(6);
+    alert("M-2");
+    EXPECT_TRUE(waitUntil([&] { return shows(launch); })) << "that answer may never have arrived";
 }
 
 TEST_F(ApprovalGuardTest, TheOverviewsButtonAnswersTheAlertThatItWasPressedFor) {

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "ui/linked_ui_fixture.h"
+
+#include <QFileDialog>
+#include <QListView>
+#include <QMenu>
+#include <QSlider>
+
+namespace velmora {
+
+/// The history's screen over records that the test makes.
+class HistoryTest : public LinkedUiTest {
+protected:
+    /// Opens the history with these records, newest first.
+    void look(const std::vector<MissionRecord>& history) {
+        records(history);
+        store().setSection(Section::history);
+        window();
+    }
+    MissionRecord visitAt(const std::string& camera, const std::string& id, Outcome outcome, bool demo) {
+        MissionRecord made = record(id, outcome, 60.0 * ++made_);
+        made.cameraName = camera;
+        made.demo = demo;
+        return made;
+    }
+    /// Two flown and two not, at three cameras, two of them for the demo.
+    std::vector<MissionRecord> four() {
+        return {visitAt("Driveway", "M-1", Outcome::visitorLeft, true),
+                visitAt("Garden", "M-2", Outcome::ignored, true),
+                visitAt("Front", "M-3", Outcome::lowBattery, false),
+                visitAt("Garden", "M-4", Outcome::expired, false)};
+    }
+    /// Ten seconds in which the visitor was seen for the first two and the drone flew the last four.
+    MissionRecord flight() {
+        MissionRecord made = visitAt("Driveway", "M-1", Outcome::lowBattery, false);
+        made.visitorPath.assign(5, {20, 20});
+        made.dronePath.assign(9, {40, 40});
+        made.maxDistanceFromPad = 41.5;
+        made.batteryUsed = 8.25;
+        made.confidence = 0.875;
+        made.notices = {{{}, made.start + Seconds{3}, "You approved the launch", Notice::Level::good},
+                        {{}, made.start + Seconds{7}, "Battery low — coming home", Notice::Level::caution}};
+        return made;
+    }
+
+    QListView& list() { return *window().findChild<QListView*>(); }
+    QModelIndex rowOf(const QString& text) {
+        for (int row = 0; row < list().model()->rowCount(); ++row)
+            if (const auto index = list().model()->index(row, 0); index.data().toString().startsWith(text))
+                return index;
+        return {};
+    }
+    /// Whether these visits are listed, told by how their rows begin, and as many as the count says.
+    bool lists(const QString& count, const QStringList& rows) {
+        return shows(count) &&
+               std::ranges::all_of(rows, [&](const QString& row) { return rowOf(row).isValid(); });
+    }
+    /// The ids of the store's records, which the file holds too.
+    std::vector<std::string> onFile() {
+        std::vector<std::string> ids;
+        const auto file = decode<std::vector<MissionRecord>>(content("history.json").toStdString());
+        EXPECT_EQ(file.value, store().history());
+        for (const MissionRecord& one : store().history())
+            ids.push_back(one.id);
+        return ids;
+    }
+    void choose(const QString& outcome) {
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(rowOf(outcome)).center());
+        settle();
+    }
+    /// Presses an entry of the menu that is open.
+    void pick(const QString& text) {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions())
+            if (action->text() == text) {
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                settle();
+                return;
+            }
+        FAIL() << text.toStdString();
+    }
+    void search(const QString& text) {
+        press(Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        settle();
+    }
+    /// Exports what the menu's entry offers into the home or another folder; its bytes.
+    QByteArray exported(const QString& entry, const QString& proposed, const QString& folder = {}) {
+        click("Export…");
+        pick(entry);
+        auto* dialog = window().findChild<QFileDialog*>();
+        if (!dialog)
+            return {};
+        EXPECT_EQ(QFileInfo(dialog->selectedFiles().value(0)).fileName(), proposed);
+        const QString name = folder.isEmpty() ? home.filePath(proposed) : folder + proposed;
+        dialog->selectFile(name);
+        static_cast<QDialog*>(dialog)->accept();
+        delete dialog;
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QAbstractSlider& slider() { return *find<QAbstractSlider>("Replay time"); }
+
+private:
+    int made_ = 0;
+};
+
+} // namespace velmora

@@ -1,0 +1,196 @@
+#include "ui/history_fixture.h"
+
+namespace velmora {
+
+namespace {
+
+const QString deleteVisit = QStringLiteral("Delete this visit"),
+              clearDemo = QStringLiteral("Clear demo history");
+
+TEST_F(HistoryTest, FiltersNarrowTheListAndSayHowFar) {
+    look(four());
+    EXPECT_TRUE(lists("4 visits", {"Visitor left your grounds, Driveway, ", "Alert expired", "You ignored"}));
+    EXPECT_TRUE(rowOf("You ignored the alert, Garden").data().toString().endsWith(", demo"));
+    click("Flown");
+    EXPECT_TRUE(lists("2 of 4", {"Visitor left", "Came home on low battery, Front, "}));
+    click("Stayed docked");
+    EXPECT_TRUE(lists("2 of 4", {"You ignored", "Alert expired"}));
+    click("With demo");
+    pick("No demo");
+    EXPECT_TRUE(lists("1 of 4", {"Alert expired"}));
+    click("No demo");
+    pick("Only demo");
+    EXPECT_TRUE(lists("1 of 4", {"You ignored"}));
+    click("All");
+    click("All cameras");
+    pick("Driveway");
+    EXPECT_TRUE(lists("1 of 4", {"Visitor left"}));
+    store().removeRecord(3);
+    settle();
+    EXPECT_TRUE(lists("1 of 3", {"Visitor left"}));
+    search("nobody has this");
+    EXPECT_TRUE(shows("No visits match.") && shows("0 of 3"));
+    click("Show all");
+    EXPECT_TRUE(lists("3 visits", {"Came home"}) && shows("With demo") && shows("All cameras"));
+    EXPECT_FALSE(shows("No visits match."));
+}
+
+TEST_F(HistoryTest, TheSearchReadsCamerasLabelsOutcomesNoticesAndIds) {
+    auto history = four();
+    history[1].label = "Delivery person";
+    history[2].notices = {{{}, now, "Gust of 41 km/h rode out", Notice::Level::info}};
+    look(history);
+    for (const auto& [text, found] :
+         {std::pair("DRIVE", "Visitor left"), std::pair("delivery", "You ignored"),
+          std::pair("low batt", "Came home"), std::pair(" rode out ", "Came home"),
+          std::pair("m-4", "Alert expired")}) {
+        search(text);
+        EXPECT_TRUE(lists("1 of 4", {found})) << text;
+        press(Qt::Key_Escape);
+        EXPECT_EQ(QApplication::focusWidget(), &list());
+        EXPECT_TRUE(shows("4 visits"));
+    }
+}
+
+TEST_F(HistoryTest, TheChosenVisitStaysMarkedWhileTheFiltersShowIt) {
+    look(four());
+    choose("Came home");
+    click("Flown");
+    EXPECT_EQ(list().currentIndex(), rowOf("Came home"));
+    EXPECT_TRUE(shows("Came home on low battery"));
+    click("All");
+    EXPECT_EQ(list().currentIndex(), rowOf("Came home"));
+}
+
+TEST_F(HistoryTest, AnEmptyHistoryHasItsOwnWords) {
+    look(four());
+    while (!store().history().empty())
+        store().removeRecord(0);
+    settle();
+    EXPECT_TRUE(shows("Nothing yet. When a camera spots someone you don't know, it appears here."));
+    EXPECT_TRUE(shows("No visit to replay yet"));
+    EXPECT_FALSE(shows("Search the history") || shows(clearDemo) || shows("Export…"));
+    click("Simulate a visitor");
+    EXPECT_EQ(phase(), Phase::awaitingApproval);
+    store().send(Command::ignore);
+    settle();
+    EXPECT_TRUE(shows("You ignored the alert") && shows("1 visit"));
+    store().removeRecord(0);
+    store().applyLinkMode(true);
+    settle();
+    EXPECT_FALSE(shows("Simulate a visitor")) << "a server stages no visits";
+}
+
+TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
+    look(four());
+    choose("You ignored");
+    press(Qt::Key_Delete);
+    EXPECT_EQ(onFile(), (std::vector<std::string>{"M-1", "M-3", "M-4"}));
+    EXPECT_EQ(list().currentIndex(), rowOf("Came home"));
+    EXPECT_TRUE(shows("Came home on low battery") && shows("Visit deleted."));
+    EXPECT_FALSE(shows(clearDemo));
+    click("Undo");
+    EXPECT_EQ(onFile(), (std::vector<std::string>{"M-1", "M-2", "M-3", "M-4"}));
+    EXPECT_EQ(list().currentIndex(), rowOf("You ignored"));
+    EXPECT_TRUE(shows("You ignored the alert"));
+    EXPECT_FALSE(shows("Undo"));
+
+    choose("You ignored");
+    press(Qt::Key_Delete);
+    visit(Scenario::driveway);
+    store().send(Command::ignore);
+    tickAfter(0.05);
+    click("Undo");
+    EXPECT_EQ(store().history()[2].id, "M-2") << "below a visit that has ended meanwhile";
+    store().removeRecord(0);
+
+    click("Stayed docked");
+    choose("You ignored");
+    press(Qt::Key_Delete);
+    EXPECT_TRUE(shows("Alert expired — drone stayed docked")) << "the next that is listed";
+    click("Undo");
+    click("All");
+
+    choose("Alert expired");
+    click(deleteVisit);
+    EXPECT_TRUE(shows("Came home on low battery")) << "the one above the last";
+    click(deleteVisit);
+    click(deleteVisit);
+    click(deleteVisit);
+    EXPECT_EQ(onFile(), std::vector<std::string>{});
+    click("Undo");
+    EXPECT_EQ(onFile(), std::vector<std::string>{"M-1"}) << "the last one deleted";
+    EXPECT_TRUE(shows("Visitor left your grounds"));
+}
+
+TEST_F(HistoryTest, TheDaysAreNamedAnewWhenAnotherHasBegun) {
+    look(four());
+    EXPECT_TRUE(rowOf("Today").isValid());
+    pass(86'400);
+    store().setSection(Section::overview);
+    store().setSection(Section::history);
+    EXPECT_TRUE(rowOf("Yesterday").isValid());
+    EXPECT_FALSE(rowOf("Today").isValid());
+}
+
+TEST_F(HistoryTest, OfTwoVisitsWithOneIdTheChosenOneIsMeant) {
+    auto history = four();
+    for (MissionRecord& one : history)
+        one.id = "M-1";
+    look(history);
+    choose("Came home");
+    EXPECT_TRUE(shows("Came home on low battery"));
+    EXPECT_EQ(decode<MissionRecord>(exported("Record as JSON…", "velmora-M-1.json").toStdString()).value,
+              history[2]);
+    press(Qt::Key_Escape);
+    click(deleteVisit);
+    history.erase(history.begin() + 2);
+    EXPECT_EQ(store().history(), history);
+    EXPECT_TRUE(shows("Alert expired — drone stayed docked"));
+}
+
+TEST_F(HistoryTest, ClearingTheDemoHistoryAsksFirst) {
+    look(four());
+    const auto ask = [&] {
+        click(clearDemo);
+        ASSERT_TRUE(waitUntil([&] { return shows("Keep it"); }));
+        EXPECT_TRUE(shows("2 rehearsed visits go. Visits that were really flown stay."));
+    };
+    for (const Qt::Key keeps : {Qt::Key_Escape, Qt::Key_Return}) {
+        ask();
+        press(keeps);
+        EXPECT_TRUE(waitUntil([&] { return !shows("Keep it"); }));
+        EXPECT_EQ(store().history().size(), 4u) << keeps;
+    }
+    ask();
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(onFile(), (std::vector<std::string>{"M-3", "M-4"}));
+    EXPECT_TRUE(shows("Came home on low battery"));
+    EXPECT_FALSE(find(*list().parentWidget(), clearDemo)) << "there is nothing more to clear";
+}
+
+TEST_F(HistoryTest, KeysWalkTheVisitsAcrossTheDays) {
+    auto history = four();
+    history[2].start -= Seconds{86400};
+    history[3].start -= Seconds{86400};
+    look(history);
+    EXPECT_TRUE(rowOf("Today").isValid() && rowOf("Yesterday").isValid());
+    const auto walk = [&](Qt::Key key, const QString& outcome) {
+        press(key);
+        EXPECT_EQ(list().currentIndex(), rowOf(outcome)) << key;
+        EXPECT_TRUE(find(outcome)) << outcome.toStdString();
+    };
+    walk(Qt::Key_Down, "You ignored the alert");
+    walk(Qt::Key_Down, "Came home on low battery");
+    walk(Qt::Key_End, "Alert expired — drone stayed docked");
+    walk(Qt::Key_Up, "Came home on low battery");
+    walk(Qt::Key_Up, "You ignored the alert");
+    walk(Qt::Key_Home, "Visitor left your grounds");
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &slider());
+}
+
+} // namespace
+
+} // namespace velmora

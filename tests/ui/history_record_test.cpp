@@ -1,0 +1,113 @@
+#include "ui/history_fixture.h"
+
+#include "model/csv.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+namespace velmora {
+
+namespace {
+
+TEST_F(HistoryTest, ARecordTellsItsFiguresAndHowItWent) {
+    look({flight(), visitAt("Garden", "M-2", Outcome::ignored, false)});
+    for (const char* fact :
+         {"Duration, 0:10 min", "Furthest out, 42 m", "Battery used, 8 %", "Match, 88 % unknown",
+          "Seen → 3 s → answered → 4 s → coming home → 3 s → landed",
+          "The drone stayed at least 32.6 m inside the boundary and was 0 s in the 5 m buffer.",
+          "Unknown person · M-1"})
+        EXPECT_TRUE(shows(fact)) << fact;
+    choose("You ignored");
+    for (const char* fact :
+         {"Furthest out, —", "Battery used, —", "Seen → 10 s → ended", "The drone did not fly."})
+        EXPECT_TRUE(shows(fact)) << fact;
+}
+
+TEST_F(HistoryTest, TheReplayStepsHalfASecondAndShowsTheMapOfThatMoment) {
+    look({flight()});
+    const QString whole = "Replay of the visitor's path and of the drone's, at most 42 m from its pad.",
+                  before = "Replay of the visitor's path; the drone stayed on its pad.";
+    EXPECT_TRUE(shows("0:10 / 0:10") && shows(whole));
+    slider().setFocus();
+    press(Qt::Key_Home);
+    EXPECT_TRUE(shows("0:00 / 0:10") && shows(before));
+    press(Qt::Key_Right);
+    EXPECT_EQ(slider().value(), 1);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(shows("0:01 / 0:10")) << "two steps are one second";
+    QWidget* notice = nullptr;
+    for (auto* text : window().findChildren<QWidget*>())
+        if (text->isVisible() && text->accessibleName().endsWith(" Battery low — coming home"))
+            notice = text;
+    ASSERT_NE(notice, nullptr);
+    QTest::mouseClick(notice, Qt::LeftButton);
+    settle();
+    EXPECT_TRUE(shows("0:07 / 0:10") && shows(whole)) << "the drone has taken off by then";
+}
+
+TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPauses) {
+    look({flight()});
+    slider().setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(shows("Pause"));
+    EXPECT_TRUE(waitUntil([&] { return slider().value() > 0 && slider().value() < slider().maximum(); }));
+    press(Qt::Key_Space);
+    EXPECT_TRUE(shows("Play"));
+    const int paused = slider().value();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(waitUntil([&] { return slider().value() > paused; })) << "it goes on from there";
+    visit(Scenario::garden);
+    EXPECT_TRUE(shows("Play"));
+    store().send(Command::ignore);
+    ASSERT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
+
+    click("8×");
+    click("Play");
+    store().setSection(Section::cameras);
+    settle();
+    store().setSection(Section::history);
+    settle();
+    EXPECT_TRUE(shows("Play")) << "it does not run unseen";
+    click("Play");
+    EXPECT_TRUE(waitUntil([&] { return slider().value() == slider().maximum(); }));
+    EXPECT_TRUE(waitUntil([&] { return shows("Play"); })) << "it ends by itself";
+}
+
+TEST_F(HistoryTest, TheSliderHasAGapWhereNothingWasRecorded) {
+    look({flight()});
+    const QImage picture = slider().grab().toImage();
+    const auto colorAt = [&](double seconds) {
+        const double x = Measure::replayThumb / 2 + seconds / 10 * (slider().width() - Measure::replayThumb);
+        return picture.pixelColor(static_cast<int>(x), picture.height() / 2);
+    };
+    EXPECT_EQ(colorAt(1), SB::teal);
+    EXPECT_EQ(colorAt(2.2), SB::page);
+    EXPECT_EQ(colorAt(5.8), SB::page);
+    EXPECT_EQ(colorAt(6.5), SB::teal);
+    QTest::mouseClick(&slider(), Qt::LeftButton, {}, {slider().width() / 2, 4});
+    settle();
+    EXPECT_TRUE(shows("0:05 / 0:10"));
+}
+
+TEST_F(HistoryTest, ExportsAreWhatTheyPromise) {
+    auto history = four();
+    history[0] = flight();
+    history[0].id = "M/../1";
+    look(history);
+    EXPECT_EQ(exported("Record as JSON…", "velmora-M----1.json").toStdString(), encode(history[0]).value());
+    EXPECT_EQ(exported("Paths and notices as CSV…", "velmora-M----1.csv").toStdString(),
+              pathsCsv(history[0]));
+    click("Flown");
+    EXPECT_EQ(exported("The list as CSV…", "velmora-M----1-list.csv").toStdString(),
+              recordsCsv({history[0], history[2]}));
+    const QWidget* map = find("Replay of the visitor's path and of the drone's, at most 42 m from its pad.");
+    EXPECT_EQ(QImage::fromData(exported("Map as a picture…", "velmora-M----1.png")).size(), map->size() * 2);
+    EXPECT_EQ(exported("Record as JSON…", "velmora-M----1.json", "/sys/"), QByteArray());
+    settle();
+    EXPECT_TRUE(shows("The file was not saved")) << "nobody may write there";
+    click("Close");
+    EXPECT_FALSE(shows("The file was not saved"));
+}
+
+} // namespace
+
+} // namespace velmora
