@@ -44,7 +44,7 @@ void fly(World& world, double hours) {
         if (world.docked()) {
             const bool even = world.store().history().size() % 2 == 0;
             world.store().simulate(even ? Scenario::driveway : Scenario::garden);
-            world.store().send(Command::approve);
+            world.approve();
             QApplication::processEvents();
         }
         world.tick();

@@ -45,10 +45,14 @@ public:
         runningSince_ = realNow();
         store().start();
     }
+    void approve() {
+        if (const auto alert = store().waitingAlert())
+            store().answer(Command::approve, *alert);
+    }
     /// A visit that the drone follows, with trails of 160 points.
     void follow() {
         store().simulate(Scenario::driveway);
-        store().send(Command::approve);
+        approve();
         while (store().state().drone.trail.size() < 160)
             tick();
     }

@@ -38,7 +38,12 @@ void finishWelcome(AppStore& store) {
     store.setSettings(settings);
 }
 
-/// A server's drone is none of the run's business.
+/// In demo mode only: the run must not fly a server's drone.
+void approveInDemo(AppStore& store) {
+    if (const auto alert = store.waitingAlert(); alert && !store.settings().linkMode)
+        store.answer(Command::approve, *alert);
+}
+
 void sendInDemo(AppStore& store, Command command) {
     if (!store.settings().linkMode)
         store.send(command);
@@ -94,7 +99,7 @@ void runIfRequested(AppStore& store) {
     run.sectionAt(0.5, Section::overview);
     run.at(0, [&store] { store.simulate(Scenario::driveway); });
     run.shotAt(2, "06-approval");
-    run.at(0.5, [&store] { sendInDemo(store, Command::approve); });
+    run.at(0.5, [&store] { approveInDemo(store); });
     run.shotAt(24, "02-live");
     run.sectionAt(0.5, Section::overview);
     run.shotAt(1, "07-overview-flying");

@@ -4,6 +4,7 @@
 #include "link/state_guard.h"
 #include "model/json.h"
 
+#include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkProxy>
@@ -47,6 +48,23 @@ QByteArray bodyOf(Command command, const std::optional<std::string>& mission) {
     return QJsonDocument(body).toJson(QJsonDocument::Compact);
 }
 
+/// Why no reply came to a command; absent when one came, whatever it says.
+std::optional<LinkError> commandFailure(const Exchange::End& end) {
+    if (end.kind == Exchange::End::Kind::complete || end.status != 0)
+        return std::nullopt;
+    return LinkError{failureText(*failureOf(end), end.errorText)};
+}
+
+/// Qt sends a request again when its connection breaks before the reply, unless its body cannot be rewound.
+class SingleUseBody : public QBuffer {
+public:
+    explicit SingleUseBody(const QByteArray& bytes) {
+        setData(bytes);
+        open(ReadOnly);
+    }
+    bool isSequential() const override { return true; }
+};
+
 } // namespace
 
 HttpLink::HttpLink(const Limits& limits) : limits_(limits) {
@@ -75,16 +93,20 @@ void HttpLink::fetchState(const Settings& settings, std::function<void(FetchResu
 }
 
 void HttpLink::send(Command command, const std::optional<std::string>& mission, const Settings& settings,
-                    std::function<void()> done) {
+                    CommandDone done) {
     const auto address = base(settings);
     if (!address)
         return;
     QNetworkRequest request = requestTo(*address, QStringLiteral("command"));
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    QNetworkReply* reply = manager_.post(request, bodyOf(command, mission));
+    auto* body = new SingleUseBody(bodyOf(command, mission));
+    request.setHeader(QNetworkRequest::ContentLengthHeader, body->size());
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    QNetworkReply* reply = manager_.post(request, body);
+    body->setParent(reply);
     new Exchange(
         reply, limits_.command, limits_.replyBytes,
-        [done = std::move(done)](const Exchange::End&) { done(); }, this);
+        [done = std::move(done)](const Exchange::End& end) { done(commandFailure(end)); }, this);
 }
 
 } // namespace velmora

@@ -34,7 +34,7 @@ public:
 
     void fetchState(const Settings& settings, std::function<void(FetchResult)> done) override;
     void send(Command command, const std::optional<std::string>& mission, const Settings& settings,
-              std::function<void()> done) override;
+              CommandDone done) override;
 
 private:
     QNetworkAccessManager manager_;

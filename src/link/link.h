@@ -33,10 +33,12 @@ public:
     /// returning when the address is invalid, otherwise when the exchange has ended.
     virtual void fetchState(const Settings& settings, std::function<void(FetchResult)> done) = 0;
 
-    /// Posts one of the owner's commands for the mission. `done` is called once when the exchange has ended,
-    /// whatever its result, and never when the address is invalid.
+    using CommandDone = std::function<void(const std::optional<LinkError>& failure)>;
+
+    /// Posts one of the owner's commands for the mission, at most once. `done` is called once when the
+    /// exchange has ended, with the reason when no reply came, and never when the address is invalid.
     virtual void send(Command command, const std::optional<std::string>& mission, const Settings& settings,
-                      std::function<void()> done) = 0;
+                      CommandDone done) = 0;
 };
 
 } // namespace velmora

@@ -125,4 +125,9 @@ inline constexpr auto rawValuesOf<Command> = std::to_array<std::pair<Command, st
     {Command::land, "land"},
 });
 
+/// Whether the command answers an alert; the others steer a drone that flies.
+constexpr bool answersAlert(Command command) {
+    return command == Command::approve || command == Command::ignore;
+}
+
 } // namespace velmora

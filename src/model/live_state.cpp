@@ -39,10 +39,15 @@ bool isOverPad(const LiveState& state) {
     return distance(state.drone.pos, state.site.pad) <= reach;
 }
 
-std::string alertOf(const LiveState& state) {
-    if (state.missionId || !state.missionStart)
-        return state.missionId.value_or("");
-    return dateText(*state.missionStart).value_or("");
+std::optional<AlertId> alertId(const LiveState& state) {
+    if (state.phase != Phase::awaitingApproval)
+        return std::nullopt;
+    if (state.missionId)
+        return AlertId{state.missionId, {}, {}, {}};
+    return AlertId{{},
+                   state.missionStart,
+                   state.approvalDeadline,
+                   state.visitor ? state.visitor->cameraId : std::string()};
 }
 
 void addNotice(LiveState& state, Notice notice) {

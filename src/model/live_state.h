@@ -105,8 +105,20 @@ inline constexpr auto fieldsOf<LiveState> =
 /// Whether the drone is within a metre of its pad.
 bool isOverPad(const LiveState& state);
 
-/// Tells the alert of one mission from that of the next: the mission's id, or when it began.
-std::string alertOf(const LiveState& state);
+/// Identifies one alert, so that an answer to it is not taken for an answer to the next. A server that names
+/// its missions is trusted to name each alert differently; otherwise start, deadline and camera tell alerts
+/// apart.
+struct AlertId {
+    std::optional<std::string> missionId;
+    std::optional<Date> start; ///< absent where there is a mission id, as are the next two
+    std::optional<Date> deadline;
+    std::string cameraId;
+
+    bool operator==(const AlertId&) const = default;
+};
+
+/// The alert that waits for the owner's approval in this state; absent in every other phase.
+std::optional<AlertId> alertId(const LiveState& state);
 
 /// Puts the notice in front of the others; beyond forty the oldest goes.
 void addNotice(LiveState& state, Notice notice);

@@ -22,17 +22,14 @@ constexpr double earlyTick = 0.005;       // seconds by which ten ticks may fall
 constexpr double failingUntilStale = 2;   // seconds since the last good answer
 constexpr double silentUntilStale = 2.5;  // seconds since the last good answer
 
-QString notificationIdentifier(const LiveState& state) {
-    return QString::fromStdString(state.missionId.value_or("det"));
-}
-
 DetectionNotification detectionNotification(const LiveState& state) {
     const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
     const QString name = camera ? QString::fromStdString(camera->name) : QStringLiteral("a camera");
-    return {notificationIdentifier(state),
+    return {QString::fromStdString(state.missionId.value_or("det")),
             QStringLiteral("Someone you don't know is at the ") + name.toLower(),
             QStringLiteral("Launch the drone to keep an eye on them?"),
-            camera ? QString::fromStdString(camera->snapshot) : QString()};
+            camera ? QString::fromStdString(camera->snapshot) : QString(),
+            alertId(state).value_or(AlertId{})};
 }
 
 } // namespace
@@ -76,9 +73,9 @@ void AppStore::tick() {
         advanceSimulator(now, elapsed);
     updateFreshness();
     const Phase before = lastPhase_;
-    const bool anotherAlert = alertOf(state_) != lastAlert_;
+    const bool anotherAlert = alertId(state_) != lastAlert_;
     lastPhase_ = state_.phase;
-    lastAlert_ = alertOf(state_);
+    lastAlert_ = alertId(state_);
     if (state_.phase != before)
         phaseChanged(before, state_.phase);
     else if (anotherAlert && state_.phase == Phase::awaitingApproval)
@@ -151,23 +148,39 @@ void AppStore::notifyDetection() {
     world_.notifier.post(detectionNotification(state_));
 }
 
+std::optional<AlertId> AppStore::waitingAlert() const {
+    return freshness_ == Freshness::live ? alertId(state_) : std::nullopt;
+}
+
+/// After a pause of the program an answer can arrive before the tick, when the state is as old as the pause.
+bool AppStore::answer(Command command, const AlertId& seen) {
+    tick();
+    if (!answersAlert(command) || waitingAlert() != seen)
+        return false;
+    transmit(command, seen.missionId);
+    return true;
+}
+
 void AppStore::send(Command command) {
+    if (!answersAlert(command))
+        transmit(command, state_.missionId);
+}
+
+void AppStore::transmit(Command command, const std::optional<std::string>& mission) {
     if (!settings_.linkMode) {
         sim_.send(command, world_.clock());
         setState(sim_.state);
         return;
     }
-    world_.link.send(command, state_.missionId, settings_, [store = QPointer(this)] {
-        if (store && !store->pollInFlight_)
-            store->poll();
-    });
-}
-
-/// A server may replace the alert in the moment before the tick that withdraws its notification.
-void AppStore::answer(Command command, const QString& notification) {
-    const bool itsAlert = notification == notificationIdentifier(state_) && alertOf(state_) == lastAlert_;
-    if (freshness_ != Freshness::waiting && (state_.phase != Phase::awaitingApproval || itsAlert))
-        send(command);
+    world_.link.send(command, mission, settings_,
+                     [store = QPointer(this), command](const std::optional<LinkError>& failure) {
+                         if (!store)
+                             return;
+                         if (failure)
+                             emit store->commandFailed(command, failure->text);
+                         if (store && !store->pollInFlight_)
+                             store->poll();
+                     });
 }
 
 void AppStore::setArmed(bool armed) {

@@ -62,10 +62,15 @@ public:
     /// A change is saved and reaches the simulator at once.
     void setSettings(const Settings& settings);
 
-    /// Carries out one of the owner's commands, in the simulator or at the server.
+    /// The alert that can be answered now: it waits, and the link to the server is live.
+    std::optional<AlertId> waitingAlert() const;
+    /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown: the answer
+    /// goes out, once, if that very alert can still be answered at this moment; otherwise nothing happens.
+    /// Returns whether it went out.
+    bool answer(Command command, const AlertId& seen);
+    /// Carries out a flight command in the simulator or at the server, at once and once, also while the
+    /// server is silent. Does nothing for an answer to an alert.
     void send(Command command);
-    /// The owner's answer in a notification; nothing when another alert waits by now.
-    void answer(Command command, const QString& notification);
     /// Demo mode only: a server decides for itself whether it is armed.
     void setArmed(bool armed);
     void applyLinkMode(bool linked);
@@ -89,6 +94,8 @@ signals:
     void showWelcomeChanged();
     /// Someone waits for the owner's decision.
     void attentionRequested();
+    /// The server did not take a command, for this reason in words for the owner. Comes within three seconds.
+    void commandFailed(velmora::Command command, const QString& reason);
 
 private:
     void setState(const LiveState& state);
@@ -99,6 +106,7 @@ private:
     void advancePolling(double elapsed);
     void poll();
     void received(const FetchResult& result, int server);
+    void transmit(Command command, const std::optional<std::string>& mission);
     void phaseChanged(Phase from, Phase to);
     void alertReplaced();
     void notifyDetection();
@@ -124,7 +132,7 @@ private:
     int server_ = 0;       ///< counts the servers asked, so that a late answer of another one is told apart
     double pollClock_ = 0; ///< seconds gathered towards the next poll
     Phase lastPhase_ = Phase::docked;
-    std::string lastAlert_;
+    std::optional<AlertId> lastAlert_;
 };
 
 } // namespace velmora

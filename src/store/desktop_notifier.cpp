@@ -112,6 +112,9 @@ void DesktopNotifier::post(const DetectionNotification& notification) {
 }
 
 void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
+    if (posted.id > 0 && posted.alert != notification.alert)
+        close(std::exchange(posted.id, 0)); // its actions must not answer the new alert
+    posted.alert = notification.alert;
     QString body = printable(notification.body);
     if (capabilities_ && capabilities_->contains(QStringLiteral("body-markup")))
         body = body.toHtmlEscaped();
@@ -191,15 +194,16 @@ void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
     const auto entry = find(id);
     if (entry == posted_.end() || !entry->second.quiet.hasExpired())
         return;
-    const QString identifier = entry->first, token = entry->second.token;
+    const AlertId alert = entry->second.alert;
+    const QString token = entry->second.token;
     if (action == launchAction || action == ignoreAction)
         entry->second.quiet.setRemainingTime(quietAfterAnswer);
     if (action != ignoreAction)
         emit windowRequested(token);
     if (action == launchAction)
-        emit answered(Command::approve, identifier);
+        emit answered(Command::approve, alert);
     else if (action == ignoreAction)
-        emit answered(Command::ignore, identifier);
+        emit answered(Command::ignore, alert);
 }
 
 void DesktopNotifier::onActivationToken(uint id, const QString& token) {

@@ -36,8 +36,8 @@ public:
     void withdrawAll() override;
 
 signals:
-    /// The owner chose "Launch drone" or "Ignore" in the notification with this identifier.
-    void answered(velmora::Command command, const QString& identifier);
+    /// The owner chose "Launch drone" or "Ignore" in the notification of this alert.
+    void answered(velmora::Command command, const velmora::AlertId& alert);
     /// The window is asked for; the token lets it come to the front where the desktop wants one.
     void windowRequested(const QString& activationToken);
 
@@ -49,6 +49,7 @@ private slots:
 private:
     /// A notification of this run, from the moment it is sent.
     struct Posted {
+        AlertId alert;           ///< that its actions answer
         uint id = 0;             ///< 0 until the service has answered
         bool withdrawn = false;  ///< before the service had answered
         QDeadlineTimer quiet{0}; ///< until a second press counts as another answer

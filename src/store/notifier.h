@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/live_state.h"
+
 #include <QString>
 
 namespace velmora {
@@ -10,6 +12,7 @@ struct DetectionNotification {
     QString title;
     QString body;
     QString picture; ///< artwork of the camera's view; may name nothing
+    AlertId alert;   ///< that its actions answer
 };
 
 /// The desktop's notification service as the store uses it. A desktop that has none shows nothing; the window

@@ -39,10 +39,10 @@ protected:
         EXPECT_EQ(replyTo(call, QDBusConnection::sessionBus()).type(), QDBusMessage::ReplyMessage);
         QCoreApplication::processEvents();
     }
-    const NotificationService::Shown& post(const QString& identifier = "M-1",
-                                           const QString& title = "Title") {
+    const NotificationService::Shown& post(const QString& identifier = "M-1", const QString& title = "Title",
+                                           const AlertId& alert = {}) {
         const std::size_t before = service().shown.size();
-        notifier.post({identifier, title, "Body", "snapshot-driveway"});
+        notifier.post({identifier, title, "Body", "snapshot-driveway", alert});
         EXPECT_TRUE(waitUntil([&] { return service().shown.size() > before; }));
         settle();
         return service().shown.back();
@@ -79,6 +79,22 @@ TEST_F(NotifierTest, TheSameMissionReplacesItsOwn) {
     const uint first = post("M-1").id;
     EXPECT_EQ(post("M-1").replaces, first);
     EXPECT_EQ(post("det").replaces, 0U);
+}
+
+TEST_F(NotifierTest, AnotherAlertOfTheSameNameGetsANotificationOfItsOwn) {
+    const AlertId atTheGate{{}, {}, {}, "gate"}, inTheGarden{{}, {}, {}, "garden"};
+    std::vector<AlertId> answered;
+    QObject::connect(&notifier, &DesktopNotifier::answered,
+                     [&](Command, const AlertId& alert) { answered.push_back(alert); });
+    const uint first = post("det", "Title", atTheGate).id;
+    const auto second = post("det", "Title", inTheGarden);
+    EXPECT_EQ(second.replaces, 0U);
+    EXPECT_EQ(service().closed, std::vector{first});
+    service().invoke(first, "LAUNCH");
+    service().invoke(second.id, "LAUNCH");
+    ASSERT_TRUE(waitUntil([&] { return !answered.empty(); }));
+    settle();
+    EXPECT_EQ(answered, std::vector{inTheGarden});
 }
 
 TEST_F(NotifierTest, LaunchAnswersOnceAndOnlyForItsOwnNotification) {
@@ -121,19 +137,19 @@ TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
     settle();
     EXPECT_TRUE(answers.empty());
 
-    notifier.post({"M-2", "Title", "Body", {}}); // withdrawn before its id is known
+    notifier.post({"M-2", "Title", "Body", {}, {}}); // withdrawn before its id is known
     notifier.withdrawAll();
     EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 2; }));
 }
 
 TEST_F(NotifierTest, ARefusingOrRestartedServiceIsSurvived) {
     service().refuses = true;
-    notifier.post({"M-1", "Title", "Body", {}});
+    notifier.post({"M-1", "Title", "Body", {}, {}});
     settle();
     service().refuses = false;
     const uint id = post().id;
     service_.reset();
-    notifier.post({"M-2", "Title", "Body", {}}); // while there is none
+    notifier.post({"M-2", "Title", "Body", {}, {}}); // while there is none
     notifier.withdrawAll();
     service({"body"});
     service().invoke(id, "LAUNCH"); // of the service that is gone
@@ -145,9 +161,9 @@ TEST_F(NotifierTest, ARefusingOrRestartedServiceIsSurvived) {
 
 TEST_F(NotifierTest, AServiceThatHangsIsNotWaitedFor) {
     service().hangs = true;
-    notifier.post({"M-1", "Title", "Body", {}});
+    notifier.post({"M-1", "Title", "Body", {}, {}});
     ASSERT_TRUE(waitUntil([&] { return service().held.size() == 1; }));
-    notifier.post({"M-1", "Later title", "Body", {}});
+    notifier.post({"M-1", "Later title", "Body", {}, {}});
     notifier.withdrawAll();
     service().hangs = false;
     service().answerHeld();
@@ -157,7 +173,7 @@ TEST_F(NotifierTest, AServiceThatHangsIsNotWaitedFor) {
 
 TEST_F(NotifierTest, WithoutABusItIsSilent) {
     DesktopNotifier alone(QDBusConnection(QStringLiteral("nowhere")), pictureOf);
-    alone.post({"M-1", "Title", "Body", {}});
+    alone.post({"M-1", "Title", "Body", {}, {}});
     alone.withdrawAll();
 }
 
@@ -177,11 +193,11 @@ TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
 class RealServiceTest : public NotifierTest {
 protected:
     void expectBothAnswers(Dunst& real) {
-        notifier.post({"M-1", "At the <driveway>", "Launch?", {}});
+        notifier.post({"M-1", "At the <driveway>", "Launch?", {}, {}});
         ASSERT_TRUE(real.choose("Launch drone"));
         EXPECT_TRUE(waitUntil([&] { return answers == std::vector{Command::approve}; }));
         notifier.withdrawAll();
-        notifier.post({"M-2", "At the garden", "Launch?", {}});
+        notifier.post({"M-2", "At the garden", "Launch?", {}, {}});
         ASSERT_TRUE(real.choose("Ignore"));
         EXPECT_TRUE(waitUntil([&] { return answers.size() == 2 && answers.back() == Command::ignore; }));
         notifier.withdrawAll();
@@ -194,11 +210,11 @@ protected:
 TEST_F(RealServiceTest, DunstAnswersAndMayDieWithANotificationUp) {
     auto dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
-    notifier.post({"M-3", "At the gate", "Launch?", {}});
+    notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 1; }));
     dunst.reset();
     EXPECT_TRUE(waitUntil([] { return !Dunst::isThere(); }));
-    notifier.post({"M-3", "At the gate", "Launch?", {}});
+    notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
     dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 0; }));

@@ -51,7 +51,10 @@ protected:
         link->fetchState(settings, [this](const FetchResult& result) { results.push_back(result); });
     }
     void startSend(Command command, const std::optional<std::string>& mission = "M-1") {
-        link->send(command, mission, settings, [this] { ++sent; });
+        link->send(command, mission, settings, [this](const std::optional<LinkError>& failure) {
+            ++sent;
+            lastFailure = failure ? failure->text.toStdString() : "";
+        });
     }
 
     static bool eventually(const std::function<bool()>& condition) {
@@ -89,6 +92,7 @@ protected:
     std::unique_ptr<HttpLink> link = std::make_unique<HttpLink>();
     std::vector<FetchResult> results;
     int sent = 0;
+    std::string lastFailure; ///< of the last command that ended; "" when a reply came
 };
 
 } // namespace velmora

@@ -39,7 +39,7 @@ TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
     EXPECT_EQ(notifier.posted[0].title, "Someone you don't know is at the driveway");
     EXPECT_EQ(notifier.posted[0].body, "Launch the drone to keep an eye on them?");
 
-    store().send(Command::approve);
+    respond(Command::approve);
     EXPECT_EQ(phase(), Phase::launching);
     EXPECT_EQ(store().section(), Section::overview) << "the section follows with the tick";
     pass(0.05);
@@ -73,7 +73,7 @@ TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndAtThePresent) {
     const P start{14, 88};
     EXPECT_NEAR(distance(start, store().state().visitor->pos), 5 * 1.45, 1e-9);
 
-    store().send(Command::ignore);
+    respond(Command::ignore);
     EXPECT_EQ(store().history()[0].end, now);
     tickAfter(-3600);
     EXPECT_EQ(phase(), Phase::docked) << "a clock that jumps back moves nothing";
@@ -125,7 +125,7 @@ TEST_F(StoreTest, AssigningTheSameValueNotifiesNobody) {
 
 TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAndTheNextStartLeavesThem) {
     store().simulate(Scenario::driveway);
-    store().send(Command::ignore);
+    respond(Command::ignore);
     store().clearDemoHistory();
     ASSERT_EQ(store().history().size(), 1u);
     EXPECT_FALSE(store().history()[0].demo);

@@ -34,13 +34,13 @@ TEST_F(StoreTest, AnAnswerIsShownAndItsPhaseChangeFollowsWithTheNextTick) {
 
 TEST_F(StoreTest, ACommandGoesToTheServerAndIsFollowedByAPollAtOnce) {
     linked();
-    store().send(Command::approve);
+    store().send(Command::hold);
     ASSERT_EQ(link.posts.size(), 1u);
     EXPECT_EQ(link.posts[0].mission, std::nullopt);
     EXPECT_EQ(phase(), Phase::docked) << "nothing is assumed locally";
-    link.posts[0].done();
+    link.posts[0].done({});
     EXPECT_EQ(link.fetches.size(), 1u);
-    link.posts[0].done();
+    link.posts[0].done({});
     EXPECT_EQ(link.fetches.size(), 1u) << "none on top of one that is out";
 }
 
@@ -65,7 +65,7 @@ TEST_F(StoreTest, AnswersThatComeAfterTheStoreIsGoneAreIgnored) {
     store().send(Command::hold);
     restart();
     link.fetches.at(0)(LinkError{"late"});
-    link.posts.at(0).done();
+    link.posts.at(0).done({});
 }
 
 } // namespace velmora

@@ -50,7 +50,7 @@ TEST_F(ClockFaultsTest, TheWallClockJudgesTheDeadlineHoweverItGotThere) {
 TEST_F(ClockFaultsTest, NoAlertIsStuckWhenTheClockIsSetBack) {
     alert();
     tickAfter(-hour);
-    store().send(Command::approve);
+    respond(Command::approve);
     EXPECT_EQ(phase(), Phase::launching) << "it can still be answered";
     store().send(Command::land);
     pass(10);
@@ -63,7 +63,7 @@ TEST_F(ClockFaultsTest, NoAlertIsStuckWhenTheClockIsSetBack) {
 
 TEST_F(ClockFaultsTest, AFlightGoesOnAfterANightsSuspendAndThroughStalls) {
     alert();
-    store().send(Command::approve);
+    respond(Command::approve);
     pass(20);
     const auto missions = store().history().size();
     tickAfter(night);

@@ -34,7 +34,7 @@ protected:
         store().setSettings(settings);
         now += Seconds{1};
         store().simulate(Scenario::driveway);
-        store().send(Command::ignore);
+        respond(Command::ignore);
     }
     /// Settings and history as another start would read them.
     auto onFile() const {

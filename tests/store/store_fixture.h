@@ -25,14 +25,14 @@ public:
     struct Posted {
         Command command;
         std::optional<std::string> mission;
-        std::function<void()> done;
+        CommandDone done;
     };
 
     void fetchState(const Settings&, std::function<void(FetchResult)> done) override {
         fetches.push_back(done);
     }
     void send(Command command, const std::optional<std::string>& mission, const Settings&,
-              std::function<void()> done) override {
+              CommandDone done) override {
         posts.push_back({command, mission, done});
     }
 
@@ -81,6 +81,11 @@ protected:
     void tickAfter(double seconds) {
         now += Seconds{seconds};
         store().tick();
+    }
+    /// Answers the alert that waits, if one does.
+    void respond(Command command) {
+        if (const auto alert = store().waitingAlert())
+            store().answer(command, *alert);
     }
     void linked() {
         Settings settings = store().settings();

@@ -12,21 +12,42 @@ const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("
 using ApprovalTest = UiTest;
 
 TEST_F(ApprovalTest, NoAnswerCountsInTheFirstMoment) {
-    constexpr qint64 guard = 600; // milliseconds
     window();
     QElapsedTimer sinceAlert;
     sinceAlert.start();
     visit(Scenario::driveway);
     EXPECT_TRUE(waitUntil([&] {
         if (phase() == Phase::awaitingApproval && shows(launch)) {
-            click(launch);
-            QTest::keyClick(&window(), Qt::Key_Return, Qt::ControlModifier);
+            clickThrough(launch);
+            press(Qt::Key_Return, Qt::ControlModifier);
         }
         return phase() == Phase::launching;
     }));
-    EXPECT_GE(sinceAlert.elapsed(), guard);
+    EXPECT_GE(sinceAlert.elapsed(), PressRule::guardTime.count());
     tickAfter(0.05);
     EXPECT_EQ(store().section(), Section::live);
+}
+
+TEST_F(ApprovalTest, ADeadlineOfAClockThatIsOffIsNotCountedDown) {
+    linked();
+    window();
+    LiveState state = LiveState::initial();
+    state.phase = Phase::awaitingApproval;
+    const auto countdown = [&](double secondsLeft) {
+        state.approvalDeadline = now + Seconds{secondsLeft};
+        while (link.fetches.empty())
+            tickAfter(0.05);
+        std::exchange(link.fetches, {}).front()(FetchedState{state, ""});
+        settle();
+        return std::ranges::any_of(window().findChildren<QWidget*>(), [](const QWidget* widget) {
+            return widget->accessibleName().contains("Expires in, ") &&
+                   !widget->accessibleName().contains("—");
+        });
+    };
+    EXPECT_TRUE(countdown(45));
+    EXPECT_TRUE(countdown(3600));
+    for (const double off : {0.0, -86'400.0, 3601.0, 2.5e11})
+        EXPECT_FALSE(countdown(off)) << off;
 }
 
 TEST_F(ApprovalTest, FocusStaysInTheCardAndBeginsNowhere) {

@@ -72,7 +72,7 @@ TEST_F(HistoryTest, AnEmptyHistoryHasItsOwnWords) {
     EXPECT_FALSE(shows("Search the history") || shows(clearDemo) || shows("Export…"));
     click("Simulate a visitor");
     EXPECT_EQ(phase(), Phase::awaitingApproval);
-    store().send(Command::ignore);
+    respond(Command::ignore);
     settle();
     EXPECT_TRUE(shows("You ignored the alert") && shows("1 visit"));
     store().removeRecord(0);
@@ -98,7 +98,7 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     choose("You ignored");
     press(Qt::Key_Delete);
     visit(Scenario::driveway);
-    store().send(Command::ignore);
+    respond(Command::ignore);
     tickAfter(0.05);
     click("Undo");
     EXPECT_EQ(store().history()[2].id, "M-2") << "below a visit that has ended meanwhile";

@@ -57,7 +57,7 @@ TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPauses) {
     EXPECT_TRUE(waitUntil([&] { return slider().value() > paused; })) << "it goes on from there";
     visit(Scenario::garden);
     EXPECT_TRUE(shows("Play"));
-    store().send(Command::ignore);
+    respond(Command::ignore);
     ASSERT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
 
     click("8×");

@@ -83,7 +83,8 @@ TEST_F(OverviewTest, VisitsAreOfferedInDemoModeBetweenMissions) {
     ASSERT_EQ(phase(), Phase::awaitingApproval);
     EXPECT_EQ(store().state().visitor->cameraId, "garden");
     EXPECT_FALSE(shows("Visitor in the east garden"));
-    click("Launch (approve)");
+    outwaitGuard();
+    pressByAccessibility("Launch (approve)");
     EXPECT_EQ(phase(), Phase::launching);
     EXPECT_FALSE(offersVisits());
     EXPECT_FALSE(shows("Launch (approve)"));
@@ -99,7 +100,8 @@ TEST_F(OverviewTest, AServerDecidesAboutVisitsAndArming) {
     state.phase = Phase::awaitingApproval;
     serve(state);
     EXPECT_FALSE(offersVisits());
-    click("Launch (approve)");
+    outwaitGuard();
+    pressByAccessibility("Launch (approve)");
     ASSERT_EQ(link.posts.size(), 1u);
     EXPECT_EQ(link.posts[0].command, Command::approve);
 }

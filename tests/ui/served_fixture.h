@@ -34,15 +34,6 @@ protected:
     std::optional<Command> lastPosted() const {
         return link.posts.empty() ? std::nullopt : std::optional(link.posts.back().command);
     }
-
-    /// Presses where the widget is seen, so that whatever lies over it takes the click.
-    void clickThrough(const QString& name) {
-        QWidget* widget = find(name);
-        ASSERT_NE(widget, nullptr) << name.toStdString();
-        const QPoint at = widget->mapTo(&window(), widget->rect().center());
-        QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, at);
-        settle();
-    }
 };
 
 } // namespace velmora

@@ -1,12 +1,17 @@
 #pragma once
 
 #include "store/store_fixture.h"
+#include "ui/guard/answer_guard.h"
 #include "ui/window/main_window.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QMouseEvent>
 #include <QTest>
 #include <QWidget>
+#include <QWindow>
 
 namespace velmora {
 
@@ -63,9 +68,44 @@ protected:
         QTest::mouseClick(widget, Qt::LeftButton);
         settle();
     }
+    /// Clicks where the widget is seen, so that whatever lies over it takes the click.
+    void clickThrough(const QString& name) {
+        QWidget* widget = find(name);
+        ASSERT_NE(widget, nullptr) << name.toStdString();
+        mouse(QEvent::MouseButtonPress, *widget);
+        mouse(QEvent::MouseButtonRelease, *widget);
+        settle();
+    }
+    /// Lets the left button do this in the middle of the widget, or beside its corner, through the window:
+    /// what lies over the widget takes it.
+    void mouse(QEvent::Type type, QWidget& widget, bool beside = false) {
+        const QPoint at = beside ? QPoint(-9, -9) : widget.rect().center();
+        const bool isRelease = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, widget.mapTo(widget.window(), at), widget.mapToGlobal(at),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          isRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget.window()->windowHandle(), &event);
+    }
+    /// Presses and lets go of a key, through the window.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QWidget* focus = QApplication::focusWidget();
-        QTest::keyClick(focus ? focus : &window(), key, modifiers);
+        QTest::qSleep(2); // milliseconds; a press at the very moment of a release counts as a repeat
+        QTest::keyClick(window().windowHandle(), key, modifiers);
+        settle();
+    }
+    /// Presses a widget as a screen reader does. A button acts on it a tenth of a second later.
+    void pressByAccessibility(const QString& name) {
+        QWidget* widget = find(name);
+        ASSERT_NE(widget, nullptr) << name.toStdString();
+        QAccessible::queryAccessibleInterface(widget)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        EXPECT_TRUE(waitUntil([&] { return !button->isDown(); }));
+        settle();
+    }
+    /// Waits until the card, or what else answers an alert, takes a press.
+    void outwaitGuard() {
+        const auto& guard = *window().findChild<AnswerGuard*>();
+        EXPECT_TRUE(waitUntil([&] { return guard.isOpen(); }));
         settle();
     }
 
@@ -76,7 +116,7 @@ protected:
         settle();
     }
     void approve() {
-        store().send(Command::approve);
+        respond(Command::approve);
         tickAfter(0.05);
         settle();
     }

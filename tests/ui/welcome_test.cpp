@@ -76,7 +76,7 @@ TEST_F(WelcomeTest, AnAlertAppearsOverItAndItStaysAfterwards) {
     QWidget* card = find("Launch drone");
     QWidget* top = window().childAt(card->mapTo(&window(), card->rect().center()));
     EXPECT_EQ(top, card);
-    store().send(Command::ignore);
+    respond(Command::ignore);
     EXPECT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
     EXPECT_TRUE(shows(explore));
 }

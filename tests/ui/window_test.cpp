@@ -71,7 +71,7 @@ TEST_F(WindowTest, EachVisitIsStagedInFrontOfItsCamera) {
         command(visits[static_cast<int>(scenario)])->trigger();
         ASSERT_TRUE(store().state().visitor.has_value());
         EXPECT_EQ(store().state().visitor->cameraId, camera);
-        store().send(Command::ignore);
+        respond(Command::ignore);
     }
 }
 
@@ -137,7 +137,7 @@ TEST_F(WindowTest, NothingBehindTheAlertIsReached) {
     EXPECT_EQ(phase(), Phase::awaitingApproval);
     EXPECT_TRUE(shows(alertCard));
 
-    store().send(Command::ignore);
+    respond(Command::ignore);
     ASSERT_TRUE(waitUntil([&] { return !shows(alertCard); }));
     clickThrough("Settings");
     EXPECT_EQ(store().section(), Section::settings);
@@ -176,7 +176,7 @@ TEST_F(WindowTest, TheAlertClosesWhenItIsIgnoredAndWhenItExpires) {
 
     visit(Scenario::driveway);
     EXPECT_TRUE(shows(alertCard));
-    store().send(Command::ignore);
+    respond(Command::ignore);
     EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
 }
 
@@ -214,7 +214,7 @@ TEST_F(WindowTest, TheAlertLiesOverAnyOtherCardAndGivesTheFocusBack) {
     ASSERT_TRUE(waitUntil([&] { return shows("Launch drone"); }));
     press(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), find("Ignore"));
-    store().send(Command::ignore);
+    respond(Command::ignore);
     ASSERT_TRUE(waitUntil([&] { return !shows(alertCard); }));
     EXPECT_EQ(QApplication::focusWidget(), before);
     press(Qt::Key_Escape);

@@ -42,8 +42,12 @@ private:
 
     /// Alerts are mostly approved, so that there is something to fly.
     void command() {
-        const bool waiting = store_.state().phase == Phase::awaitingApproval;
-        store_.send(waiting && random_.happens(0.8) ? Command::approve : random_.anyOf<Command>());
+        const auto alert = store_.waitingAlert();
+        const Command any = random_.anyOf<Command>();
+        if (alert)
+            store_.answer(random_.happens(0.8) ? Command::approve : any, *alert);
+        else
+            store_.send(any);
     }
 
     void changeSettings() {

@@ -43,9 +43,8 @@ public:
         state.missionId = "S-1";
         done(FetchedState{state, QStringLiteral("1.0")});
     }
-    void send(Command, const std::optional<std::string>&, const Settings&,
-              std::function<void()> done) override {
-        done();
+    void send(Command, const std::optional<std::string>&, const Settings&, CommandDone done) override {
+        done(std::nullopt);
     }
 
 private:

@@ -18,8 +18,7 @@ protected:
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
             return false;
-        if (!key->isAutoRepeat())
-            static_cast<QAbstractButton*>(watched)->click();
+        static_cast<QAbstractButton*>(watched)->click();
         return true;
     }
 };

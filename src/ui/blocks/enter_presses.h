@@ -4,7 +4,7 @@ class QAbstractButton;
 
 namespace velmora {
 
-/// Lets Enter press a button as Space does. A held key presses once.
+/// Lets Enter press a button as Space does.
 void letEnterPress(QAbstractButton* button);
 
 } // namespace velmora

@@ -15,7 +15,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double guardedOpacity = 0.6;
+constexpr double paleOpacity = 0.6;
 
 const TextStyle& textStyleOf(const SBButtonStyle& style) {
     return style.large ? Type::buttonLarge : Type::button;
@@ -85,18 +85,12 @@ SBButton::SBButton(const QString& text, const SBButtonStyle& style, QWidget* par
     connect(this, &SBButton::released, this, &SBButton::fadeToWantedLook);
 }
 
-void SBButton::setGuarded(bool guarded) {
-    if (guarded == guarded_)
+void SBButton::setPale(bool pale) {
+    if (pale == pale_)
         return;
-    guarded_ = guarded;
-    if (guarded)
-        forgetPress();
+    pale_ = pale;
+    fadeToWantedLook();
     update();
-}
-
-void SBButton::forgetPress() {
-    forgotten_ = true;
-    setDown(false);
 }
 
 QSize SBButton::sizeHint() const {
@@ -115,7 +109,7 @@ SBButton::Look SBButton::wantedLook() const {
         return Look::disabled;
     if (isDown())
         return Look::pressed;
-    return underMouse() && !guarded_ ? Look::hover : Look::normal;
+    return underMouse() && !pale_ ? Look::hover : Look::normal;
 }
 
 void SBButton::fadeToWantedLook() {
@@ -135,21 +129,6 @@ void SBButton::fadeToWantedLook() {
 
 bool SBButton::event(QEvent* event) {
     switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        forgotten_ = guarded_;
-        if (guarded_)
-            return true;
-        break;
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-        if (forgotten_)
-            return true;
-        break;
-    case QEvent::Shortcut:
-        if (guarded_)
-            return true;
-        break;
     case QEvent::Enter:
     case QEvent::Leave:
     case QEvent::EnabledChange:
@@ -165,11 +144,7 @@ bool SBButton::event(QEvent* event) {
 }
 
 void SBButton::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool presses = enter || event->key() == Qt::Key_Space;
-    if (presses && (guarded_ || event->isAutoRepeat()))
-        return;
-    if (enter)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
     else
         QAbstractButton::keyPressEvent(event);
@@ -178,8 +153,8 @@ void SBButton::keyPressEvent(QKeyEvent* event) {
 void SBButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (guarded_)
-        painter.setOpacity(guardedOpacity);
+    if (pale_)
+        painter.setOpacity(paleOpacity);
     painter.setPen(shown_.border.alpha() > 0 ? QPen(shown_.border, 1) : QPen(Qt::NoPen));
     painter.setBrush(shown_.fill);
     const double inset = shown_.border.alpha() > 0 ? 0.5 : 0;

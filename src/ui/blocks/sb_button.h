@@ -35,10 +35,8 @@ class SBButton : public QAbstractButton {
 public:
     SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent);
 
-    /// A guarded button is paler and takes neither clicks nor keys, and lets go of a press that is under way.
-    void setGuarded(bool guarded);
-    /// What is pressed now counts for nothing when it is released.
-    void forgetPress();
+    /// A pale button looks as if it took no press.
+    void setPale(bool pale);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -58,8 +56,7 @@ private:
     SBButtonStyle style_;
     SBButtonLook from_, shown_, target_;
     QVariantAnimation fade_;
-    bool guarded_ = false;
-    bool forgotten_ = false; ///< the press under way
+    bool pale_ = false;
 };
 
 } // namespace velmora

@@ -3,8 +3,8 @@
 #include "model/whole.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/metric.h"
-#include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
+#include "ui/guard/answer_button.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/screens/approval_picture.h"
@@ -19,9 +19,9 @@ namespace velmora {
 
 namespace {
 
-constexpr int guardedFor = 600;           // milliseconds
 constexpr int countdownEvery = 250;       // milliseconds
 constexpr double patienceWithAnswers = 5; // seconds; a command may take three
+constexpr double longestCountdown = 3600; // seconds; a deadline further away is one of a clock that is off
 
 QString titleFor(const CameraInfo* camera) {
     const QString place = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
@@ -39,14 +39,11 @@ QString bodyFor(const Settings& settings) {
 
 } // namespace
 
-ApprovalOverlay::ApprovalOverlay(AppStore& store, QWidget* window)
-    : OverlayCard(Measure::approvalCard, window), store_(store) {
+ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* window)
+    : OverlayCard(Measure::approvalCard, window), store_(store), guard_(guard) {
     build();
-    guardTime_.setSingleShot(true);
-    connect(&guardTime_, &QTimer::timeout, this, [this] { guard(false); });
     connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
-    connect(ignore_, &SBButton::clicked, this, [this] { answer(Command::ignore); });
-    connect(launch_, &SBButton::clicked, this, [this] { answer(Command::approve); });
+    connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
     followPhase();
@@ -98,22 +95,22 @@ QWidget* ApprovalOverlay::buildMetrics() {
 
 QWidget* ApprovalOverlay::buildButtons() {
     auto* row = new QWidget(card());
-    ignore_ = new SBButton(tr("Ignore"), {.kind = SBButtonKind::secondary, .wide = true, .large = true}, row);
-    launch_ = new SBButton(
-        tr("Launch drone"),
+    auto* ignore = new AnswerButton(Command::ignore, guard_, tr("Ignore"),
+                                    {.kind = SBButtonKind::secondary, .wide = true, .large = true}, row);
+    auto* launch = new AnswerButton(
+        Command::approve, guard_, tr("Launch drone"),
         {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Measure::gap12);
-    layout->addWidget(ignore_, 10);
-    layout->addWidget(launch_, 16);
+    layout->addWidget(ignore, 10);
+    layout->addWidget(launch, 16);
     return row;
 }
 
 void ApprovalOverlay::followPhase() {
-    const bool known =
-        store_.freshness() == Freshness::live; // nobody can be answered over a link that is down
-    if (!known || store_.state().phase != Phase::awaitingApproval) {
+    const auto alert = store_.waitingAlert();
+    if (!alert) {
         countdown_.stop();
         answeredAt_.reset();
         unheeded_.reset();
@@ -121,7 +118,6 @@ void ApprovalOverlay::followPhase() {
         return;
     }
     refresh();
-    const std::string alert = alertOf(store_.state());
     if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > patienceWithAnswers)
         stepAside();
     if (alert == unheeded_ || (isOpen() && alert == asked_))
@@ -136,8 +132,8 @@ void ApprovalOverlay::followPhase() {
         layCard();
         setFocus(Qt::OtherFocusReason);
     }
-    beginGuard();
     open();
+    emit asked();
 }
 
 void ApprovalOverlay::refresh() {
@@ -157,37 +153,17 @@ void ApprovalOverlay::refresh() {
 
 void ApprovalOverlay::countDown() {
     const auto deadline = store_.state().approvalDeadline;
-    const double left = deadline ? std::max((*deadline - store_.now()).count(), 0.0) : 0;
-    expires_->setValue(deadline ? QString::number(whole(std::ceil(left))) : QStringLiteral("—"),
-                       deadline ? tr("s") : QString());
-    picture_->setTimeLeft(wholeTime_ > 0 ? std::min(left / wholeTime_, 1.0) : 0);
+    const double left = deadline ? (*deadline - store_.now()).count() : 0;
+    const bool plausible = left > 0 && left <= longestCountdown;
+    expires_->setValue(plausible ? QString::number(whole(std::ceil(left))) : QStringLiteral("—"),
+                       plausible ? tr("s") : QString());
+    picture_->setTimeLeft(plausible && wholeTime_ > 0 ? std::min(left / wholeTime_, 1.0) : 0);
 }
 
-/// A window that was away shows the card anew, so the guard begins anew.
-void ApprovalOverlay::showEvent(QShowEvent* event) {
-    OverlayCard::showEvent(event);
-    beginGuard();
-}
-
-void ApprovalOverlay::beginGuard() {
-    guard(true);
-    guardTime_.start(guardedFor);
-}
-
-void ApprovalOverlay::guard(bool guarded) {
-    ignore_->setGuarded(guarded);
-    launch_->setGuarded(guarded);
-}
-
-/// The second click of a double one finds the guard again. The menu answers also while the card is away.
-void ApprovalOverlay::answer(Command command) {
-    if (isOpen() && (!isVisible() || guardTime_.isActive()))
-        return;
-    if (isOpen()) {
-        beginGuard();
-        answeredAt_ = store_.now(); // over a silent link nobody can tell whether an answer was heeded
-    }
-    store_.send(command);
+void ApprovalOverlay::paintEvent(QPaintEvent* event) {
+    OverlayCard::paintEvent(event);
+    if (isOpen())
+        guard_.cardPainted();
 }
 
 /// A server that goes on asking after an answer must not keep the owner from the rest of the window. The

@@ -3,8 +3,8 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/guard/answer_button.h"
 #include "ui/look/tokens.h"
-#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QHBoxLayout>
@@ -93,11 +93,12 @@ void ActiveBanner::paintEvent(QPaintEvent*) {
     fillRounded(this, SB::navy);
 }
 
-VisitOffers::VisitOffers(AppStore& store, QWidget* parent)
+VisitOffers::VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent)
     : QWidget(parent),
       store_(store),
       heading_(new Text(tr("Simulate a visitor"), Type::groupHeading, SB::ink, this)),
-      launch_(new SBButton(tr("Launch (approve)"), {.kind = SBButtonKind::primary, .wide = true}, this)) {
+      launch_(new AnswerButton(Command::approve, guard, tr("Launch (approve)"),
+                               {.kind = SBButtonKind::primary, .wide = true}, this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::gap8);
@@ -111,22 +112,18 @@ VisitOffers::VisitOffers(AppStore& store, QWidget* parent)
         visits_.push_back(visit);
     }
     column->addWidget(launch_);
-    connect(launch_, &SBButton::clicked, this, [this] { store_.send(Command::approve); });
     refresh();
 }
 
 void VisitOffers::refresh() {
     const Phase phase = store_.state().phase;
     const bool demo = !store_.settings().linkMode;
-    if (const auto alert = waitingAlert(store_); alert != alert_) {
-        alert_ = alert;
-        launch_->forgetPress();
-    }
+    const bool waiting = store_.waitingAlert().has_value();
     heading_->setVisible(demo);
     for (SBButton* visit : visits_)
         visit->setVisible(demo && phase == Phase::docked);
-    launch_->setVisible(alert_.has_value());
-    setVisible(alert_ || (demo && phase == Phase::docked));
+    launch_->setVisible(waiting);
+    setVisible(waiting || (demo && phase == Phase::docked));
 }
 
 } // namespace velmora

@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace velmora {
 
+class AnswerButton;
+class AnswerGuard;
 class SBButton;
 class StatusDot;
 class Text;
@@ -59,7 +59,7 @@ class VisitOffers : public QWidget {
     Q_OBJECT
 
 public:
-    VisitOffers(AppStore& store, QWidget* parent);
+    VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent);
 
     void refresh();
 
@@ -67,8 +67,7 @@ private:
     AppStore& store_;
     Text* heading_;
     std::vector<SBButton*> visits_;
-    SBButton* launch_;
-    std::optional<std::string> alert_; ///< that the launch is offered for
+    AnswerButton* launch_;
 };
 
 } // namespace velmora

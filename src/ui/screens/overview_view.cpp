@@ -58,11 +58,11 @@ QString ledeFor(const AppStore& store) {
 /// Banners above; the map and the rail share what the status strip leaves.
 class OverviewView::Content : public QWidget {
 public:
-    explicit Content(AppStore& store)
+    Content(AppStore& store, AnswerGuard& guard)
         : activeBanner(new ActiveBanner(store, this)),
           map(new MapCard(store, this)),
           activity(new ActivityList(store, this)),
-          offers(new VisitOffers(store, this)),
+          offers(new VisitOffers(store, guard, this)),
           strip(new StatusStrip(store, this)),
           body(new Body(this)) {
         stale = new Fold(new StaleBanner(store, this), Measure::gap16, Motion::banner, this);
@@ -125,11 +125,11 @@ private:
     Body* body;
 };
 
-OverviewView::OverviewView(AppStore& store, QWidget* parent)
+OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
     : QWidget(parent),
       store_(store),
       armSwitch_(new ArmSwitch(store, this)),
-      content_(new Content(store)),
+      content_(new Content(store, guard)),
       page_(new Page({.eyebrow = tr("Overview"),
                       .headline = headlineFor(store),
                       .lede = ledeFor(store),

@@ -6,6 +6,7 @@
 
 namespace velmora {
 
+class AnswerGuard;
 class ArmSwitch;
 class Page;
 
@@ -14,7 +15,7 @@ class OverviewView : public QWidget {
     Q_OBJECT
 
 public:
-    OverviewView(AppStore& store, QWidget* parent);
+    OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

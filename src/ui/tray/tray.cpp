@@ -1,6 +1,5 @@
 #include "ui/tray/tray.h"
 
-#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QDBusConnection>
@@ -71,16 +70,13 @@ void Tray::buildMenu() {
     addCommand(tr("Open Velmora"), [this] { emit openRequested(); });
     menu_.addSeparator();
     addCommand(tr("Quit Velmora"), [this] { emit quitRequested(); });
-    connect(&menu_, &QMenu::aboutToShow, this, [this] { openedFor_ = waitingAlert(store_); });
+    connect(&menu_, &QMenu::aboutToShow, this, [this] { openedFor_ = store_.waitingAlert(); });
 }
 
 /// A menu may be open while an alert comes or gives way to the next, and its lines move under the pointer.
-/// What was not opened for the alert that waits now only brings the window, which asks anew.
+/// Without an answer to the alert for which it was opened, the line opens the window, where the card asks.
 void Tray::answer(Command command) {
-    const auto alert = waitingAlert(store_);
-    if (alert && alert == openedFor_)
-        store_.send(command);
-    else
+    if (!openedFor_ || !store_.answer(command, *openedFor_))
         emit openRequested();
 }
 

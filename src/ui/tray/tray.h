@@ -47,7 +47,7 @@ private:
     QTimer patience_; ///< until a tray of the old kind is taken
     std::unique_ptr<QSystemTrayIcon> icon_;
     QString shownIcon_;
-    std::optional<std::string> openedFor_; ///< the alert that waited when the menu was opened
+    std::optional<AlertId> openedFor_; ///< the alert that waited when the menu was opened
 };
 
 } // namespace velmora

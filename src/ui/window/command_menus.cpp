@@ -1,11 +1,8 @@
 #include "ui/window/command_menus.h"
 
-#include "ui/waiting_alert.h"
 #include "ui/words.h"
 
 #include <QMenu>
-
-#include <utility>
 
 namespace velmora {
 
@@ -53,7 +50,6 @@ void CommandMenus::buildDrone() {
     connect(home, &QAction::triggered, this, [this] { store_.send(Command::returnHome); });
 }
 
-/// A held key gives its command once.
 QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut) {
     QAction* action = menu->addAction(text);
     action->setShortcut(shortcut);
@@ -61,23 +57,14 @@ QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySe
     return action;
 }
 
-/// A menu that was opened before the alert came does not answer it.
-void CommandMenus::closeMenus() {
-    for (QMenu* menu : findChildren<QMenu*>())
-        if (menu->isVisible())
-            menu->close();
-}
-
 void CommandMenus::refresh() {
     const Phase phase = store_.state().phase;
     const bool canStage = !store_.settings().linkMode && phase == Phase::docked;
     for (QAction* visit : visits_)
         visit->setEnabled(canStage);
-    const auto alert = waitingAlert(store_);
-    if (std::exchange(alert_, alert) != alert && alert)
-        closeMenus();
-    approve_->setEnabled(alert.has_value());
-    ignore_->setEnabled(alert.has_value());
+    const bool waiting = store_.waitingAlert().has_value();
+    approve_->setEnabled(waiting);
+    ignore_->setEnabled(waiting);
 }
 
 } // namespace velmora

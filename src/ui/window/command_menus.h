@@ -16,7 +16,7 @@ public:
 signals:
     void aboutRequested();
     void quitRequested();
-    /// "Launch (approve)" or "Ignore alert": the window asks whether the alert may be answered yet.
+    /// "Launch (approve)" or "Ignore alert" was chosen.
     void answered(velmora::Command answer);
 
 private:
@@ -24,12 +24,10 @@ private:
     void buildDemo();
     void buildDrone();
     void refresh();
-    void closeMenus();
     QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut);
 
     AppStore& store_;
     QList<QAction*> visits_;
-    std::optional<std::string> alert_; ///< that waits
     QAction* approve_ = nullptr;
     QAction* ignore_ = nullptr;
 };

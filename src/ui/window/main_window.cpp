@@ -2,6 +2,7 @@
 
 #include "ui/blocks/confirmation_card.h"
 #include "ui/blocks/focus_ring.h"
+#include "ui/guard/answer_guard.h"
 #include "ui/look/measures.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/approval_overlay.h"
@@ -32,6 +33,7 @@ namespace velmora {
 MainWindow::MainWindow(AppStore& store, Autostart autostart)
     : store_(store),
       autostart_(std::move(autostart)),
+      guard_(new AnswerGuard(store, *this, steadyTime)),
       menus_(new CommandMenus(store, this)),
       stack_(new SectionStack(this)) {
     setWindowTitle(QStringLiteral("Velmora"));
@@ -42,7 +44,7 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     buildSections();
     layOut();
 
-    approval_ = new ApprovalOverlay(store_, this);
+    approval_ = new ApprovalOverlay(store_, *guard_, this);
     landing_ = new LandConfirmation(store_, this);
     clearing_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
@@ -57,30 +59,35 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
 
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
     connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
-    connect(menus_, &CommandMenus::answered, approval_, &ApprovalOverlay::answer);
+    connect(menus_, &CommandMenus::answered, this,
+            [this](Command command) { guard_->answer(command, guard_->admit()); });
     connect(clearing_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
         history_->takeFocus();
     });
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
-    connect(&store_, &AppStore::attentionRequested, this, &MainWindow::makeWayForAlert);
+    connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::makeWayForAlert);
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     showSection();
     showWelcome();
     showCover();
 }
 
-/// Nothing may lie over an alert.
+/// Closes whatever would lie over the alert or take its first click: every menu and dialog of the program,
+/// also the tray's.
 void MainWindow::makeWayForAlert() {
-    for (QDialog* dialog : findChildren<QDialog*>())
-        dialog->reject();
-    QApplication::alert(this);
+    while (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* dialog = qobject_cast<QDialog*>(window))
+            dialog->reject();
 }
 
 void MainWindow::buildSections() {
     auto* live = new LiveView(store_, stack_);
     connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
-    sections_[Section::overview] = new OverviewView(store_, stack_);
+    sections_[Section::overview] = new OverviewView(store_, *guard_, stack_);
     sections_[Section::live] = live;
     history_ = new HistoryView(store_, stack_);
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);

@@ -10,6 +10,7 @@
 namespace velmora {
 
 class AboutCard;
+class AnswerGuard;
 class ApprovalOverlay;
 class CommandMenus;
 class ConfirmationCard;
@@ -45,6 +46,7 @@ private:
 
     AppStore& store_;
     Autostart autostart_;
+    AnswerGuard* guard_;
     CommandMenus* menus_;
     TitleStrip* strip_;
     QWidget* house_; ///< sidebar and section

@@ -1,0 +1,94 @@
+#include "store/store_fixture.h"
+
+namespace velmora {
+
+namespace {
+
+/// Alerts of a server, and answers to what the owner saw of them.
+class AnswerTest : public StoreTest {
+protected:
+    void serve(const LiveState& state) {
+        linked();
+        while (link.fetches.empty())
+            tickAfter(0.05);
+        std::exchange(link.fetches, {}).front()(FetchedState{state, "2.1"});
+    }
+    AlertId alert(const std::optional<std::string>& id, double begun = 0) {
+        LiveState state = LiveState::initial();
+        state.phase = Phase::awaitingApproval;
+        state.missionId = id;
+        state.missionStart = now - Seconds{begun};
+        serve(state);
+        return store().waitingAlert().value_or(AlertId{});
+    }
+};
+
+TEST_F(AnswerTest, TheCommandCarriesTheMissionOfTheAlertThatWasSeen) {
+    EXPECT_TRUE(store().answer(Command::approve, alert("M-1")));
+    EXPECT_TRUE(store().answer(Command::ignore, alert(std::nullopt)));
+    ASSERT_EQ(link.posts.size(), 2U);
+    EXPECT_EQ(link.posts[0].command, Command::approve);
+    EXPECT_EQ(link.posts[0].mission, "M-1");
+    EXPECT_EQ(link.posts[1].mission, std::nullopt);
+}
+
+TEST_F(AnswerTest, AnAnswerToAnotherAlertOrToOneThatIsOverIsDropped) {
+    const AlertId first = alert("M-1");
+    alert("M-2");
+    EXPECT_FALSE(store().answer(Command::approve, first));
+    const AlertId nameless = alert(std::nullopt, 9);
+    alert(std::nullopt, 2);
+    EXPECT_FALSE(store().answer(Command::approve, nameless));
+    const AlertId last = alert("M-3");
+    serve(LiveState::initial());
+    EXPECT_FALSE(store().answer(Command::approve, last));
+    EXPECT_TRUE(link.posts.empty());
+}
+
+TEST_F(AnswerTest, NothingIsAnsweredOverALinkThatIsNotLive) {
+    const AlertId seen = alert("M-1");
+    now += Seconds{65}; // the program was stopped: no tick has noticed yet
+    EXPECT_FALSE(store().answer(Command::approve, seen));
+    EXPECT_EQ(store().freshness(), Freshness::stale);
+    alert("M-1");
+    Settings other = store().settings();
+    other.port += 1; // another server may use the same ids
+    store().setSettings(other);
+    EXPECT_FALSE(store().answer(Command::approve, seen));
+    EXPECT_TRUE(link.posts.empty());
+}
+
+TEST_F(AnswerTest, TheDemosAlertExpiresBeforeALateAnswer) {
+    store().simulate(Scenario::driveway);
+    const AlertId seen = store().waitingAlert().value();
+    now += Seconds{65};
+    EXPECT_FALSE(store().answer(Command::approve, seen));
+    EXPECT_EQ(store().history().front().outcome, Outcome::expired);
+}
+
+TEST_F(AnswerTest, OnlyAnswersAnswerAndOnlyFlightCommandsAreSent) {
+    const AlertId seen = alert("M-1");
+    EXPECT_FALSE(store().answer(Command::land, seen));
+    store().send(Command::approve);
+    store().send(Command::ignore);
+    EXPECT_TRUE(link.posts.empty());
+    pass(9);
+    store().send(Command::returnHome);
+    EXPECT_EQ(link.posts.size(), 1U) << "a flight command is always tried";
+}
+
+TEST_F(AnswerTest, AFailedCommandIsTold) {
+    std::vector<std::pair<Command, QString>> told;
+    QObject::connect(&store(), &AppStore::commandFailed,
+                     [&](Command command, const QString& reason) { told.emplace_back(command, reason); });
+    alert("M-1");
+    store().send(Command::hold);
+    store().send(Command::land);
+    link.posts.at(0).done({});
+    link.posts.at(1).done(LinkError{"The connection timed out"});
+    EXPECT_EQ(told, (std::vector{std::pair{Command::land, QString("The connection timed out")}}));
+}
+
+} // namespace
+
+} // namespace velmora

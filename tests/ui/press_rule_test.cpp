@@ -1,0 +1,110 @@
+#include "ui/guard/answer_keys.h"
+#include "ui/guard/press_rule.h"
+
+#include <QtCore/qnamespace.h>
+#include <gtest/gtest.h>
+
+namespace velmora {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A card and a window, and an event loop that runs or stands still.
+class PressRuleTest : public testing::Test {
+protected:
+    void run(EventTime time) {
+        for (EventTime passed{}; passed < time; passed += 50ms)
+            rule.beat(now += 50ms);
+    }
+    bool counts() { return rule.beat(now) && rule.counts(now); }
+
+    PressRule rule;
+    EventTime now = 10s;
+};
+
+TEST_F(PressRuleTest, APressCountsOnceCardAndWindowWereThereForTheGuardTime) {
+    rule.windowActivated(now);
+    run(5s);
+    EXPECT_FALSE(counts()) << "no card yet";
+    rule.cardPainted(now);
+    run(550ms);
+    EXPECT_FALSE(counts());
+    run(50ms);
+    EXPECT_TRUE(counts());
+    EXPECT_FALSE(rule.counts(now - 1ms)) << "it began earlier, whenever it is handled";
+    rule.windowDeactivated();
+    EXPECT_FALSE(counts());
+    rule.windowActivated(now);
+    run(550ms);
+    EXPECT_FALSE(counts());
+    run(50ms);
+    EXPECT_TRUE(counts());
+    rule.restart(now);
+    EXPECT_FALSE(counts());
+    run(600ms);
+    EXPECT_TRUE(counts());
+    rule.cardGone();
+    EXPECT_FALSE(counts());
+}
+
+TEST_F(PressRuleTest, AStallBeginsTheGuardTimeAgainWhicheverIsHandledFirst) {
+    rule.windowActivated(now);
+    for (const bool pressFirst : {true, false}) {
+        rule.cardPainted(now);
+        run(700ms);
+        now += PressRule::longestGap + 1ms;
+        if (!pressFirst) {
+            EXPECT_FALSE(rule.beat(now));
+        }
+        EXPECT_FALSE(rule.beat(now) && rule.counts(now - 100ms)) << pressFirst;
+        run(550ms);
+        EXPECT_FALSE(counts());
+        run(50ms);
+        EXPECT_TRUE(counts());
+    }
+}
+
+TEST(EventClockTest, AnEventHandledLateBeganEarlier) {
+    for (const std::uint64_t zero : {1ull, 77'000ull, 0xFFFF'FF00ull}) { // the last one wraps at 32 bits
+        EventClock clock;
+        const auto began = [&](std::uint64_t stamp, EventTime now) {
+            return clock.began((zero + stamp) & 0xFFFF'FFFF, now).count();
+        };
+        EXPECT_EQ(began(1000, 5020ms), 5020) << "nothing to compare with";
+        EXPECT_EQ(began(1100, 5110ms), 5110) << "the promptest so far";
+        EXPECT_EQ(began(1200, 5500ms), 5210);
+        EXPECT_EQ(began(1500, 5512ms), 5510);
+        EXPECT_EQ(clock.began(0, 5600ms).count(), 5600) << "no time stamp";
+        EXPECT_EQ(began(70'000, 80'000ms), 80'000) << "clocks drift: after a minute it learns again";
+    }
+}
+
+TEST(AnswerKeysTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
+    AnswerKeys keys;
+    const auto counts = [&](int key, std::uint64_t stamp, bool flagged = false) {
+        const AnswerKeys::Press press = keys.pressed(key, stamp, flagged);
+        return !press.isRepeat && press.othersUp;
+    };
+    EXPECT_TRUE(counts(Qt::Key_Return, 100));
+    for (std::uint64_t stamp = 760; stamp < 2000; stamp += 33) {
+        keys.released(Qt::Key_Return, stamp);
+        EXPECT_FALSE(counts(Qt::Key_Return, stamp)) << stamp;
+    }
+    EXPECT_FALSE(counts(Qt::Key_Space, 2010)) << "Return is still down";
+    keys.released(Qt::Key_Space, 2050);
+    keys.released(Qt::Key_Return, 2100);
+    EXPECT_TRUE(counts(Qt::Key_Return, 2160));
+    EXPECT_FALSE(counts(Qt::Key_Return, 2170)) << "a repeat whose release was not sent";
+    keys.released(Qt::Key_Return, 2200);
+    EXPECT_FALSE(counts(Qt::Key_Return, 2300, true)) << "the flag counts where it is set";
+    keys.forget(); // the window lost the keyboard while the key was down
+    keys.released(Qt::Key_Return, 3000);
+    EXPECT_FALSE(counts(Qt::Key_Return, 3000)) << "held since before the window came";
+    keys.released(Qt::Key_Return, 3100);
+    EXPECT_TRUE(counts(Qt::Key_Return, 0)) << "a platform without time stamps";
+}
+
+} // namespace
+
+} // namespace velmora
