@@ -4,10 +4,12 @@
 #include "link/state_guard.h"
 #include "model/json.h"
 
-#include <QBuffer>
+#include <QIODevice>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkProxy>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -55,14 +57,26 @@ std::optional<LinkError> commandFailure(const Exchange::End& end) {
     return LinkError{failureText(*failureOf(end), end.errorText)};
 }
 
-/// Qt sends a request again when its connection breaks before the reply, unless its body cannot be rewound.
-class SingleUseBody : public QBuffer {
+/// A request's body that can be read once. Qt sends a request again when its connection breaks before the
+/// reply, unless it cannot rewind the body.
+class SingleUseBody : public QIODevice {
 public:
-    explicit SingleUseBody(const QByteArray& bytes) {
-        setData(bytes);
-        open(ReadOnly);
-    }
+    explicit SingleUseBody(const QByteArray& bytes) : rest_(bytes) { open(ReadOnly); }
     bool isSequential() const override { return true; }
+    bool reset() override { return false; }
+    qint64 bytesAvailable() const override { return rest_.size() + QIODevice::bytesAvailable(); }
+
+protected:
+    qint64 readData(char* data, qint64 most) override {
+        const qint64 count = std::min<qint64>(most, rest_.size());
+        std::copy_n(rest_.constData(), count, data);
+        rest_.remove(0, count);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray rest_;
 };
 
 } // namespace
@@ -99,8 +113,9 @@ void HttpLink::send(Command command, const std::optional<std::string>& mission, 
         return;
     QNetworkRequest request = requestTo(*address, QStringLiteral("command"));
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    auto* body = new SingleUseBody(bodyOf(command, mission));
-    request.setHeader(QNetworkRequest::ContentLengthHeader, body->size());
+    const QByteArray bytes = bodyOf(command, mission);
+    auto* body = new SingleUseBody(bytes);
+    request.setHeader(QNetworkRequest::ContentLengthHeader, bytes.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     QNetworkReply* reply = manager_.post(request, body);
     body->setParent(reply);

@@ -68,6 +68,27 @@ QString phaseWord(Phase phase) {
     return {};
 }
 
+QString failureText(Command command, const QString& reason) {
+    const auto name = [command] {
+        switch (command) {
+        case Command::approve:
+            return tr("Launch drone");
+        case Command::ignore:
+            return tr("Ignore");
+        case Command::hold:
+            return tr("Hold position");
+        case Command::resume:
+            return tr("Resume following");
+        case Command::returnHome:
+            return tr("Return home");
+        case Command::land:
+            break;
+        }
+        return tr("Land now");
+    };
+    return tr("velmora did not confirm “%1”. %2.").arg(name(), reason);
+}
+
 QString scenarioTitle(Scenario scenario) {
     switch (scenario) {
     case Scenario::driveway:

@@ -17,6 +17,9 @@ QString isolated(const QString& words);
 /// The phase as the owner reads it, such as "Coming home".
 QString phaseWord(Phase phase);
 
+/// "velmora did not confirm “Return home”. The connection timed out."
+QString failureText(Command command, const QString& reason);
+
 /// "Visitor on the driveway": the offer to stage the visit.
 QString scenarioTitle(Scenario scenario);
 

@@ -90,10 +90,34 @@ TEST_F(LinkTest, ACommandIsDoneHoweverItsExchangeEnds) {
         reply = end;
         startSend(Command::hold);
         ASSERT_TRUE(eventually([&] { return sent > before; })) << end.bytes.left(40).toStdString();
+        EXPECT_EQ(lastFailure.empty(), end.bytes.startsWith("HTTP"))
+            << "only a reply counts, whatever it says";
     }
     server.listener().close();
     startSend(Command::hold);
     EXPECT_TRUE(eventually([this] { return sent == 6; }));
+    EXPECT_EQ(lastFailure, "The connection was refused");
+}
+
+TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
+    const auto posts = [this] {
+        return std::ranges::count_if(requests, [](const QByteArray& one) { return one.startsWith("POST"); });
+    };
+    for (const bool kept : {false, true}) {
+        patient();
+        requests.clear();
+        if (kept) {
+            reply = {ScriptedServer::wellFormed(200, document(), {}), false};
+            EXPECT_EQ(failure(), "");
+        }
+        reply = {{}, true};
+        const int before = sent;
+        startSend(Command::approve);
+        ASSERT_TRUE(eventually([&] { return sent > before; }));
+        EXPECT_EQ(lastFailure, "The server sent a bad response") << kept;
+        eventually([this, end = QDeadlineTimer(300)] { return end.hasExpired(); });
+        EXPECT_EQ(posts(), 1) << kept;
+    }
 }
 
 TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {

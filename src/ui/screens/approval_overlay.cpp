@@ -8,6 +8,7 @@
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/screens/approval_picture.h"
+#include "ui/screens/note_line.h"
 #include "ui/words.h"
 
 #include <QVBoxLayout>
@@ -43,7 +44,14 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* w
     : OverlayCard(Measure::approvalCard, window), store_(store), guard_(guard) {
     build();
     connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
-    connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
+    connect(&guard_, &AnswerGuard::answered, this, [this] {
+        answeredAt_ = store_.now();
+        note_->clearMessage();
+    });
+    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
+        if (answersAlert(command))
+            note_->setMessage(failureText(command, reason));
+    });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
     followPhase();
@@ -65,9 +73,10 @@ void ApprovalOverlay::build() {
     words->addSpacing(Measure::gap16);
     words->addWidget(buildMetrics());
     words->addSpacing(Measure::gap20);
-    words->addWidget(
-        new Text(tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
-                 Type::overlayNote, SB::muted, card()));
+    note_ = new NoteLine(
+        tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
+        Type::overlayNote, {.note = SB::muted, .message = SB::alert}, card());
+    words->addWidget(note_);
     words->addSpacing(Measure::gap20);
     words->addWidget(buildButtons());
     column()->addWidget(picture_);
@@ -124,6 +133,7 @@ void ApprovalOverlay::followPhase() {
         return;
     asked_ = alert;
     answeredAt_.reset();
+    note_->clearMessage();
     const auto deadline = store_.state().approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();

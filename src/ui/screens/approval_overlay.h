@@ -9,6 +9,7 @@ namespace velmora {
 
 class ApprovalPicture;
 class Metric;
+class NoteLine;
 class Text;
 
 /// Asks the owner whether the drone may launch, over every section.
@@ -43,6 +44,7 @@ private:
     Metric* battery_;
     Metric* wind_;
     Metric* expires_;
+    NoteLine* note_;
     QTimer countdown_;
     std::optional<AlertId> asked_;    ///< the alert that the card asks about
     std::optional<Date> answeredAt_;  ///< when the owner last answered it

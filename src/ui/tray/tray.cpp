@@ -2,6 +2,7 @@
 
 #include "ui/words.h"
 
+#include <QApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusInterface>
@@ -53,6 +54,10 @@ Tray::Tray(AppStore& store, QObject* parent)
     connect(&store_, &AppStore::stateChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
+    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
+        if (icon_ && !QApplication::activeWindow()) // the window tells it itself
+            icon_->showMessage(tr("Velmora"), failureText(command, reason), QSystemTrayIcon::Warning);
+    });
     refresh();
     watchForTray();
 }
