@@ -92,7 +92,7 @@ bool AnswerGuard::eventFilter(QObject* watched, QEvent* event) {
         return withholds(static_cast<QKeyEvent&>(*event));
     if (event->type() == QEvent::KeyRelease) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        keys_.released(key->key(), key->timestamp());
+        keys_.released({key->key(), key->timestamp(), clock_()});
     }
     return false;
 }
@@ -123,8 +123,8 @@ void AnswerGuard::followWindow(const QEvent& event) {
 bool AnswerGuard::withholds(QKeyEvent& key) {
     if (!AnswerKeys::contains(key.key()))
         return false;
-    const bool secondEvent =
-        key.type() == QEvent::KeyPress && judgedKey_ == key.key() && judgedStamp_ == key.timestamp();
+    const bool sameStamp = key.timestamp() == 0 || key.timestamp() == judgedStamp_;
+    const bool secondEvent = key.type() == QEvent::KeyPress && judgedKey_ == key.key() && sameStamp;
     if (!secondEvent)
         judgedMayPress_ = mayPress(key);
     judgedKey_ = key.type() == QEvent::ShortcutOverride ? key.key() : 0;
@@ -135,7 +135,8 @@ bool AnswerGuard::withholds(QKeyEvent& key) {
 }
 
 bool AnswerGuard::mayPress(const QKeyEvent& key) {
-    const AnswerKeys::Press press = keys_.pressed(key.key(), key.timestamp(), key.isAutoRepeat());
+    const AnswerKeys::Press press = keys_.pressed(
+        {key.key(), key.timestamp(), eventClock_.began(key.timestamp(), clock_()), key.isAutoRepeat()});
     if (alert_)
         return !press.isRepeat && press.othersUp && admit(key.timestamp());
     const bool onButton = qobject_cast<QAbstractButton*>(window_.focusWidget());

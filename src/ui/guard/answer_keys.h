@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/guard/press_rule.h"
+
 #include <cstdint>
 #include <map>
 #include <set>
@@ -14,20 +16,26 @@ public:
     /// Whether `key`, a Qt::Key, is one of them.
     static bool contains(int key);
 
+    /// An event of one key.
+    struct Event {
+        int key = 0;
+        std::uint64_t stamp = 0; ///< of the window system; 0 for none
+        EventTime time{};        ///< of a press: when it happened; of a release: when it arrived
+        bool flagged = false;    ///< Qt's auto-repeat flag
+    };
     struct Press {
         bool isRepeat = false;
         bool othersUp = true; ///< none of the other keys is held
     };
 
-    /// `stamp` is the event's time stamp, 0 for none; `flagged` is Qt's auto-repeat flag.
-    Press pressed(int key, std::uint64_t stamp, bool flagged);
-    void released(int key, std::uint64_t stamp);
+    Press pressed(const Event& press);
+    void released(const Event& release);
     /// Forgets which keys are held: another window gets their releases.
     void forget() { held_.clear(); }
 
 private:
     std::set<int> held_;
-    std::map<int, std::uint64_t> releasedAt_;
+    std::map<int, Event> lastRelease_; ///< by key
 };
 
 } // namespace velmora
