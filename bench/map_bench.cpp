@@ -17,7 +17,7 @@ class ShownMap {
 public:
     explicit ShownMap(const LiveState& state) : map_(nullptr), state_(state) {
         map_.resize(mapSize);
-        map_.setState(state_, Settings{});
+        map_.setState(&state_, Settings{}, Freshness::live);
         map_.show();
         QApplication::processEvents();
         map_.repaint();
@@ -33,14 +33,14 @@ public:
     /// The ways anew: the drone has come to another place.
     void paths() {
         std::ranges::rotate(state_.drone.trail, state_.drone.trail.begin() + 1);
-        map_.setState(state_, Settings{});
+        map_.setState(&state_, Settings{}, Freshness::live);
         map_.repaint();
     }
     /// The grounds anew: another camera sees the visitor.
     void grounds() {
         auto& seen = state_.visitor->cameraId;
         seen = seen == "front" ? "driveway" : "front";
-        map_.setState(state_, Settings{});
+        map_.setState(&state_, Settings{}, Freshness::live);
         map_.repaint();
     }
 

@@ -75,7 +75,7 @@ void recording(benchmark::State& run) {
     store.setSection(Section::history);
     QTest::qWait(500);
     store.send(Command::land);
-    while (store.state().drone.altitude > 1)
+    while (store.knownState()->drone.altitude > 1)
         world.tick();
     const TickWatch watch;
     for ([[maybe_unused]] auto iteration : run) {

@@ -31,7 +31,7 @@ public:
     AppStore& store() {
         if (!store_)
             store_ = std::make_unique<AppStore>(
-                AppStore::World{[this] { return present(); }, random_, directory(), notifier_, link_});
+                AppStore::Environment{[this] { return present(); }, random_, directory(), notifier_, link_});
         return *store_;
     }
     QDir directory() const { return QDir(home_.path() + "/Velmora"); }
@@ -53,10 +53,10 @@ public:
     void follow() {
         store().simulate(Scenario::driveway);
         approve();
-        while (store().state().drone.trail.size() < 160)
+        while (store().knownState()->drone.trail.size() < 160)
             tick();
     }
-    bool docked() { return store().state().phase == Phase::docked; }
+    bool docked() { return store().knownState()->phase == Phase::docked; }
 
 private:
     static Date realNow() { return Date(std::chrono::system_clock::now()); }

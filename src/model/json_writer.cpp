@@ -70,6 +70,11 @@ bool write(Sink& sink, const std::map<std::string, bool>& switches) {
 template <Described Record>
 bool write(Sink& sink, const Record& record);
 
+template <Described Record>
+bool write(Sink& sink, const Record* record) {
+    return write(sink, *record);
+}
+
 template <class Item>
 bool write(Sink& sink, const std::vector<Item>& items) {
     return sink.StartArray() &&
@@ -117,5 +122,6 @@ template std::optional<std::string> encode(const LiveState&, KeyStyle);
 template std::optional<std::string> encode(const MissionRecord&, KeyStyle);
 template std::optional<std::string> encode(const Settings&, KeyStyle);
 template std::optional<std::string> encode(const std::vector<MissionRecord>&, KeyStyle);
+template std::optional<std::string> encode(const std::vector<const MissionRecord*>&, KeyStyle);
 
 } // namespace velmora

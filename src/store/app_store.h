@@ -1,9 +1,9 @@
 #pragma once
 
-#include "link/link.h"
 #include "sim/simulator.h"
 #include "store/data_files.h"
-#include "store/link_status.h"
+#include "store/history.h"
+#include "store/link_session.h"
 #include "store/notifier.h"
 
 #include <QObject>
@@ -11,15 +11,16 @@
 
 namespace velmora {
 
-/// The one controller of the app: owns the live state, the settings and the history, advances the simulator
-/// or polls the server twenty times a second, and carries out what the owner asks. Screens read its values,
-/// call its operations and listen to its signals. Everything happens on the main thread.
+/// The one controller of the app: owns the live state, the settings and the history, ticks twenty times a
+/// second, and carries out what the owner asks. Demo mode advances the simulator, link mode polls the server.
+/// Screens read its values, call its operations and listen to its signals. Everything happens on the main
+/// thread.
 class AppStore : public QObject {
     Q_OBJECT
 
 public:
-    /// What the store needs of the world; all of it must outlive the store.
-    struct World {
+    /// What the store needs from outside; all of it must outlive the store.
+    struct Environment {
         std::function<Date()> clock;
         Random& random;
         QDir dataDirectory;
@@ -28,38 +29,41 @@ public:
     };
 
     /// Reads both files, or seeds an empty history with rehearsed missions.
-    explicit AppStore(World world, QObject* parent = nullptr);
+    explicit AppStore(Environment environment, QObject* parent = nullptr);
 
     /// Starts the ticking. Called once.
     void start();
     /// Advances to the clock's present; the timer calls it every 0.05 s.
     void tick();
 
-    const LiveState& state() const { return state_; }
+    /// The live picture; null in link mode until the server has answered.
+    const LiveState* knownState() const;
+    /// The phase of the live picture; docked while nothing is known.
+    Phase phase() const { return knownState() ? state_.phase : Phase::docked; }
     const Settings& settings() const { return settings_; }
     /// Finished missions, newest first.
-    const std::vector<MissionRecord>& history() const { return history_; }
+    const std::vector<HistoryEntry>& history() const { return history_.entries(); }
+    /// Null if there is no such record (any more).
+    const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }
     Section section() const { return section_; }
-    /// Id of the record opened in the history.
-    const std::optional<std::string>& selectedRecord() const { return selectedRecord_; }
-    /// Its place in the history when it was opened by place: ids are not unique.
-    const std::optional<std::size_t>& selectedPlace() const { return selectedPlace_; }
-    const LinkStatus& linkStatus() const { return linkStatus_; }
-    Freshness freshness() const { return freshness_; }
-    /// When the server last answered well; absent in demo mode and before its first good answer.
-    const std::optional<Date>& heardAt() const { return heardAt_; }
+    /// The record opened in the history.
+    const std::optional<RecordKey>& selectedRecord() const { return selectedRecord_; }
+    const LinkStatus& linkStatus() const { return session_.status(); }
+    Freshness freshness() const { return session_.freshness(); }
+    /// When the server last answered with a state; absent in demo mode and before its first answer.
+    const std::optional<Date>& lastAnswerAt() const { return session_.lastAnswerAt(); }
     bool showWelcome() const { return showWelcome_; }
     /// Where settings.json and history.json are.
-    const QDir& dataDirectory() const { return world_.dataDirectory; }
-    /// The world's present, for ages and countdowns.
-    Date now() const { return world_.clock(); }
+    const QDir& dataDirectory() const { return environment_.dataDirectory; }
+    /// The clock's present, for ages and countdowns.
+    Date now() const { return environment_.clock(); }
 
     void setSection(Section section);
-    void setSelectedRecord(const std::optional<std::string>& id);
-    /// Opens the record in this place of the history.
-    void openRecord(std::size_t place);
+    void setSelectedRecord(const std::optional<RecordKey>& key);
+    /// Selects the record and shows the history.
+    void openRecord(RecordKey key);
     void setShowWelcome(bool show);
-    /// A change is saved and reaches the simulator at once.
+    /// Saves a change at once and hands it to the simulator and the link.
     void setSettings(const Settings& settings);
 
     /// The alert that can be answered now: it waits, and the link to the server is live.
@@ -73,15 +77,16 @@ public:
     void send(Command command);
     /// Demo mode only: a server decides for itself whether it is armed.
     void setArmed(bool armed);
+    /// Switches between demo mode and link mode. Also restarts the link's status if the mode stays.
     void applyLinkMode(bool linked);
     /// Starts a demo visit; nothing in link mode.
     void simulate(Scenario scenario);
     /// Removes the rehearsed missions.
     void clearDemoHistory();
-    /// Removes one record by its place in the history.
-    void removeRecord(std::size_t place);
-    /// Puts a removed record back above the older ones; returns its place.
-    std::size_t restoreRecord(const MissionRecord& record);
+    /// Removes one record and returns it; absent if there is none.
+    std::optional<HistoryEntry> removeRecord(RecordKey key);
+    /// Puts a removed record back above the older ones.
+    void restoreRecord(HistoryEntry entry);
 
 signals:
     void stateChanged();
@@ -99,38 +104,25 @@ signals:
 
 private:
     void setState(const LiveState& state);
-    void setLinkStatus(const LinkStatus& status);
-    void forgetServer();
-    void updateFreshness();
     void advanceSimulator(Date now, double elapsed);
-    void advancePolling(double elapsed);
-    void poll();
-    void received(const FetchResult& result, int server);
     void transmit(Command command, const std::optional<std::string>& mission);
+    void followPhase();
     void phaseChanged(Phase from, Phase to);
     void alertReplaced();
     void notifyDetection();
-    void record(const MissionRecord& record);
-    void historyEdited();
 
-    World world_;
+    Environment environment_;
     DataFiles files_;
-    LiveState state_;
     Settings settings_;
-    std::vector<MissionRecord> history_;
-    Section section_ = Section::overview;
-    std::optional<std::string> selectedRecord_;
-    std::optional<std::size_t> selectedPlace_;
-    LinkStatus linkStatus_;
-    Freshness freshness_ = Freshness::live;
-    std::optional<Date> heardAt_;
-    bool showWelcome_ = false;
+    History history_;
     Simulator sim_;
+    LinkSession session_;
+    LiveState state_;
+    Section section_ = Section::overview;
+    std::optional<RecordKey> selectedRecord_;
+    bool showWelcome_ = false;
     QTimer timer_;
     Date lastTick_;
-    bool pollInFlight_ = false;
-    int server_ = 0;       ///< counts the servers asked, so that a late answer of another one is told apart
-    double pollClock_ = 0; ///< seconds gathered towards the next poll
     Phase lastPhase_ = Phase::docked;
     std::optional<AlertId> lastAlert_;
 };

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -68,11 +70,9 @@ void DataFiles::saveSettings(const Settings& settings) {
     save(settings_, encode(settings));
 }
 
-void DataFiles::saveHistory(const std::vector<MissionRecord>& history) {
-    if (history.size() <= recordLimit)
-        return save(history_, encode(history));
-    const std::vector<MissionRecord> newest(history.begin(), history.begin() + recordLimit);
-    save(history_, encode(newest));
+void DataFiles::saveHistory(std::vector<const MissionRecord*> history) {
+    history.resize(std::min(history.size(), recordLimit));
+    save(history_, encode(history));
 }
 
 void DataFiles::save(File& file, const std::optional<std::string>& bytes) {

@@ -26,7 +26,7 @@ public:
 
     void saveSettings(const Settings& settings);
     /// Writes the first 200 records.
-    void saveHistory(const std::vector<MissionRecord>& history);
+    void saveHistory(std::vector<const MissionRecord*> history);
 
 private:
     struct File {

@@ -22,11 +22,4 @@ struct LinkStatus {
     QString text() const;
 };
 
-/// How far the live state can be believed.
-enum class Freshness {
-    live,    ///< the simulator's, or what the server said just now
-    stale,   ///< the server has not answered for a while: the state is old
-    waiting, ///< the server has not answered yet: the state is not the real site's
-};
-
 } // namespace velmora

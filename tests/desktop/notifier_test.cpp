@@ -237,7 +237,7 @@ TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {
     EXPECT_EQ(service.shown.front().summary, "Someone you don't know is at the driveway");
     EXPECT_TRUE(waitUntil([&] {
         service.invoke(service.shown.front().id, "LAUNCH");
-        return store.state().phase == Phase::launching;
+        return store.knownState()->phase == Phase::launching;
     }));
     now += Seconds{0.05};
     store.tick();

@@ -19,11 +19,11 @@ TEST_F(StoreTest, AFreshStartSeedsThreeDemoMissionsAndShowsTheWelcome) {
     EXPECT_TRUE(store().showWelcome());
     EXPECT_EQ(store().linkStatus().text(), "Demo mode");
     ASSERT_EQ(store().history().size(), 3u);
-    EXPECT_EQ(store().history()[0].outcome, Outcome::visitorLeft);
-    EXPECT_EQ(store().history()[1].outcome, Outcome::returnedByYou);
-    EXPECT_EQ(store().history()[2].outcome, Outcome::ignored);
-    EXPECT_EQ(store().history()[2].end, store().history()[2].start + Seconds{14});
-    EXPECT_TRUE(std::ranges::all_of(store().history(), &MissionRecord::demo));
+    EXPECT_EQ(store().history()[0].record.outcome, Outcome::visitorLeft);
+    EXPECT_EQ(store().history()[1].record.outcome, Outcome::returnedByYou);
+    EXPECT_EQ(store().history()[2].record.outcome, Outcome::ignored);
+    EXPECT_EQ(store().history()[2].record.end, store().history()[2].record.start + Seconds{14});
+    EXPECT_TRUE(std::ranges::all_of(recorded(), &MissionRecord::demo));
     EXPECT_EQ(recordsIn(content("history.json")).size(), 3u);
     EXPECT_FALSE(QFile::exists(path("settings.json"))) << "defaults are not written back";
 }
@@ -51,8 +51,8 @@ TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
     pass(60);
     EXPECT_EQ(phase(), Phase::docked);
     ASSERT_EQ(store().history().size(), 4u);
-    EXPECT_EQ(store().history()[0].outcome, Outcome::returnedByYou);
-    EXPECT_FALSE(store().history()[0].demo);
+    EXPECT_EQ(store().history()[0].record.outcome, Outcome::returnedByYou);
+    EXPECT_FALSE(store().history()[0].record.demo);
     EXPECT_EQ(recordsIn(content("history.json"))[0].id, "M-42");
 }
 
@@ -71,25 +71,25 @@ TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndAtThePresent) {
     store().simulate(Scenario::driveway);
     tickAfter(12);
     const P start{14, 88};
-    EXPECT_NEAR(distance(start, store().state().visitor->pos), 5 * 1.45, 1e-9);
+    EXPECT_NEAR(distance(start, live().visitor->pos), 5 * 1.45, 1e-9);
 
     respond(Command::ignore);
-    EXPECT_EQ(store().history()[0].end, now);
+    EXPECT_EQ(store().history()[0].record.end, now);
     tickAfter(-3600);
     EXPECT_EQ(phase(), Phase::docked) << "a clock that jumps back moves nothing";
 }
 
 TEST_F(StoreTest, ArmingIsToldInTheNoticesAndADisarmedDetectionIsOnlyLogged) {
     store().setArmed(false);
-    EXPECT_FALSE(store().state().armed);
-    EXPECT_EQ(store().state().notices[0].text, "System disarmed — detections will be logged only");
-    EXPECT_EQ(store().state().notices[0].level, Notice::Level::caution);
+    EXPECT_FALSE(live().armed);
+    EXPECT_EQ(live().notices[0].text, "System disarmed — detections will be logged only");
+    EXPECT_EQ(live().notices[0].level, Notice::Level::caution);
     store().simulate(Scenario::front);
     EXPECT_EQ(phase(), Phase::docked);
-    EXPECT_EQ(store().history()[0].outcome, Outcome::disarmed);
+    EXPECT_EQ(store().history()[0].record.outcome, Outcome::disarmed);
     for (int i = 0; i < 60; ++i)
         store().setArmed(i % 2 == 0);
-    EXPECT_EQ(store().state().notices.size(), 40u);
+    EXPECT_EQ(live().notices.size(), 40u);
 }
 
 TEST_F(StoreTest, SettingsAreSavedAndFlownWithOnlyWhenTheyChange) {
@@ -101,7 +101,7 @@ TEST_F(StoreTest, SettingsAreSavedAndFlownWithOnlyWhenTheyChange) {
     settings.onboarded = true;
     store().setSettings(settings);
     store().simulate(Scenario::driveway);
-    EXPECT_EQ(store().state().approvalDeadline, now + Seconds{30});
+    EXPECT_EQ(live().approvalDeadline, now + Seconds{30});
     restart();
     EXPECT_EQ(store().settings(), settings);
     EXPECT_FALSE(store().showWelcome());
@@ -116,7 +116,7 @@ TEST_F(StoreTest, AssigningTheSameValueNotifiesNobody) {
     store().setShowWelcome(true);
     store().send(Command::hold);
     EXPECT_EQ(section.count() + record.count() + welcome.count() + state.count(), 0);
-    store().setSelectedRecord("M-1");
+    store().setSelectedRecord(store().history().front().key);
     EXPECT_EQ(record.count(), 1);
     store().clearDemoHistory();
     store().clearDemoHistory();
@@ -128,7 +128,7 @@ TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAndTheNextStartLea
     respond(Command::ignore);
     store().clearDemoHistory();
     ASSERT_EQ(store().history().size(), 1u);
-    EXPECT_FALSE(store().history()[0].demo);
+    EXPECT_FALSE(store().history()[0].record.demo);
     restart();
     EXPECT_EQ(store().history().size(), 1u);
     store().clearDemoHistory();

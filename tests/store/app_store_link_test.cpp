@@ -24,7 +24,7 @@ TEST_F(StoreTest, AnAnswerIsShownAndItsPhaseChangeFollowsWithTheNextTick) {
     state.visitor = Visitor{{50, 50}, "Unknown person", 0.9, "nowhere", true, {}};
     link.fetches.at(0)(FetchedState{state, "2.1"});
     EXPECT_EQ(store().linkStatus().text(), "Linked to velmora 2.1");
-    EXPECT_EQ(store().state(), state);
+    EXPECT_EQ(live(), state);
     EXPECT_TRUE(notifier.posted.empty());
     tickAfter(0.05);
     ASSERT_EQ(notifier.posted.size(), 1u);
@@ -46,7 +46,7 @@ TEST_F(StoreTest, ACommandGoesToTheServerAndIsFollowedByAPollAtOnce) {
 
 TEST_F(StoreTest, LinkModeLeavesTheSimulatorWhereItWas) {
     store().simulate(Scenario::driveway);
-    const P before = store().state().visitor->pos;
+    const P before = live().visitor->pos;
     store().applyLinkMode(true);
     EXPECT_EQ(store().linkStatus().text(), "Connecting…");
     store().simulate(Scenario::garden);
@@ -55,8 +55,8 @@ TEST_F(StoreTest, LinkModeLeavesTheSimulatorWhereItWas) {
     link.fetches.at(0)(FetchedState{LiveState::initial(), ""});
     store().applyLinkMode(false);
     EXPECT_EQ(store().linkStatus(), LinkStatus::demo());
-    EXPECT_EQ(store().state().visitor->pos, before);
-    EXPECT_TRUE(store().state().armed);
+    EXPECT_EQ(live().visitor->pos, before);
+    EXPECT_TRUE(live().armed);
 }
 
 TEST_F(StoreTest, AnswersThatComeAfterTheStoreIsGoneAreIgnored) {

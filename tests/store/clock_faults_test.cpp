@@ -24,7 +24,7 @@ protected:
         pass(2);
         ASSERT_EQ(phase(), Phase::awaitingApproval);
     }
-    const MissionRecord& newest() { return store().history().front(); }
+    const MissionRecord& newest() { return store().history().front().record; }
 };
 
 } // namespace
@@ -36,7 +36,7 @@ TEST_F(ClockFaultsTest, TheWallClockJudgesTheDeadlineHoweverItGotThere) {
         now = dateFromSeconds(std::max(start - 30, secondsSince1970(now)));
         alert();
         const auto missions = store().history().size();
-        const Date deadline = store().state().approvalDeadline.value();
+        const Date deadline = live().approvalDeadline.value();
         while (now < deadline)
             tickAfter(jump);
         EXPECT_EQ(phase(), Phase::docked) << jump;
@@ -81,7 +81,7 @@ TEST_F(ClockFaultsTest, AServerIsAskedOnAndItsPictureAgesThroughEveryJump) {
         link.fetches.back()(FetchedState{LiveState::initial(), "1"});
         const std::size_t asked = link.fetches.size();
         tickAfter(jump);
-        EXPECT_LE(*store().heardAt(), now) << jump;
+        EXPECT_LE(*store().lastAnswerAt(), now) << jump;
         pass(3);
         EXPECT_EQ(store().freshness(), Freshness::stale) << jump;
         pass(2.6);

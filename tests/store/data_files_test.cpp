@@ -39,7 +39,7 @@ TEST_F(DataFilesTest, TheFileHoldsTheNewestTwoHundredAndMemoryAll) {
     EXPECT_EQ(store().history().size(), 250u);
     restart();
     ASSERT_EQ(store().history().size(), 200u);
-    EXPECT_EQ(store().history().back().id, "M-199");
+    EXPECT_EQ(store().history().back().record.id, "M-199");
 }
 
 TEST_F(DataFilesTest, AnUnreadableFileIsKeptBesideBeforeItIsWrittenOver) {

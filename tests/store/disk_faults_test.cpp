@@ -44,7 +44,7 @@ protected:
     /// Whether the files hold what the store holds.
     bool isSaved() {
         return content("settings.json").toStdString() == encode(store().settings()) &&
-               content("history.json").toStdString() == encode(store().history());
+               content("history.json").toStdString() == encode(recorded());
     }
     QStringList names() const { return QDir(directory()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
 
@@ -83,7 +83,7 @@ TEST_F(DiskFaultsTest, ADirectoryThatOnlyReadsKeepsItsFilesAndTheRunGoesOn) {
         GTEST_SKIP() << "no file system may be mounted here";
     changeBoth();
     EXPECT_EQ(onFile(), before);
-    EXPECT_NE(store().history(), before.second);
+    EXPECT_NE(recorded(), before.second);
 }
 
 TEST_F(DiskFaultsTest, ADirectoryThatGoesAwayIsMadeAgainAndOneInTheFilesPlaceIsLeftAlone) {

@@ -55,10 +55,19 @@ protected:
     AppStore& store() {
         if (!store_)
             store_ = std::make_unique<AppStore>(
-                AppStore::World{[this] { return now; }, random, QDir(directory()), notifier, link});
+                AppStore::Environment{[this] { return now; }, random, QDir(directory()), notifier, link});
         return *store_;
     }
     void restart() { store_.reset(); }
+    /// The live picture, which must be known.
+    const LiveState& live() { return *store().knownState(); }
+    /// Copies of the finished missions, newest first.
+    std::vector<MissionRecord> recorded() {
+        std::vector<MissionRecord> records;
+        for (const HistoryEntry& entry : store().history())
+            records.push_back(entry.record);
+        return records;
+    }
 
     QString directory() const { return home.path() + "/data/Velmora"; }
     QString path(const QString& name) const { return directory() + '/' + name; }
@@ -92,7 +101,7 @@ protected:
         settings.linkMode = true;
         store().setSettings(settings);
     }
-    Phase phase() { return store().state().phase; }
+    Phase phase() { return store().phase(); }
 
     QTemporaryDir home;
     Date now = dateFromSeconds(1'700'000'042);

@@ -19,8 +19,8 @@ protected:
     }
     Freshness freshness() { return store().freshness(); }
     QString oldPicture(const QString& age) {
-        return "This picture is " + age + " old, last received at " + timeOfDay(*store().heardAt()) + ". " +
-               trying;
+        return "This picture is " + age + " old, last received at " + timeOfDay(*store().lastAnswerAt()) +
+               ". " + trying;
     }
     /// The banner slides away.
     bool bannerGoes() {
@@ -35,7 +35,7 @@ TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer)
     ASSERT_TRUE(waitUntil([&] { return shows("Launch drone"); }));
     store().applyLinkMode(true);
     ASSERT_TRUE(waitUntil([&] { return !shows("Launch drone"); }));
-    EXPECT_EQ(freshness(), Freshness::waiting);
+    EXPECT_EQ(freshness(), Freshness::unknown);
     for (const char* known : {"Waiting for velmora.", "No picture received yet.", "Not known yet", "Drone, —",
                               "Cameras, —", "Wind, —", "No picture yet, battery —", "Waiting for velmora"})
         EXPECT_TRUE(shows(known)) << known;
@@ -59,7 +59,7 @@ TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer)
 TEST_F(FreshnessTest, TheFirstGoodAnswerShowsTheSite) {
     window();
     refuse();
-    EXPECT_EQ(freshness(), Freshness::waiting) << "a refusal tells nothing of the site";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "a refusal tells nothing of the site";
     EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
     EXPECT_TRUE(shows("No picture received yet. " + trying));
     LiveState state = LiveState::initial();
@@ -105,7 +105,7 @@ TEST_F(FreshnessTest, TheBannerCountsTheAgeUntilAGoodAnswerClearsIt) {
     serve(LiveState::initial());
     fly(3);
     ASSERT_TRUE(shows(oldPicture("2 s")) || shows(oldPicture("3 s")));
-    const Date heard = *store().heardAt();
+    const Date heard = *store().lastAnswerAt();
     const QString counted = oldPicture("119 s"), minutes = oldPicture("2 min"), hours = oldPicture("2 h");
     now = heard + Seconds{119.5};
     EXPECT_TRUE(waitUntil([&] { return shows(counted); }));
@@ -116,7 +116,7 @@ TEST_F(FreshnessTest, TheBannerCountsTheAgeUntilAGoodAnswerClearsIt) {
     serve(LiveState::initial());
     EXPECT_EQ(freshness(), Freshness::live);
     EXPECT_TRUE(bannerGoes());
-    EXPECT_EQ(*store().heardAt(), now);
+    EXPECT_EQ(*store().lastAnswerAt(), now);
 }
 
 TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
@@ -127,10 +127,10 @@ TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
     store().setSection(Section::settings);
     settle();
     QTest::keyClicks(find<QLineEdit>("Host"), "2");
-    EXPECT_EQ(freshness(), Freshness::waiting);
+    EXPECT_EQ(freshness(), Freshness::unknown);
     first.armed = false;
     serve(first);
-    EXPECT_EQ(freshness(), Freshness::waiting) << "the request was sent to the other server";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "the request was sent to the other server";
     serve(first);
     EXPECT_EQ(freshness(), Freshness::live);
     Settings settings = store().settings();
@@ -139,7 +139,7 @@ TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
     EXPECT_EQ(freshness(), Freshness::live);
     ++settings.port;
     store().setSettings(settings);
-    EXPECT_EQ(freshness(), Freshness::waiting);
+    EXPECT_EQ(freshness(), Freshness::unknown);
 }
 
 TEST_F(FreshnessTest, DemoModeIsLiveAtOnce) {
@@ -151,7 +151,7 @@ TEST_F(FreshnessTest, DemoModeIsLiveAtOnce) {
     EXPECT_EQ(freshness(), Freshness::live);
     EXPECT_TRUE(bannerGoes());
     store().applyLinkMode(true);
-    EXPECT_EQ(freshness(), Freshness::waiting) << "what was heard before the break is no picture of now";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "what was heard before the break is no picture of now";
 }
 
 } // namespace

@@ -60,8 +60,8 @@ protected:
     std::vector<std::string> onFile() {
         std::vector<std::string> ids;
         const auto file = decode<std::vector<MissionRecord>>(content("history.json").toStdString());
-        EXPECT_EQ(file.value, store().history());
-        for (const MissionRecord& one : store().history())
+        EXPECT_EQ(file.value, recorded());
+        for (const MissionRecord& one : recorded())
             ids.push_back(one.id);
         return ids;
     }

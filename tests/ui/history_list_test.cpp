@@ -25,7 +25,7 @@ TEST_F(HistoryTest, FiltersNarrowTheListAndSayHowFar) {
     click("All cameras");
     pick("Driveway");
     EXPECT_TRUE(lists("1 of 4", {"Visitor left"}));
-    store().removeRecord(3);
+    store().removeRecord(store().history()[3].key);
     settle();
     EXPECT_TRUE(lists("1 of 3", {"Visitor left"}));
     search("nobody has this");
@@ -65,7 +65,7 @@ TEST_F(HistoryTest, TheChosenVisitStaysMarkedWhileTheFiltersShowIt) {
 TEST_F(HistoryTest, AnEmptyHistoryHasItsOwnWords) {
     look(four());
     while (!store().history().empty())
-        store().removeRecord(0);
+        store().removeRecord(store().history()[0].key);
     settle();
     EXPECT_TRUE(shows("Nothing yet. When a camera spots someone you don't know, it appears here."));
     EXPECT_TRUE(shows("No visit to replay yet"));
@@ -75,7 +75,7 @@ TEST_F(HistoryTest, AnEmptyHistoryHasItsOwnWords) {
     respond(Command::ignore);
     settle();
     EXPECT_TRUE(shows("You ignored the alert") && shows("1 visit"));
-    store().removeRecord(0);
+    store().removeRecord(store().history()[0].key);
     store().applyLinkMode(true);
     settle();
     EXPECT_FALSE(shows("Simulate a visitor")) << "a server stages no visits";
@@ -101,8 +101,8 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     respond(Command::ignore);
     tickAfter(0.05);
     click("Undo");
-    EXPECT_EQ(store().history()[2].id, "M-2") << "below a visit that has ended meanwhile";
-    store().removeRecord(0);
+    EXPECT_EQ(store().history()[2].record.id, "M-2") << "below a visit that has ended meanwhile";
+    store().removeRecord(store().history()[0].key);
 
     click("Stayed docked");
     choose("You ignored");
@@ -145,7 +145,7 @@ TEST_F(HistoryTest, OfTwoVisitsWithOneIdTheChosenOneIsMeant) {
     press(Qt::Key_Escape);
     click(deleteVisit);
     history.erase(history.begin() + 2);
-    EXPECT_EQ(store().history(), history);
+    EXPECT_EQ(recorded(), history);
     EXPECT_TRUE(shows("Alert expired — drone stayed docked"));
 }
 

@@ -64,7 +64,7 @@ TEST_F(HostileTextTest, NoTextOfAServerOrARecordIsMoreThanText) {
     SetUp();
     for (std::size_t i = 0; i < history.size(); ++i) {
         const std::string text = history[i].label, when = text.substr(0, 20);
-        store().openRecord(i);
+        store().openRecord(store().history()[i].key);
         serve(hostile(Phase::following, text));
         expectSectionsPlain(when);
         serve(hostile(Phase::awaitingApproval, text));
@@ -88,7 +88,7 @@ TEST_F(HostileTextTest, AnotherSiteWithEveryPollIsDrawn) {
         store().setSection(rawValuesOf<Section>[std::size_t(i) % 5].first);
         serve(state);
         EXPECT_FALSE(window().grab().isNull());
-        EXPECT_EQ(store().state(), state);
+        EXPECT_EQ(live(), state);
     }
 }
 

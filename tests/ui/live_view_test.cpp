@@ -127,7 +127,7 @@ TEST_F(LiveViewTest, EachControlSendsItsCommand) {
 
 TEST_F(LiveViewTest, TheDemoFliesAsTheControlsSay) {
     click("Simulate a visitor");
-    ASSERT_EQ(store().state().visitor->cameraId, "driveway");
+    ASSERT_EQ(live().visitor->cameraId, "driveway");
     approve();
     fly(10);
     click("Hold position");

@@ -42,7 +42,7 @@ TEST_F(OverviewTest, HeadlineAndLedeTellHowTheGroundsStand) {
     EXPECT_TRUE(shows("Disarmed"));
     EXPECT_FALSE(shows("Disarm"));
     click("Arm system");
-    EXPECT_TRUE(store().state().armed);
+    EXPECT_TRUE(live().armed);
     EXPECT_TRUE(shows("Your grounds are watched."));
 
     visit(Scenario::driveway);
@@ -51,7 +51,7 @@ TEST_F(OverviewTest, HeadlineAndLedeTellHowTheGroundsStand) {
     store().setSection(Section::overview);
     fly(4);
     EXPECT_TRUE(shows("Your drone is on patrol."));
-    const QString metres = rounded(distance(store().state().drone.pos, store().state().visitor->pos));
+    const QString metres = rounded(distance(live().drone.pos, live().visitor->pos));
     EXPECT_TRUE(shows(phaseWord(phase()) + ", " + metres +
                       " m. It stays inside your boundary and comes home on its own."));
 }
@@ -81,7 +81,7 @@ TEST_F(OverviewTest, VisitsAreOfferedInDemoModeBetweenMissions) {
     EXPECT_FALSE(shows("Launch (approve)"));
     click("Visitor in the east garden");
     ASSERT_EQ(phase(), Phase::awaitingApproval);
-    EXPECT_EQ(store().state().visitor->cameraId, "garden");
+    EXPECT_EQ(live().visitor->cameraId, "garden");
     EXPECT_FALSE(shows("Visitor in the east garden"));
     outwaitGuard();
     pressByAccessibility("Launch (approve)");
@@ -159,7 +159,7 @@ TEST_F(OverviewTest, TheNewestFiveVisitsAreListedAndAClickOpensOne) {
     QTest::mouseClick(rows(Outcome::lowBattery).at(0), Qt::LeftButton);
     settle();
     EXPECT_EQ(store().section(), Section::history);
-    EXPECT_EQ(store().selectedRecord(), "M-2");
+    EXPECT_EQ(store().selectedRecord(), store().history()[2].key);
     EXPECT_TRUE(shows("Came home on low battery"));
 
     store().setSection(Section::overview);

@@ -293,10 +293,10 @@ protected:
     MapFrames() {
         LiveState flying = LiveState::initial();
         flying.phase = Phase::launching;
-        running.setState(flying, {});
+        running.setState(&flying, {}, Freshness::live);
         scene.state.phase = Phase::following;
         see({90, 60}, "a");
-        map.setState(scene.state, {});
+        map.setState(&scene.state, {}, Freshness::live);
     }
 
     void run(int frames) {
@@ -325,7 +325,7 @@ protected:
         }
         return map.paints;
     }
-    void show() { map.setState(scene.state, {}); }
+    void show() { map.setState(&scene.state, {}, Freshness::live); }
 
     Counted running, map;
 };
@@ -362,12 +362,12 @@ TEST_F(MapFrames, ACoveredOrHiddenMapRestsAndCatchesUp) {
 }
 
 TEST_F(MapFrames, AnOldPictureAndAReplayAreStill) {
-    map.setFreshness(Freshness::stale);
+    map.setState(&scene.state, {}, Freshness::stale);
     EXPECT_EQ(frames(), 0);
-    map.setFreshness(Freshness::waiting);
+    map.setState(nullptr, {}, Freshness::unknown);
     EXPECT_EQ(frames(), 0);
     EXPECT_EQ(map.accessibleName(), "Waiting for velmora");
-    map.setFreshness(Freshness::live);
+    map.setState(&scene.state, {}, Freshness::live);
     EXPECT_GE(frames(), 3);
     EXPECT_TRUE(map.accessibleName().startsWith("Map of your grounds. The drone is at"));
     replay();

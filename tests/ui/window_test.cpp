@@ -69,8 +69,8 @@ TEST_F(WindowTest, LinkedMenusStageNothingAndAnswerOnlyWhatTheServerSays) {
 TEST_F(WindowTest, EachVisitIsStagedInFrontOfItsCamera) {
     for (const auto& [scenario, camera] : rawValuesOf<Scenario>) {
         command(visits[static_cast<int>(scenario)])->trigger();
-        ASSERT_TRUE(store().state().visitor.has_value());
-        EXPECT_EQ(store().state().visitor->cameraId, camera);
+        ASSERT_TRUE(live().visitor.has_value());
+        EXPECT_EQ(live().visitor->cameraId, camera);
         respond(Command::ignore);
     }
 }
@@ -103,11 +103,11 @@ TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {
 TEST_F(WindowTest, TheFirstKeyPressesNothingAndTabGoesOnWhereTheOwnerIs) {
     window();
     press(Qt::Key_Space);
-    EXPECT_TRUE(store().state().armed);
+    EXPECT_TRUE(live().armed);
     press(Qt::Key_3, Qt::ControlModifier);
     press(Qt::Key_1, Qt::ControlModifier);
     press(Qt::Key_Space);
-    EXPECT_TRUE(store().state().armed) << "the list that had the focus is gone";
+    EXPECT_TRUE(live().armed) << "the list that had the focus is gone";
     press(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), find("Disarm"));
 }
@@ -171,7 +171,7 @@ TEST_F(WindowTest, TheAlertClosesWhenItIsIgnoredAndWhenItExpires) {
     pass(14.8);
     EXPECT_TRUE(waitUntil([&] { return shows("Expires in, 1 s"); }));
     pass(0.3);
-    EXPECT_EQ(store().history().front().outcome, Outcome::expired);
+    EXPECT_EQ(store().history().front().record.outcome, Outcome::expired);
     EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
 
     visit(Scenario::driveway);

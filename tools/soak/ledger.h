@@ -14,13 +14,13 @@ public:
 
     /// Starts a visit if none is going on. One that is only logged is over when this returns.
     void simulate(Scenario scenario) {
-        if (store_.settings().linkMode || store_.state().phase != Phase::docked)
+        if (store_.settings().linkMode || store_.knownState()->phase != Phase::docked)
             return;
         const std::size_t before = store_.history().size();
         store_.simulate(scenario);
         ++begun_;
-        open_ = store_.state().missionId;
-        deadline_ = store_.state().approvalDeadline;
+        open_ = store_.knownState()->missionId;
+        deadline_ = store_.knownState()->approvalDeadline;
         if (!open_)
             recorded_ += static_cast<int>(store_.history().size() - before);
     }
@@ -29,7 +29,7 @@ public:
     void look() {
         if (store_.settings().linkMode)
             deadline_.reset(); // the simulation stands still meanwhile
-        else if (open_ && store_.state().missionId != open_)
+        else if (open_ && store_.knownState()->missionId != open_)
             close();
     }
 
@@ -41,7 +41,7 @@ public:
 
 private:
     void close() {
-        for (const MissionRecord& record : store_.history()) {
+        for (const auto& [key, record] : store_.history()) {
             if (record.id != open_)
                 continue;
             ++recorded_;

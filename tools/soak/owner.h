@@ -18,14 +18,14 @@ public:
         sometimes(1.0 / 30, [this] { ledger_.simulate(random_.anyOf<Scenario>()); });
         sometimes(1.0 / 30, [this] { command(); });
         sometimes(1.0 / 10, [this] { store_.setSection(random_.anyOf<Section>()); });
-        sometimes(1.0 / 30, [this] { store_.openRecord(random_.below(recordsKept)); });
+        sometimes(1.0 / 30, [this] { openRecord(); });
         sometimes(1.0 / 60, [this] { changeSettings(); });
         sometimes(1.0 / 60, [this] { window_.setVisible(!window_.isVisible()); });
         sometimes(1.0 / 60, [this] { window_.resize(1100 + small(500), 720 + small(300)); });
         sometimes(1.0 / 300, [this] { store_.setArmed(random_.happens(0.8)); });
         sometimes(1.0 / 600, [this] { store_.applyLinkMode(!store_.settings().linkMode); });
         while (store_.history().size() > recordsKept)
-            store_.removeRecord(store_.history().size() - 1);
+            store_.removeRecord(store_.history().back().key);
     }
 
 private:
@@ -39,6 +39,12 @@ private:
         ledger_.look();
     }
     int small(std::size_t limit) { return static_cast<int>(random_.below(limit)); }
+
+    void openRecord() {
+        const std::size_t chosen = random_.below(recordsKept);
+        if (chosen < store_.history().size())
+            store_.openRecord(store_.history()[chosen].key);
+    }
 
     /// Alerts are mostly approved, so that there is something to fly.
     void command() {

@@ -55,7 +55,7 @@ private:
 struct World {
     explicit World(unsigned seed) : random(seed), server(random) {}
 
-    AppStore::World forStore() {
+    AppStore::Environment forStore() {
         return {[this] { return now; }, random, directory, notifier, server};
     }
 

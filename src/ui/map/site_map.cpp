@@ -55,8 +55,10 @@ SiteMap::SiteMap(QWidget* parent) : QWidget(parent) {
     describe();
 }
 
-void SiteMap::setState(const LiveState& state, const Settings& settings) {
-    setScene({state, settings, std::nullopt, scene_.showLabels});
+void SiteMap::setState(const LiveState* known, const Settings& settings, Freshness freshness) {
+    if (known)
+        setScene({*known, settings, std::nullopt, scene_.showLabels});
+    setFreshness(freshness);
 }
 
 void SiteMap::setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings) {
@@ -125,7 +127,7 @@ QSize SiteMap::fitted(QSize room, int least) const {
 
 void SiteMap::describe() {
     describedAt_ = Motion::seconds();
-    const bool waits = freshness_ == Freshness::waiting && !scene_.replay;
+    const bool waits = freshness_ == Freshness::unknown && !scene_.replay;
     if (const QString words = waits ? waitingText() : mapDescription(scene_); words != accessibleName())
         setAccessibleName(words);
 }
@@ -219,7 +221,7 @@ void SiteMap::paintEvent(QPaintEvent*) {
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
     if (freshness != Freshness::live)
         fillRounded(SB::navy);
-    if (freshness == Freshness::waiting) {
+    if (freshness == Freshness::unknown) {
         drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
         return;
     }

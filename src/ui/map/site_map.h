@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/link_status.h"
+#include "model/freshness.h"
 #include "ui/map/map_scene.h"
 
 #include <QBasicTimer>
@@ -17,13 +17,11 @@ class SiteMap : public QWidget {
 public:
     explicit SiteMap(QWidget* parent);
 
-    /// The live picture.
-    void setState(const LiveState& state, const Settings& settings);
+    /// The live picture. An old one is paler and still; without one (null) only a word stands in the map.
+    void setState(const LiveState* known, const Settings& settings, Freshness freshness);
     /// A mission's paths over its grounds.
     void setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings);
     void setShowLabels(bool show);
-    /// An old picture is paler and still; before the first picture of a site only a word stands there.
-    void setFreshness(Freshness freshness);
     /// Something lies over the map: no frames until it is gone.
     void setCovered(bool covered);
 
@@ -44,6 +42,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void setFreshness(Freshness freshness);
     void setScene(MapScene scene);
     bool isAnimated() const;
     void runOrRest();

@@ -30,7 +30,11 @@ public:
         FocusRing::setLook(this, {Measure::badgeRadius});
     }
 
-    void setRecord(const MissionRecord& record, Date now) {
+    RecordKey key() const { return key_; }
+
+    void setEntry(const HistoryEntry& entry, Date now) {
+        key_ = entry.key;
+        const MissionRecord& record = entry.record;
         const Shown shown{record.start, record.outcome, std::floor(secondsSince1970(now) / 60)};
         if (shown == shown_)
             return;
@@ -65,6 +69,7 @@ private:
         bool operator==(const Shown&) const = default;
     };
 
+    RecordKey key_{};
     Shown shown_;
     QColor color_;
     QString time_;
@@ -87,8 +92,7 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     for (int i = 0; i < Measure::activityRows; ++i) {
         auto* row = new ActivityRow(this);
         column->addWidget(row);
-        connect(row, &QAbstractButton::clicked, this,
-                [this, i] { store_.openRecord(static_cast<std::size_t>(i)); });
+        connect(row, &QAbstractButton::clicked, this, [this, row] { store_.openRecord(row->key()); });
         rows_.push_back(row);
     }
     connect(all, &QAbstractButton::clicked, this, [this] { store_.setSection(Section::history); });
@@ -108,7 +112,7 @@ void ActivityList::refresh() {
         const bool used = i < history.size() && i < shown_;
         rows_[i]->setVisible(used);
         if (used)
-            rows_[i]->setRecord(history[i], store_.now());
+            rows_[i]->setEntry(history[i], store_.now());
     }
 }
 

@@ -134,7 +134,7 @@ void ApprovalOverlay::followPhase() {
     asked_ = alert;
     answeredAt_.reset();
     note_->clearMessage();
-    const auto deadline = store_.state().approvalDeadline;
+    const auto deadline = store_.knownState()->approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
     countdown_.start(countdownEvery);
@@ -147,7 +147,7 @@ void ApprovalOverlay::followPhase() {
 }
 
 void ApprovalOverlay::refresh() {
-    const LiveState& state = store_.state();
+    const LiveState& state = *store_.knownState();
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
     const QString place = camera ? isolated(toQString(camera->name)) : tr("Grounds");
     const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
@@ -162,7 +162,7 @@ void ApprovalOverlay::refresh() {
 }
 
 void ApprovalOverlay::countDown() {
-    const auto deadline = store_.state().approvalDeadline;
+    const auto deadline = store_.knownState()->approvalDeadline;
     const double left = deadline ? (*deadline - store_.now()).count() : 0;
     const bool plausible = left > 0 && left <= longestCountdown;
     expires_->setValue(plausible ? QString::number(whole(std::ceil(left))) : QStringLiteral("—"),

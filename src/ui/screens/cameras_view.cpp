@@ -29,8 +29,8 @@ public:
 
     void show(AppStore& store) {
         static const std::vector<CameraInfo> unknown;
-        const bool known = store.freshness() != Freshness::waiting;
-        const auto& cameras = known ? store.state().site.cameras : unknown;
+        const LiveState* known = store.knownState();
+        const auto& cameras = known ? known->site.cameras : unknown;
         noCamera_->setText(known ? CamerasView::tr("No cameras yet")
                                  : CamerasView::tr("Waiting for velmora"));
         noCamera_->setVisible(cameras.empty());

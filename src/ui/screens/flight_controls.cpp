@@ -43,7 +43,7 @@ FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(paren
 }
 
 void FlightControls::refresh() {
-    const Phase phase = store_.freshness() == Freshness::waiting ? Phase::docked : store_.state().phase;
+    const Phase phase = store_.phase();
     const bool flying = airborne(phase);
     explanation_->setText(
         phase == Phase::awaitingApproval

@@ -10,7 +10,7 @@ LandConfirmation::LandConfirmation(AppStore& store, QWidget* window)
           window) {
     connect(this, &ConfirmationCard::confirmed, this, [&store] { store.send(Command::land); });
     const auto closeUnlessFlying = [this, &store] {
-        if (!airborne(store.state().phase) || store.freshness() == Freshness::waiting)
+        if (!airborne(store.phase()))
             close();
     };
     connect(&store, &AppStore::stateChanged, this, closeUnlessFlying);

@@ -34,16 +34,15 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
 }
 
 void LiveCard::refresh() {
-    map_->setState(store_.state(), store_.settings());
-    map_->setFreshness(store_.freshness());
     const bool old = store_.freshness() == Freshness::stale;
-    telemetry_->show(store_.state(), store_.settings(), old ? *store_.heardAt() : store_.now(),
-                     store_.freshness());
-    if (store_.freshness() != Freshness::stale || !isVisible())
+    map_->setState(store_.knownState(), store_.settings(), store_.freshness());
+    telemetry_->setState(store_.knownState(), store_.settings(), old ? *store_.lastAnswerAt() : store_.now());
+    telemetry_->setDimmed(store_.freshness() != Freshness::live);
+    if (!old || !isVisible())
         everySecond_.stop();
     else if (!everySecond_.isActive())
         everySecond_.start();
-    const QString age = store_.freshness() == Freshness::stale ? StaleBanner::pictureAge(store_) : QString();
+    const QString age = old ? StaleBanner::pictureAge(store_) : QString();
     if (age == pictureAge_)
         return;
     pictureAge_ = age;

@@ -81,17 +81,19 @@ QWidget* LiveRail::buildLog() {
 }
 
 void LiveRail::refresh() {
-    const LiveState& state = store_.state();
-    const bool known = store_.freshness() != Freshness::waiting;
-    timeline_->setPhase(known ? state.phase : Phase::docked);
+    const LiveState* state = store_.knownState();
+    timeline_->setPhase(store_.phase());
     controls_->refresh();
-    visitorBlock_->setVisible(known && state.visitor);
-    if (state.visitor)
-        visitor_->setVisitor(*state.visitor, state.site);
-    nothingLogged_->setVisible(!known || state.notices.empty());
-    log_->setVisible(known && !state.notices.empty());
-    const auto shown = std::min(std::ssize(state.notices), mostNotices);
-    log_->setNotices({state.notices.begin(), state.notices.begin() + shown});
+    visitorBlock_->setVisible(state && state->visitor);
+    if (state && state->visitor)
+        visitor_->setVisitor(*state->visitor, state->site);
+    const bool logged = state && !state->notices.empty();
+    nothingLogged_->setVisible(!logged);
+    log_->setVisible(logged);
+    if (!logged)
+        return;
+    const auto shown = std::min(std::ssize(state->notices), mostNotices);
+    log_->setNotices({state->notices.begin(), state->notices.begin() + shown});
 }
 
 } // namespace velmora

@@ -19,12 +19,12 @@ namespace velmora {
 namespace {
 
 Sentence headlineFor(const AppStore& store) {
-    const LiveState& state = store.state();
     const auto sentence = [](const QString& lead, const QString& emphasis) {
         return Sentence{lead, emphasis, {}};
     };
-    if (store.freshness() == Freshness::waiting)
+    if (!store.knownState())
         return sentence(LiveView::tr("Waiting for "), LiveView::tr("velmora"));
+    const LiveState& state = *store.knownState();
     switch (state.phase) {
     case Phase::docked:
         return sentence(LiveView::tr("The drone is "), LiveView::tr("on its pad"));

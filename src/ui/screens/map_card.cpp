@@ -35,8 +35,7 @@ MapCard::MapCard(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
 }
 
 void MapCard::refresh() {
-    map_->setState(store_.state(), store_.settings());
-    map_->setFreshness(store_.freshness());
+    map_->setState(store_.knownState(), store_.settings(), store_.freshness());
     const QString buffer =
         tr("%1 m buffer inside your boundary").arg(whole(store_.settings().boundaryBuffer));
     if (buffer == buffer_)

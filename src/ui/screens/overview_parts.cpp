@@ -47,10 +47,10 @@ ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
 
 /// A server decides for itself whether it is armed, so the buttons rest in link mode.
 void ArmSwitch::refresh() {
-    const bool armed = store_.state().armed;
-    const bool known = store_.freshness() != Freshness::waiting;
-    dot_->setLook({.color = armed && known ? SB::dot : SB::rule, .halo = armed && known});
-    word_->setText(!known ? tr("Not known yet") : armed ? tr("Armed") : tr("Disarmed"));
+    const LiveState* state = store_.knownState();
+    const bool armed = state && state->armed;
+    dot_->setLook({.color = armed ? SB::dot : SB::rule, .halo = armed});
+    word_->setText(!state ? tr("Not known yet") : armed ? tr("Armed") : tr("Disarmed"));
     disarm_->setVisible(armed);
     arm_->setVisible(!armed);
     for (SBButton* button : {disarm_, arm_}) {
@@ -82,7 +82,7 @@ ActiveBanner::ActiveBanner(AppStore& store, QWidget* parent)
 }
 
 void ActiveBanner::refresh() {
-    phase_->setText(phaseWord(store_.state().phase));
+    phase_->setText(phaseWord(store_.phase()));
 }
 
 QSize ActiveBanner::sizeHint() const {
@@ -116,7 +116,7 @@ VisitOffers::VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent)
 }
 
 void VisitOffers::refresh() {
-    const Phase phase = store_.state().phase;
+    const Phase phase = store_.phase();
     const bool demo = !store_.settings().linkMode;
     const bool waiting = store_.waitingAlert().has_value();
     heading_->setVisible(demo);

@@ -21,12 +21,12 @@ namespace velmora {
 namespace {
 
 Sentence headlineFor(const AppStore& store) {
-    const LiveState& state = store.state();
     const auto sentence = [](const QString& lead, const QString& emphasis) {
         return Sentence{lead, emphasis, QStringLiteral(".")};
     };
-    if (store.freshness() == Freshness::waiting)
+    if (!store.knownState())
         return sentence(OverviewView::tr("Waiting for "), OverviewView::tr("velmora"));
+    const LiveState& state = *store.knownState();
     if (airborne(state.phase))
         return sentence(OverviewView::tr("Your drone is "), OverviewView::tr("on patrol"));
     if (state.visitor)
@@ -37,9 +37,9 @@ Sentence headlineFor(const AppStore& store) {
 }
 
 QString ledeFor(const AppStore& store) {
-    const LiveState& state = store.state();
-    if (store.freshness() == Freshness::waiting)
+    if (!store.knownState())
         return OverviewView::tr("No picture received yet.");
+    const LiveState& state = *store.knownState();
     if (airborne(state.phase)) {
         const P from = state.visitor ? state.visitor->pos : state.site.pad;
         return OverviewView::tr("%1, %2 m. It stays inside your boundary and comes home on its own.")
@@ -146,12 +146,11 @@ OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
 void OverviewView::refresh() {
     if (!page_->isSeen())
         return;
-    const bool known = store_.freshness() != Freshness::waiting;
     page_->setHeadline(headlineFor(store_));
     page_->setLede(ledeFor(store_));
     armSwitch_->refresh();
     content_->stale->setOpen(StaleBanner::isDue(store_));
-    content_->active->setOpen(known && store_.state().phase != Phase::docked);
+    content_->active->setOpen(store_.phase() != Phase::docked);
     content_->activeBanner->refresh();
     content_->map->refresh();
     content_->activity->refresh();

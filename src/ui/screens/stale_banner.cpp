@@ -37,11 +37,12 @@ StaleBanner::StaleBanner(AppStore& store, QWidget* parent)
 
 bool StaleBanner::isDue(const AppStore& store) {
     return store.freshness() == Freshness::stale ||
-           (store.freshness() == Freshness::waiting && store.linkStatus().kind == LinkStatus::Case::failed);
+           (store.freshness() == Freshness::unknown && store.linkStatus().kind == LinkStatus::Case::failed);
 }
 
 QString StaleBanner::pictureAge(const AppStore& store) {
-    return store.heardAt() ? tr("Picture %1 old").arg(age(store.now() - *store.heardAt())) : QString();
+    return store.lastAnswerAt() ? tr("Picture %1 old").arg(age(store.now() - *store.lastAnswerAt()))
+                                : QString();
 }
 
 void StaleBanner::refresh() {
@@ -49,11 +50,11 @@ void StaleBanner::refresh() {
         return;
     title_->setText(store_.linkStatus().text());
     const QString trying = tr("Trying again twice a second. Commands may not arrive until the link is back.");
-    detail_->setText(store_.heardAt()
-                         ? tr("This picture is %1 old, last received at %2. ")
-                                   .arg(age(store_.now() - *store_.heardAt()), timeOfDay(*store_.heardAt())) +
-                               trying
-                         : tr("No picture received yet. ") + trying);
+    detail_->setText(store_.lastAnswerAt() ? tr("This picture is %1 old, last received at %2. ")
+                                                     .arg(age(store_.now() - *store_.lastAnswerAt()),
+                                                          timeOfDay(*store_.lastAnswerAt())) +
+                                                 trying
+                                           : tr("No picture received yet. ") + trying);
     setAccessibleName(title_->text());
 }
 

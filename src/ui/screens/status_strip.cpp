@@ -85,14 +85,14 @@ StatusStrip::StatusStrip(AppStore& store, QWidget* parent)
 
 void StatusStrip::refresh() {
     showAlerts();
-    if (store_.freshness() == Freshness::waiting) {
+    if (const LiveState* state = store_.knownState()) {
+        showDrone(*state);
+        showCameras(*state);
+        showWind(*state);
+    } else {
         for (Cell* cell : {cells_[0], cells_[1], cells_[2]})
             cell->setContent(QStringLiteral("—"), {});
-        return;
     }
-    showDrone(store_.state());
-    showCameras(store_.state());
-    showWind(store_.state());
 }
 
 void StatusStrip::showDrone(const LiveState& state) {

@@ -47,13 +47,17 @@ void Telemetry::showNothing() {
     }
 }
 
-void Telemetry::show(const LiveState& state, const Settings& settings, Date now, Freshness freshness) {
+void Telemetry::setDimmed(bool dimmed) {
     for (Metric* metric : metrics())
-        metric->setDimmed(freshness != Freshness::live);
-    if (freshness == Freshness::waiting) {
+        metric->setDimmed(dimmed);
+}
+
+void Telemetry::setState(const LiveState* known, const Settings& settings, Date now) {
+    if (!known) {
         showNothing();
         return;
     }
+    const LiveState& state = *known;
     const DroneState& drone = state.drone;
     height_->setValue(rounded(drone.altitude), tr("m"));
     speed_->setValue(oneDecimal(drone.speed), tr("m/s"));

@@ -2,7 +2,6 @@
 
 #include "model/live_state.h"
 #include "model/settings.h"
-#include "store/link_status.h"
 
 #include <QWidget>
 
@@ -21,7 +20,10 @@ class Telemetry : public QWidget {
 public:
     explicit Telemetry(QWidget* parent);
 
-    void show(const LiveState& state, const Settings& settings, Date now, Freshness freshness);
+    /// `known` is null while nothing is known; `now` is the moment that it shows.
+    void setState(const LiveState* known, const Settings& settings, Date now);
+    /// Old figures are dimmer.
+    void setDimmed(bool dimmed);
     /// Narrow: two rows of four.
     void setNarrow(bool narrow);
     /// Height that it takes in the given form, pixels.

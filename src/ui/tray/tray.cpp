@@ -71,11 +71,15 @@ void Tray::buildMenu() {
     afterAnswers_ = menu_.addSeparator();
     home_ = addCommand(tr("Return home"), [this] { store_.send(Command::returnHome); });
     afterHome_ = menu_.addSeparator();
-    arming_ = addCommand({}, [this] { store_.setArmed(!store_.state().armed); });
+    arming_ = addCommand({}, [this] { store_.setArmed(!isArmed()); });
     addCommand(tr("Open Velmora"), [this] { emit openRequested(); });
     menu_.addSeparator();
     addCommand(tr("Quit Velmora"), [this] { emit quitRequested(); });
     connect(&menu_, &QMenu::aboutToShow, this, [this] { openedFor_ = store_.waitingAlert(); });
+}
+
+bool Tray::isArmed() const {
+    return store_.knownState() && store_.knownState()->armed;
 }
 
 /// A menu may be open while an alert comes or gives way to the next, and its lines move under the pointer.
@@ -129,17 +133,17 @@ void Tray::showIcon() {
 
 /// Lines come and go by visibility, so that an open menu is not built anew under the pointer.
 void Tray::refresh() {
-    const bool known = store_.freshness() != Freshness::waiting;
-    const Phase phase = known ? store_.state().phase : Phase::docked;
-    const QString status = tr("Velmora — ") + (known ? phaseWord(phase) : tr("Waiting for velmora"));
+    const Phase phase = store_.phase();
+    const QString status =
+        tr("Velmora — ") + (store_.knownState() ? phaseWord(phase) : tr("Waiting for velmora"));
     setText(phase_, status);
-    setText(armed_, store_.state().armed ? tr("Armed") : tr("Disarmed"));
-    armed_->setVisible(known);
+    setText(armed_, isArmed() ? tr("Armed") : tr("Disarmed"));
+    armed_->setVisible(store_.knownState());
     for (QAction* action : {launch_, ignore_, afterAnswers_})
         action->setVisible(phase == Phase::awaitingApproval);
     for (QAction* action : {home_, afterHome_})
         action->setVisible(airborne(phase));
-    setText(arming_, store_.state().armed ? tr("Disarm") : tr("Arm"));
+    setText(arming_, isArmed() ? tr("Disarm") : tr("Arm"));
     if (!icon_)
         return;
     const QString tip = store_.settings().linkMode ? status + '\n' + store_.linkStatus().text() : status;

@@ -32,6 +32,7 @@ private:
     void showIcon();
     void refresh();
     void answer(Command command);
+    bool isArmed() const;
 
     AppStore& store_;
     QMenu menu_;

@@ -58,8 +58,7 @@ QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySe
 }
 
 void CommandMenus::refresh() {
-    const Phase phase = store_.state().phase;
-    const bool canStage = !store_.settings().linkMode && phase == Phase::docked;
+    const bool canStage = !store_.settings().linkMode && store_.phase() == Phase::docked;
     for (QAction* visit : visits_)
         visit->setEnabled(canStage);
     const bool waiting = store_.waitingAlert().has_value();

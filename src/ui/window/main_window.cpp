@@ -168,7 +168,7 @@ void MainWindow::showCover() {
 }
 
 void MainWindow::askToClearDemo() {
-    const auto demo = std::ranges::count_if(store_.history(), &MissionRecord::demo);
+    const auto demo = std::ranges::count_if(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
     clearing_->setBody(demo == 1
                            ? tr("One rehearsed visit goes. Visits that were really flown stay.")
                            : tr("%1 rehearsed visits go. Visits that were really flown stay.").arg(demo));

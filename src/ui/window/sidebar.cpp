@@ -71,7 +71,7 @@ void Sidebar::showSection() {
 }
 
 void Sidebar::showFlight() {
-    const Phase phase = store_.state().phase;
+    const Phase phase = store_.phase();
     std::optional<SectionMark> mark;
     if (store_.freshness() != Freshness::live)
         mark = SectionMark{SB::rule, false};

@@ -50,16 +50,15 @@ DroneBadge::DroneBadge(AppStore& store, QWidget* parent) : QWidget(parent), stor
 }
 
 void DroneBadge::refresh() {
-    const LiveState& state = store_.state();
-    const bool known = store_.freshness() != Freshness::waiting;
-    const QString phase = known ? phaseWord(state.phase) : tr("No picture yet");
-    const QString battery = known ? rounded(state.drone.battery) + tr("%") : QStringLiteral("—");
-    const bool low = known && state.drone.battery <= store_.settings().returnBattery;
+    const LiveState* state = store_.knownState();
+    const QString phase = state ? phaseWord(state->phase) : tr("No picture yet");
+    const QString battery = state ? rounded(state->drone.battery) + tr("%") : QStringLiteral("—");
+    const bool low = state && state->drone.battery <= store_.settings().returnBattery;
     if (phase == phase_ && battery == battery_ && low == low_)
         return;
     phase_ = phase;
     battery_ = battery;
-    charge_ = known ? state.drone.battery / 100 : 0;
+    charge_ = state ? state->drone.battery / 100 : 0;
     low_ = low;
     setAccessibleName(phase_ + ", " + tr("battery %1").arg(battery_));
     update();

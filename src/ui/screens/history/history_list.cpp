@@ -59,7 +59,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addWidget(foot_);
     connect(model_, &QAbstractItemModel::modelReset, this, [this] {
         showCount();
-        select(chosen_);
+        showSelection();
     });
     undoTime_.setSingleShot(true);
     undoTime_.setInterval(undoOffered);
@@ -125,8 +125,8 @@ QWidget* HistoryList::buildRecords() {
     bar_ = new OverlayScrollBar(records_->verticalScrollBar(), records_);
     connect(records_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
-                if (const auto place = model_->placeOf(index); place && !showing_)
-                    emit selected(*place);
+                if (const auto key = model_->keyAt(index); key && key != store_.selectedRecord())
+                    emit selected(*key);
             });
     return records_;
 }
@@ -221,34 +221,32 @@ void HistoryList::showCount() {
 
 void HistoryList::refresh() {
     QStringList cameras;
-    for (const MissionRecord& record : store_.history())
-        if (const QString name = toQString(record.cameraName); !cameras.contains(name))
+    for (const HistoryEntry& entry : store_.history())
+        if (const QString name = toQString(entry.record.cameraName); !cameras.contains(name))
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
     model_->followDay();
     showFilters();
     showCount();
-    const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo);
+    const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
     clearDemo_->setVisible(demo && !deleted_);
     undoLine_->setVisible(deleted_.has_value());
     foot_->setVisible(demo || deleted_);
 }
 
-void HistoryList::select(std::optional<std::size_t> place) {
-    showing_ = true;
-    chosen_ = place;
-    const QModelIndex index = place ? model_->indexOf(*place) : QModelIndex();
+void HistoryList::showSelection() {
+    const auto& key = store_.selectedRecord();
+    const QModelIndex index = key ? model_->indexOf(*key) : QModelIndex();
     records_->setCurrentIndex(index);
     if (index.isValid())
         scrollTo(index);
-    showing_ = false;
 }
 
 /// The first record of a day is shown with the day above it.
 void HistoryList::scrollTo(const QModelIndex& index) {
     const QModelIndex above = index.siblingAtRow(index.row() - 1);
-    if (above.isValid() && !model_->placeOf(above))
+    if (above.isValid() && !model_->keyAt(above))
         records_->scrollTo(above);
     records_->scrollTo(index);
 }
@@ -261,8 +259,8 @@ void HistoryList::takeFocus() {
     records_->setFocus(Qt::OtherFocusReason);
 }
 
-void HistoryList::offerUndo(const MissionRecord& record) {
-    deleted_ = record;
+void HistoryList::offerUndo(HistoryEntry entry) {
+    deleted_ = std::move(entry);
     undoTime_.start();
     refresh();
 }
@@ -270,9 +268,11 @@ void HistoryList::offerUndo(const MissionRecord& record) {
 void HistoryList::undo() {
     if (!deleted_)
         return;
-    const MissionRecord record = *std::exchange(deleted_, std::nullopt);
+    HistoryEntry entry = std::move(*std::exchange(deleted_, std::nullopt));
+    const RecordKey key = entry.key;
     undoTime_.stop();
-    emit selected(store_.restoreRecord(record));
+    store_.restoreRecord(std::move(entry));
+    emit selected(key);
 }
 
 bool HistoryList::handleListKey(int key) {
@@ -280,8 +280,8 @@ bool HistoryList::handleListKey(int key) {
     const int last = model_->rowCount() - 1;
     switch (key) {
     case Qt::Key_Delete:
-        if (const auto place = model_->placeOf(current))
-            emit deleteRequested(*place);
+        if (const auto record = model_->keyAt(current))
+            emit deleteRequested(*record);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:

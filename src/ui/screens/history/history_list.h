@@ -25,20 +25,21 @@ class HistoryList : public QWidget {
 public:
     HistoryList(AppStore& store, QWidget* parent);
 
-    /// Places in the history of the records shown.
-    const std::vector<std::size_t>& shown() const { return model_->shown(); }
+    /// The records shown, in order.
+    const std::vector<RecordKey>& shown() const { return model_->shown(); }
     void refresh();
-    void select(std::optional<std::size_t> place);
+    /// Marks the record that the store has selected.
+    void showSelection();
     /// Gives the search field the keyboard.
     void takeSearch();
     /// Gives the records the keyboard.
     void takeFocus();
     /// Keeps a deleted record for a while, so that it can be put back.
-    void offerUndo(const MissionRecord& record);
+    void offerUndo(HistoryEntry entry);
 
 signals:
-    void selected(std::size_t place);
-    void deleteRequested(std::size_t place);
+    void selected(velmora::RecordKey key);
+    void deleteRequested(velmora::RecordKey key);
     /// Enter on a record.
     void opened();
     void clearDemoRequested();
@@ -78,10 +79,8 @@ private:
     SBButton* clearDemo_;
     QWidget* undoLine_;
     QTimer undoTime_;
-    std::optional<MissionRecord> deleted_;
-    std::optional<std::size_t> chosen_; ///< place of the marked record, also while a filter hides it
-    QStringList cameras_;               ///< names to choose from
-    bool showing_ = false;              ///< a selection that is shown, not made by the owner
+    std::optional<HistoryEntry> deleted_;
+    QStringList cameras_; ///< names to choose from
 };
 
 } // namespace velmora

@@ -33,15 +33,15 @@ void HistoryModel::rebuild() {
     const Date now = store_.now();
     namedAt_ = now;
     QString day;
-    for (std::size_t place = 0; place < history.size(); ++place) {
-        if (!filter_.matches(history[place]))
+    for (std::size_t i = 0; i < history.size(); ++i) {
+        if (!filter_.matches(history[i].record))
             continue;
-        if (const QString name = dayName(history[place].start, now); name != day) {
+        if (const QString name = dayName(history[i].record.start, now); name != day) {
             day = name;
-            rows_.push_back({day, place});
+            rows_.push_back({day, i});
         }
-        rows_.push_back({{}, place});
-        shown_.push_back(place);
+        rows_.push_back({{}, i});
+        shown_.push_back(history[i].key);
     }
     endResetModel();
 }
@@ -50,22 +50,29 @@ int HistoryModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-std::optional<std::size_t> HistoryModel::placeOf(const QModelIndex& index) const {
+const HistoryEntry* HistoryModel::entryAt(const QModelIndex& index) const {
     if (!index.isValid())
-        return std::nullopt;
+        return nullptr;
     const Row& row = rows_[static_cast<std::size_t>(index.row())];
-    return row.caption.isEmpty() ? std::optional(row.place) : std::nullopt;
+    const bool isRecord = row.caption.isEmpty() && row.entry < store_.history().size();
+    return isRecord ? &store_.history()[row.entry] : nullptr;
 }
 
-QModelIndex HistoryModel::indexOf(std::size_t place) const {
-    const auto row =
-        std::ranges::find_if(rows_, [&](const Row& r) { return r.caption.isEmpty() && r.place == place; });
+std::optional<RecordKey> HistoryModel::keyAt(const QModelIndex& index) const {
+    const HistoryEntry* entry = entryAt(index);
+    return entry ? std::optional(entry->key) : std::nullopt;
+}
+
+QModelIndex HistoryModel::indexOf(RecordKey key) const {
+    const auto row = std::ranges::find_if(rows_, [&](const Row& candidate) {
+        return candidate.caption.isEmpty() && store_.history()[candidate.entry].key == key;
+    });
     return row == rows_.end() ? QModelIndex() : index(static_cast<int>(row - rows_.begin()));
 }
 
 const MissionRecord* HistoryModel::recordAt(const QModelIndex& index) const {
-    const auto place = placeOf(index);
-    return place && *place < store_.history().size() ? &store_.history()[*place] : nullptr;
+    const HistoryEntry* entry = entryAt(index);
+    return entry ? &entry->record : nullptr;
 }
 
 QVariant HistoryModel::data(const QModelIndex& index, int role) const {

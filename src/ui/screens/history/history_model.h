@@ -30,27 +30,29 @@ public:
     /// Names the days anew when another one has begun.
     void followDay();
 
-    /// Places in the store's history of the records shown, in order.
-    const std::vector<std::size_t>& shown() const { return shown_; }
-    /// Place in the store's history; absent for a caption.
-    std::optional<std::size_t> placeOf(const QModelIndex& index) const;
-    QModelIndex indexOf(std::size_t place) const;
+    /// The records shown, in order.
+    const std::vector<RecordKey>& shown() const { return shown_; }
+    /// Absent for a caption.
+    std::optional<RecordKey> keyAt(const QModelIndex& index) const;
+    /// Invalid for a record that is not shown.
+    QModelIndex indexOf(RecordKey key) const;
     /// The record in a row; null for a caption.
     const MissionRecord* recordAt(const QModelIndex& index) const;
 
 private:
     struct Row {
         QString caption;
-        std::size_t place = 0;
+        std::size_t entry = 0; ///< index in the store's history, which every change of it rebuilds
     };
 
     void rebuild();
+    const HistoryEntry* entryAt(const QModelIndex& index) const;
 
     AppStore& store_;
     HistoryFilter filter_;
     Date namedAt_; ///< when the days were named
     std::vector<Row> rows_;
-    std::vector<std::size_t> shown_;
+    std::vector<RecordKey> shown_;
 };
 
 } // namespace velmora

@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 
 namespace velmora {
 
@@ -51,17 +52,17 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
       empty_(buildEmpty()) {
-    connect(list_, &HistoryList::selected, this, &HistoryView::choose);
+    connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
     connect(list_, &HistoryList::opened, detail_, &RecordDetail::takeFocus);
     connect(list_, &HistoryList::clearDemoRequested, this, &HistoryView::clearDemoRequested);
     connect(detail_, &RecordDetail::exportRequested, this, &HistoryView::offerExports);
     connect(detail_, &RecordDetail::deleteRequested, this, [this] {
-        if (const auto place = chosenPlace())
-            remove(*place);
+        if (const auto& selected = store_.selectedRecord())
+            remove(*selected);
     });
     connect(&store_, &AppStore::historyChanged, this, &HistoryView::refresh);
-    connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::chooseSelectedRecord);
+    connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
     connect(&everyMinute_, &QTimer::timeout, list_, &HistoryList::refresh);
@@ -101,74 +102,48 @@ QWidget* HistoryView::buildEmpty() {
     return empty;
 }
 
-std::optional<std::size_t> HistoryView::chosenPlace() const {
-    if (!chosen_)
-        return std::nullopt;
-    const auto& history = store_.history();
-    const auto record = std::ranges::find(history, *chosen_);
-    return record == history.end() ? std::nullopt
-                                   : std::optional(static_cast<std::size_t>(record - history.begin()));
-}
-
-/// The record that was chosen, or else the newest.
 void HistoryView::refresh() {
     if (!isVisible())
         return;
     list_->refresh();
-    const bool any = !store_.history().empty();
-    detail_->setVisible(any);
-    empty_->setVisible(!any);
+    const auto& history = store_.history();
+    detail_->setVisible(!history.empty());
+    empty_->setVisible(history.empty());
     simulate_->setVisible(!store_.settings().linkMode);
-    if (!any) {
-        chosen_.reset();
+    const auto& selected = store_.selectedRecord();
+    if (history.empty())
         store_.setSelectedRecord(std::nullopt);
-        return;
-    }
-    if (const auto place = chosenPlace())
-        list_->select(place);
+    else if (!selected || !store_.findRecord(*selected))
+        store_.setSelectedRecord(history.front().key);
     else
-        choose(0);
+        showSelection();
 }
 
-void HistoryView::choose(std::size_t place) {
-    if (place >= store_.history().size())
-        return;
-    const MissionRecord record = store_.history()[place];
-    if (record != chosen_) {
-        chosen_ = record;
-        detail_->setRecord(record);
+void HistoryView::showSelection() {
+    const auto& selected = store_.selectedRecord();
+    if (const HistoryEntry* entry = selected ? store_.findRecord(*selected) : nullptr)
+        detail_->setEntry(*entry);
+    list_->showSelection();
+}
+
+/// The record to turn to when this one is removed: the next in the list, or the one before it.
+std::optional<RecordKey> HistoryView::neighbour(RecordKey key) const {
+    std::vector<RecordKey> keys = list_->shown();
+    auto found = std::ranges::find(keys, key);
+    if (found == keys.end() || keys.size() < 2) {
+        keys.clear();
+        std::ranges::transform(store_.history(), std::back_inserter(keys), &HistoryEntry::key);
+        found = std::ranges::find(keys, key);
     }
-    list_->select(place);
-    store_.setSelectedRecord(record.id);
+    if (found == keys.end() || keys.size() < 2)
+        return std::nullopt;
+    return found + 1 != keys.end() ? *(found + 1) : *(found - 1);
 }
 
-/// Another screen asks for a record, by its place or else by its id.
-void HistoryView::chooseSelectedRecord() {
-    const auto& id = store_.selectedRecord();
-    if (const auto place = store_.selectedPlace())
-        choose(*place);
-    else if (id && (!chosen_ || chosen_->id != *id))
-        if (const auto record = std::ranges::find(store_.history(), *id, &MissionRecord::id);
-            record != store_.history().end())
-            choose(static_cast<std::size_t>(record - store_.history().begin()));
-}
-
-/// The record to turn to when this one goes: the next that is listed, or else the one before it.
-std::size_t HistoryView::neighbour(std::size_t place) const {
-    const auto& shown = list_->shown();
-    const auto row = std::ranges::find(shown, place);
-    if (row == shown.end() || shown.size() < 2)
-        return place + 1 < store_.history().size() ? place + 1 : place - std::min<std::size_t>(place, 1);
-    return row + 1 != shown.end() ? *(row + 1) : *(row - 1);
-}
-
-void HistoryView::remove(std::size_t place) {
-    const MissionRecord record = store_.history()[place];
-    chosen_ = store_.history()[neighbour(place)];
-    detail_->setRecord(*chosen_);
-    store_.setSelectedRecord(chosen_->id);
-    store_.removeRecord(place);
-    list_->offerUndo(record);
+void HistoryView::remove(RecordKey key) {
+    store_.setSelectedRecord(neighbour(key));
+    if (auto removed = store_.removeRecord(key))
+        list_->offerUndo(std::move(*removed));
 }
 
 void HistoryView::offerExports(QPoint below) {
@@ -191,8 +166,8 @@ void HistoryView::offerExports(QPoint below) {
     menu->addSeparator();
     offer(tr("The list as CSV…"), QStringLiteral("-list.csv"), tr("CSV (*.csv)"), [this] {
         std::vector<MissionRecord> shown;
-        for (const std::size_t place : list_->shown())
-            shown.push_back(store_.history()[place]);
+        for (const RecordKey key : list_->shown())
+            shown.push_back(store_.findRecord(key)->record);
         return bytesOf(recordsCsv(shown));
     });
     menu->popup(below);

@@ -37,11 +37,9 @@ protected:
 private:
     QWidget* buildEmpty();
     void refresh();
-    void choose(std::size_t place);
-    void chooseSelectedRecord();
-    std::optional<std::size_t> chosenPlace() const;
-    void remove(std::size_t place);
-    std::size_t neighbour(std::size_t place) const;
+    void showSelection();
+    void remove(RecordKey key);
+    std::optional<RecordKey> neighbour(RecordKey key) const;
     void offerExports(QPoint below);
 
     AppStore& store_;
@@ -49,8 +47,7 @@ private:
     RecordDetail* detail_;
     SBButton* simulate_ = nullptr;
     QWidget* empty_;
-    QTimer everyMinute_;                  ///< while shown: another day may have begun
-    std::optional<MissionRecord> chosen_; ///< ids are not unique, so the whole record tells which
+    QTimer everyMinute_; ///< while shown: another day may have begun
 };
 
 } // namespace velmora

@@ -23,6 +23,16 @@
 
 namespace velmora {
 
+namespace {
+
+/// The grounds to draw a record on: the present ones, or the demo's while nothing is known.
+const LiveState& groundsFor(const AppStore& store) {
+    static const LiveState demo = LiveState::initial();
+    return store.knownState() ? *store.knownState() : demo;
+}
+
+} // namespace
+
 RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), player_(new ReplayPlayer(this)), content_(new QWidget(this)) {
     auto* heading = buildHeading(content_);
@@ -79,19 +89,24 @@ QWidget* RecordDetail::buildHeading(QWidget* parent) {
     return heading;
 }
 
-void RecordDetail::setRecord(const MissionRecord& record) {
-    record_ = record;
+void RecordDetail::setEntry(const HistoryEntry& entry) {
+    if (key_ == entry.key)
+        return;
+    key_ = entry.key;
+    record_ = entry.record;
+    const MissionRecord& record = record_;
     eyebrow_->setText(isolated(toQString(record.cameraName)) + QStringLiteral(" · ") +
                       dayAndTime(record.start, store_.now()));
     title_->setSentence(outcomeSentence(record.outcome));
-    facts_->setRecord(record, store_.state().site, store_.settings());
+    facts_->setRecord(record, groundsFor(store_).site, store_.settings());
     bar_->setRecord(record);
 }
 
 /// The whole record at its end, or as far as it had happened.
 void RecordDetail::showMoment() {
     const bool whole = player_->position() >= player_->length();
-    map_->setReplay(whole ? record_ : cutAt(record_, player_->position()), store_.state(), store_.settings());
+    map_->setReplay(whole ? record_ : cutAt(record_, player_->position()), groundsFor(store_),
+                    store_.settings());
 }
 
 void RecordDetail::takeFocus() {

@@ -23,7 +23,7 @@ class RecordDetail : public QWidget {
 public:
     RecordDetail(AppStore& store, QWidget* parent);
 
-    void setRecord(const MissionRecord& record);
+    void setEntry(const HistoryEntry& entry);
     const MissionRecord& record() const { return record_; }
     /// Gives the replay the keyboard.
     void takeFocus();
@@ -46,6 +46,7 @@ private:
     void fitMap();
 
     AppStore& store_;
+    std::optional<RecordKey> key_; ///< of the record shown
     MissionRecord record_;
     ReplayPlayer* player_;
     Text* eyebrow_;

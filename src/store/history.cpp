@@ -1,0 +1,60 @@
+#include "store/history.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+History::History(DataFiles& files) : files_(files) {
+    if (auto records = files_.loadHistory())
+        for (MissionRecord& record : *records)
+            entries_.push_back(entryFor(std::move(record)));
+}
+
+HistoryEntry History::entryFor(MissionRecord record) {
+    return {RecordKey{++lastKey_}, std::move(record)};
+}
+
+const HistoryEntry* History::find(RecordKey key) const {
+    const auto entry = std::ranges::find(entries_, key, &HistoryEntry::key);
+    return entry == entries_.end() ? nullptr : &*entry;
+}
+
+void History::add(std::vector<MissionRecord> records) {
+    std::vector<HistoryEntry> added;
+    for (MissionRecord& record : records)
+        added.push_back(entryFor(std::move(record)));
+    entries_.insert(entries_.begin(), std::make_move_iterator(added.begin()),
+                    std::make_move_iterator(added.end()));
+    save();
+}
+
+void History::clearDemo() {
+    std::erase_if(entries_, [](const HistoryEntry& entry) { return entry.record.demo; });
+    save();
+}
+
+std::optional<HistoryEntry> History::remove(RecordKey key) {
+    const auto found = std::ranges::find(entries_, key, &HistoryEntry::key);
+    if (found == entries_.end())
+        return std::nullopt;
+    HistoryEntry removed = std::move(*found);
+    entries_.erase(found);
+    save();
+    return removed;
+}
+
+void History::restore(HistoryEntry entry) {
+    const auto older = std::ranges::find_if(
+        entries_, [&](const HistoryEntry& other) { return other.record.start < entry.record.start; });
+    entries_.insert(older, std::move(entry));
+    save();
+}
+
+void History::save() {
+    std::vector<const MissionRecord*> records;
+    for (const HistoryEntry& entry : entries_)
+        records.push_back(&entry.record);
+    files_.saveHistory(std::move(records));
+}
+
+} // namespace velmora

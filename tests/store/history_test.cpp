@@ -1,0 +1,65 @@
+#include "store/history.h"
+
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+namespace {
+
+using testing::ElementsAre;
+
+/// A history of visits that are told apart by their ids, in a directory of its own.
+class RecordsTest : public testing::Test {
+protected:
+    static MissionRecord visit(const std::string& id, double begun, bool demo = false) {
+        MissionRecord record;
+        record.id = id;
+        record.start = record.end = dateFromSeconds(begun);
+        record.demo = demo;
+        return record;
+    }
+    static std::vector<std::string> idsOf(const History& history) {
+        std::vector<std::string> ids;
+        for (const HistoryEntry& entry : history.entries())
+            ids.push_back(entry.record.id);
+        return ids;
+    }
+    std::vector<std::string> idsOnFile() {
+        DataFiles again{QDir(home.path())};
+        return idsOf(History(again));
+    }
+    RecordKey keyOf(std::size_t index) const { return history.entries().at(index).key; }
+
+    QTemporaryDir home;
+    DataFiles files{QDir(home.path())};
+    History history{files};
+};
+
+TEST_F(RecordsTest, EveryChangeIsOnFileAtOnce) {
+    history.add({visit("b", 20, true), visit("a", 10)});
+    history.add({visit("c", 30)});
+    EXPECT_THAT(idsOnFile(), ElementsAre("c", "b", "a"));
+    history.clearDemo();
+    EXPECT_THAT(idsOnFile(), ElementsAre("c", "a"));
+    history.remove(keyOf(0));
+    EXPECT_THAT(idsOnFile(), ElementsAre("a"));
+}
+
+TEST_F(RecordsTest, AKeyNamesItsRecordThroughEveryChange) {
+    history.add({visit("same", 20), visit("same", 10)});
+    const RecordKey older = keyOf(1);
+    auto removed = history.remove(older);
+    ASSERT_TRUE(removed);
+    EXPECT_EQ(history.find(older), nullptr);
+    EXPECT_FALSE(history.remove(older));
+    history.add({visit("new", 30)});
+    EXPECT_NE(keyOf(0), older);
+    history.restore(std::move(*removed));
+    EXPECT_EQ(keyOf(2), older) << "below the newer ones";
+    EXPECT_EQ(history.find(older)->record.start, dateFromSeconds(10));
+}
+
+} // namespace
+
+} // namespace velmora
