@@ -33,8 +33,7 @@ endif()
 # Only a preset that enables precompiled headers does so; the others see that every file includes what it uses.
 function(velmora_precompile target)
     target_precompile_headers(${target} PRIVATE
-        <QPainter> <QTimer> <QVBoxLayout> <QWidget> <algorithm> <chrono> <functional> <optional> <vector>
-        ${CMAKE_SOURCE_DIR}/src/store/app_store.h)
+        <QPainter> <QTimer> <QVBoxLayout> <QWidget> <algorithm> <chrono> <functional> <optional> <vector>)
 endfunction()
 
 # velmora_layer(NAME [QT] SOURCES ... DEPENDS ...): one folder of src/ as a static library `velmora_NAME`;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/app_service.h"
 #include "app/options.h"
+#include "desktop/app_service.h"
+#include "desktop/autostart.h"
+#include "desktop/desktop_notifier.h"
 #include "link/http_link.h"
 #include "sim/random.h"
 #include "store/app_store.h"
-#include "store/autostart.h"
-#include "store/desktop_notifier.h"
 #include "ui/tray/tray.h"
 #include "ui/window/main_window.h"
 

@@ -1,6 +1,6 @@
 #include "app/app.h"
-#include "app/quit_signals.h"
 #include "app/self_check.h"
+#include "desktop/quit_signals.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"

@@ -1,6 +1,6 @@
+#include "desktop/desktop_notifier.h"
 #include "desktop/notification_service.h"
 #include "desktop/virtual_display.h"
-#include "store/desktop_notifier.h"
 #include "store/store_fixture.h"
 
 namespace velmora {

@@ -1,11 +1,11 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/map/site_map.h"
-#include "ui/screens/flight_controls.h"
-#include "ui/screens/live_rail.h"
+#include "ui/screens/live/flight_controls.h"
+#include "ui/screens/live/live_rail.h"
 #include "ui/screens/log_list.h"
 #include "ui/served_fixture.h"
-#include "ui/words.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #include "ui/linked_ui_fixture.h"
 
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QAbstractButton>
 

@@ -1,6 +1,6 @@
 #include "ui/map/map_description.h"
 
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QCoreApplication>
 

@@ -5,8 +5,8 @@
 #include "ui/look/motion.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/map/drone_glyph.h"
-#include "ui/words.h"
 
 #include <QCoreApplication>
 #include <QLineF>

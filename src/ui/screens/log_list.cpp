@@ -8,7 +8,7 @@
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QAbstractButton>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "ui/screens/outcomes.h"
 
 #include "ui/look/tokens.h"
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 namespace velmora {
 

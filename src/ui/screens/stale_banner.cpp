@@ -5,7 +5,7 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "ui/tray/tray.h"
 
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QApplication>
 #include <QDBusConnection>

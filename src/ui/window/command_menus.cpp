@@ -1,6 +1,6 @@
 #include "ui/window/command_menus.h"
 
-#include "ui/words.h"
+#include "ui/look/words.h"
 
 #include <QMenu>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desktop/autostart.h"
 #include "store/app_store.h"
-#include "store/autostart.h"
 
 #include <QWidget>
 

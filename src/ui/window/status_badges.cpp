@@ -7,8 +7,8 @@
 #include "ui/look/icons.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/link_color.h"
-#include "ui/words.h"
 
 #include <QHBoxLayout>
 

@@ -1,7 +1,7 @@
 #include "ui/screens/history/history_filter.h"
 
+#include "ui/look/words.h"
 #include "ui/screens/outcomes.h"
-#include "ui/words.h"
 
 #include <algorithm>
 

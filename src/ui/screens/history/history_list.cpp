@@ -12,8 +12,8 @@
 #include "ui/blocks/text_field.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/history/record_delegate.h"
-#include "ui/words.h"
 
 #include <QKeyEvent>
 #include <QListView>

@@ -6,11 +6,11 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/history/empty_icon.h"
 #include "ui/screens/history/history_list.h"
 #include "ui/screens/history/record_detail.h"
 #include "ui/screens/history/record_export.h"
-#include "ui/words.h"
 
 #include <QBuffer>
 #include <QMenu>

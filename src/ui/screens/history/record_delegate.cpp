@@ -5,10 +5,10 @@
 #include "ui/blocks/status_dot.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/history/history_model.h"
 #include "ui/screens/history/path_thumbnail.h"
 #include "ui/screens/outcomes.h"
-#include "ui/words.h"
 
 #include <QCoreApplication>
 

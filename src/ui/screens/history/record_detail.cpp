@@ -9,12 +9,12 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/history/record_facts.h"
 #include "ui/screens/history/replay_bar.h"
 #include "ui/screens/history/replay_player.h"
 #include "ui/screens/outcomes.h"
-#include "ui/words.h"
 
 #include <QEvent>
 #include <QVBoxLayout>

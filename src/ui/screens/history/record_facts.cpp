@@ -7,8 +7,8 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/log_list.h"
-#include "ui/words.h"
 
 #include <QVBoxLayout>
 

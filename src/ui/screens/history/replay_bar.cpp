@@ -5,9 +5,9 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/history/replay_player.h"
 #include "ui/screens/history/replay_slider.h"
-#include "ui/words.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

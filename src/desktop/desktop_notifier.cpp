@@ -1,0 +1,225 @@
+#include "desktop/desktop_notifier.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.Notifications");
+const QString path = QStringLiteral("/org/freedesktop/Notifications");
+const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLiteral("IGNORE"),
+              defaultAction = QStringLiteral("default");
+constexpr uchar criticalUrgency = 2;
+constexpr int neverExpires = 0;
+constexpr uint dismissedByUser = 2;    // a reason of NotificationClosed
+constexpr int quietAfterAnswer = 2000; // milliseconds
+
+QDBusMessage call(const QString& method) {
+    return QDBusMessage::createMethodCall(service, path, service, method);
+}
+
+/// Without control characters, which some services cannot show.
+QString printable(QString text) {
+    text.removeIf([](QChar character) { return character.category() == QChar::Other_Control; });
+    return text;
+}
+
+} // namespace
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotificationPicture& picture) {
+    constexpr bool hasAlpha = true;
+    constexpr int bitsPerSample = 8, channels = 4;
+    argument.beginStructure();
+    argument << picture.width << picture.height << picture.rowStride << hasAlpha << bitsPerSample << channels
+             << picture.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotificationPicture& picture) {
+    bool hasAlpha = false;
+    int bitsPerSample = 0, channels = 0;
+    argument.beginStructure();
+    argument >> picture.width >> picture.height >> picture.rowStride >> hasAlpha >> bitsPerSample >>
+        channels >> picture.pixels;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace velmora
+
+Q_DECLARE_METATYPE(velmora::NotificationPicture)
+
+namespace velmora {
+
+DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
+                                 std::function<NotificationPicture(const QString&)> pictureOf)
+    : bus_(bus),
+      watcher_(service, bus, QDBusServiceWatcher::WatchForOwnerChange),
+      pictureOf_(std::move(pictureOf)) {
+    qDBusRegisterMetaType<NotificationPicture>();
+    if (!bus_.isConnected())
+        return;
+    bus_.connect(service, path, service, QStringLiteral("ActionInvoked"), this,
+                 SLOT(onActionInvoked(uint, QString)));
+    bus_.connect(service, path, service, QStringLiteral("ActivationToken"), this,
+                 SLOT(onActivationToken(uint, QString)));
+    bus_.connect(service, path, service, QStringLiteral("NotificationClosed"), this,
+                 SLOT(onNotificationClosed(uint, uint)));
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotifier::onOwnerChanged);
+    askForCapabilities();
+}
+
+/// A service that went knows nothing any more of what was posted; a new one is asked what it can do. One that
+/// our own call has started has the notification already.
+void DesktopNotifier::onOwnerChanged(const QString&, const QString& before, const QString& now) {
+    if (!before.isEmpty()) {
+        posted_.clear();
+        capabilities_.reset();
+    }
+    if (!now.isEmpty())
+        askForCapabilities();
+}
+
+void DesktopNotifier::askForCapabilities() {
+    auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(call(QStringLiteral("GetCapabilities"))), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
+        const QDBusPendingReply<QStringList> capabilities = *reply;
+        if (capabilities.isValid())
+            capabilities_ = capabilities.value();
+        reply->deleteLater();
+    });
+}
+
+void DesktopNotifier::post(const DetectionNotification& notification) {
+    if (!bus_.isConnected())
+        return;
+    const auto [entry, isNew] = posted_.try_emplace(notification.identifier);
+    Posted& posted = entry->second;
+    if (!isNew && posted.id == 0) {
+        posted.next = notification;
+        posted.withdrawn = false;
+    } else {
+        send(notification, posted);
+    }
+}
+
+void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
+    if (posted.id > 0 && posted.alert != notification.alert)
+        close(std::exchange(posted.id, 0)); // its actions must not answer the new alert
+    posted.alert = notification.alert;
+    QString body = printable(notification.body);
+    if (capabilities_ && capabilities_->contains(QStringLiteral("body-markup")))
+        body = body.toHtmlEscaped();
+    QDBusMessage message = call(QStringLiteral("Notify"));
+    message << QStringLiteral("Velmora") << posted.id << QStringLiteral("org.velmora.Velmora")
+            << printable(notification.title) << body << actions() << hintsFor(notification) << neverExpires;
+    auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this,
+            [this, reply, identifier = notification.identifier] {
+                const QDBusPendingReply<uint> id = *reply;
+                onPosted(identifier, id.isValid() ? id.value() : 0);
+                reply->deleteLater();
+            });
+}
+
+void DesktopNotifier::onPosted(const QString& identifier, uint id) {
+    const auto entry = posted_.find(identifier);
+    const bool wanted = entry != posted_.end() && !entry->second.withdrawn;
+    if (!wanted) {
+        if (id > 0)
+            close(id);
+        posted_.erase(identifier);
+        return;
+    }
+    if (id > 0)
+        entry->second.id = id;
+    if (const auto next = std::exchange(entry->second.next, std::nullopt))
+        send(*next, entry->second);
+    else if (entry->second.id == 0)
+        posted_.erase(entry);
+}
+
+void DesktopNotifier::withdrawAll() {
+    for (auto entry = posted_.begin(); entry != posted_.end();) {
+        if (entry->second.id == 0) {
+            entry->second.withdrawn = true; // it is closed as soon as its id is known
+            entry->second.next.reset();
+            ++entry;
+        } else {
+            close(entry->second.id);
+            entry = posted_.erase(entry);
+        }
+    }
+}
+
+void DesktopNotifier::close(uint id) {
+    QDBusMessage message = call(QStringLiteral("CloseNotification"));
+    message << id;
+    bus_.asyncCall(message);
+}
+
+/// A service that this very call starts has not told what it can do, and most can.
+QStringList DesktopNotifier::actions() const {
+    if (capabilities_ && !capabilities_->contains(QStringLiteral("actions")))
+        return {};
+    return {defaultAction, tr("Open Velmora"), launchAction, tr("Launch drone"), ignoreAction, tr("Ignore")};
+}
+
+QVariantMap DesktopNotifier::hintsFor(const DetectionNotification& notification) const {
+    QVariantMap hints{{QStringLiteral("category"), QStringLiteral("x-velmora.detection")},
+                      {QStringLiteral("urgency"), QVariant::fromValue(criticalUrgency)},
+                      {QStringLiteral("resident"), true},
+                      {QStringLiteral("sound-name"), QStringLiteral("alarm-clock-elapsed")},
+                      {QStringLiteral("desktop-entry"), QStringLiteral("org.velmora.Velmora")}};
+    if (const NotificationPicture picture = pictureOf_(notification.picture); !picture.pixels.isEmpty())
+        hints.insert(QStringLiteral("image-data"), QVariant::fromValue(picture));
+    return hints;
+}
+
+std::map<QString, DesktopNotifier::Posted>::iterator DesktopNotifier::find(uint id) {
+    return std::ranges::find_if(posted_, [id](const auto& one) { return id != 0 && one.second.id == id; });
+}
+
+/// The signal goes to everyone on the bus, so only notifications of this run count, and a double click counts
+/// once.
+void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
+    const auto entry = find(id);
+    if (entry == posted_.end() || !entry->second.quiet.hasExpired())
+        return;
+    const AlertId alert = entry->second.alert;
+    const QString token = entry->second.token;
+    if (action == launchAction || action == ignoreAction)
+        entry->second.quiet.setRemainingTime(quietAfterAnswer);
+    if (action != ignoreAction)
+        emit windowRequested(token);
+    if (action == launchAction)
+        emit answered(Command::approve, alert);
+    else if (action == ignoreAction)
+        emit answered(Command::ignore, alert);
+}
+
+void DesktopNotifier::onActivationToken(uint id, const QString& token) {
+    if (const auto entry = find(id); entry != posted_.end())
+        entry->second.token = token;
+}
+
+/// Whoever dismisses an alert without an answer is shown the window.
+void DesktopNotifier::onNotificationClosed(uint id, uint reason) {
+    const auto entry = find(id);
+    if (entry == posted_.end())
+        return;
+    const Posted closed = entry->second;
+    posted_.erase(entry);
+    if (reason == dismissedByUser && closed.quiet.hasExpired())
+        emit windowRequested(closed.token);
+}
+
+} // namespace velmora

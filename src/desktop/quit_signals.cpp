@@ -1,0 +1,34 @@
+#include "desktop/quit_signals.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace velmora {
+
+namespace {
+
+int pipeEnds[2] = {-1, -1}; // a signal handler reaches only globals
+
+int openPipe() {
+    if (::pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)
+        qFatal("No pipe for signals can be made.");
+    return pipeEnds[0];
+}
+
+/// Only what is allowed in a signal handler: one byte into the pipe.
+void onSignal(int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = ::write(pipeEnds[1], &byte, 1);
+}
+
+} // namespace
+
+QuitSignals::QuitSignals() : notifier_(openPipe(), QSocketNotifier::Read) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        if (std::signal(signal, onSignal) == SIG_IGN)
+            std::signal(signal, SIG_IGN); // as after nohup
+    connect(&notifier_, &QSocketNotifier::activated, this, &QuitSignals::quitRequested);
+}
+
+} // namespace velmora

@@ -1,0 +1,56 @@
+#include "ui/screens/alert/approval_picture.h"
+
+#include "ui/blocks/art_image.h"
+#include "ui/blocks/chip.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QPainter>
+
+namespace velmora {
+
+/// The time that is left, shrinking to the left.
+class ApprovalPicture::Bar : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    void setShare(double share) {
+        if (share == share_)
+            return;
+        share_ = share;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), SB::rule2);
+        painter.fillRect(QRectF(0, 0, width() * share_, height()), SB::gradientLight(0, width()));
+    }
+
+private:
+    double share_ = 1;
+};
+
+ApprovalPicture::ApprovalPicture(QWidget* parent)
+    : QWidget(parent),
+      picture_(new ArtImage({}, ArtImage::Mode::fill, Measure::overlayRadius, this)),
+      chip_(new Chip(this)),
+      bar_(new Bar(this)) {
+    setFixedSize(Measure::approvalCard, Measure::approvalPicture + Measure::approvalBar);
+    picture_->setGeometry(0, 0, width(), Measure::approvalPicture);
+    picture_->setSquareBottom(true);
+    chip_->move(Measure::chipInset, Measure::chipInset);
+    bar_->setGeometry(0, Measure::approvalPicture, width(), Measure::approvalBar);
+}
+
+void ApprovalPicture::setAlert(const QString& picture, const QString& chip) {
+    picture_->setName(picture);
+    chip_->setText(chip);
+}
+
+void ApprovalPicture::setTimeLeft(double share) {
+    bar_->setShare(share);
+}
+
+} // namespace velmora

@@ -1,0 +1,106 @@
+#include "ui/screens/cameras/camera_card.h"
+
+#include "ui/blocks/art_image.h"
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/screens/cameras/toggle_row.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+CameraCard::CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      cam_(cam),
+      picture_(new ArtImage(toQString(cam.snapshot), ArtImage::Mode::fill, Measure::cardRadius, this)),
+      words_(new QWidget(this)) {
+    auto* column = new QVBoxLayout(words_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(buildName());
+    column->addSpacing(Measure::gap12);
+    column->addWidget(new Hairline(words_));
+    faces_ = toggleRow(tr("Faces it doesn't recognise"), tr("Recommended"), &Settings::alertUnknownFaces);
+    people_ =
+        toggleRow(tr("Any person, even without a face"), tr("More alerts at night"), &Settings::alertPeople);
+    column->addWidget(faces_);
+    column->addWidget(people_);
+    refresh(cam);
+}
+
+QWidget* CameraCard::buildName() {
+    auto* heading = new QWidget(words_);
+    name_ = new Text({}, Type::cardName, SB::ink, heading);
+    name_->setMaximumLines(1);
+    alerts_ = new Text({}, Type::label2, SB::muted, heading);
+    dot_ = new StatusDot({.color = SB::dot, .halo = true, .diameter = Measure::cameraDot}, heading);
+    online_ = new Text({}, Type::label2, SB::muted, heading);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Measure::gap4);
+    row->addWidget(name_, 1);
+    row->addWidget(dot_, 0, Qt::AlignVCenter);
+    row->addWidget(online_, 0, Qt::AlignVCenter);
+    auto* column = new QVBoxLayout(heading);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(row);
+    column->addWidget(alerts_);
+    return heading;
+}
+
+ToggleRow* CameraCard::toggleRow(const QString& title, const QString& detail, Switches which) {
+    auto* row = new ToggleRow(title, detail, toQString(cam_.name), words_);
+    connect(row, &ToggleRow::turned, this, [this, which](bool on) { turn(which, on); });
+    return row;
+}
+
+/// Only the entry that the owner turned is written.
+void CameraCard::turn(Switches which, bool on) {
+    Settings settings = store_.settings();
+    (settings.*which)[cam_.id] = on;
+    store_.setSettings(settings);
+}
+
+bool CameraCard::reading(Switches which, bool without) const {
+    const auto& switches = store_.settings().*which;
+    const auto entry = switches.find(cam_.id);
+    return entry == switches.end() ? without : entry->second;
+}
+
+void CameraCard::refresh(const CameraInfo& cam) {
+    cam_ = cam;
+    picture_->setName(toQString(cam.snapshot));
+    picture_->setFaint(!cam.online);
+    name_->setText(toQString(cam.name));
+    dot_->setLook(
+        {.color = cam.online ? SB::dot : SB::alert, .halo = cam.online, .diameter = Measure::cameraDot});
+    online_->setText(cam.online ? tr("Online") : tr("Offline"));
+    const auto raised = std::ranges::count(store_.history(), cam.id,
+                                           [](const HistoryEntry& entry) { return entry.record.cameraId; });
+    alerts_->setText(raised == 0   ? tr("No alerts in the history")
+                     : raised == 1 ? tr("1 alert in the history")
+                                   : tr("%1 alerts in the history").arg(raised));
+    faces_->show(reading(&Settings::alertUnknownFaces, true));
+    people_->show(reading(&Settings::alertPeople, false));
+}
+
+int CameraCard::heightForWidth(int width) const {
+    const int picture = static_cast<int>(std::lround(width / Measure::cameraRatio));
+    return picture + Measure::gap16 + words_->sizeHint().height();
+}
+
+void CameraCard::resizeEvent(QResizeEvent*) {
+    const int picture = static_cast<int>(std::lround(width() / Measure::cameraRatio));
+    picture_->setGeometry(0, 0, width(), picture);
+    words_->setGeometry(0, picture + Measure::gap16, width(), words_->sizeHint().height());
+}
+
+} // namespace velmora

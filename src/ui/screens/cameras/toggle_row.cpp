@@ -1,0 +1,48 @@
+#include "ui/screens/cameras/toggle_row.h"
+
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/switch.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString& where, QWidget* parent)
+    : QWidget(parent), switch_(new Switch(title, this)) {
+    setFixedHeight(Measure::toggleRow + 1);
+    switch_->setAccessibleDescription(where + ", " + detail);
+    auto* titleText = new Text(title, Type::rowTitle, SB::ink, this);
+    titleText->setMaximumLines(1);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(0);
+    words->addStretch(1);
+    words->addWidget(titleText);
+    words->addWidget(new Label2(detail, false, this));
+    words->addStretch(1);
+    auto* row = new QHBoxLayout;
+    row->addLayout(words, 1);
+    row->addWidget(switch_, 0, Qt::AlignVCenter);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(row, 1);
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
+    connect(switch_, &Switch::turned, this, &ToggleRow::turned);
+}
+
+void ToggleRow::show(bool on) {
+    switch_->show(on);
+}
+
+void ToggleRow::mousePressEvent(QMouseEvent*) {}
+
+void ToggleRow::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+        switch_->click();
+}
+
+} // namespace velmora

@@ -1,0 +1,65 @@
+#include "ui/screens/live/flight_controls.h"
+
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QVBoxLayout>
+
+namespace velmora {
+
+FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap8);
+    column->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
+    column->addSpacing(Measure::gap4);
+    explanation_ = new Text({}, Type::controlsNote, SB::muted, this);
+    explained_ = new QWidget(this);
+    auto* above = new QVBoxLayout(explained_);
+    above->setContentsMargins(0, 0, 0, Measure::gap4);
+    above->addWidget(explanation_);
+    column->addWidget(explained_);
+
+    const auto add = [&](const QString& text, SBButtonStyle style) {
+        auto* button = new SBButton(text, style, this);
+        column->addWidget(button);
+        return button;
+    };
+    hold_ = add(tr("Hold position"), {.kind = SBButtonKind::secondary, .wide = true});
+    resume_ = add(tr("Resume following"), {.kind = SBButtonKind::secondary, .wide = true});
+    returnHome_ = add(tr("Return home"), {.kind = SBButtonKind::primary, .wide = true});
+    land_ = add(tr("Land now"), {.kind = SBButtonKind::danger, .wide = true});
+    simulate_ = add(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary, .wide = true});
+
+    connect(hold_, &SBButton::clicked, this, [this] { store_.send(Command::hold); });
+    connect(resume_, &SBButton::clicked, this, [this] { store_.send(Command::resume); });
+    connect(returnHome_, &SBButton::clicked, this, [this] { store_.send(Command::returnHome); });
+    connect(land_, &SBButton::clicked, this, &FlightControls::landRequested);
+    connect(simulate_, &SBButton::clicked, this,
+            [this] { store_.simulate(rawValuesOf<Scenario>.front().first); });
+    refresh();
+}
+
+void FlightControls::refresh() {
+    const Phase phase = store_.phase();
+    const bool flying = airborne(phase);
+    explanation_->setText(
+        phase == Phase::awaitingApproval
+            ? tr("Approve or ignore the alert to continue.")
+            : tr("Nothing to control — the drone launches only after you approve an alert."));
+    explained_->setVisible(!flying);
+    const auto offer = [this](SBButton* button, bool offered) {
+        if (!offered && button->hasFocus())
+            setFocus(Qt::OtherFocusReason); // or it passes on to the next button, which is another command
+        button->setVisible(offered);
+    };
+    offer(hold_, flying && phase != Phase::holding);
+    offer(resume_, phase == Phase::holding);
+    offer(returnHome_, flying);
+    offer(land_, flying);
+    offer(simulate_, !flying && !store_.settings().linkMode);
+}
+
+} // namespace velmora

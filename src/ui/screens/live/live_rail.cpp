@@ -1,0 +1,99 @@
+#include "ui/screens/live/live_rail.h"
+
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/live/flight_controls.h"
+#include "ui/screens/live/phase_timeline.h"
+#include "ui/screens/live/visitor_card.h"
+#include "ui/screens/log_list.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::ptrdiff_t mostNotices = 100; // a server may send many more than anyone reads during a flight
+
+} // namespace
+
+LiveRail::LiveRail(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      timeline_(new PhaseTimeline(this)),
+      controls_(new FlightControls(store, this)) {
+    visitorBlock_ = buildVisitor();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap16);
+    column->addWidget(timeline_);
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
+    column->addWidget(controls_);
+    column->addWidget(visitorBlock_);
+    column->addWidget(new Hairline(this, Hairline::Tone::between));
+    column->addWidget(buildLog(), 1);
+    connect(controls_, &FlightControls::landRequested, this, &LiveRail::landRequested);
+    refresh();
+}
+
+QWidget* LiveRail::buildVisitor() {
+    auto* block = new QWidget(this);
+    visitor_ = new VisitorCard(block);
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap16);
+    column->addWidget(new Hairline(block, Hairline::Tone::between));
+    column->addWidget(visitor_);
+    return block;
+}
+
+QWidget* LiveRail::buildLog() {
+    auto* block = new QWidget(this);
+    auto* area = new ScrollArea(block);
+    auto* content = new QWidget(area);
+    nothingLogged_ = new Text(tr("Nothing logged yet. Notices from the next flight appear here."),
+                              Type::label2, SB::muted, content);
+    log_ = new LogList(LogList::Rows::told, content);
+    auto* entries = new QVBoxLayout(content);
+    entries->setContentsMargins(0, 0, 0, 0);
+    entries->addWidget(nothingLogged_);
+    entries->addWidget(log_);
+    entries->addStretch(1);
+    area->setWidget(content);
+    area->setFade(Measure::logFade);
+    area->setAccessibleName(tr("Flight log"));
+    area->letKeysScroll();
+    area->setMinimumHeight(static_cast<int>(Type::log.line));
+
+    auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);
+    heading->setMaximumLines(1); // so that the block's height does not hang on its width, and may give way
+    auto* column = new QVBoxLayout(block);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::gap8);
+    column->addWidget(heading);
+    column->addWidget(area, 1);
+    return block;
+}
+
+void LiveRail::refresh() {
+    const LiveState* state = store_.knownState();
+    timeline_->setPhase(store_.phase());
+    controls_->refresh();
+    visitorBlock_->setVisible(state && state->visitor);
+    if (state && state->visitor)
+        visitor_->setVisitor(*state->visitor, state->site);
+    const bool logged = state && !state->notices.empty();
+    nothingLogged_->setVisible(!logged);
+    log_->setVisible(logged);
+    if (!logged)
+        return;
+    const auto shown = std::min(std::ssize(state->notices), mostNotices);
+    log_->setNotices({state->notices.begin(), state->notices.begin() + shown});
+}
+
+} // namespace velmora

@@ -1,0 +1,42 @@
+#include "ui/screens/live/visitor_card.h"
+
+#include "ui/blocks/art_image.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+VisitorCard::VisitorCard(QWidget* parent) : QWidget(parent) {
+    picture_ = new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, this);
+    picture_->setFixedSize(Measure::visitorPicture);
+    label_ = new Text({}, Type::rowTitleStrong, SB::ink, this);
+    camera_ = new Text({}, Type::label2, SB::muted, this);
+    certainty_ = new Text({}, Type::label2, SB::muted, this);
+
+    auto* words = new QVBoxLayout;
+    words->setSpacing(0);
+    for (Text* text : {label_, camera_, certainty_})
+        words->addWidget(text);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Measure::visitorGap);
+    row->addWidget(picture_, 0, Qt::AlignVCenter);
+    row->addLayout(words, 1);
+}
+
+void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
+    const CameraInfo* camera = findCamera(site, visitor.cameraId);
+    picture_->setName(camera ? toQString(camera->snapshot) : QString());
+    label_->setText(visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label));
+    camera_->setText(camera ? tr("%1 camera").arg(toQString(camera->name))
+                            : cameraName(site, visitor.cameraId));
+    const QString where = visitor.inside ? tr("inside your boundary") : tr("outside your boundary");
+    certainty_->setText(tr("%1% sure it's no one you know · ").arg(percent(visitor.confidence)) + where);
+}
+
+} // namespace velmora

@@ -1,0 +1,119 @@
+#include "ui/screens/overview/activity_list.h"
+
+#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/focus_ring.h"
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/link_button.h"
+#include "ui/blocks/status_dot.h"
+#include "ui/blocks/text.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/screens/outcomes.h"
+
+#include <QAbstractButton>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace velmora {
+
+/// One record in one line.
+class ActivityRow : public QAbstractButton {
+public:
+    explicit ActivityRow(QWidget* parent) : QAbstractButton(parent) {
+        setFixedHeight(Measure::activityRow);
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::PointingHandCursor);
+        setAttribute(Qt::WA_Hover);
+        letEnterPress(this);
+        FocusRing::setLook(this, {Measure::badgeRadius});
+    }
+
+    RecordKey key() const { return key_; }
+
+    void setEntry(const HistoryEntry& entry, Date now) {
+        key_ = entry.key;
+        const MissionRecord& record = entry.record;
+        const Shown shown{record.start, record.outcome, std::floor(secondsSince1970(now) / 60)};
+        if (shown == shown_)
+            return;
+        shown_ = shown;
+        color_ = outcomeColor(record.outcome);
+        time_ = dayAndTime(record.start, now);
+        setText(outcomeText(record.outcome));
+        setAccessibleName(text() + ", " + time_);
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        paintStatusDot(painter, {Measure::activityDotX, height() / 2.0},
+                       {.color = color_, .diameter = Measure::statusDotInRow});
+        const double timeWidth = textWidth(time_, Type::label2);
+        const QRectF line = QRectF(rect()).adjusted(Measure::activityTitleX, 0, 0, 0);
+        drawText(painter, line.adjusted(0, 0, -timeWidth - Measure::gap12, 0), text(), Type::compactRow,
+                 underMouse() ? SB::blue : SB::ink, Qt::AlignVCenter);
+        drawText(painter, line, time_, Type::label2, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
+        paintHairline(painter, {0, height() - 1, width(), 1}, SB::rule2);
+    }
+
+private:
+    /// What the texts come from; working out a time takes long, and days end on a minute.
+    struct Shown {
+        Date start;
+        Outcome outcome = Outcome::visitorLeft;
+        double minute = -1; ///< of the present
+
+        bool operator==(const Shown&) const = default;
+    };
+
+    RecordKey key_{};
+    Shown shown_;
+    QColor color_;
+    QString time_;
+};
+
+ActivityList::ActivityList(AppStore& store, QWidget* parent)
+    : QWidget(parent), store_(store), shown_(Measure::activityRows) {
+    auto* heading = new QHBoxLayout;
+    auto* all = new LinkButton(tr("All activity →"), this);
+    heading->addWidget(new Text(tr("Recent activity"), Type::groupHeading, SB::ink, this), 1);
+    heading->addWidget(all, 0, Qt::AlignVCenter);
+    nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
+                        Type::body, SB::body, this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(heading);
+    column->addSpacing(Measure::gap4);
+    column->addWidget(nothing_);
+    for (int i = 0; i < Measure::activityRows; ++i) {
+        auto* row = new ActivityRow(this);
+        column->addWidget(row);
+        connect(row, &QAbstractButton::clicked, this, [this, row] { store_.openRecord(row->key()); });
+        rows_.push_back(row);
+    }
+    connect(all, &QAbstractButton::clicked, this, [this] { store_.setSection(Section::history); });
+}
+
+void ActivityList::setRows(int rows) {
+    if (static_cast<std::size_t>(rows) == shown_)
+        return;
+    shown_ = static_cast<std::size_t>(rows);
+    refresh();
+}
+
+void ActivityList::refresh() {
+    const auto& history = store_.history();
+    nothing_->setVisible(history.empty());
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const bool used = i < history.size() && i < shown_;
+        rows_[i]->setVisible(used);
+        if (used)
+            rows_[i]->setEntry(history[i], store_.now());
+    }
+}
+
+} // namespace velmora

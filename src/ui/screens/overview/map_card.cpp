@@ -1,0 +1,67 @@
+#include "ui/screens/overview/map_card.h"
+
+#include "model/whole.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/map/site_map.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+/// Draws one key at x and returns where the next one begins.
+double paintKey(QPainter& painter, const QRectF& row, double x, const QString& name, const QColor& color,
+                bool dashed) {
+    constexpr double stroke = 2;
+    QPen pen(color, stroke, Qt::SolidLine, Qt::FlatCap);
+    if (dashed)
+        pen.setDashPattern({4 / stroke, 4 / stroke});
+    painter.setPen(pen);
+    painter.drawLine(QPointF(x, row.center().y()), QPointF(x + Measure::legendSample, row.center().y()));
+    const QRectF words(x + Measure::legendSample + Measure::legendGap, row.top(), row.width(), row.height());
+    drawText(painter, words, name, Type::legend, SB::muted, Qt::AlignVCenter);
+    return words.left() + textWidth(name, Type::legend) + Measure::gap16;
+}
+
+} // namespace
+
+MapCard::MapCard(AppStore& store, QWidget* parent) : QWidget(parent), store_(store), map_(new SiteMap(this)) {
+    auto* title = new Text(tr("Your grounds, live"), Type::groupHeading, SB::ink, this);
+    title->setGeometry(0, 0, title->sizeHint().width(), title->sizeHint().height());
+}
+
+void MapCard::refresh() {
+    map_->setState(store_.knownState(), store_.settings(), store_.freshness());
+    const QString buffer =
+        tr("%1 m buffer inside your boundary").arg(whole(store_.settings().boundaryBuffer));
+    if (buffer == buffer_)
+        return;
+    buffer_ = buffer;
+    update();
+}
+
+QSize MapCard::fitted(int width, int height) const {
+    constexpr int around = Measure::mapTitle + Measure::mapLegend;
+    const QSize room(width, std::max(height - around, Measure::overviewMapMinimum));
+    return map_->fitted(room, Measure::mapCardMinimum) + QSize(0, around);
+}
+
+void MapCard::resizeEvent(QResizeEvent*) {
+    map_->setGeometry(0, Measure::mapTitle, width(), height() - Measure::mapTitle - Measure::mapLegend);
+}
+
+void MapCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRectF legend(0, height() - Measure::mapLegend + 4, width(), Measure::mapLegend - 4);
+    double x = paintKey(painter, legend, 0, tr("Drone"), SB::dTeal, true);
+    x = paintKey(painter, legend, x, tr("Visitor"), SB::lilac, false);
+    x = paintKey(painter, legend, x, tr("Camera view"), SB::softBlue, false);
+    if (x - Measure::gap8 + textWidth(buffer_, Type::legend) <= width())
+        drawText(painter, legend, buffer_, Type::legend, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
+}
+
+} // namespace velmora

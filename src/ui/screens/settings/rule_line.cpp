@@ -1,0 +1,27 @@
+#include "ui/screens/settings/rule_line.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/measures.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+
+namespace velmora {
+
+RuleLine::RuleLine(const QString& rule, QWidget* parent) : QWidget(parent) {
+    setFixedHeight(Measure::ruleLine);
+    declareRole(this, QAccessible::StaticText);
+    setAccessibleName(rule);
+}
+
+void RuleLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(SB::teal);
+    constexpr double radius = Measure::ruleBullet / 2;
+    painter.drawEllipse(QPointF(radius, height() / 2.0), radius, radius);
+    drawText(painter, QRectF(Measure::ruleTextX, 0, width() - Measure::ruleTextX, height()), accessibleName(),
+             Type::body, SB::body, Qt::AlignVCenter);
+}
+
+} // namespace velmora

@@ -1,0 +1,251 @@
+#include "ui/screens/settings/settings_view.h"
+
+#include "ui/blocks/choice.h"
+#include "ui/blocks/page.h"
+#include "ui/blocks/sb_button.h"
+#include "ui/blocks/sb_row.h"
+#include "ui/blocks/switch.h"
+#include "ui/blocks/text.h"
+#include "ui/blocks/text_field.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/screens/settings/connection_form.h"
+#include "ui/screens/settings/rule_line.h"
+#include "ui/screens/settings/slider_line.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+namespace {
+
+QVBoxLayout* columnOf(QWidget* block) {
+    return static_cast<QVBoxLayout*>(block->layout());
+}
+
+QString trackingTitle(TrackingMode mode) {
+    return mode == TrackingMode::own ? SettingsView::tr("Guided by this Mac")
+                                     : SettingsView::tr("DJI tracking hand-over");
+}
+
+QString trackingNote(TrackingMode mode) {
+    return mode == TrackingMode::own
+               ? SettingsView::tr(
+                     "Your cameras locate the visitor and Velmora steers the drone. Works with any "
+                     "supported drone.")
+               : SettingsView::tr(
+                     "Velmora flies the drone to the visitor, then hands over to the drone's own tracking "
+                     "and takes back control near the boundary. Experimental: not yet confirmed on the "
+                     "Mini 4 Pro.");
+}
+
+/// A control beside its label, as wide as those of the sliders.
+QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
+    auto* line = new QWidget(parent);
+    line->setFixedHeight(Measure::formLine);
+    auto* name = new Text(label, Type::body, SB::ink, line);
+    name->setFixedWidth(Measure::sliderLabel);
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Measure::gap20);
+    row->addWidget(name, 0, Qt::AlignVCenter);
+    row->addWidget(control, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+    return line;
+}
+
+} // namespace
+
+SettingsView::SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      autostart_(autostart),
+      page_(new Page({.eyebrow = tr("Settings"),
+                      .headline = {tr("How the drone "), tr("behaves"), tr(".")},
+                      .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
+                      .width = Measure::settingsWidth,
+                      .contentGap = Measure::gap20,
+                      .content = buildForm()},
+                     this)) {
+    connect(&store_, &AppStore::settingsChanged, this, &SettingsView::refresh);
+}
+
+QWidget* SettingsView::buildForm() {
+    form_ = block();
+    constexpr int sliderLead = (Measure::sliderRow - Measure::gap24) / 2;
+    constexpr int radioLead = (Measure::radioRow - Measure::gap24) / 2;
+    constexpr int segmentLead = (Measure::segmentedHeight - Measure::gap24) / 2;
+    addRow(tr("Connection"), buildConnection(), radioLead);
+    addRow(tr("Flight"), buildFlight(), sliderLead);
+    addRow(tr("Boundary"), buildBoundary(), sliderLead);
+    addRow(tr("Coming home"), buildComingHome(), sliderLead);
+    addRow(tr("Tracking"), buildTracking(), segmentLead);
+    addRow(tr("Alerts"), buildAlerts(), sliderLead);
+    addRow(tr("The rules"), buildRules(), radioLead);
+    addRow(tr("About"), buildAbout(), 0);
+    return form_;
+}
+
+QWidget* SettingsView::block() {
+    auto* widget = new QWidget(this);
+    auto* column = new QVBoxLayout(widget);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    return widget;
+}
+
+void SettingsView::addRow(const QString& label, QWidget* content, int lead) {
+    const bool first = form_->layout()->isEmpty();
+    form_->layout()->addWidget(new SBRow(label, false, content, first, lead, form_));
+}
+
+/// Every change goes through a copy of the whole settings, so that the store sees what is new and saves it.
+template <class Change>
+void SettingsView::change(Change change) {
+    Settings settings = store_.settings();
+    change(settings);
+    store_.setSettings(settings);
+}
+
+void SettingsView::addLimit(QWidget* block, const QString& label, double Settings::*field, int lower,
+                            int upper, const QString& unit) {
+    auto* line = new SliderLine(label, {lower, upper, unit}, block);
+    connect(line, &SliderLine::moved, this,
+            [this, field](int value) { change([&](Settings& settings) { settings.*field = value; }); });
+    block->layout()->addWidget(line);
+    limits_.push_back({field, line});
+}
+
+QWidget* SettingsView::buildConnection() {
+    connection_ = new ConnectionForm(store_, this);
+    return connection_;
+}
+
+QWidget* SettingsView::buildFlight() {
+    QWidget* rows = block();
+    addLimit(rows, tr("Flight height"), &Settings::flightHeight, 10, 30, tr("m"));
+    addLimit(rows, tr("Never below"), &Settings::minimumHeight, 8, 20, tr("m"));
+    addLimit(rows, tr("Follow distance"), &Settings::followDistance, 8, 30, tr("m"));
+    return rows;
+}
+
+QWidget* SettingsView::buildBoundary() {
+    QWidget* rows = block();
+    addLimit(rows, tr("Stay this far inside"), &Settings::boundaryBuffer, 2, 15, tr("m"));
+    columnOf(rows)->addSpacing(Measure::gap4);
+    rows->layout()->addWidget(new Label2(tr("The boundary itself comes from velmora's config (your site "
+                                            "plan). In demo mode it's the hedge line on the "
+                                            "map."),
+                                         false, rows));
+    return rows;
+}
+
+QWidget* SettingsView::buildComingHome() {
+    QWidget* rows = block();
+    addLimit(rows, tr("Return when battery is below"), &Settings::returnBattery, 20, 50, tr("%"));
+    addLimit(rows, tr("Don't launch if wind is over"), &Settings::maxWindKmh, 15, 38, tr("km/h"));
+    return rows;
+}
+
+QWidget* SettingsView::buildTracking() {
+    QWidget* rows = block();
+    QStringList titles;
+    for (const auto& [mode, id] : rawValuesOf<TrackingMode>)
+        titles.append(trackingTitle(mode));
+    tracking_ = new SegmentedChoice(tr("Tracking"), titles, false, rows);
+    trackingNote_ = new Label2({}, false, rows);
+    trackingNote_->setWrapWidth(Measure::trackingWidth);
+    columnOf(rows)->addWidget(tracking_, 0, Qt::AlignLeft);
+    columnOf(rows)->addSpacing(Measure::gap8);
+    columnOf(rows)->addWidget(trackingNote_);
+    connect(tracking_, &SegmentedChoice::chose, this, [this](int option) {
+        change([&](Settings& s) {
+            s.tracking = rawValuesOf<TrackingMode>[static_cast<std::size_t>(option)].first;
+        });
+    });
+    return rows;
+}
+
+QWidget* SettingsView::buildAlerts() {
+    QWidget* rows = block();
+    addLimit(rows, tr("Alert expires after"), &Settings::approvalSeconds, 30, 120, tr("s"));
+    notify_ = new Switch(tr("Alert on this Mac"), rows);
+    topic_ = new TextField(tr("Phone (ntfy topic)"), tr("e.g. velmora-home"), rows);
+    topic_->setFixedWidth(Measure::topicField);
+    rows->layout()->addWidget(labelled(tr("Alert on this Mac"), notify_, rows));
+    rows->layout()->addWidget(labelled(tr("Phone (ntfy topic)"), topic_, rows));
+    connect(notify_, &Switch::turned, this,
+            [this](bool on) { change([&](Settings& settings) { settings.notifyMac = on; }); });
+    connect(topic_, &QLineEdit::textEdited, this, [this](const QString& topic) {
+        change([&](Settings& settings) { settings.ntfyTopic = topic.toStdString(); });
+    });
+    return rows;
+}
+
+QWidget* SettingsView::buildRules() {
+    QWidget* rows = block();
+    for (const QString& rule :
+         {tr("Every launch needs your approval. There is no automatic launch."),
+          tr("Keep the drone in sight while it flies (UK Open category)."),
+          tr("Flying with no one in control would need a CAA Operational Authorisation.")})
+        rows->layout()->addWidget(new RuleLine(rule, rows));
+    return rows;
+}
+
+QWidget* SettingsView::buildAbout() {
+    QWidget* rows = block();
+    columnOf(rows)->addWidget(
+        new Text(tr("Velmora 1.0 · consumer app for the velmora framework"), Type::body, SB::body, rows));
+    columnOf(rows)->addSpacing(Measure::gap4);
+    columnOf(rows)->addWidget(
+        new Label2(tr("Set in Inter, used under the SIL Open Font License."), false, rows));
+    startAtLogin_ = new Switch(tr("Start Velmora when I log in"), rows);
+    auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::quiet}, rows);
+    auto* folder = new SBButton(tr("Open data folder"), {.kind = SBButtonKind::secondary}, rows);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Measure::gap8);
+    buttons->addWidget(folder);
+    buttons->addWidget(welcome);
+    buttons->addStretch(1);
+    columnOf(rows)->addSpacing(Measure::gap8);
+    columnOf(rows)->addWidget(labelled(tr("Start Velmora when I log in"), startAtLogin_, rows));
+    columnOf(rows)->addSpacing(Measure::gap8);
+    columnOf(rows)->addLayout(buttons);
+    connect(startAtLogin_, &Switch::turned, this, [this](bool on) {
+        autostart_.setOn(on);
+        startAtLogin_->show(autostart_.isOn());
+    });
+    connect(folder, &SBButton::clicked, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(store_.dataDirectory().path())); });
+    connect(welcome, &SBButton::clicked, this, [this] { store_.setShowWelcome(true); });
+    return rows;
+}
+
+void SettingsView::refresh() {
+    if (!isVisible())
+        return;
+    const Settings& settings = store_.settings();
+    connection_->refresh();
+    for (const Limit& limit : limits_)
+        limit.line->show(settings.*limit.field);
+    tracking_->show(static_cast<int>(settings.tracking));
+    trackingNote_->setText(trackingNote(settings.tracking));
+    notify_->show(settings.notifyMac);
+    topic_->show(toQString(settings.ntfyTopic));
+    startAtLogin_->show(autostart_.isOn());
+}
+
+void SettingsView::resizeEvent(QResizeEvent*) {
+    page_->setGeometry(rect());
+}
+
+/// Whoever is sent here for the connection finds it at the top.
+void SettingsView::showEvent(QShowEvent*) {
+    refresh();
+    page_->showTop();
+}
+
+} // namespace velmora
