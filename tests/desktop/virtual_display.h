@@ -37,6 +37,7 @@ public:
     /// Such as ":99"; empty when there is none.
     const QString& name() const { return name_; }
     QString home() const { return home_.path(); }
+    qint64 processId() const { return server_->processId(); }
 
     RunningProgram run(const QString& program, const QStringList& arguments = {}) const {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "desktop/alert_server.h"
+#include "desktop/program_fixture.h"
+#include "desktop/screen_reader.h"
+
+#include <QPoint>
+#include <QTest>
+
+#include <csignal>
+
+namespace velmora {
+
+/// The program under a window manager, linked to a server of the test, with real keys and clicks.
+class DeliberateAnswerTest : public ProgramTest {
+protected:
+    static constexpr int guard = 600; ///< milliseconds in which a card takes no answer
+
+    void SetUp() override {
+        linkTo(server.port());
+        windowManager_ = display.run("openbox", {"--startup", "echo ready"});
+        ASSERT_TRUE(waitUntil([this] { return windowManager_->bytesAvailable() > 0; }));
+    }
+
+    void start(const Surroundings& extra = {}) {
+        Surroundings surroundings{{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}};
+        surroundings.insert(surroundings.end(), extra.begin(), extra.end());
+        program_.reset();
+        program_.reset(run(VELMORA_PROGRAM, {}, surroundings).release());
+        ASSERT_TRUE(waitUntil([this] { return isActive(); }));
+    }
+    void startWithScreenReader() {
+        start({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}});
+        reader.attach(program_->processId());
+    }
+    /// Starts the program and returns where its "Launch drone" is. It finds that in an earlier run: under a
+    /// screen reader Qt handles keys in another way.
+    QPoint startAndLocateLaunch() {
+        startWithScreenReader();
+        server.alert();
+        const QPoint launch = reader.centerOf("Launch drone");
+        EXPECT_FALSE(launch.isNull());
+        server.dock();
+        start();
+        return launch;
+    }
+    void stop() const { ::kill(static_cast<pid_t>(program_->processId()), SIGSTOP); }
+    void resume() const { ::kill(static_cast<pid_t>(program_->processId()), SIGCONT); }
+
+    /// What xdotool prints. The server answers meanwhile.
+    QString xdotool(const QStringList& arguments) {
+        const RunningProgram tool = display.run("xdotool", arguments);
+        waitUntil([&] { return tool->state() == QProcess::NotRunning; });
+        return tool->readAllStandardOutput().trimmed();
+    }
+    void key(const QString& keys) { xdotool({"key", keys}); }
+    /// `at` is in pixels of the screen.
+    void click(QPoint at) {
+        xdotool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
+    }
+    /// Holds the keys down. X server and program share a processor, so that the two events of a repeat reach
+    /// the program one at a time and look like a new press.
+    void hold(const QString& keys) {
+        const QString pin = "for process in %1 %2; do taskset -acp 0 $process; done";
+        run("sh", {"-c", pin.arg(display.processId()).arg(program_->processId())}, {})->waitForFinished();
+        xdotool({"keydown", keys});
+    }
+    bool isActive() { return activeWindow() == "Velmora"; }
+    /// Another program's window, in front and with the focus.
+    RunningProgram openAnotherWindow() {
+        RunningProgram other = display.run("xev", {"-event", "keyboard"});
+        EXPECT_TRUE(waitUntil([this] { return activeWindow() == "Event Tester"; }));
+        return other;
+    }
+
+    /// Waits until the program has polled the current state so often. It polls twice a second, and the card
+    /// opens after the first poll; a press after the fourth is past the guard even on a slow machine.
+    bool polled(int times) {
+        return waitUntil([&] { return server.sent() >= times; });
+    }
+    /// Raises an alert that replaces another or follows none, and waits until the program fetches it.
+    bool raiseAlert(bool afterNone) {
+        if (afterNone) {
+            server.dock();
+            if (!polled(1))
+                return false;
+        }
+        server.alert();
+        return polled(1);
+    }
+    /// After a press that had to come within the guard.
+    void excuseIfSlow() {
+        if (server.ageOf(server.mission()) > guard - 100)
+            server.excuseAlert();
+    }
+    /// The attack approved nothing, though it reached a program that was ready for answers.
+    void expectNoneApproved() {
+        EXPECT_TRUE(polled(server.sent() + 2));
+        EXPECT_EQ(server.approvals(), 0);
+        EXPECT_TRUE(takesADeliberateAnswer());
+    }
+    /// Stops the program 25 times while an alert is new, makes the press, and resumes when the guard is over.
+    template <class Press>
+    void expectNoneApprovedInStalls(Press press) {
+        int approvals = 0;
+        for (int i = 0; i < 25; ++i) {
+            ASSERT_TRUE(raiseAlert(i % 5 == 0));
+            QTest::qWait(120);
+            stop();
+            press();
+            excuseIfSlow();
+            QTest::qWait(guard + 50);
+            resume();
+            QTest::qWait(100);
+            approvals += server.approvals();
+            server.excuseAlert(); // a slow program may take the next press for an answer to this alert
+        }
+        EXPECT_EQ(approvals, 0);
+        EXPECT_TRUE(takesADeliberateAnswer());
+    }
+    bool takesADeliberateAnswer() {
+        const int before = server.approvals();
+        server.alert();
+        bool answers = polled(4);
+        for (int tries = 0; answers && tries < 5 && server.approvals() == before; ++tries) {
+            key("ctrl+Return"); // counts for nothing if the machine stalls just then
+            answers = polled(server.sent() + 2);
+        }
+        return server.approvals() == before + 1;
+    }
+
+    AlertServer server;
+    VirtualDisplay display;
+    ScreenReader reader;
+
+private:
+    QString activeWindow() { return xdotool({"getactivewindow", "getwindowname"}); }
+
+    RunningProgram windowManager_, program_;
+};
+
+} // namespace velmora
