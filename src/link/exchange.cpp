@@ -1,12 +1,18 @@
 #include "link/exchange.h"
 
+#include "model/boot_clock.h"
+
 #include <utility>
 
 namespace velmora {
 
 Exchange::Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
                    std::function<void(const End&)> ended, QObject* parent)
-    : QObject(parent), reply_(reply), byteLimit_(byteLimit), ended_(std::move(ended)) {
+    : QObject(parent),
+      reply_(reply),
+      deadline_(sinceBoot() + timeLimit),
+      byteLimit_(byteLimit),
+      ended_(std::move(ended)) {
     reply_->setParent(this);
     reply_->setReadBufferSize(byteLimit_ + 1); // Qt stops reading from the network beyond it
     timer_.setSingleShot(true);
@@ -36,6 +42,8 @@ void Exchange::end(End::Kind kind) {
     if (!ended)
         return;
     timer_.stop();
+    if (sinceBoot() > deadline_)
+        kind = End::Kind::timedOut;
     End result{kind, reply_->error(), reply_->errorString(), 0, std::move(body_), {}};
     result.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     result.version = reply_->rawHeader("X-Velmora-Version");

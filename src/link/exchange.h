@@ -27,7 +27,8 @@ public:
         QByteArray version; ///< header X-Velmora-Version
     };
 
-    /// Calls `ended` exactly once, from the event loop, unless the parent goes first.
+    /// Calls `ended` exactly once, from the event loop, unless the parent goes first. A reply that is handled
+    /// after the time limit, as after a pause of the program, has timed out.
     Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
              std::function<void(const End&)> ended, QObject* parent);
 
@@ -37,6 +38,7 @@ private:
     void end(End::Kind kind);
 
     QNetworkReply* reply_;
+    std::chrono::milliseconds deadline_; ///< on the boot clock
     QTimer timer_;
     qint64 byteLimit_;
     QByteArray body_;

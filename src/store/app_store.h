@@ -99,7 +99,7 @@ signals:
     void showWelcomeChanged();
     /// Someone waits for the owner's decision.
     void attentionRequested();
-    /// The server did not take a command, for this reason in words for the owner. Comes within three seconds.
+    /// No reply came to a command, for this reason in words for the owner. Comes within three seconds.
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:

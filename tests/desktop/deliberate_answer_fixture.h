@@ -65,6 +65,8 @@ protected:
         run("sh", {"-c", pin.arg(display.processId()).arg(program_->processId())}, {})->waitForFinished();
         xdotool({"keydown", keys});
     }
+    /// The program's visible windows: its own, and an open menu.
+    qsizetype windows() { return xdotool({"search", "--onlyvisible", "--class", "velmora"}).count('\n') + 1; }
     bool isActive() { return activeWindow() == "Velmora"; }
     /// Another program's window, in front and with the focus.
     RunningProgram openAnotherWindow() {

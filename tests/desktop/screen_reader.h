@@ -9,8 +9,6 @@
 #include <QObject>
 #include <QRect>
 
-#include <algorithm>
-
 namespace velmora {
 
 /// Finds and presses a program's buttons over AT-SPI, as a screen reader does. The tests' bus is the
@@ -36,88 +34,97 @@ public:
         QString path;
         waitUntil([&] {
             if (service_.isEmpty())
-                service_ = findService();
-            path = service_.isEmpty() ? QString() : search(root(), name);
+                findService();
+            path = service_.isEmpty() ? QString() : search(name);
             return !path.isEmpty();
         });
         return path;
     }
     /// The center of that button, in pixels of the screen.
     QPoint centerOf(const QString& name) {
-        const QDBusMessage reply = call(button(name), "Component", "GetExtents", {0U});
-        QRect extents;
-        if (reply.arguments().size() == 1)
-            reply.arguments().front().value<QDBusArgument>() >> extents;
-        return extents.center();
+        return qdbus_cast<QRect>(call(button(name), "org.a11y.atspi.Component", "GetExtents", {0U}).value(0))
+            .center();
     }
     /// Asks for the button's first action, which is "Press".
     bool press(const QString& path) const {
-        return call(path, "Action", "DoAction", {0}).arguments().value(0).toBool();
+        return call(path, "org.a11y.atspi.Action", "DoAction", {0}).value(0).toBool();
     }
 
 public slots:
     Q_SCRIPTABLE QString GetAddress() { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
 
 private:
+    static constexpr const char* accessible = "org.a11y.atspi.Accessible";
     static QString root() { return QStringLiteral("/org/a11y/atspi/accessible/root"); }
 
-    /// A program has one more connection for its accessible objects.
-    QString findService() const {
+    /// Accessible objects have a connection of their own: the one of the process that knows the root object.
+    void findService() {
         const QDBusConnectionInterface& names = *bus_.interface();
-        for (const QString& name : names.registeredServiceNames().value())
-            if (name.startsWith(':') && names.servicePid(name) == process_ &&
-                !call(name, root(), "Accessible", "GetChildren", {}).arguments().isEmpty())
-                return name;
+        for (const QString& name : names.registeredServiceNames().value()) {
+            if (!name.startsWith(':') || names.servicePid(name) != process_)
+                continue;
+            service_ = name;
+            if (!call(root(), accessible, "GetChildren", {}).isEmpty())
+                return;
+            service_.clear();
+        }
+    }
+    /// Sends the calls of a whole level at once, because a loaded machine takes long for each reply.
+    QString search(const QString& name) const {
+        for (QStringList level{root()}; !level.isEmpty();) {
+            const auto names = callAll(level, "org.freedesktop.DBus.Properties", "Get", {accessible, "Name"});
+            for (qsizetype i = 0; i < level.size(); ++i)
+                if (names[i].value(0).value<QDBusVariant>().variant() == name && isVisibleButton(level[i]))
+                    return level[i];
+            const auto families = callAll(level, accessible, "GetChildren", {});
+            level.clear();
+            for (const QVariantList& family : families)
+                if (!family.isEmpty())
+                    level += pathsIn(family.front().value<QDBusArgument>());
+        }
         return {};
     }
-    QString search(const QString& path, const QString& name) const {
-        if (isVisibleButton(path, name))
-            return path;
-        const QDBusMessage reply = call(path, "Accessible", "GetChildren", {});
-        if (reply.arguments().size() != 1)
-            return {};
-        const auto children = reply.arguments().front().value<QDBusArgument>();
-        QString found;
-        children.beginArray();
-        while (!children.atEnd()) {
+    static QStringList pathsIn(const QDBusArgument& references) {
+        QStringList paths;
+        references.beginArray();
+        while (!references.atEnd()) {
             QString service;
-            QDBusObjectPath child;
-            children.beginStructure();
-            children >> service >> child;
-            children.endStructure();
-            if (found.isEmpty())
-                found = search(child.path(), name);
+            QDBusObjectPath path;
+            references.beginStructure();
+            references >> service >> path;
+            references.endStructure();
+            paths.append(path.path());
         }
-        children.endArray();
-        return found;
+        references.endArray();
+        return paths;
     }
-    bool isVisibleButton(const QString& path, const QString& name) const {
+    bool isVisibleButton(const QString& path) const {
         constexpr uint pushButton = 43, showing = 1U << 25U;
-        const auto property = call(service_, path, "Properties", "Get", {accessible("Accessible"), "Name"});
-        if (property.arguments().value(0).value<QDBusVariant>().variant().toString() != name ||
-            call(path, "Accessible", "GetRole", {}).arguments().value(0).toUInt() != pushButton)
-            return false;
-        const auto states = qdbus_cast<QList<uint>>(
-            call(path, "Accessible", "GetState", {}).arguments().value(0).value<QDBusArgument>());
-        return !states.isEmpty() && (states.front() & showing) != 0;
+        const auto states = qdbus_cast<QList<uint>>(call(path, accessible, "GetState", {}).value(0));
+        return call(path, accessible, "GetRole", {}).value(0) == pushButton &&
+               (states.value(0) & showing) != 0;
     }
 
-    static QString accessible(const char* interface) {
-        return (qstrcmp(interface, "Properties") == 0 ? QStringLiteral("org.freedesktop.DBus.")
-                                                      : QStringLiteral("org.a11y.atspi.")) +
-               interface;
-    }
-    QDBusMessage call(const QString& path, const char* interface, const char* method,
+    /// What the call returns; nothing if it fails.
+    QVariantList call(const QString& path, const char* interface, const char* method,
                       const QVariantList& arguments) const {
-        return call(service_, path, interface, method, arguments);
+        return callAll({path}, interface, method, arguments).front();
     }
-    QDBusMessage call(const QString& service, const QString& path, const char* interface, const char* method,
-                      const QVariantList& arguments) const {
-        QDBusMessage message =
-            QDBusMessage::createMethodCall(service, path, accessible(interface), QLatin1String(method));
-        message.setArguments(arguments);
-        const QDBusMessage reply = bus_.call(message, QDBus::Block, 5000);
-        return reply.type() == QDBusMessage::ReplyMessage ? reply : QDBusMessage();
+    QList<QVariantList> callAll(const QStringList& paths, const char* interface, const char* method,
+                                const QVariantList& arguments) const {
+        QList<QDBusPendingCall> calls;
+        for (const QString& path : paths) {
+            QDBusMessage message = QDBusMessage::createMethodCall(service_, path, QLatin1String(interface),
+                                                                  QLatin1String(method));
+            message.setArguments(arguments);
+            calls.append(bus_.asyncCall(message));
+        }
+        QList<QVariantList> replies;
+        for (QDBusPendingCall& pending : calls) {
+            pending.waitForFinished();
+            replies.append(pending.isError() ? QVariantList() : pending.reply().arguments());
+        }
+        return replies;
     }
 
     QDBusConnection bus_;

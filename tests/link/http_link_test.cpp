@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <thread>
+
 namespace velmora {
 
 using testing::HasSubstr;
@@ -118,6 +120,25 @@ TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
         eventually([this, end = QDeadlineTimer(300)] { return end.hasExpired(); });
         EXPECT_EQ(posts(), 1) << kept;
     }
+}
+
+TEST_F(LinkTest, AReplyThatAPauseOfTheProgramDelaysHasTimedOut) {
+    impatient();
+    reply = ok(document());
+    int paused = 0;
+    for (std::size_t i = 1; i <= 10; ++i) {
+        startFetch();
+        ASSERT_TRUE(eventually([&] { return requests.size() == i; }));
+        QCoreApplication::processEvents(); // the server writes its reply
+        const bool waits = results.size() < i;
+        std::this_thread::sleep_for(150ms);
+        ASSERT_TRUE(eventually([&] { return results.size() == i; }));
+        if (!waits)
+            continue;
+        ++paused;
+        EXPECT_TRUE(std::holds_alternative<LinkError>(results.back()));
+    }
+    EXPECT_GT(paused, 0);
 }
 
 TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {

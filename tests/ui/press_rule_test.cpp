@@ -1,4 +1,4 @@
-#include "ui/guard/answer_keys.h"
+#include "ui/guard/key_presses.h"
 #include "ui/guard/press_rule.h"
 
 #include <QtCore/qnamespace.h>
@@ -81,23 +81,27 @@ TEST(EventClockTest, AnEventHandledLateBeganEarlier) {
 }
 
 /// A keyboard whose events carry time stamps, unless the test takes them away.
-class AnswerKeysTest : public testing::Test {
+class KeyPressesTest : public testing::Test {
 protected:
     /// Whether the press counts as one of a finger, with no other key down.
     bool counts(int key, int time, bool flagged = false) {
-        const AnswerKeys::Press press = keys.pressed({key, stamp(time), EventTime(time), flagged});
+        const KeyPresses::Press press =
+            keys.pressed({codeOf(key), KeyPresses::isAnswerKey(key), stamp(time), EventTime(time), flagged});
         return !press.isRepeat && press.othersUp;
     }
     void release(int key, int time, int arrival = 0) {
-        keys.released({key, stamp(arrival > 0 ? 0 : time), EventTime(arrival > 0 ? arrival : time)});
+        keys.released({codeOf(key), KeyPresses::isAnswerKey(key), stamp(arrival > 0 ? 0 : time),
+                       EventTime(arrival > 0 ? arrival : time)});
     }
+    /// A no-break space is on the space bar, with another modifier.
+    static std::uint32_t codeOf(int key) { return key == Qt::Key_nobreakspace ? Qt::Key_Space : key; }
     std::uint64_t stamp(int time) const { return stamped ? static_cast<std::uint64_t>(time) : 0; }
 
-    AnswerKeys keys;
+    KeyPresses keys;
     bool stamped = true;
 };
 
-TEST_F(AnswerKeysTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
+TEST_F(KeyPressesTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
     EXPECT_TRUE(counts(Qt::Key_Return, 100));
     for (int time = 760; time < 2000; time += 33) {
         release(Qt::Key_Return, time);
@@ -118,12 +122,22 @@ TEST_F(AnswerKeysTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
     EXPECT_TRUE(counts(Qt::Key_Return, 3101)) << "a platform without time stamps";
 }
 
-TEST_F(AnswerKeysTest, ARepeatIsToldThoughItsReleaseComesLateAndWithoutATimeStamp) {
+TEST_F(KeyPressesTest, ARepeatIsToldThoughItsReleaseComesLateAndWithoutATimeStamp) {
     EXPECT_TRUE(counts(Qt::Key_Return, 100));
     release(Qt::Key_Return, 760, 764);
     EXPECT_FALSE(counts(Qt::Key_Return, 760));
     release(Qt::Key_Return, 800, 804);
     EXPECT_TRUE(counts(Qt::Key_Return, 870));
+}
+
+TEST_F(KeyPressesTest, AKeyIsUpThoughItsReleaseHasAnotherName) {
+    EXPECT_TRUE(counts(Qt::Key_Space, 100));
+    release(Qt::Key_nobreakspace, 180);
+    EXPECT_TRUE(counts(Qt::Key_Return, 300));
+    release(Qt::Key_Return, 380);
+    EXPECT_TRUE(counts(Qt::Key_A, 400));
+    EXPECT_FALSE(counts(Qt::Key_A, 430)) << "other keys are told from their repeats too";
+    EXPECT_TRUE(counts(Qt::Key_Space, 450)) << "only answer keys must be up";
 }
 
 } // namespace

@@ -87,6 +87,20 @@ TEST_F(WindowTest, ShortcutsSendTheDronesCommands) {
     EXPECT_EQ(link.posts.size(), 2U);
 }
 
+TEST_F(WindowTest, AFailedCommandIsToldInEverySection) {
+    window();
+    serve(mission(Phase::following));
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        store().setSection(section);
+        press(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+        link.posts.back().done(LinkError{QString::fromUtf8(id.data()) + ": timed out"});
+        settle();
+        EXPECT_TRUE(shows(QString::fromUtf8("velmora did not confirm “Return home”. ") +
+                          QString::fromUtf8(id.data()) + ": timed out."))
+            << id;
+    }
+}
+
 TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {
     const QStringList rows{"Overview", "Live flight", "History", "Cameras", "Settings"};
     window();

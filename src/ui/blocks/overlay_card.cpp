@@ -70,8 +70,8 @@ void OverlayCard::open() {
     layCard();
     picture_ = card_->grab();
     card_->hide();
+    raise(); // before the window, told by the show event, raises what belongs above every card
     show();
-    raise();
     setFocus(Qt::OtherFocusReason);
     animate(0, 1, Motion::cardIn);
 }

@@ -1,8 +1,10 @@
 #include "ui/guard/answer_guard.h"
 
+#include "model/boot_clock.h"
+
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeyEvent>
-#include <QWindow>
 
 #include <utility>
 
@@ -14,13 +16,9 @@ constexpr auto beatInterval = std::chrono::milliseconds(50);
 
 } // namespace
 
-EventTime steadyTime() {
-    return std::chrono::duration_cast<EventTime>(std::chrono::steady_clock::now().time_since_epoch());
-}
-
-AnswerGuard::AnswerGuard(AppStore& store, QWidget& window, std::function<EventTime()> clock)
-    : QObject(&window), store_(store), window_(window), clock_(std::move(clock)) {
-    window_.installEventFilter(this);
+AnswerGuard::AnswerGuard(AppStore& store, QWidget& window)
+    : QObject(&window), store_(store), window_(window) {
+    qApp->installEventFilter(this);
     beat_.setTimerType(Qt::PreciseTimer);
     beat_.setInterval(beatInterval);
     connect(&beat_, &QTimer::timeout, this, &AnswerGuard::beat);
@@ -33,45 +31,48 @@ void AnswerGuard::followAlert() {
     if (std::exchange(alert_, store_.waitingAlert()) == alert_)
         return;
     rule_.cardGone();
-    closeAgain();
+    invalidatePresses();
     alert_ ? beat_.start() : beat_.stop();
 }
 
 void AnswerGuard::cardPainted() {
     if (alert_ && !rule_.cardWasPainted())
-        rule_.cardPainted(clock_());
+        rule_.cardPainted(sinceBoot());
 }
 
 bool AnswerGuard::isOpen() const {
-    return alert_ && rule_.counts(clock_());
+    return alert_ && rule_.counts(sinceBoot());
 }
 
 std::optional<AnswerGuard::Press> AnswerGuard::admit(std::uint64_t stamp) {
-    const EventTime now = clock_();
-    if (!rule_.beat(now))
-        closeAgain();
-    if (!alert_ || !rule_.counts(eventClock_.began(stamp, now)))
+    if (!passesStallCheck() || !alert_ || !rule_.counts(eventClock_.began(stamp, sinceBoot())))
         return std::nullopt;
     return Press{*alert_, round_};
 }
 
 void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
-    beat();
-    if (!press || press->round != round_ || !store_.answer(command, press->alert))
+    if (!passesStallCheck() || !press || press->round != round_ || !store_.answer(command, press->alert))
         return;
-    rule_.restart(clock_()); // a double click answers once
-    closeAgain();
-    emit answered(press->alert);
+    rule_.restart(sinceBoot()); // a double click answers once
+    invalidatePresses();
+    emit answered();
+}
+
+/// The time stamps' clock stands still during a suspend, so it is learned again after a stall.
+bool AnswerGuard::passesStallCheck() {
+    if (rule_.beat(sinceBoot()))
+        return true;
+    eventClock_ = {};
+    invalidatePresses();
+    return false;
 }
 
 void AnswerGuard::beat() {
-    if (rule_.beat(clock_()))
+    if (passesStallCheck())
         update();
-    else
-        closeAgain();
 }
 
-void AnswerGuard::closeAgain() {
+void AnswerGuard::invalidatePresses() {
     ++round_;
     update();
 }
@@ -81,66 +82,77 @@ void AnswerGuard::update() {
         emit changed();
 }
 
+/// Every input event reaches a window first; the releases of keys also those of menus and dialogs.
 bool AnswerGuard::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &window_) {
+    if (watched == &window_)
         followWindow(*event);
+    if (!watched->isWindowType() || !event->isInputEvent())
         return false;
-    }
-    if (event->isInputEvent()) // every one is a sample of the delay
-        eventClock_.began(static_cast<QInputEvent*>(event)->timestamp(), clock_());
+    eventClock_.began(static_cast<QInputEvent*>(event)->timestamp(), sinceBoot()); // a sample of the delay
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)
-        return withholds(static_cast<QKeyEvent&>(*event));
-    if (event->type() == QEvent::KeyRelease) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        keys_.released({key->key(), key->timestamp(), clock_()});
-    }
+        return dropsKey(static_cast<QKeyEvent&>(*event));
+    if (event->type() == QEvent::KeyRelease)
+        keys_.released(eventOf(static_cast<QKeyEvent&>(*event), sinceBoot()));
     return false;
 }
 
 void AnswerGuard::followWindow(const QEvent& event) {
     switch (event.type()) {
-    case QEvent::Show:
-        window_.windowHandle()->installEventFilter(this);
-        break;
     case QEvent::Hide: // it will be painted again
         rule_.cardGone();
-        closeAgain();
+        invalidatePresses();
         break;
     case QEvent::WindowActivate:
-        rule_.windowActivated(clock_());
-        closeAgain();
+        rule_.windowActivated(sinceBoot());
+        invalidatePresses();
         break;
     case QEvent::WindowDeactivate:
         rule_.windowDeactivated();
         keys_.forget();
-        closeAgain();
+        invalidatePresses();
         break;
     default:
         break;
     }
 }
 
-bool AnswerGuard::withholds(QKeyEvent& key) {
-    if (!AnswerKeys::contains(key.key()))
+bool AnswerGuard::dropsKey(QKeyEvent& key) {
+    if (KeyPresses::isAnswerKey(key.key()))
+        return dropsAnswerKey(key);
+    if (key.type() != QEvent::ShortcutOverride)
         return false;
-    const bool sameStamp = key.timestamp() == 0 || key.timestamp() == judgedStamp_;
-    const bool secondEvent = key.type() == QEvent::KeyPress && judgedKey_ == key.key() && sameStamp;
-    if (!secondEvent)
-        judgedMayPress_ = mayPress(key);
-    judgedKey_ = key.type() == QEvent::ShortcutOverride ? key.key() : 0;
-    judgedStamp_ = key.timestamp();
-    if (!judgedMayPress_)
+    const bool repeats =
+        keys_.pressed(eventOf(key, eventClock_.began(key.timestamp(), sinceBoot()))).isRepeat;
+    const bool drops = repeats && key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (drops)
+        key.accept(); // then it is no shortcut, only a press
+    return drops;
+}
+
+bool AnswerGuard::dropsAnswerKey(QKeyEvent& key) {
+    const bool judged = key.type() == QEvent::KeyPress && verdict_ && verdict_->key == key.key() &&
+                        (key.timestamp() == 0 || key.timestamp() == verdict_->stamp);
+    const bool drops = judged ? !verdict_->mayPress : !mayPress(key);
+    verdict_.reset();
+    if (key.type() == QEvent::ShortcutOverride)
+        verdict_ = {key.key(), key.timestamp(), !drops};
+    if (drops)
         key.accept();
-    return !judgedMayPress_;
+    return drops;
 }
 
 bool AnswerGuard::mayPress(const QKeyEvent& key) {
-    const AnswerKeys::Press press = keys_.pressed(
-        {key.key(), key.timestamp(), eventClock_.began(key.timestamp(), clock_()), key.isAutoRepeat()});
+    const KeyPresses::Press press =
+        keys_.pressed(eventOf(key, eventClock_.began(key.timestamp(), sinceBoot())));
     if (alert_)
         return !press.isRepeat && press.othersUp && admit(key.timestamp());
-    const bool onButton = qobject_cast<QAbstractButton*>(window_.focusWidget());
+    const bool onButton = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
     return !press.isRepeat || !onButton;
+}
+
+KeyPresses::Event AnswerGuard::eventOf(const QKeyEvent& key, EventTime time) const {
+    const auto code = key.nativeScanCode() ? key.nativeScanCode() : static_cast<quint32>(key.key());
+    return {code, KeyPresses::isAnswerKey(key.key()), key.timestamp(), time, key.isAutoRepeat()};
 }
 
 } // namespace velmora

@@ -2,8 +2,10 @@
 
 #include "ui/blocks/confirmation_card.h"
 #include "ui/blocks/focus_ring.h"
+#include "ui/blocks/toast.h"
 #include "ui/guard/answer_guard.h"
 #include "ui/look/measures.h"
+#include "ui/look/words.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/alert/approval_overlay.h"
 #include "ui/screens/cameras/cameras_view.h"
@@ -33,7 +35,7 @@ namespace velmora {
 MainWindow::MainWindow(AppStore& store, Autostart autostart)
     : store_(store),
       autostart_(std::move(autostart)),
-      guard_(new AnswerGuard(store, *this, steadyTime)),
+      guard_(new AnswerGuard(store, *this)),
       menus_(new CommandMenus(store, this)),
       stack_(new SectionStack(this)) {
     setWindowTitle(QStringLiteral("Velmora"));
@@ -55,6 +57,7 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
         addOverlay(overlay);
     new FocusRing(this);
     bands_ = new ResizeBands(this);
+    toast_ = new Toast(this);
     addShortcuts();
 
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
@@ -67,6 +70,9 @@ MainWindow::MainWindow(AppStore& store, Autostart autostart)
     });
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
+        toast_->setMessage(failureText(command, reason));
+    });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::makeWayForAlert);
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     showSection();
@@ -164,6 +170,7 @@ void MainWindow::showCover() {
         map->setCovered(isCovered());
     if (approval_->isOpen())
         approval_->raise();
+    toast_->raise();
     bands_->raise();
 }
 

@@ -20,6 +20,7 @@ class OverlayCard;
 class ResizeBands;
 class SectionStack;
 class TitleStrip;
+class Toast;
 class WelcomeView;
 
 /// The app's one window: title strip, sidebar, the selected section, and the cards that lie over all of it.
@@ -61,6 +62,7 @@ private:
     AboutCard* about_;
     QList<OverlayCard*> overlays_;
     ResizeBands* bands_;
+    Toast* toast_;
 };
 
 } // namespace velmora

@@ -9,7 +9,6 @@
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/screens/alert/approval_picture.h"
-#include "ui/screens/note_line.h"
 
 #include <QVBoxLayout>
 
@@ -44,14 +43,7 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* w
     : OverlayCard(Measure::approvalCard, window), store_(store), guard_(guard) {
     build();
     connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
-    connect(&guard_, &AnswerGuard::answered, this, [this] {
-        answeredAt_ = store_.now();
-        note_->clearMessage();
-    });
-    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        if (answersAlert(command))
-            note_->setMessage(failureText(command, reason));
-    });
+    connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
     followPhase();
@@ -73,10 +65,9 @@ void ApprovalOverlay::build() {
     words->addSpacing(Measure::gap16);
     words->addWidget(buildMetrics());
     words->addSpacing(Measure::gap20);
-    note_ = new NoteLine(
-        tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
-        Type::overlayNote, {.note = SB::muted, .message = SB::alert}, card());
-    words->addWidget(note_);
+    words->addWidget(
+        new Text(tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
+                 Type::overlayNote, SB::muted, card()));
     words->addSpacing(Measure::gap20);
     words->addWidget(buildButtons());
     column()->addWidget(picture_);
@@ -117,6 +108,7 @@ QWidget* ApprovalOverlay::buildButtons() {
     return row;
 }
 
+/// A server that goes on asking after an answer must not keep the owner from the rest of the window.
 void ApprovalOverlay::followPhase() {
     const auto alert = store_.waitingAlert();
     if (!alert) {
@@ -128,12 +120,16 @@ void ApprovalOverlay::followPhase() {
     }
     refresh();
     if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > patienceWithAnswers)
-        stepAside();
-    if (alert == unheeded_ || (isOpen() && alert == asked_))
+        unheeded_ = asked_;
+    if (alert == unheeded_) { // the overview still offers the launch
+        countdown_.stop();
+        close();
+        return;
+    }
+    if (isOpen() && alert == asked_)
         return;
     asked_ = alert;
     answeredAt_.reset();
-    note_->clearMessage();
     const auto deadline = store_.knownState()->approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
@@ -174,14 +170,6 @@ void ApprovalOverlay::paintEvent(QPaintEvent* event) {
     OverlayCard::paintEvent(event);
     if (isOpen())
         guard_.cardPainted();
-}
-
-/// A server that goes on asking after an answer must not keep the owner from the rest of the window. The
-/// overview still offers the launch.
-void ApprovalOverlay::stepAside() {
-    unheeded_ = asked_;
-    countdown_.stop();
-    close();
 }
 
 } // namespace velmora

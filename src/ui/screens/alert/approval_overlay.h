@@ -9,7 +9,6 @@ namespace velmora {
 
 class ApprovalPicture;
 class Metric;
-class NoteLine;
 class Text;
 
 /// Asks the owner whether the drone may launch, over every section.
@@ -33,7 +32,6 @@ private:
     void followPhase();
     void refresh();
     void countDown();
-    void stepAside();
 
     AppStore& store_;
     AnswerGuard& guard_;
@@ -44,7 +42,6 @@ private:
     Metric* battery_;
     Metric* wind_;
     Metric* expires_;
-    NoteLine* note_;
     QTimer countdown_;
     std::optional<AlertId> asked_;    ///< the alert that the card asks about
     std::optional<Date> answeredAt_;  ///< when the owner last answered it

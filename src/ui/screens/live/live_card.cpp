@@ -2,13 +2,12 @@
 
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-#include "ui/look/words.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/live/telemetry.h"
-#include "ui/screens/note_line.h"
 #include "ui/screens/stale_banner.h"
 
 #include <QPainter>
@@ -21,15 +20,11 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
     : QWidget(parent),
       store_(store),
       map_(new SiteMap(this)),
-      note_(new NoteLine(tr("Keep the drone in sight while it flies"), Type::legend,
-                         {.note = SB::dLabel, .message = SB::dTitle}, this)),
+      note_(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this)),
       line_(new Hairline(this, Hairline::Tone::dark)),
       telemetry_(new Telemetry(this)) {
     everySecond_.setInterval(1000);
     connect(&everySecond_, &QTimer::timeout, this, &LiveCard::refresh);
-    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        note_->setMessage(failureText(command, reason));
-    });
     refresh();
 }
 

@@ -7,9 +7,9 @@
 
 namespace velmora {
 
-class NoteLine;
 class SiteMap;
 class Telemetry;
+class Text;
 
 /// The dark card of the live screen: the map, a note under it, the drone's figures.
 class LiveCard : public QWidget {
@@ -32,7 +32,7 @@ private:
 
     AppStore& store_;
     SiteMap* map_;
-    NoteLine* note_;
+    Text* note_;
     QWidget* line_;
     QString pictureAge_; ///< empty while the picture is fresh
     Telemetry* telemetry_;

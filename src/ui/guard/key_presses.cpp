@@ -1,4 +1,4 @@
-#include "ui/guard/answer_keys.h"
+#include "ui/guard/key_presses.h"
 
 #include <Qt>
 
@@ -10,7 +10,7 @@ namespace {
 
 /// Whether press and release happened at the same moment. Under a screen reader releases arrive late and
 /// without a time stamp: then a press that is not clearly younger than the arrival belongs to the release.
-bool followsAtOnce(const AnswerKeys::Event& press, const AnswerKeys::Event& release) {
+bool followsAtOnce(const KeyPresses::Event& press, const KeyPresses::Event& release) {
     constexpr EventTime inaccuracy{10};
     if (press.stamp == 0 || release.stamp != 0)
         return press.stamp != 0 && press.stamp == release.stamp;
@@ -19,21 +19,23 @@ bool followsAtOnce(const AnswerKeys::Event& press, const AnswerKeys::Event& rele
 
 } // namespace
 
-bool AnswerKeys::contains(int key) {
+bool KeyPresses::isAnswerKey(int key) {
     constexpr int keys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select, Qt::Key_Escape};
     return std::ranges::find(keys, key) != std::end(keys);
 }
 
-AnswerKeys::Press AnswerKeys::pressed(const Event& press) {
-    const bool wasHeld = !held_.insert(press.key).second;
-    const auto release = lastRelease_.find(press.key);
+KeyPresses::Press KeyPresses::pressed(const Event& press) {
+    const bool wasHeld = !held_.try_emplace(press.code, press.answers).second;
+    const auto release = lastRelease_.find(press.code);
     const bool repeats = release != lastRelease_.end() && followsAtOnce(press, release->second);
-    return {press.flagged || wasHeld || repeats, held_.size() == 1};
+    const bool othersUp =
+        std::ranges::none_of(held_, [&](const auto& key) { return key.first != press.code && key.second; });
+    return {press.flagged || wasHeld || repeats, othersUp};
 }
 
-void AnswerKeys::released(const Event& release) {
-    held_.erase(release.key);
-    lastRelease_[release.key] = release;
+void KeyPresses::released(const Event& release) {
+    held_.erase(release.code);
+    lastRelease_[release.code] = release;
 }
 
 } // namespace velmora

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ui/guard/press_rule.h"
+
+#include <cstdint>
+#include <map>
+
+namespace velmora {
+
+/// Tells the press of a finger from the repeats of a held key. Qt's own flag is not enough: on X11 it misses
+/// repeats under load. A repeat carries the time stamp of the release just before it, which a finger never
+/// does.
+class KeyPresses {
+public:
+    /// Whether the key, a Qt::Key, presses buttons or gives answers: Return, Enter, Space, Select or Escape.
+    static bool isAnswerKey(int key);
+
+    /// A press or release.
+    struct Event {
+        std::uint32_t code = 0;  ///< of the physical key, whose name can change while it is held
+        bool answers = false;    ///< an answer key
+        std::uint64_t stamp = 0; ///< of the window system; 0 for none
+        EventTime time{};        ///< of a press: when it happened; of a release: when it arrived
+        bool flagged = false;    ///< Qt's auto-repeat flag
+    };
+    struct Press {
+        bool isRepeat = false;
+        bool othersUp = true; ///< no other answer key is held
+    };
+
+    Press pressed(const Event& press);
+    void released(const Event& release);
+    /// Forgets which keys are held: another program gets their releases.
+    void forget() { held_.clear(); }
+
+private:
+    std::map<std::uint32_t, bool> held_; ///< by code: whether it is an answer key
+    std::map<std::uint32_t, Event> lastRelease_;
+};
+
+} // namespace velmora
