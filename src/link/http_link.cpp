@@ -117,11 +117,16 @@ void HttpLink::send(Command command, const std::optional<std::string>& mission, 
     auto* body = new SingleUseBody(bytes);
     request.setHeader(QNetworkRequest::ContentLengthHeader, bytes.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    QNetworkReply* reply = manager_.post(request, body);
+    request.setRawHeader("Connection", "close");
+    // A connection of its own: the server may just be closing one that was kept, and nothing is sent twice.
+    auto* manager = new QNetworkAccessManager;
+    manager->setProxy(QNetworkProxy::NoProxy);
+    QNetworkReply* reply = manager->post(request, body);
     body->setParent(reply);
-    new Exchange(
+    auto* exchange = new Exchange(
         reply, limits_.command, limits_.replyBytes,
         [done = std::move(done)](const Exchange::End& end) { done(commandFailure(end)); }, this);
+    manager->setParent(exchange);
 }
 
 } // namespace velmora

@@ -80,7 +80,8 @@ TEST_F(LinkTest, ACommandNamesItselfAndTheMission) {
         const QByteArray request = requests.back();
         EXPECT_THAT(request.toStdString(), StartsWith("POST /api/app/v1/command HTTP/1.1\r\n"));
         EXPECT_THAT(request.toStdString(), HasSubstr("\r\nContent-Type: application/json\r\n"));
-        EXPECT_EQ(QJsonDocument::fromJson(request.mid(request.indexOf("\r\n\r\n") + 4)).object(), body);
+        EXPECT_EQ(QJsonDocument::fromJson(request.mid(request.indexOf("\r\n\r\n") + 4)).object(), body)
+            << request.toStdString();
     }
 }
 
