@@ -130,8 +130,9 @@ TEST_F(DeliberateAnswerTest, AKeyThatOpenedAMenuIsNotTakenForHeld) {
     ASSERT_TRUE(waitUntil([this] { return windows() == 2; }));
     key("Escape");
     ASSERT_TRUE(waitUntil([this] { return windows() == 1; }));
-    key("Return");
+    xdotool({"keydown", "Return"});
     ASSERT_TRUE(waitUntil([this] { return windows() == 2; }));
+    xdotool({"keyup", "Return"}); // which the menu's window gets
     ASSERT_TRUE(raiseAlert(false) && polled(4));
     EXPECT_EQ(windows(), 1);
     key("ctrl+Return");
