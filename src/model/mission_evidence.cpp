@@ -1,42 +1,45 @@
 #include "model/mission_evidence.h"
 
+#include "model/notice_texts.h"
+
 #include <algorithm>
-#include <array>
 #include <limits>
 
 namespace velmora {
 
 namespace {
 
-/// How the notice of each step begins, or for coming home what it holds.
-struct StepText {
-    ResponseStep step;
-    std::string_view text;
-    bool anywhere = false;
-};
-
-constexpr std::array stepTexts{StepText{ResponseStep::answered, "You approved the launch"},
-                               StepText{ResponseStep::airborne, "Airborne at"},
-                               StepText{ResponseStep::onStation, "Following at"},
-                               StepText{ResponseStep::onStation, "Following — handed over"},
-                               StepText{ResponseStep::comingHome, "oming home", true}};
-
-bool tells(const Notice& notice, const StepText& step) {
-    const std::size_t place = notice.text.find(step.text);
-    return step.anywhere ? place != std::string::npos : place == 0;
+std::optional<ResponseStep> stepToldBy(const Notice& notice) {
+    const auto kind = noticeKindOf(notice.text);
+    if (!kind)
+        return std::nullopt;
+    switch (*kind) {
+    case NoticeKind::approved:
+        return ResponseStep::answered;
+    case NoticeKind::airborne:
+        return ResponseStep::airborne;
+    case NoticeKind::following:
+    case NoticeKind::handedOver:
+        return ResponseStep::onStation;
+    case NoticeKind::comingHome:
+    case NoticeKind::comingHomeAsked:
+    case NoticeKind::batteryLow:
+        return ResponseStep::comingHome;
+    default:
+        return std::nullopt;
+    }
 }
 
-const Notice* firstTelling(const MissionRecord& record, const StepText& step) {
-    const auto notice =
-        std::ranges::find_if(record.notices, [&](const Notice& candidate) { return tells(candidate, step); });
+const Notice* firstTelling(const MissionRecord& record, ResponseStep step) {
+    const auto notice = std::ranges::find(record.notices, std::optional(step), stepToldBy);
     return notice == record.notices.end() ? nullptr : &*notice;
 }
 
-/// Seconds from point to point, by the path whose whole time is known. Points that are missing in it, or too
-/// many, say nothing about the rest.
+/// Sampling interval, from the path whose duration is known; the nominal interval if the point count is
+/// implausible.
 double intervalOf(const MissionRecord& record) {
     constexpr double longest = 1.1 * pathInterval;
-    const Notice* approved = firstTelling(record, stepTexts.front());
+    const Notice* approved = firstTelling(record, ResponseStep::answered);
     const bool flown = !record.dronePath.empty() && approved;
     const double seconds = flown ? (record.end - approved->time).count() : lengthOf(record);
     const auto points = static_cast<double>(flown ? record.dronePath.size() : record.visitorPath.size());
@@ -55,12 +58,10 @@ std::size_t pointsUntil(double seconds, double first, double interval, std::size
 
 std::vector<ResponseMoment> responseTimeline(const MissionRecord& record) {
     std::vector<ResponseMoment> moments{{ResponseStep::seen, record.start}};
-    for (const StepText& step : stepTexts) {
-        if (moments.back().step == step.step)
-            continue;
+    for (const ResponseStep step :
+         {ResponseStep::answered, ResponseStep::airborne, ResponseStep::onStation, ResponseStep::comingHome})
         if (const Notice* notice = firstTelling(record, step))
-            moments.push_back({step.step, notice->time});
-    }
+            moments.push_back({step, notice->time});
     moments.push_back({ResponseStep::ended, record.end});
     return moments;
 }

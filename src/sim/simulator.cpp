@@ -1,7 +1,5 @@
 #include "sim/simulator.h"
 
-#include "model/whole.h"
-
 #include <algorithm>
 #include <numbers>
 
@@ -58,8 +56,7 @@ void Simulator::gust() {
     const double direction = random_.uniform(0, 2 * std::numbers::pi);
     velocity_ = velocity_ + P{std::cos(direction) * strength / 10, std::sin(direction) * strength / 10};
     gustDecay_ = 2;
-    note("Gust of " + std::to_string(whole(strength)) + " km/h — recovered and back on station",
-         Notice::Level::info);
+    note(NoticeKind::gust, strength);
 }
 
 void Simulator::stepVisitor(double dt) {
@@ -72,7 +69,7 @@ void Simulator::stepVisitor(double dt) {
     if (nearest != state.site.cameras.end())
         visitor.cameraId = nearest->id;
     if (wasInside && !visitor.inside)
-        note("Visitor has crossed your boundary", Notice::Level::info);
+        note(NoticeKind::crossedBoundary);
     if (visitor.inside)
         outsideFor_ = 0;
     else
@@ -101,14 +98,14 @@ void Simulator::watchOutside(double dt) {
     outsideFor_ += dt;
     if (!(outsideFor_ > patienceOutside))
         return;
-    note("Visitor has left your grounds", Notice::Level::good);
+    note(NoticeKind::leftGrounds);
     state.visitor.reset();
     switch (state.phase) {
     case Phase::launching:
     case Phase::enRoute:
     case Phase::following:
     case Phase::holding:
-        enter(Phase::returning, "Coming home", Notice::Level::info);
+        enter(Phase::returning, NoticeKind::comingHome);
         break;
     case Phase::awaitingApproval:
         finish(Outcome::expired);
@@ -131,9 +128,7 @@ void Simulator::stepTelemetry(double dt) {
         state.phase == Phase::enRoute || state.phase == Phase::following || state.phase == Phase::holding;
     if (onDuty && drone.battery < settings.returnBattery) {
         pendingOutcome_ = Outcome::lowBattery;
-        enter(Phase::returning,
-              "Battery below " + std::to_string(whole(settings.returnBattery)) + "% — coming home",
-              Notice::Level::caution);
+        enter(Phase::returning, NoticeKind::batteryLow, settings.returnBattery);
     }
 }
 
@@ -151,11 +146,6 @@ void Simulator::sample(double dt) {
         if (state.missionId)
             visitorPath_.push_back(state.visitor->pos);
     }
-}
-
-void Simulator::enter(Phase phase, std::string text, Notice::Level level) {
-    state.phase = phase;
-    note(std::move(text), level);
 }
 
 void Simulator::note(std::string text, Notice::Level level) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/mission_record.h"
+#include "model/notice_texts.h"
 #include "model/settings.h"
 #include "sim/random.h"
 #include "sim/scenario.h"
@@ -54,7 +55,15 @@ private:
     void fly(P toward, double maxSpeed, double dt, std::optional<P> face);
     P insideBuffer(P p) const;
 
-    void enter(Phase phase, std::string text, Notice::Level level);
+    template <class... Inserted>
+    void enter(Phase phase, NoticeKind kind, const Inserted&... inserted) {
+        state.phase = phase;
+        note(kind, inserted...);
+    }
+    template <class... Inserted>
+    void note(NoticeKind kind, const Inserted&... inserted) {
+        note(noticeText(kind, inserted...), noticeLevel(kind));
+    }
     void note(std::string text, Notice::Level level);
     void finish(Outcome outcome);
     MissionRecord recordOf(Outcome outcome) const;

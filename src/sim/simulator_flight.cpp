@@ -1,7 +1,5 @@
 #include "sim/simulator.h"
 
-#include "model/whole.h"
-
 #include <algorithm>
 #include <numbers>
 
@@ -16,10 +14,6 @@ constexpr double cruiseSpeed = 9;        // m/s, on the way to the visitor and h
 constexpr double followSpeed = 7;        // m/s
 constexpr double steeringGain = 0.9;     // 1/s
 constexpr double maxAcceleration = 4;    // m/s²
-
-std::string metres(double length) {
-    return std::to_string(whole(length)) + " m";
-}
 
 /// Raised to the lower limit first, then lowered to the upper, which decides where the limits cross.
 double raiseThenLower(double value, double low, double high) {
@@ -67,8 +61,7 @@ void Simulator::stepPhase(double dt) {
 void Simulator::climb(double dt) {
     state.drone.altitude = std::min(state.drone.altitude + climbSpeed * dt, settings.flightHeight);
     if (state.drone.altitude >= settings.flightHeight - 0.05)
-        enter(Phase::enRoute, "Airborne at " + metres(settings.flightHeight) + " — heading to the visitor",
-              Notice::Level::info);
+        enter(Phase::enRoute, NoticeKind::airborne, settings.flightHeight);
 }
 
 void Simulator::follow(double dt) {
@@ -83,17 +76,17 @@ void Simulator::follow(double dt) {
     if (held != state.atBoundary) {
         state.atBoundary = held;
         if (held)
-            note("At your boundary — holding inside the " + metres(settings.boundaryBuffer) + " buffer",
-                 Notice::Level::caution);
+            note(NoticeKind::atBoundary, settings.boundaryBuffer);
     }
 
     const bool enRoute = state.phase == Phase::enRoute;
     fly(target, enRoute ? cruiseSpeed : followSpeed, dt, visitor);
-    if (enRoute && distance(state.drone.pos, target) < 3)
-        enter(Phase::following,
-              settings.tracking == TrackingMode::native ? "Following — handed over to DJI tracking"
-                                                        : "Following at " + metres(settings.followDistance),
-              Notice::Level::good);
+    if (!enRoute || distance(state.drone.pos, target) >= 3)
+        return;
+    if (settings.tracking == TrackingMode::native)
+        enter(Phase::following, NoticeKind::handedOver);
+    else
+        enter(Phase::following, NoticeKind::following, settings.followDistance);
 }
 
 void Simulator::hold(double dt) {
@@ -105,7 +98,7 @@ void Simulator::flyHome(double dt) {
     state.atBoundary = false;
     fly(state.site.pad, cruiseSpeed, dt, std::nullopt);
     if (distance(state.drone.pos, state.site.pad) < 0.6)
-        enter(Phase::landing, "Over the pad — landing", Notice::Level::info);
+        enter(Phase::landing, NoticeKind::overPad);
 }
 
 void Simulator::descend(double dt) {
@@ -114,9 +107,9 @@ void Simulator::descend(double dt) {
     if (state.drone.altitude > 0)
         return;
     if (distance(state.drone.pos, state.site.pad) > 2)
-        note("Landed away from the pad — please collect it", Notice::Level::caution);
+        note(NoticeKind::landedAway);
     else
-        note("Landed and docked", Notice::Level::good);
+        note(NoticeKind::landed);
     finish(pendingOutcome_.value_or(Outcome::visitorLeft));
 }
 

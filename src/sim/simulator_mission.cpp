@@ -41,7 +41,7 @@ void Simulator::trigger(Scenario scenario, Date at) {
     maxFromPad_ = 0;
     pendingOutcome_.reset();
     outsideFor_ = 0;
-    note(cameraName_ + " camera: someone you don't know", Notice::Level::caution);
+    note(NoticeKind::detection, cameraName_);
 
     if (!state.armed)
         return finish(Outcome::disarmed);
@@ -61,30 +61,29 @@ void Simulator::send(Command command, Date at) {
             return;
         state.approvalDeadline.reset();
         batteryAtLaunch_ = state.drone.battery;
-        return enter(Phase::launching, "You approved the launch", Notice::Level::good);
+        return enter(Phase::launching, NoticeKind::approved);
     case Command::ignore:
         if (awaiting)
             finish(Outcome::ignored);
         return;
     case Command::hold:
         if (phase == Phase::enRoute || phase == Phase::following)
-            enter(Phase::holding, "Holding position at " + std::to_string(whole(state.drone.altitude)) + " m",
-                  Notice::Level::info);
+            enter(Phase::holding, NoticeKind::holding, state.drone.altitude);
         return;
     case Command::resume:
         if (phase == Phase::holding)
-            enter(state.visitor ? Phase::enRoute : Phase::returning, "Following again", Notice::Level::info);
+            enter(state.visitor ? Phase::enRoute : Phase::returning, NoticeKind::followingAgain);
         return;
     case Command::returnHome:
         if (!airborne(phase) || phase == Phase::returning || phase == Phase::landing)
             return;
         pendingOutcome_ = Outcome::returnedByYou;
-        return enter(Phase::returning, "Coming home — you asked", Notice::Level::info);
+        return enter(Phase::returning, NoticeKind::comingHomeAsked);
     case Command::land:
         if (!airborne(phase))
             return;
         pendingOutcome_ = Outcome::landedByYou;
-        return enter(Phase::landing, "Landing now where it is — you asked", Notice::Level::caution);
+        return enter(Phase::landing, NoticeKind::landingAsked);
     }
 }
 

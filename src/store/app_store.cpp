@@ -148,10 +148,9 @@ void AppStore::setArmed(bool armed) {
     if (settings_.linkMode)
         return;
     sim_.state.armed = armed;
-    const Notice notice{environment_.random.uuid(), environment_.clock(),
-                        armed ? "System armed" : "System disarmed — detections will be logged only",
-                        armed ? Notice::Level::good : Notice::Level::caution};
-    addNotice(sim_.state, notice);
+    const NoticeKind kind = armed ? NoticeKind::armed : NoticeKind::disarmed;
+    addNotice(sim_.state,
+              {environment_.random.uuid(), environment_.clock(), noticeText(kind), noticeLevel(kind)});
     setState(sim_.state);
 }
 

@@ -31,9 +31,10 @@ MissionRecord flight() {
     record.outcome = Outcome::returnedByYou;
     record.visitorPath = path(5);
     record.dronePath = path(9);
-    record.notices = {noticeAt(0, "Unknown person at Driveway"), noticeAt(3, "You approved the launch"),
-                      noticeAt(5, "Airborne at 15 m"), noticeAt(6, "Following at 15 m"),
-                      noticeAt(8, "You asked the drone to come home — coming home")};
+    record.notices = {noticeAt(0, "Driveway camera: someone you don't know"),
+                      noticeAt(3, "You approved the launch"),
+                      noticeAt(5, "Airborne at 15 m — heading to the visitor"),
+                      noticeAt(6, "Following at 15 m"), noticeAt(8, "Coming home — you asked")};
     return record;
 }
 
@@ -65,11 +66,11 @@ TEST(MissionEvidence, TheTimelineTellsEachStepThatANoticeTellsOf) {
                 ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{airborne, 5.0},
                             std::pair{onStation, 6.0}, std::pair{comingHome, 8.0}, endedLast));
 
-    record.notices[3].text = "Following — handed over to the drone";
-    record.notices.push_back(noticeAt(9, "Battery low. Coming home"));
+    record.notices[3].text = "Following — handed over to DJI tracking";
+    record.notices.push_back(noticeAt(9, "Battery below 30% — coming home"));
     record.notices.insert(record.notices.begin() + 4, noticeAt(7, "Following at 15 m"));
     record.notices.erase(record.notices.begin() + 2);
-    EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{onStation, 7.0},
+    EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{onStation, 6.0},
                                              std::pair{comingHome, 8.0}, endedLast))
         << "a step is told once, and one that nobody told of is left out";
 

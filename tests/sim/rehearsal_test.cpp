@@ -1,3 +1,5 @@
+#include "model/mission_evidence.h"
+#include "model/notice_texts.h"
 #include "simulator_fixture.h"
 
 namespace velmora {
@@ -45,6 +47,25 @@ TEST_F(Rehearsal, AReturnActsOnItsOneTickUnlessTheDroneIsOnItsWayAlready) {
     EXPECT_TRUE(noticed(cut, approved) == 1 && noticed(cut, asked) == 9) << "times are cut to whole ticks";
     settings.returnBattery = 91;
     EXPECT_EQ(rehearse(Scenario::garden, 6, 70).outcome, Outcome::lowBattery);
+}
+
+TEST_F(Rehearsal, TheTimelineReadsEveryStepFromTheSimulatorsOwnNotices) {
+    const auto stepsOf = [](const MissionRecord& record) {
+        std::vector<ResponseStep> steps;
+        for (const ResponseMoment& moment : responseTimeline(record))
+            steps.push_back(moment.step);
+        return steps;
+    };
+    using enum ResponseStep;
+    const std::vector all{seen, answered, airborne, onStation, comingHome, ended};
+    EXPECT_EQ(stepsOf(rehearse(Scenario::driveway, 9)), all) << "the visitor leaves";
+    EXPECT_EQ(stepsOf(rehearse(Scenario::garden, 6, 70)), all) << "the owner asks";
+    settings.tracking = TrackingMode::native;
+    settings.returnBattery = 88;
+    EXPECT_EQ(stepsOf(rehearse(Scenario::driveway, 9)), all) << "handed over, then low on battery";
+    for (const Notice& notice : rehearse(Scenario::driveway, 9).notices)
+        EXPECT_TRUE(noticeKindOf(notice.text)) << notice.text;
+    EXPECT_EQ(stepsOf(rehearse(Scenario::front)), (std::vector{seen, ended}));
 }
 
 TEST_F(Rehearsal, AnAlertLeftAloneExpires) {

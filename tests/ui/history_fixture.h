@@ -40,7 +40,7 @@ protected:
         made.batteryUsed = 8.25;
         made.confidence = 0.875;
         made.notices = {{{}, made.start + Seconds{3}, "You approved the launch", Notice::Level::good},
-                        {{}, made.start + Seconds{7}, "Battery low — coming home", Notice::Level::caution}};
+                        {{}, made.start + Seconds{7}, "Battery below 30% — coming home", Notice::Level::caution}};
         return made;
     }
 

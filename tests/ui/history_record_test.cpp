@@ -36,7 +36,7 @@ TEST_F(HistoryTest, TheReplayStepsHalfASecondAndShowsTheMapOfThatMoment) {
     EXPECT_TRUE(shows("0:01 / 0:10")) << "two steps are one second";
     QWidget* notice = nullptr;
     for (auto* text : window().findChildren<QWidget*>())
-        if (text->isVisible() && text->accessibleName().endsWith(" Battery low — coming home"))
+        if (text->isVisible() && text->accessibleName().endsWith(" Battery below 30% — coming home"))
             notice = text;
     ASSERT_NE(notice, nullptr);
     QTest::mouseClick(notice, Qt::LeftButton);
