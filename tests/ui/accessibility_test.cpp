@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QLineEdit>
+#include <QSlider>
 
 namespace velmora {
 
@@ -73,6 +75,40 @@ TEST_F(AccessibilityTest, EveryCardIsADialogOfNamedControls) {
         if (action->text() == "About Velmora")
             action->trigger();
     expectCardNamed("About Velmora", "Close");
+}
+
+TEST_F(AccessibilityTest, AccessibleActionsDoWhatTheMouseDoes) {
+    window();
+    const auto act = [&](const QString& name) {
+        auto* widget = find<QAbstractButton>(name);
+        ASSERT_NE(widget, nullptr) << name.toStdString();
+        QAccessibleActionInterface* actions =
+            QAccessible::queryAccessibleInterface(widget)->actionInterface();
+        ASSERT_FALSE(actions->actionNames().isEmpty()) << name.toStdString();
+        actions->doAction(actions->actionNames().front());
+        settle();
+    };
+    act("Settings");
+    EXPECT_EQ(store().section(), Section::settings);
+    act("Alert on this Mac");
+    EXPECT_FALSE(store().settings().notifyMac);
+    act("DJI tracking hand-over");
+    EXPECT_EQ(store().settings().tracking, TrackingMode::native);
+    act("velmora on my network");
+    EXPECT_TRUE(store().settings().linkMode);
+    ASSERT_TRUE(waitUntil([&] { return find<QLineEdit>("Host"); }));
+    QAccessible::queryAccessibleInterface(find<QLineEdit>("Host"))
+        ->setText(QAccessible::Value, "grounds.local");
+    EXPECT_EQ(store().settings().host, "grounds.local");
+    QAccessible::queryAccessibleInterface(find<QSlider>("Flight height"))
+        ->valueInterface()
+        ->setCurrentValue(21);
+    EXPECT_EQ(store().settings().flightHeight, 21);
+    act("Demo mode (built-in simulation)");
+    EXPECT_FALSE(store().settings().linkMode);
+    act("Cameras");
+    act("Any person, even without a face");
+    EXPECT_TRUE(store().settings().alertPeople.contains("driveway"));
 }
 
 TEST_F(AccessibilityTest, WhatIsPaintedIsToldInWords) {

@@ -94,19 +94,19 @@ SegmentedChoice::SegmentedChoice(const QString& name, const QStringList& options
         auto* segment = new Segment(option, this);
         row->addWidget(segment, wide ? 1 : 0);
         connect(segment, &QAbstractButton::toggled, this, [this, index](bool on) {
-            if (!on || index == chosen_)
+            if (!on || index == currentIndex_)
                 return;
-            chosen_ = index;
-            emit chose(index);
+            currentIndex_ = index;
+            emit activated(index);
         });
         segments_.push_back(segment);
     }
-    show(0);
+    setCurrentIndex(0);
 }
 
-void SegmentedChoice::show(int option) {
-    chosen_ = option;
-    segments_[static_cast<std::size_t>(option)]->setChecked(true);
+void SegmentedChoice::setCurrentIndex(int index) {
+    currentIndex_ = index;
+    segments_[static_cast<std::size_t>(index)]->setChecked(true);
 }
 
 void SegmentedChoice::paintEvent(QPaintEvent*) {

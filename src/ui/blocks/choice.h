@@ -28,14 +28,13 @@ class SegmentedChoice : public QWidget {
 public:
     SegmentedChoice(const QString& name, const QStringList& options, bool wide, QWidget* parent);
 
-    int chosen() const { return chosen_; }
-    /// Shows a choice without emitting `chose`.
-    void show(int option);
-    using QWidget::show;
+    int currentIndex() const { return currentIndex_; }
+    /// Emits nothing.
+    void setCurrentIndex(int index);
 
 signals:
-    /// The owner chose.
-    void chose(int option);
+    /// The owner chose, by mouse, key or an accessible action.
+    void activated(int index);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -44,7 +43,7 @@ private:
     class Segment;
 
     std::vector<Segment*> segments_;
-    int chosen_ = 0;
+    int currentIndex_ = 0;
 };
 
 } // namespace velmora

@@ -23,9 +23,9 @@ Slider::Slider(const QString& name, int lower, int upper, QWidget* parent) : QSl
     connect(this, &QSlider::valueChanged, this, &Slider::moved);
 }
 
-void Slider::show(int value) {
+void Slider::setValue(int value) {
     const QSignalBlocker silently(this);
-    setValue(value);
+    QSlider::setValue(value);
     update();
 }
 
@@ -36,7 +36,7 @@ double Slider::thumbX() const {
 
 void Slider::moveTo(double x) {
     const double share = (x - Measure::sliderThumb / 2.0) / std::max(width() - Measure::sliderThumb, 1);
-    setValue(minimum() + static_cast<int>(std::lround(share * (maximum() - minimum()))));
+    QSlider::setValue(minimum() + static_cast<int>(std::lround(share * (maximum() - minimum()))));
 }
 
 void Slider::mousePressEvent(QMouseEvent* event) {

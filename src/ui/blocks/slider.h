@@ -12,12 +12,11 @@ class Slider : public QSlider {
 public:
     Slider(const QString& name, int lower, int upper, QWidget* parent);
 
-    /// Shows a value, cut to the bounds, without emitting `moved`.
-    void show(int value);
-    using QSlider::show;
+    /// Cuts the value to the bounds and emits nothing.
+    void setValue(int value);
 
 signals:
-    /// The owner moved it.
+    /// The owner moved it, by mouse, key, wheel or an accessible action.
     void moved(int value);
 
 protected:

@@ -7,6 +7,7 @@
 #include "ui/look/tokens.h"
 
 #include <QPainter>
+#include <QSignalBlocker>
 
 namespace velmora {
 
@@ -22,11 +23,15 @@ Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
     position_.setEndValue(0.0);
     connect(&position_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
     connect(this, &QAbstractButton::toggled, this, &Switch::slide);
-    connect(this, &QAbstractButton::clicked, this, &Switch::turned);
+    connect(this, &QAbstractButton::toggled, this, &Switch::turned);
 }
 
-void Switch::show(bool on) {
-    setChecked(on);
+void Switch::setChecked(bool on) {
+    if (on == isChecked())
+        return;
+    const QSignalBlocker silently(this);
+    QAbstractButton::setChecked(on);
+    slide(on);
 }
 
 void Switch::slide(bool on) {

@@ -12,12 +12,11 @@ class Switch : public QAbstractButton {
 public:
     Switch(const QString& name, QWidget* parent);
 
-    /// Shows a value without emitting `turned`.
-    void show(bool on);
-    using QAbstractButton::show;
+    /// Emits nothing.
+    void setChecked(bool on);
 
 signals:
-    /// The owner turned it.
+    /// The owner turned it, by mouse, key or an accessible action.
     void turned(bool on);
 
 protected:

@@ -5,6 +5,8 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <QSignalBlocker>
+
 namespace velmora {
 
 TextField::TextField(const QString& name, const QString& placeholder, QWidget* parent) : QLineEdit(parent) {
@@ -21,9 +23,11 @@ TextField::TextField(const QString& name, const QString& placeholder, QWidget* p
     FocusRing::setLook(this, {.radius = Measure::thumbnailRadius, .field = true});
 }
 
-void TextField::show(const QString& text) {
-    if (text != this->text())
-        setText(text);
+void TextField::setText(const QString& text) {
+    if (text == this->text())
+        return;
+    const QSignalBlocker silently(this);
+    QLineEdit::setText(text);
 }
 
 void TextField::setRefused(bool refused) {

@@ -4,7 +4,8 @@
 
 namespace velmora {
 
-/// A line of text to fill in.
+/// A line of text to fill in. `textChanged` is the owner's doing: typing, pasting, clearing or an accessible
+/// action.
 class TextField : public QLineEdit {
     Q_OBJECT
 
@@ -12,9 +13,8 @@ public:
     /// `name` is what assistive technology reads; `placeholder` shows while the field is empty.
     TextField(const QString& name, const QString& placeholder, QWidget* parent);
 
-    /// Shows a text without moving the cursor of someone who is typing, and without emitting `textEdited`.
-    void show(const QString& text);
-    using QLineEdit::show;
+    /// Emits nothing, and leaves the cursor alone if the text is the same.
+    void setText(const QString& text);
     /// A refused text has a border in the alert colour.
     void setRefused(bool refused);
 

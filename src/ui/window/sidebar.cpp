@@ -54,7 +54,10 @@ void Sidebar::addSections() {
                     {Section::settings, Icon::settings, tr("Settings")}};
     for (const auto& [section, icon, title] : sections) {
         auto* row = new SectionRow(icon, title, this);
-        connect(row, &SectionRow::clicked, this, [this, shown = section] { store_.setSection(shown); });
+        connect(row, &SectionRow::toggled, this, [this, shown = section](bool on) {
+            if (on)
+                store_.setSection(shown);
+        });
         layout()->addWidget(row);
         rows_[section] = row;
     }

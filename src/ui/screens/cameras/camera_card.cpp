@@ -88,8 +88,8 @@ void CameraCard::refresh(const CameraInfo& cam) {
     alerts_->setText(raised == 0   ? tr("No alerts in the history")
                      : raised == 1 ? tr("1 alert in the history")
                                    : tr("%1 alerts in the history").arg(raised));
-    faces_->show(reading(&Settings::alertUnknownFaces, true));
-    people_->show(reading(&Settings::alertPeople, false));
+    faces_->setChecked(reading(&Settings::alertUnknownFaces, true));
+    people_->setChecked(reading(&Settings::alertPeople, false));
 }
 
 int CameraCard::heightForWidth(int width) const {

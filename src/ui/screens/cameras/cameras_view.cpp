@@ -27,7 +27,7 @@ public:
         noCamera_->setGeometry(0, 0, Measure::camerasLedeWidth, static_cast<int>(Type::emptyTitle.line));
     }
 
-    void show(AppStore& store) {
+    void refresh(AppStore& store) {
         static const std::vector<CameraInfo> unknown;
         const LiveState* known = store.knownState();
         const auto& cameras = known ? known->site.cameras : unknown;
@@ -48,7 +48,6 @@ public:
         for (std::size_t i = 0; i < cards_.size(); ++i)
             cards_[i]->refresh(cameras[i]);
     }
-    using QWidget::show;
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override {
@@ -108,7 +107,7 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent)
 
 void CamerasView::refresh() {
     if (page_->isSeen())
-        grid_->show(store_);
+        grid_->refresh(store_);
 }
 
 void CamerasView::resizeEvent(QResizeEvent*) {

@@ -34,8 +34,8 @@ ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString&
     connect(switch_, &Switch::turned, this, &ToggleRow::turned);
 }
 
-void ToggleRow::show(bool on) {
-    switch_->show(on);
+void ToggleRow::setChecked(bool on) {
+    switch_->setChecked(on);
 }
 
 void ToggleRow::mousePressEvent(QMouseEvent*) {}

@@ -14,9 +14,8 @@ public:
     /// `where` tells switches of the same title apart for assistive technology.
     ToggleRow(const QString& title, const QString& detail, const QString& where, QWidget* parent);
 
-    /// Shows a value without emitting `turned`.
-    void show(bool on);
-    using QWidget::show;
+    /// Emits nothing.
+    void setChecked(bool on);
 
 signals:
     void turned(bool on);

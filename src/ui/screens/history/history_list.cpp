@@ -95,7 +95,7 @@ QWidget* HistoryList::buildFilters() {
     column->addLayout(menus);
     column->addWidget(new Hairline(block));
     connect(search_, &QLineEdit::textChanged, this, &HistoryList::applyFilter);
-    connect(flight_, &SegmentedChoice::chose, this, &HistoryList::applyFilter);
+    connect(flight_, &SegmentedChoice::activated, this, &HistoryList::applyFilter);
     connect(camera_, &MenuButton::chose, this, [this](int option) {
         HistoryFilter filter = model_->filter();
         filter.camera = option == 0 ? QString() : cameras_.value(option - 1);
@@ -188,13 +188,13 @@ QWidget* HistoryList::buildFoot() {
 void HistoryList::applyFilter() {
     HistoryFilter filter = model_->filter();
     filter.text = search_->text();
-    filter.flight = static_cast<HistoryFilter::Flight>(flight_->chosen());
+    filter.flight = static_cast<HistoryFilter::Flight>(flight_->currentIndex());
     model_->setFilter(filter);
 }
 
 void HistoryList::clearFilters() {
     search_->clear();
-    flight_->show(0);
+    flight_->setCurrentIndex(0);
     model_->setFilter({});
     showFilters();
     records_->setFocus(Qt::OtherFocusReason);

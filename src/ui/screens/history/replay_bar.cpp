@@ -44,7 +44,8 @@ ReplayBar::ReplayBar(ReplayPlayer& player, QWidget* parent)
         player_.pause();
         player_.setPosition(seconds);
     });
-    connect(speed_, &SegmentedChoice::chose, this, [this](int option) { player_.setSpeed(speeds[option]); });
+    connect(speed_, &SegmentedChoice::activated, this,
+            [this](int option) { player_.setSpeed(speeds[option]); });
     connect(&player_, &ReplayPlayer::changed, this, &ReplayBar::refresh);
 }
 
@@ -74,7 +75,7 @@ void ReplayBar::keyPressEvent(QKeyEvent* event) {
 void ReplayBar::refresh() {
     const bool playing = player_.isPlaying();
     play_->setIcon(playing ? Icon::pause : Icon::play, playing ? tr("Pause") : tr("Play"));
-    slider_->show(player_.position());
+    slider_->setPosition(player_.position());
     const auto clock = [](double seconds) { return clockTime(Seconds{std::round(seconds)}); };
     time_->setText(clock(player_.position()) + QStringLiteral(" / ") + clock(player_.length()));
 }

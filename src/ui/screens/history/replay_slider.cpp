@@ -37,7 +37,7 @@ void ReplaySlider::setRecord(const MissionRecord& record) {
     update();
 }
 
-void ReplaySlider::show(double seconds) {
+void ReplaySlider::setPosition(double seconds) {
     if (seconds == shown_)
         return;
     const QSignalBlocker silently(this);

@@ -17,9 +17,8 @@ public:
     explicit ReplaySlider(QWidget* parent);
 
     void setRecord(const MissionRecord& record);
-    /// Shows a position without emitting `moved`. Seconds.
-    void show(double seconds);
-    using QWidget::show;
+    /// Seconds. Emits nothing.
+    void setPosition(double seconds);
 
 signals:
     /// The owner moved it. Seconds.

@@ -44,10 +44,16 @@ ConnectionForm::ConnectionForm(AppStore& store, QWidget* parent)
     column->addSpacing(Measure::gap8);
     column->addWidget(new Label2(
         tr("The Mac running velmora serves the app API described in docs/APP_API.md."), false, this));
-    connect(demo_, &QAbstractButton::clicked, this, [this] { store_.applyLinkMode(false); });
-    connect(server_, &QAbstractButton::clicked, this, [this] { store_.applyLinkMode(true); });
-    connect(host_, &QLineEdit::textEdited, this, &ConnectionForm::storeHost);
-    connect(port_, &QLineEdit::textEdited, this, &ConnectionForm::storePort);
+    const auto applyWhenChosen = [this](RadioChoice* choice, bool linked) {
+        connect(choice, &QAbstractButton::toggled, this, [this, linked](bool on) {
+            if (on && linked != store_.settings().linkMode)
+                store_.applyLinkMode(linked);
+        });
+    };
+    applyWhenChosen(demo_, false);
+    applyWhenChosen(server_, true);
+    connect(host_, &QLineEdit::textChanged, this, &ConnectionForm::storeHost);
+    connect(port_, &QLineEdit::textChanged, this, &ConnectionForm::storePort);
     connect(port_, &QLineEdit::editingFinished, this, &ConnectionForm::showPort);
     connect(&store_, &AppStore::linkStatusChanged, this, &ConnectionForm::refresh);
     showPort();
@@ -107,7 +113,7 @@ void ConnectionForm::storePort(const QString& text) {
 /// What is stored, in place of what was refused.
 void ConnectionForm::showPort() {
     portBefore_ = store_.settings().port;
-    port_->show(QString::number(portBefore_));
+    port_->setText(QString::number(portBefore_));
     port_->setRefused(false);
     refusal_->setVisible(false);
 }
@@ -116,7 +122,7 @@ void ConnectionForm::refresh() {
     const Settings& settings = store_.settings();
     (settings.linkMode ? server_ : demo_)->setChecked(true);
     serverFold_->setOpen(settings.linkMode);
-    host_->show(toQString(settings.host));
+    host_->setText(toQString(settings.host));
     if (!port_->hasFocus())
         showPort();
     dot_->setLook({.color = linkColor(store_.linkStatus()), .diameter = Measure::statusDotInRow});

@@ -161,7 +161,7 @@ QWidget* SettingsView::buildTracking() {
     columnOf(rows)->addWidget(tracking_, 0, Qt::AlignLeft);
     columnOf(rows)->addSpacing(Measure::gap8);
     columnOf(rows)->addWidget(trackingNote_);
-    connect(tracking_, &SegmentedChoice::chose, this, [this](int option) {
+    connect(tracking_, &SegmentedChoice::activated, this, [this](int option) {
         change([&](Settings& s) {
             s.tracking = rawValuesOf<TrackingMode>[static_cast<std::size_t>(option)].first;
         });
@@ -179,7 +179,7 @@ QWidget* SettingsView::buildAlerts() {
     rows->layout()->addWidget(labelled(tr("Phone (ntfy topic)"), topic_, rows));
     connect(notify_, &Switch::turned, this,
             [this](bool on) { change([&](Settings& settings) { settings.notifyMac = on; }); });
-    connect(topic_, &QLineEdit::textEdited, this, [this](const QString& topic) {
+    connect(topic_, &QLineEdit::textChanged, this, [this](const QString& topic) {
         change([&](Settings& settings) { settings.ntfyTopic = topic.toStdString(); });
     });
     return rows;
@@ -216,7 +216,7 @@ QWidget* SettingsView::buildAbout() {
     columnOf(rows)->addLayout(buttons);
     connect(startAtLogin_, &Switch::turned, this, [this](bool on) {
         autostart_.setOn(on);
-        startAtLogin_->show(autostart_.isOn());
+        startAtLogin_->setChecked(autostart_.isOn());
     });
     connect(folder, &SBButton::clicked, this,
             [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(store_.dataDirectory().path())); });
@@ -230,12 +230,12 @@ void SettingsView::refresh() {
     const Settings& settings = store_.settings();
     connection_->refresh();
     for (const Limit& limit : limits_)
-        limit.line->show(settings.*limit.field);
-    tracking_->show(static_cast<int>(settings.tracking));
+        limit.line->setValue(settings.*limit.field);
+    tracking_->setCurrentIndex(static_cast<int>(settings.tracking));
     trackingNote_->setText(trackingNote(settings.tracking));
-    notify_->show(settings.notifyMac);
-    topic_->show(toQString(settings.ntfyTopic));
-    startAtLogin_->show(autostart_.isOn());
+    notify_->setChecked(settings.notifyMac);
+    topic_->setText(toQString(settings.ntfyTopic));
+    startAtLogin_->setChecked(autostart_.isOn());
 }
 
 void SettingsView::resizeEvent(QResizeEvent*) {

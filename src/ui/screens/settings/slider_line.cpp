@@ -31,11 +31,12 @@ SliderLine::SliderLine(const QString& label, const Range& range, QWidget* parent
     connect(slider_, &Slider::moved, this, &SliderLine::moved);
 }
 
-void SliderLine::show(double value) {
+void SliderLine::setValue(double value) {
     const std::int64_t shown = whole(value);
     value_->setText(QString::number(shown) + ' ' + unit_);
     slider_->setAccessibleDescription(value_->text());
-    slider_->show(static_cast<int>(std::clamp<std::int64_t>(shown, slider_->minimum(), slider_->maximum())));
+    slider_->setValue(
+        static_cast<int>(std::clamp<std::int64_t>(shown, slider_->minimum(), slider_->maximum())));
 }
 
 } // namespace velmora

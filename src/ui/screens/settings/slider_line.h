@@ -20,9 +20,8 @@ public:
 
     SliderLine(const QString& label, const Range& range, QWidget* parent);
 
-    /// Shows the value as it is, also outside the range, without emitting `moved`.
-    void show(double value);
-    using QWidget::show;
+    /// Shows the value as it is, also outside the range. Emits nothing.
+    void setValue(double value);
 
 signals:
     void moved(int value);
