@@ -39,8 +39,9 @@ protected:
         made.maxDistanceFromPad = 41.5;
         made.batteryUsed = 8.25;
         made.confidence = 0.875;
-        made.notices = {{{}, made.start + Seconds{3}, "You approved the launch", Notice::Level::good},
-                        {{}, made.start + Seconds{7}, "Battery below 30% — coming home", Notice::Level::caution}};
+        made.notices = {
+            {{}, made.start + Seconds{3}, "You approved the launch", Notice::Level::good},
+            {{}, made.start + Seconds{7}, "Battery below 30% — coming home", Notice::Level::caution}};
         return made;
     }
 

@@ -33,8 +33,6 @@ public:
     void showTop();
     void setHeadline(const Sentence& headline);
     void setLede(const QString& lede);
-    /// Whether anyone can see it: a minimised window's widgets stay visible.
-    bool isSeen() const { return isVisible() && !window()->isMinimized(); }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -87,35 +87,22 @@ private:
     std::vector<CameraCard*> cards_;
 };
 
-CamerasView::CamerasView(AppStore& store, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      grid_(new Grid(this)),
-      page_(new Page(
-          {.eyebrow = tr("Cameras · UniFi Protect"),
-           .headline = {tr("What sets off "), tr("an alert"), tr(".")},
-           .lede = tr("Each camera can alert on faces it doesn't recognise, and optionally on any person it "
-                      "sees. People you've named in UniFi Protect never trigger the drone."),
-           .ledeWidth = Measure::camerasLedeWidth,
-           .contentGap = Measure::gap32,
-           .content = grid_},
-          this)) {
-    for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
-                               &AppStore::freshnessChanged})
-        connect(&store_, changed, this, &CamerasView::refresh);
+CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, parent), grid_(new Grid(this)) {
+    setPage(new Page(
+        {.eyebrow = tr("Cameras · UniFi Protect"),
+         .headline = {tr("What sets off "), tr("an alert"), tr(".")},
+         .lede = tr("Each camera can alert on faces it doesn't recognise, and optionally on any person it "
+                    "sees. People you've named in UniFi Protect never trigger the drone."),
+         .ledeWidth = Measure::camerasLedeWidth,
+         .contentGap = Measure::gap32,
+         .content = grid_},
+        this));
+    refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
+               &AppStore::freshnessChanged});
 }
 
 void CamerasView::refresh() {
-    if (page_->isSeen())
-        grid_->refresh(store_);
-}
-
-void CamerasView::resizeEvent(QResizeEvent*) {
-    page_->setGeometry(rect());
-}
-
-void CamerasView::showEvent(QShowEvent*) {
-    refresh();
+    grid_->refresh(store_);
 }
 
 } // namespace velmora

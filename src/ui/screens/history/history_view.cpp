@@ -47,8 +47,7 @@ QByteArray pngOf(const QPixmap& picture) {
 } // namespace
 
 HistoryView::HistoryView(AppStore& store, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
+    : Screen(store, parent),
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
       empty_(buildEmpty()) {
@@ -61,10 +60,9 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
         if (const auto& selected = store_.selectedRecord())
             remove(*selected);
     });
-    connect(&store_, &AppStore::historyChanged, this, &HistoryView::refresh);
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
-    connect(&store_, &AppStore::settingsChanged, this, &HistoryView::refresh);
+    refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged});
     connect(&everyMinute_, &QTimer::timeout, list_, &HistoryList::refresh);
 }
 
@@ -103,8 +101,6 @@ QWidget* HistoryView::buildEmpty() {
 }
 
 void HistoryView::refresh() {
-    if (!isVisible())
-        return;
     list_->refresh();
     const auto& history = store_.history();
     detail_->setVisible(!history.empty());
@@ -182,8 +178,8 @@ void HistoryView::resizeEvent(QResizeEvent*) {
     empty_->setGeometry(rest);
 }
 
-void HistoryView::showEvent(QShowEvent*) {
-    refresh();
+void HistoryView::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
     everyMinute_.start(std::chrono::minutes(1));
     list_->takeFocus();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/app_store.h"
+#include "ui/screens/screen.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -12,7 +12,7 @@ class RecordDetail;
 class SBButton;
 
 /// History: every visit on record, and one of them in detail.
-class HistoryView : public QWidget {
+class HistoryView : public Screen {
     Q_OBJECT
 
 public:
@@ -30,19 +30,18 @@ signals:
     void exportFailed(const QString& why);
 
 protected:
+    void refresh() override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* buildEmpty();
-    void refresh();
     void showSelection();
     void remove(RecordKey key);
     std::optional<RecordKey> neighbour(RecordKey key) const;
     void offerExports(QPoint below);
 
-    AppStore& store_;
     HistoryList* list_;
     RecordDetail* detail_;
     SBButton* simulate_ = nullptr;

@@ -102,37 +102,23 @@ private:
     int least_ = 0; ///< height, as last told to the page
 };
 
-LiveView::LiveView(AppStore& store, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      content_(new Content(store)),
-      page_(new Page({.eyebrow = tr("Live flight"),
+LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent), content_(new Content(store)) {
+    setPage(new Page({.eyebrow = tr("Live flight"),
                       .headline = headlineFor(store),
                       .fills = true,
                       .contentGap = Measure::gap20,
                       .content = content_},
-                     this)) {
+                     this));
     connect(content_->rail, &LiveRail::landRequested, this, &LiveView::landRequested);
-    for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged,
-                               &AppStore::freshnessChanged, &AppStore::linkStatusChanged})
-        connect(&store_, changed, this, &LiveView::refresh);
+    refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged,
+               &AppStore::linkStatusChanged});
 }
 
 void LiveView::refresh() {
-    if (!page_->isSeen())
-        return;
-    page_->setHeadline(headlineFor(store_));
+    page().setHeadline(headlineFor(store_));
     content_->stale->setOpen(StaleBanner::isDue(store_));
     content_->card->refresh();
     content_->rail->refresh();
-}
-
-void LiveView::resizeEvent(QResizeEvent*) {
-    page_->setGeometry(rect());
-}
-
-void LiveView::showEvent(QShowEvent*) {
-    refresh();
 }
 
 } // namespace velmora

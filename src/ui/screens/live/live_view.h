@@ -1,15 +1,11 @@
 #pragma once
 
-#include "store/app_store.h"
-
-#include <QWidget>
+#include "ui/screens/screen.h"
 
 namespace velmora {
 
-class Page;
-
 /// Live flight: where the owner watches and steers a flight.
-class LiveView : public QWidget {
+class LiveView : public Screen {
     Q_OBJECT
 
 public:
@@ -20,17 +16,12 @@ signals:
     void landRequested();
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
+    void refresh() override;
 
 private:
     class Content;
 
-    void refresh();
-
-    AppStore& store_;
     Content* content_;
-    Page* page_;
 };
 
 } // namespace velmora

@@ -126,28 +126,22 @@ private:
 };
 
 OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      armSwitch_(new ArmSwitch(store, this)),
-      content_(new Content(store, guard)),
-      page_(new Page({.eyebrow = tr("Overview"),
+    : Screen(store, parent), armSwitch_(new ArmSwitch(store, this)), content_(new Content(store, guard)) {
+    setPage(new Page({.eyebrow = tr("Overview"),
                       .headline = headlineFor(store),
                       .lede = ledeFor(store),
                       .fills = true,
                       .contentGap = Measure::gap24,
                       .trailing = armSwitch_,
                       .content = content_},
-                     this)) {
-    for (const auto changed : {&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
-                               &AppStore::freshnessChanged, &AppStore::linkStatusChanged})
-        connect(&store_, changed, this, &OverviewView::refresh);
+                     this));
+    refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
+               &AppStore::freshnessChanged, &AppStore::linkStatusChanged});
 }
 
 void OverviewView::refresh() {
-    if (!page_->isSeen())
-        return;
-    page_->setHeadline(headlineFor(store_));
-    page_->setLede(ledeFor(store_));
+    page().setHeadline(headlineFor(store_));
+    page().setLede(ledeFor(store_));
     armSwitch_->refresh();
     content_->stale->setOpen(StaleBanner::isDue(store_));
     content_->active->setOpen(store_.phase() != Phase::docked);
@@ -156,14 +150,6 @@ void OverviewView::refresh() {
     content_->activity->refresh();
     content_->offers->refresh();
     content_->strip->refresh();
-}
-
-void OverviewView::resizeEvent(QResizeEvent*) {
-    page_->setGeometry(rect());
-}
-
-void OverviewView::showEvent(QShowEvent*) {
-    refresh();
 }
 
 } // namespace velmora

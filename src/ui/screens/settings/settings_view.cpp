@@ -60,17 +60,15 @@ QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
 } // namespace
 
 SettingsView::SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      autostart_(autostart),
-      page_(new Page({.eyebrow = tr("Settings"),
+    : Screen(store, parent), autostart_(autostart) {
+    setPage(new Page({.eyebrow = tr("Settings"),
                       .headline = {tr("How the drone "), tr("behaves"), tr(".")},
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
                       .width = Measure::settingsWidth,
                       .contentGap = Measure::gap20,
                       .content = buildForm()},
-                     this)) {
-    connect(&store_, &AppStore::settingsChanged, this, &SettingsView::refresh);
+                     this));
+    refreshOn({&AppStore::settingsChanged});
 }
 
 QWidget* SettingsView::buildForm() {
@@ -103,10 +101,10 @@ void SettingsView::addRow(const QString& label, QWidget* content, int lead) {
 }
 
 /// Every change goes through a copy of the whole settings, so that the store sees what is new and saves it.
-template <class Change>
-void SettingsView::change(Change change) {
+template <class Edit>
+void SettingsView::change(Edit edit) {
     Settings settings = store_.settings();
-    change(settings);
+    edit(settings);
     store_.setSettings(settings);
 }
 
@@ -225,8 +223,6 @@ QWidget* SettingsView::buildAbout() {
 }
 
 void SettingsView::refresh() {
-    if (!isVisible())
-        return;
     const Settings& settings = store_.settings();
     connection_->refresh();
     for (const Limit& limit : limits_)
@@ -238,14 +234,10 @@ void SettingsView::refresh() {
     startAtLogin_->setChecked(autostart_.isOn());
 }
 
-void SettingsView::resizeEvent(QResizeEvent*) {
-    page_->setGeometry(rect());
-}
-
 /// Whoever is sent here for the connection finds it at the top.
-void SettingsView::showEvent(QShowEvent*) {
-    refresh();
-    page_->showTop();
+void SettingsView::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
+    page().showTop();
 }
 
 } // namespace velmora

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "desktop/autostart.h"
-#include "store/app_store.h"
-
-#include <QWidget>
+#include "ui/screens/screen.h"
 
 #include <vector>
 
 namespace velmora {
 
 class ConnectionForm;
-class Page;
 class SegmentedChoice;
 class SliderLine;
 class Switch;
@@ -18,14 +15,14 @@ class Text;
 class TextField;
 
 /// Settings: where the state comes from, and the limits that the drone keeps. Every control stores at once.
-class SettingsView : public QWidget {
+class SettingsView : public Screen {
     Q_OBJECT
 
 public:
     SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    void refresh() override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -48,11 +45,9 @@ private:
     QWidget* buildAlerts();
     QWidget* buildRules();
     QWidget* buildAbout();
-    template <class Change>
-    void change(Change change);
-    void refresh();
+    template <class Edit>
+    void change(Edit edit);
 
-    AppStore& store_;
     const Autostart& autostart_;
     QWidget* form_ = nullptr;
     std::vector<Limit> limits_;
@@ -62,7 +57,6 @@ private:
     Switch* notify_ = nullptr;
     TextField* topic_ = nullptr;
     Switch* startAtLogin_ = nullptr;
-    Page* page_;
 };
 
 } // namespace velmora
