@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-/// A text: what stands before and behind the inserted words, if there are any.
+/// A text: the words before and behind the inserted ones, if there are any.
 struct Form {
     NoticeKind kind;
     Notice::Level level;

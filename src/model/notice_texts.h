@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// What a notice of the simulator tells of. Its text and level stand in one table, so that a record's notices
-/// can be read back.
+/// The meaning of a notice of the simulator. One table holds the text and level of each, so that a record's
+/// notices can be read back.
 enum class NoticeKind {
     detection, ///< inserts the camera's name
     approved,
@@ -40,7 +40,7 @@ std::string noticeText(NoticeKind kind, double inserted);
 
 Notice::Level noticeLevel(NoticeKind kind);
 
-/// What a text tells of; absent for any other text.
+/// The kind of a notice, by its text; absent for any other text.
 std::optional<NoticeKind> noticeKindOf(std::string_view text);
 
 } // namespace velmora

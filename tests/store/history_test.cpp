@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A history of visits that are told apart by their ids, in a directory of its own.
+/// A history of visits with different ids, in a directory of its own.
 class RecordsTest : public testing::Test {
 protected:
     static MissionRecord visit(const std::string& id, double begun, bool demo = false) {

@@ -58,7 +58,7 @@ void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
     emit answered();
 }
 
-/// The time stamps' clock stands still during a suspend, so it is learned again after a stall.
+/// The clock of the time stamps does not run during a suspend, so its offset is learned again after a stall.
 bool AnswerGuard::passesStallCheck() {
     if (rule_.beat(sinceBoot()))
         return true;

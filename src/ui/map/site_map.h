@@ -17,7 +17,7 @@ class SiteMap : public QWidget {
 public:
     explicit SiteMap(QWidget* parent);
 
-    /// The live picture. An old one is paler and still; without one (null) only a word stands in the map.
+    /// The live picture. An old one is paler and still; without one (null) the map shows only a word.
     void setState(const LiveState* known, const Settings& settings, Freshness freshness);
     /// A mission's paths over its grounds.
     void setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings);
