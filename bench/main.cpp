@@ -1,5 +1,5 @@
 #include "samples.h"
-#include "store/data_files.h"
+#include "store/history.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
 
@@ -12,7 +12,7 @@ namespace {
 void writeSample(const QString& directory) {
     velmora::DataFiles files{QDir(directory)};
     files.saveSettings(velmora::samples::onboarded());
-    files.saveHistory(velmora::samples::flownHistory(200));
+    velmora::History(files).add(velmora::samples::flownHistory(200));
 }
 
 } // namespace

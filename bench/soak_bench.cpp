@@ -27,9 +27,9 @@ double heap() {
     return static_cast<double>(info.uordblks + info.hblkhd) / megabyte;
 }
 
-double sizeOf(const std::vector<MissionRecord>& history) {
-    std::size_t bytes = history.capacity() * sizeof(MissionRecord);
-    for (const MissionRecord& record : history) {
+double sizeOf(const std::vector<HistoryEntry>& history) {
+    std::size_t bytes = history.capacity() * sizeof(HistoryEntry);
+    for (const auto& [key, record] : history) {
         bytes += (record.dronePath.capacity() + record.visitorPath.capacity()) * sizeof(P);
         for (const Notice& notice : record.notices)
             bytes += sizeof notice + notice.text.capacity();

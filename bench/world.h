@@ -14,7 +14,7 @@ namespace velmora {
 class MuteLink final : public Link {
 public:
     void fetchState(const Settings&, std::function<void(FetchResult)>) override {}
-    void send(Command, const std::optional<std::string>&, const Settings&, std::function<void()>) override {}
+    void send(Command, const std::optional<std::string>&, const Settings&, CommandDone) override {}
 };
 
 /// A store over files of its own. Time is moved by `tick` only until `run` lets it run.
