@@ -77,8 +77,8 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
     askForCapabilities();
 }
 
-/// A service that went knows nothing any more of what was posted; a new one is asked what it can do. One that
-/// our own call has started has the notification already.
+/// If the notification service exits, forget its notifications. When a new one appears, query its
+/// capabilities. One that our own call has started had no predecessor and already has the notification.
 void DesktopNotifier::onOwnerChanged(const QString&, const QString& before, const QString& now) {
     if (!before.isEmpty()) {
         posted_.clear();

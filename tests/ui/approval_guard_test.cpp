@@ -99,6 +99,20 @@ TEST_F(ApprovalGuardTest, AKeyHeldForOneAlertDoesNotAnswerTheNext) {
     EXPECT_EQ(launches(), Missions({"M-2"}));
 }
 
+TEST_F(ApprovalGuardTest, AMouseHeldWhileTheAlertEndsLeavesTheNextOneToTheKeys) {
+    window();
+    alert("M-1");
+    QAbstractButton& held = hold(launch);
+    serve(mission(Phase::docked));
+    ASSERT_TRUE(waitUntil([&] { return !shows(launch); }));
+    alert("M-2");
+    button(launch).setFocus();
+    outwaitGuard();
+    EXPECT_EQ(&held, find<QAbstractButton>(launch));
+    press(Qt::Key_Space);
+    EXPECT_EQ(launches(), Missions({"M-2"}));
+}
+
 TEST_F(ApprovalGuardTest, ADoubleClickLaunchesOnce) {
     window();
     alert("M-1");

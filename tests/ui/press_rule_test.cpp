@@ -136,7 +136,7 @@ TEST_F(KeyPressesTest, AKeyIsUpThoughItsReleaseHasAnotherName) {
     EXPECT_TRUE(counts(Qt::Key_Return, 300));
     release(Qt::Key_Return, 380);
     EXPECT_TRUE(counts(Qt::Key_A, 400));
-    EXPECT_FALSE(counts(Qt::Key_A, 430)) << "other keys are told from their repeats too";
+    EXPECT_FALSE(counts(Qt::Key_A, 430)) << "other keys repeat, too";
     EXPECT_TRUE(counts(Qt::Key_Space, 450)) << "only answer keys must be up";
 }
 

@@ -40,6 +40,10 @@ bool AnswerButton::event(QEvent* event) {
         byMouse_ = byMouse_ && event->type() == QEvent::MouseMove;
         return handled;
     }
+    case QEvent::Hide: // another widget gets the release
+        byMouse_ = false;
+        press_.reset();
+        return SBButton::event(event);
     default:
         return SBButton::event(event);
     }

@@ -21,8 +21,8 @@ private:
     void followGuard();
 
     AnswerGuard& guard_;
-    std::optional<AnswerGuard::Press> press_; ///< that is under way
-    bool byMouse_ = false;                    ///< how it began
+    std::optional<AnswerGuard::Press> press_; ///< in progress
+    bool byMouse_ = false;                    ///< the mouse began the press
 };
 
 } // namespace velmora

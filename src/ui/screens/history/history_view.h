@@ -3,7 +3,6 @@
 #include "ui/screens/screen.h"
 
 #include <QTimer>
-#include <QWidget>
 
 namespace velmora {
 
