@@ -6,6 +6,18 @@
 
 namespace velmora {
 
+namespace {
+
+/// The header as it fits on one line of the sidebar.
+QString versionText(const QByteArray& header) {
+    constexpr qsizetype longest = 40; // characters
+    QString text = QString::fromUtf8(header).simplified();
+    text.removeIf([](QChar letter) { return !letter.isPrint(); });
+    return text.left(longest);
+}
+
+} // namespace
+
 Exchange::Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
                    std::function<void(const End&)> ended, QObject* parent)
     : QObject(parent),
@@ -46,7 +58,7 @@ void Exchange::end(End::Kind kind) {
         kind = End::Kind::timedOut;
     End result{kind, reply_->error(), reply_->errorString(), 0, std::move(body_), {}};
     result.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    result.version = reply_->rawHeader("X-Velmora-Version");
+    result.version = versionText(reply_->rawHeader("X-Velmora-Version"));
     reply_->abort();
     QMetaObject::invokeMethod(
         this,

@@ -24,7 +24,7 @@ public:
         QString errorText; ///< Qt's own
         int status = 0;    ///< HTTP status; 0 when none came
         QByteArray body;
-        QByteArray version; ///< header X-Velmora-Version
+        QString version; ///< header X-Velmora-Version, on one line: at most 40 printable characters
     };
 
     /// Calls `ended` exactly once, from the event loop, unless the parent goes first. A reply that is handled

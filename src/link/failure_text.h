@@ -21,7 +21,7 @@ enum class Failure {
 /// What kind of failure an ended exchange is; absent when it brought a whole reply with status 200.
 std::optional<Failure> failureOf(const Exchange::End& end);
 
-/// The owner's words for the failure; `detail` is the place in the state or Qt's text.
+/// The owner's words for the failure; `detail` is the path and problem in the state, or Qt's text.
 QString failureText(Failure failure, const QString& detail = {});
 
 } // namespace velmora

@@ -1,8 +1,8 @@
 #include "link/http_link.h"
 
 #include "link/failure_text.h"
-#include "link/state_guard.h"
 #include "model/json.h"
+#include "model/validation.h"
 
 #include <QIODevice>
 #include <QJsonDocument>
@@ -38,9 +38,9 @@ FetchResult stateFrom(const Exchange::End& end) {
     auto state = decode<LiveState>(body, KeyStyle::snakeCase);
     if (!state)
         return failed(Failure::unreadable, QString::fromStdString(state.error));
-    if (const std::string trouble = troubleIn(*state.value); !trouble.empty())
-        return failed(Failure::unreadable, QString::fromStdString(trouble));
-    return FetchedState{std::move(*state.value), versionText(end.version)};
+    if (const std::string problem = firstProblem(*state.value); !problem.empty())
+        return failed(Failure::unreadable, QString::fromStdString(problem));
+    return FetchedState{std::move(*state.value), end.version};
 }
 
 QByteArray bodyOf(Command command, const std::optional<std::string>& mission) {

@@ -47,10 +47,10 @@ void addLine(std::string& csv, std::initializer_list<std::string> fields) {
 }
 
 void addPath(std::string& csv, const std::vector<P>& path, double from, double interval, const char* who) {
-    double place = 0;
+    double index = 0;
     for (const P& point : path)
         addLine(csv,
-                {numberText(from + interval * place++), who, numberText(point.x), numberText(point.y), {}});
+                {numberText(from + interval * index++), who, numberText(point.x), numberText(point.y), {}});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <tuple>
 
@@ -25,6 +26,11 @@ inline constexpr std::size_t fieldCount = std::tuple_size_v<std::remove_cvref_t<
 /// A record with a field table.
 template <class T>
 concept Described = (fieldCount<T> > 0);
+
+template <class Value>
+inline constexpr bool isOptional = false;
+template <class Item>
+inline constexpr bool isOptional<std::optional<Item>> = true;
 
 /// Calls `visit` with every field of the record type, in order.
 template <Described Record, class Visit>

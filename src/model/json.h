@@ -25,7 +25,7 @@ struct Decoded {
 };
 
 /// Reads one whole JSON document (UTF-8, no byte order mark). Strict about types, required keys, repeated
-/// keys and dates; tolerant of unknown keys. `root` stands before the place in error texts ("settings" gives
+/// keys and dates; tolerant of unknown keys. `root` comes before the path in error texts ("settings" gives
 /// "settings.port: expected an integer"). Hostile input is only ever an error.
 ///
 /// Defined for every record and for a list of mission records.

@@ -28,13 +28,13 @@ std::string_view camelCase(std::string_view key, std::string& buffer) {
     return buffer;
 }
 
-/// Reads values one after another; the first failure is kept with the way that led to it.
+/// Reads values one after another; the first failure is kept with the path to it.
 class Reader {
 public:
     explicit Reader(KeyStyle keys) : keys_(keys) {}
 
     const std::string& problem() const { return problem_; }
-    const std::string& place() const { return place_; }
+    const std::string& path() const { return path_; }
 
     bool read(Element element, bool& value) { return !element.get(value) || fail("expected true or false"); }
 
@@ -111,10 +111,10 @@ private:
         return false;
     }
 
-    /// Puts one step before the place of the failure: a key, or "[index]".
+    /// Puts one step before the path of the failure: a key, or "[index]".
     bool within(std::string_view step) {
-        const bool joined = place_.empty() || place_.front() == '[';
-        place_ = std::string(step) + (joined ? "" : ".") + place_;
+        const bool joined = path_.empty() || path_.front() == '[';
+        path_ = std::string(step) + (joined ? "" : ".") + path_;
         return false;
     }
 
@@ -136,24 +136,18 @@ private:
                     std::bitset<fieldCount<Record>>& seen) {
         const std::string_view name = keys_ == KeyStyle::snakeCase ? camelCase(key, buffer_) : key;
         bool good = true;
-        std::size_t index = 0;
+        std::size_t next = 0;
         const auto readField = [&](const auto& field) {
-            const std::size_t place = index++;
+            const std::size_t index = next++;
             if (field.name != name)
                 return false;
-            good = (!seen.test(place) || fail("given twice")) && read(member, record.*(field.member));
-            seen.set(place);
+            good = (!seen.test(index) || fail("given twice")) && read(member, record.*(field.member));
+            seen.set(index);
             return true;
         };
         std::apply([&](const auto&... field) { (readField(field) || ...); }, fieldsOf<Record>);
         return good || within(key);
     }
-
-    template <class Value>
-    static constexpr bool isOptional(const std::optional<Value>*) {
-        return true;
-    }
-    static constexpr bool isOptional(const void*) { return false; }
 
     template <class Record>
     bool everyRequired(const std::bitset<fieldCount<Record>>& seen) {
@@ -163,7 +157,7 @@ private:
         bool good = true;
         forEachField<Record>([&](const auto& field) {
             using Value = std::remove_cvref_t<decltype(std::declval<Record>().*(field.member))>;
-            const bool found = seen.test(index++) || isOptional(static_cast<Value*>(nullptr));
+            const bool found = seen.test(index++) || isOptional<Value>;
             if (good && !found) {
                 good = fail("missing");
                 within(field.name);
@@ -174,15 +168,15 @@ private:
 
     KeyStyle keys_;
     std::string problem_;
-    std::string place_;
+    std::string path_;
     std::string buffer_; ///< a converted key; read before the next key is converted
 };
 
-std::string errorText(std::string_view root, const std::string& place, std::string_view problem) {
+std::string errorText(std::string_view root, const std::string& path, std::string_view problem) {
     std::string text(root);
-    if (!text.empty() && !place.empty() && place.front() != '[')
+    if (!text.empty() && !path.empty() && path.front() != '[')
         text += '.';
-    text += place;
+    text += path;
     if (!text.empty())
         text += ": ";
     return text.append(problem);
@@ -199,7 +193,7 @@ Decoded<T> decode(std::string_view json, KeyStyle keys, std::string_view root) {
     Reader reader(keys);
     Decoded<T> result;
     if (!reader.read(document, result.value.emplace()))
-        return {std::nullopt, errorText(root, reader.place(), reader.problem())};
+        return {std::nullopt, errorText(root, reader.path(), reader.problem())};
     return result;
 }
 

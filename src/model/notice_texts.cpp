@@ -1,6 +1,6 @@
 #include "model/notice_texts.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 
 #include <algorithm>
 
@@ -60,7 +60,7 @@ std::string noticeText(NoticeKind kind, std::string_view inserted) {
 }
 
 std::string noticeText(NoticeKind kind, double inserted) {
-    return noticeText(kind, std::to_string(whole(inserted)));
+    return noticeText(kind, std::to_string(truncated(inserted)));
 }
 
 Notice::Level noticeLevel(NoticeKind kind) {

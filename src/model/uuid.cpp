@@ -6,8 +6,8 @@ namespace {
 
 constexpr std::size_t textSize = 36;
 
-constexpr bool isHyphenPlace(std::size_t place) {
-    return place == 8 || place == 13 || place == 18 || place == 23;
+constexpr bool isHyphenIndex(std::size_t index) {
+    return index == 8 || index == 13 || index == 18 || index == 23;
 }
 
 /// The value of a hexadecimal digit, or -1.
@@ -40,13 +40,13 @@ std::optional<Uuid> Uuid::fromText(std::string_view text) {
         return std::nullopt;
     Uuid uuid;
     std::size_t nibble = 0;
-    for (std::size_t place = 0; place < textSize; ++place) {
-        if (isHyphenPlace(place)) {
-            if (text[place] != '-')
+    for (std::size_t index = 0; index < textSize; ++index) {
+        if (isHyphenIndex(index)) {
+            if (text[index] != '-')
                 return std::nullopt;
             continue;
         }
-        const int value = digitValue(text[place]);
+        const int value = digitValue(text[index]);
         if (value < 0)
             return std::nullopt;
         std::uint8_t& byte = uuid.bytes[nibble / 2];
@@ -60,11 +60,11 @@ std::string Uuid::text() const {
     constexpr char digits[] = "0123456789ABCDEF";
     std::string text(textSize, '-');
     std::size_t nibble = 0;
-    for (std::size_t place = 0; place < textSize; ++place) {
-        if (isHyphenPlace(place))
+    for (std::size_t index = 0; index < textSize; ++index) {
+        if (isHyphenIndex(index))
             continue;
         const std::uint8_t byte = bytes[nibble / 2];
-        text[place] = digits[nibble % 2 == 0 ? byte >> 4 : byte & 0x0F];
+        text[index] = digits[nibble % 2 == 0 ? byte >> 4 : byte & 0x0F];
         ++nibble;
     }
     return text;

@@ -1,6 +1,6 @@
 #include "sim/simulator.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 
 namespace velmora {
 
@@ -10,7 +10,7 @@ constexpr double tickLength = 0.1;       // seconds
 constexpr std::int64_t tickLimit = 9000; // 900 s
 
 std::optional<std::int64_t> tickAt(std::optional<double> seconds) {
-    return seconds ? std::optional(whole(*seconds * 10)) : std::nullopt;
+    return seconds ? std::optional(truncated(*seconds * 10)) : std::nullopt;
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "sim/simulator.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 
 #include <algorithm>
 
@@ -11,7 +11,7 @@ namespace {
 constexpr const char* unknownPerson = "Unknown person";
 
 std::string missionIdAt(Date at) {
-    return "M-" + std::to_string(whole(secondsSince1970(at)) % 1'000'000);
+    return "M-" + std::to_string(truncated(secondsSince1970(at)) % 1'000'000);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "store/data_files.h"
 
 #include "model/json.h"
-#include "model/limits.h"
+#include "model/validation.h"
 #include "store/replace_file.h"
 
 #include <QFile>
@@ -16,14 +16,6 @@ namespace {
 constexpr std::size_t recordLimit = 200;
 constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 constexpr auto ownerDirectory = ownerFile | QFileDevice::ExeOwner;
-
-/// What is wrong beyond the form of the document; empty when nothing is.
-std::string objection(const Settings& settings) {
-    return unusableField(settings);
-}
-std::string objection(const std::vector<MissionRecord>&) {
-    return {};
-}
 
 } // namespace
 
@@ -52,14 +44,17 @@ std::optional<T> DataFiles::load(File& file, std::string_view root) {
     const QByteArray bytes = stored.readAll();
     auto decoded =
         decode<T>({bytes.constData(), static_cast<std::size_t>(bytes.size())}, KeyStyle::fieldNames, root);
-    if (!decoded || !objection(*decoded.value).empty())
-        return std::nullopt;
-    file.unreadable = false;
+    file.unreadable = !decoded;
     return std::move(decoded.value);
 }
 
 std::optional<Settings> DataFiles::loadSettings() {
-    return load<Settings>(settings_, "settings");
+    auto settings = load<Settings>(settings_, "settings");
+    if (settings && !firstProblem(*settings).empty()) {
+        settings_.unreadable = true;
+        return std::nullopt;
+    }
+    return settings;
 }
 
 std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {

@@ -1,11 +1,11 @@
 #include "round_trip.h"
 
-#include "model/limits.h"
+#include "model/validation.h"
 
 using namespace velmora;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (const auto settings = readAndReturn<Settings>(data, size, KeyStyle::fieldNames))
-        unusableField(*settings);
+        firstProblem(*settings);
     return 0;
 }

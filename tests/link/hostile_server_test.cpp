@@ -1,7 +1,7 @@
 #include "link_fixture.h"
 
 #include "link/exchange.h"
-#include "link/state_guard.h"
+#include "model/validation.h"
 
 #include <random>
 
@@ -60,7 +60,7 @@ TEST_F(HostileServerTest, TenThousandDamagedBodiesAreEachReadOrRefused) {
         const std::string body = damaged(whole, poll % whole.size()).toStdString();
         const auto read = decode<LiveState>(body, KeyStyle::snakeCase);
         ASSERT_NE(read.value.has_value(), !read.error.empty()) << body;
-        if (read && troubleIn(*read.value).empty())
+        if (read && firstProblem(*read.value).empty())
             ASSERT_TRUE(encode(*read.value)) << body;
         else
             ++refused;

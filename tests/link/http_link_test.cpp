@@ -38,9 +38,17 @@ TEST_F(LinkTest, AFetchBringsTheStateAndTheServersVersion) {
     EXPECT_THAT(requests[0].toStdString(), StartsWith("GET /api/app/v1/state HTTP/1.1\r\n"));
 }
 
-TEST_F(LinkTest, AServerThatDoesNotTellItsVersionHasNone) {
-    reply = ok(document());
-    EXPECT_EQ(std::get<FetchedState>(fetch()).version, "");
+TEST_F(LinkTest, TheVersionIsAShortTextOnOneLine) {
+    const std::pair<QByteArray, QString> cases[] = {{{}, {}},
+                                                    {" 2.1\t beta ", "2.1 beta"},
+                                                    {"2\x1b[1m.\xE2\x80\xAE"
+                                                     "1",
+                                                     "2[1m.1"}, // neither escapes nor reversed text
+                                                    {QByteArray(5000, 'v'), QString(40, 'v')}};
+    for (const auto& [header, version] : cases) {
+        reply = ok(document(), header);
+        EXPECT_EQ(std::get<FetchedState>(fetch()).version, version) << header.left(20).toStdString();
+    }
 }
 
 TEST_F(LinkTest, NothingIsKeptFromOneFetchToTheNext) {

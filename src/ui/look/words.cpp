@@ -1,6 +1,6 @@
 #include "ui/look/words.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,7 +23,7 @@ QString twoDigits(std::int64_t number) {
 }
 
 QDateTime localTime(Date date) {
-    return QDateTime::fromMSecsSinceEpoch(whole(secondsSince1970(date) * 1000));
+    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000));
 }
 
 } // namespace
@@ -107,7 +107,7 @@ QString cameraName(const Site& site, std::string_view id) {
 }
 
 QString rounded(double value) {
-    return QString::number(whole(std::round(value)));
+    return QString::number(truncated(std::round(value)));
 }
 
 /// Not QString::number, which rounds 3.25 up; not printf, whose point is the locale's.
@@ -123,7 +123,7 @@ QString percent(double fraction) {
 }
 
 QString clockTime(Seconds elapsed) {
-    const std::int64_t seconds = std::max<std::int64_t>(whole(elapsed.count()), 0);
+    const std::int64_t seconds = std::max<std::int64_t>(truncated(elapsed.count()), 0);
     const std::int64_t minutes = seconds / 60;
     if (minutes < 60)
         return QString::number(minutes) + ':' + twoDigits(seconds % 60);
@@ -162,7 +162,7 @@ QString dayAndTime(Date date, Date now) {
 }
 
 QString duration(Seconds length) {
-    const std::int64_t seconds = std::max<std::int64_t>(whole(std::round(length.count())), 0);
+    const std::int64_t seconds = std::max<std::int64_t>(truncated(std::round(length.count())), 0);
     const std::int64_t minutes = seconds / 60, hours = minutes / 60;
     if (minutes == 0)
         return tr("%1 s").arg(seconds);
@@ -172,7 +172,7 @@ QString duration(Seconds length) {
 }
 
 QString age(Seconds length) {
-    const std::int64_t seconds = std::max<std::int64_t>(whole(length.count()), 0);
+    const std::int64_t seconds = std::max<std::int64_t>(truncated(length.count()), 0);
     if (seconds < 120)
         return tr("%1 s").arg(seconds);
     return seconds < 7200 ? tr("%1 min").arg(seconds / 60) : tr("%1 h").arg(seconds / 3600);

@@ -1,6 +1,6 @@
 #include "ui/map/map_painting.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 #include "ui/look/art.h"
 #include "ui/look/motion.h"
 #include "ui/look/text.h"
@@ -100,7 +100,7 @@ public:
         drawCaption(painter_, outer.topLeft() + QPointF(8, 7), Qt::AlignLeft | Qt::AlignTop,
                     tr("Your boundary"), SB::dTeal);
         drawCaption(painter_, outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom,
-                    tr("%1 m buffer").arg(whole(scene_.settings.boundaryBuffer)), SB::lilac);
+                    tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac);
     }
 
     void drawCameras() {

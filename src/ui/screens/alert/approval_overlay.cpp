@@ -1,6 +1,6 @@
 #include "ui/screens/alert/approval_overlay.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
@@ -33,8 +33,8 @@ QString bodyFor(const Settings& settings) {
     return ApprovalOverlay::tr(
                "Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, "
                "stay inside your boundary and come home on its own.")
-        .arg(whole(settings.flightHeight))
-        .arg(whole(settings.followDistance));
+        .arg(truncated(settings.flightHeight))
+        .arg(truncated(settings.followDistance));
 }
 
 } // namespace
@@ -161,7 +161,7 @@ void ApprovalOverlay::countDown() {
     const auto deadline = store_.knownState()->approvalDeadline;
     const double left = deadline ? (*deadline - store_.now()).count() : 0;
     const bool plausible = left > 0 && left <= longestCountdown;
-    expires_->setValue(plausible ? QString::number(whole(std::ceil(left))) : QStringLiteral("—"),
+    expires_->setValue(plausible ? QString::number(truncated(std::ceil(left))) : QStringLiteral("—"),
                        plausible ? tr("s") : QString());
     picture_->setTimeLeft(plausible && wholeTime_ > 0 ? std::min(left / wholeTime_, 1.0) : 0);
 }

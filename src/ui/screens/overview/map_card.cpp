@@ -1,6 +1,6 @@
 #include "ui/screens/overview/map_card.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
@@ -37,7 +37,7 @@ MapCard::MapCard(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
 void MapCard::refresh() {
     map_->setState(store_.knownState(), store_.settings(), store_.freshness());
     const QString buffer =
-        tr("%1 m buffer inside your boundary").arg(whole(store_.settings().boundaryBuffer));
+        tr("%1 m buffer inside your boundary").arg(truncated(store_.settings().boundaryBuffer));
     if (buffer == buffer_)
         return;
     buffer_ = buffer;

@@ -1,6 +1,6 @@
 #include "ui/screens/overview/status_strip.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
@@ -116,7 +116,7 @@ void StatusStrip::showWind(const LiveState& state) {
     const bool tooWindy = state.windKmh > limit;
     cells_[2]->setContent(
         tr("%1 km/h").arg(rounded(state.windKmh)),
-        {tooWindy ? tr("Too windy to fly") : tr("Fine to fly (limit %1 km/h)").arg(whole(limit))},
+        {tooWindy ? tr("Too windy to fly") : tr("Fine to fly (limit %1 km/h)").arg(truncated(limit))},
         tooWindy ? SB::caution : SB::muted);
 }
 

@@ -1,6 +1,6 @@
 #include "ui/screens/settings/slider_line.h"
 
-#include "model/whole.h"
+#include "model/truncated.h"
 #include "ui/blocks/slider.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -32,7 +32,7 @@ SliderLine::SliderLine(const QString& label, const Range& range, QWidget* parent
 }
 
 void SliderLine::setValue(double value) {
-    const std::int64_t shown = whole(value);
+    const std::int64_t shown = truncated(value);
     value_->setText(QString::number(shown) + ' ' + unit_);
     slider_->setAccessibleDescription(value_->text());
     slider_->setValue(

@@ -1,4 +1,4 @@
-#include "model/limits.h"
+#include "model/validation.h"
 
 #include <gtest/gtest.h>
 
@@ -7,23 +7,24 @@
 
 namespace velmora {
 
-TEST(Limits, SettingsHoldNumbersThatFitAWholeNumber) {
+TEST(Validation, SettingsHoldNumbersThatFitAnInteger) {
     constexpr double twoTo63 = 9223372036854775808.0;
     Settings settings;
     for (const double fit : {-twoTo63, std::nextafter(twoTo63, 0), -0.0}) {
         settings.returnBattery = fit;
-        EXPECT_EQ(unusableField(settings), "") << fit;
+        EXPECT_EQ(firstProblem(settings), "") << fit;
     }
     for (const double misfit : {std::nan(""), HUGE_VAL, -HUGE_VAL, twoTo63, -twoTo63 * 1.001}) {
         settings.approvalSeconds = misfit;
-        EXPECT_EQ(unusableField(settings), "approvalSeconds: out of range") << misfit;
+        EXPECT_EQ(firstProblem(settings), "approvalSeconds: out of range") << misfit;
     }
 }
 
-TEST(Limits, ALiveStateHasADrawableSiteAndNumbersThatFit) {
+TEST(Validation, AStateThatCannotBeDrawnOrWouldStallTheScreensIsRefused) {
     const std::pair<std::function<void(LiveState&)>, std::string> cases[] = {
         {[](LiveState& s) {
              s.site.size = {1, 100'000};
+             s.notices.resize(1000);
          },
          ""},
         {[](LiveState& s) { s.site.boundary.clear(); }, "site.boundary: expected at least one point"},
@@ -35,11 +36,19 @@ TEST(Limits, ALiveStateHasADrawableSiteAndNumbersThatFit) {
          },
          "drone.trail[1].y: out of range"},
         {[](LiveState& s) { s.visitor.emplace().confidence = -1e300; }, "visitor.confidence: out of range"},
+        {[](LiveState& s) { s.notices.resize(1001); }, "notices: more than 1000 entries"},
+        {[](LiveState& s) { s.drone.trail.resize(10'001); }, "drone.trail: more than 10000 entries"},
+        {[](LiveState& s) { s.site.cameras.resize(101); }, "site.cameras: more than 100 entries"},
+        {[](LiveState& s) { s.site.cameras[1].name.assign(1001, 'a'); },
+         "site.cameras[1].name: longer than 1000 bytes"},
+        {[](LiveState& s) { s.visitor.emplace().label.assign(1001, 'a'); },
+         "visitor.label: longer than 1000 bytes"},
+        {[](LiveState& s) { s.missionId.emplace(1001, 'a'); }, "missionId: longer than 1000 bytes"},
     };
-    for (const auto& [change, unusable] : cases) {
+    for (const auto& [change, problem] : cases) {
         LiveState state = LiveState::initial();
         change(state);
-        EXPECT_EQ(unusableField(state), unusable);
+        EXPECT_EQ(firstProblem(state), problem);
     }
 }
 
