@@ -41,7 +41,7 @@ double intervalOf(const MissionRecord& record) {
     constexpr double longest = 1.1 * pathInterval;
     const Notice* approved = firstTelling(record, ResponseStep::answered);
     const bool flown = !record.dronePath.empty() && approved;
-    const double seconds = flown ? (record.end - approved->time).count() : lengthOf(record);
+    const double seconds = flown ? (record.end - approved->time).count() : durationOf(record);
     const auto points = static_cast<double>(flown ? record.dronePath.size() : record.visitorPath.size());
     return pathInterval * points <= seconds && seconds <= longest * points ? seconds / points : pathInterval;
 }
@@ -50,8 +50,9 @@ double intervalOf(const MissionRecord& record) {
 std::size_t pointsUntil(double seconds, double first, double interval, std::size_t count) {
     if (seconds < first)
         return 0;
-    const double whole = (seconds - first) / interval;
-    return whole >= static_cast<double>(count) ? count : std::min(count, static_cast<std::size_t>(whole) + 1);
+    const double intervals = (seconds - first) / interval;
+    return intervals >= static_cast<double>(count) ? count
+                                                   : std::min(count, static_cast<std::size_t>(intervals) + 1);
 }
 
 } // namespace
@@ -82,12 +83,12 @@ std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, co
     return evidence;
 }
 
-double lengthOf(const MissionRecord& record) {
+double durationOf(const MissionRecord& record) {
     return std::max((record.end - record.start).count(), 0.0);
 }
 
 PathTimes pathTimes(const MissionRecord& record) {
-    PathTimes times{intervalOf(record), 0, lengthOf(record)};
+    PathTimes times{intervalOf(record), 0, durationOf(record)};
     const auto spanOf = [&](const std::vector<P>& path) {
         return path.empty() ? 0 : static_cast<double>(path.size() - 1) * times.interval;
     };
@@ -96,24 +97,20 @@ PathTimes pathTimes(const MissionRecord& record) {
     return times;
 }
 
-MissionRecord cutAt(const MissionRecord& record, double seconds) {
-    MissionRecord cut = record;
+Progress progressAt(const MissionRecord& record, double seconds) {
+    const std::size_t visitorPoints = record.visitorPath.size(), dronePoints = record.dronePath.size();
+    if (seconds >= durationOf(record))
+        return {visitorPoints, dronePoints, true};
     const PathTimes times = pathTimes(record);
-    cut.visitorPath.resize(pointsUntil(seconds, 0, times.interval, record.visitorPath.size()));
-    cut.dronePath.resize(pointsUntil(seconds, times.droneFrom, times.interval, record.dronePath.size()));
-    std::erase_if(cut.notices,
-                  [&](const Notice& notice) { return (notice.time - record.start).count() > seconds; });
-    if (seconds < lengthOf(record) && cut.outcome == Outcome::visitorLeft)
-        cut.outcome =
-            Outcome::returnedByYou; // nobody has left yet: the last point is where the visitor was last seen
-    return cut;
+    return {pointsUntil(seconds, 0, times.interval, visitorPoints),
+            pointsUntil(seconds, times.droneFrom, times.interval, dronePoints), false};
 }
 
-std::vector<Stretch> gapsOf(const MissionRecord& record) {
+std::vector<TimeSpan> gapsOf(const MissionRecord& record) {
     const PathTimes times = pathTimes(record);
     if (times.droneFrom - times.visitorTo < 2 * times.interval)
         return {};
-    return {{times.visitorTo, std::min(times.droneFrom, lengthOf(record))}};
+    return {{times.visitorTo, std::min(times.droneFrom, durationOf(record))}};
 }
 
 } // namespace velmora

@@ -39,19 +39,28 @@ struct BoundaryEvidence {
 std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
                                                  double buffer);
 
-/// The record as far as it had happened so many seconds after its start: shorter paths, fewer notices.
-MissionRecord cutAt(const MissionRecord& record, double seconds);
+/// How much of a mission had happened at a moment.
+struct Progress {
+    std::size_t visitorPoints = 0; ///< taken by then, of the visitor's path
+    std::size_t dronePoints = 0;   ///< likewise
+    bool ended = false;
 
-/// A stretch of time in seconds after the record's start.
-struct Stretch {
+    bool operator==(const Progress&) const = default;
+};
+
+/// The moment is in seconds after the record's start; from its end on every point counts.
+Progress progressAt(const MissionRecord& record, double seconds);
+
+/// Seconds after the record's start.
+struct TimeSpan {
     double from = 0;
     double to = 0;
 };
 
 /// Where neither path has points although the mission went on.
-std::vector<Stretch> gapsOf(const MissionRecord& record);
+std::vector<TimeSpan> gapsOf(const MissionRecord& record);
 
-/// Length of the mission in seconds, never negative.
-double lengthOf(const MissionRecord& record);
+/// Seconds from start to end, never negative.
+double durationOf(const MissionRecord& record);
 
 } // namespace velmora

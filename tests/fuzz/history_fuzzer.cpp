@@ -9,13 +9,13 @@ namespace {
 
 /// All that the history screen works out of a record.
 void inspect(const MissionRecord& record) {
-    require(lengthOf(record) >= 0, "no mission is shorter than nothing");
+    require(durationOf(record) >= 0, "no mission is shorter than nothing");
     require(responseTimeline(record).back().step == ResponseStep::ended, "every response ends");
     boundaryEvidence(record, LiveState::initial().site, 5);
-    for (const Stretch& gap : gapsOf(record))
+    for (const TimeSpan& gap : gapsOf(record))
         require(gap.from <= gap.to, "a gap runs forwards");
-    for (const double seconds : {-1.0, 30.0, lengthOf(record)})
-        require(cutAt(record, seconds).dronePath.size() <= record.dronePath.size(), "a cut only shortens");
+    for (const double seconds : {-1.0, 30.0, durationOf(record)})
+        require(progressAt(record, seconds).dronePoints <= record.dronePath.size(), "no point is made up");
     pathsCsv(record);
 }
 

@@ -36,6 +36,9 @@ protected:
         scene.state.site.planImage.clear();
         scene.state.site.cameras.clear();
         scene.showLabels = false;
+        mission.end = mission.start + Seconds{1};
+        mission.visitorPath = {{20, 50.125}, {40, 50.125}};
+        mission.dronePath = {{74, 70}, {60, 55}};
     }
 
     QImage draw(double t = 0) const {
@@ -60,13 +63,13 @@ protected:
     void see(P pos, const std::string& camera) {
         scene.state.visitor = Visitor{pos, "Unknown person", 0.9, camera, true, {}};
     }
-    void replay() {
-        scene.replay.emplace();
-        scene.replay->visitorPath = {{20, 50.125}, {40, 50.125}};
-        scene.replay->dronePath = {{74, 70}, {60, 55}};
+    /// Shows the mission, which lasts one second, as it was after so many.
+    void replay(double seconds = 1) {
+        scene.replay = Replay{std::make_shared<MissionRecord>(mission), progressAt(mission, seconds)};
     }
 
     MapScene scene;
+    MissionRecord mission;
 };
 
 TEST_F(MapPicture, ThePlanIsFittedWholeAndCentred) {
@@ -158,10 +161,19 @@ TEST_F(MapPicture, AReplayShowsItsPathsInsteadOfTheLiveOnes) {
     EXPECT_COLOR(at(120, 200), onNavy(SB::lilac, 0.85));
     for (const double end : {80.0, 160.0})
         EXPECT_COLOR(at(end, 198), SB::lilac) << end;
+}
+
+TEST_F(MapPicture, AVisitorWhoLeftIsLastSeenUntilTheReplayEnds) {
     scene.showLabels = true;
-    const QImage left = draw();
-    scene.replay->outcome = Outcome::expired;
-    EXPECT_NE(draw().copy(168, 190, 80, 20), left.copy(168, 190, 80, 20)); // the last point's caption
+    const auto caption = [&](Outcome outcome, double seconds) { // of the visitor's last point
+        mission.outcome = outcome;
+        replay(seconds);
+        return draw().copy(168, 190, 80, 20);
+    };
+    const QImage lastSeen = caption(Outcome::expired, 1);
+    EXPECT_NE(caption(Outcome::visitorLeft, 1), lastSeen);
+    EXPECT_EQ(caption(Outcome::visitorLeft, 0.9), lastSeen);
+    EXPECT_EQ(caption(Outcome::expired, 0.9), lastSeen);
 }
 
 TEST_F(MapPicture, LabelsOffLeavesTheShapesAndNoText) {
@@ -262,13 +274,14 @@ TEST_F(MapPicture, TheDescriptionTellsWhoIsWhere) {
     see({74, 4.7}, "a");
     EXPECT_TRUE(
         mapDescription(scene).endsWith("Unknown person is 16 m from the drone, outside the boundary."));
+    mission.maxDistanceFromPad = 20.5;
     replay();
-    scene.replay->maxDistanceFromPad = 20.5;
     EXPECT_EQ(mapDescription(scene),
               "Replay of the visitor's path and of the drone's, at most 21 m from its pad.");
-    scene.replay->dronePath.clear();
+    replay(0);
     EXPECT_EQ(mapDescription(scene), "Replay of the visitor's path; the drone stayed on its pad.");
-    scene.replay->visitorPath.clear();
+    mission.visitorPath.clear();
+    replay();
     EXPECT_EQ(mapDescription(scene), "Replay: nobody was tracked.");
 }
 
@@ -373,6 +386,13 @@ TEST_F(MapFrames, AnOldPictureAndAReplayAreStill) {
     replay();
     map.setReplay(*scene.replay, scene.state, {});
     EXPECT_EQ(frames(), 0);
+    map.setReplay(*scene.replay, scene.state, {});
+    run(3);
+    EXPECT_EQ(map.paints, 0) << "the same moment";
+    scene.replay->progress = progressAt(mission, 0.2);
+    map.setReplay(*scene.replay, scene.state, {});
+    run(3);
+    EXPECT_EQ(map.paints, 1);
 }
 
 } // namespace

@@ -14,13 +14,13 @@ QString tr(const char* text) {
     return QCoreApplication::translate("SiteMap", text);
 }
 
-QString describeReplay(const MissionRecord& record) {
-    if (record.visitorPath.empty())
+QString describeReplay(const Replay& replay) {
+    if (replay.visitorPath().empty())
         return tr("Replay: nobody was tracked.");
     const QString walked = tr("Replay of the visitor's path");
-    return record.dronePath.size() < 2 ? walked + tr("; the drone stayed on its pad.")
-                                       : walked + tr(" and of the drone's, at most %1 m from its pad.")
-                                                      .arg(rounded(record.maxDistanceFromPad));
+    return replay.dronePath().size() < 2 ? walked + tr("; the drone stayed on its pad.")
+                                         : walked + tr(" and of the drone's, at most %1 m from its pad.")
+                                                        .arg(rounded(replay.record->maxDistanceFromPad));
 }
 
 QString describeDrone(const LiveState& state) {

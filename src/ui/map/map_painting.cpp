@@ -126,16 +126,15 @@ public:
     }
 
     void drawPaths() {
-        static const std::vector<P> none;
         const auto& visitor = scene_.state.visitor;
-        const bool replays = scene_.replay.has_value();
-        const QColor seen = SB::faded(SB::lilac, replays ? 0.85 : 0.55);
-        drawPath(replays   ? scene_.replay->visitorPath
-                 : visitor ? visitor->trail
-                           : none,
+        const auto& replay = scene_.replay;
+        const QColor seen = SB::faded(SB::lilac, replay ? 0.85 : 0.55);
+        drawPath(replay    ? replay->visitorPath()
+                 : visitor ? std::span<const P>(visitor->trail)
+                           : std::span<const P>(),
                  QPen(seen, lastingPathWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const QColor flown = SB::faded(SB::dTeal, replays ? 0.95 : 0.7);
-        drawPath(replays ? scene_.replay->dronePath : scene_.state.drone.trail,
+        const QColor flown = SB::faded(SB::dTeal, replay ? 0.95 : 0.7);
+        drawPath(replay ? replay->dronePath() : scene_.state.drone.trail,
                  dashed(flown, lastingPathWidth, 4, 4, Qt::RoundCap));
     }
 
@@ -168,12 +167,13 @@ public:
     }
 
     void drawReplayMarkers() {
-        const auto& path = scene_.replay->visitorPath;
+        const auto path = scene_.replay->visitorPath();
         if (path.empty())
             return;
         drawMarker(path.front(), tr("Arrived"));
-        drawMarker(path.back(),
-                   scene_.replay->outcome == Outcome::visitorLeft ? tr("Left") : tr("Last seen"));
+        const bool left =
+            scene_.replay->progress.ended && scene_.replay->record->outcome == Outcome::visitorLeft;
+        drawMarker(path.back(), left ? tr("Left") : tr("Last seen"));
     }
 
 private:
@@ -192,7 +192,7 @@ private:
 
     /// Strokes a path piece by piece, because one stroke of a long tangle takes many times as long. A piece
     /// replaces the end of the one before instead of darkening it.
-    void drawPath(const std::vector<P>& path, QPen pen) {
+    void drawPath(std::span<const P> path, QPen pen) {
         if (path.size() < 2)
             return;
         painter_.setCompositionMode(QPainter::CompositionMode_Source);
@@ -217,7 +217,7 @@ private:
 
     /// Where the part of a path begins that is drawn. Longer ones cover the map until nothing can be told
     /// apart, and a tangle takes seconds to stroke.
-    std::ptrdiff_t newestPart(const std::vector<P>& path) const {
+    std::ptrdiff_t newestPart(std::span<const P> path) const {
         double left = longestPath / view_.scale();
         auto from = std::ssize(path) - 1;
         for (; from > 0 && left > 0; --from) {

@@ -1,23 +1,38 @@
 #pragma once
 
 #include "model/live_state.h"
-#include "model/mission_record.h"
+#include "model/mission_evidence.h"
 #include "model/settings.h"
 
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 
+#include <memory>
 #include <optional>
+#include <span>
 
 namespace velmora {
+
+/// A finished mission as far as it had happened at one moment.
+struct Replay {
+    std::shared_ptr<const MissionRecord> record; ///< never null
+    Progress progress;
+
+    std::span<const P> visitorPath() const {
+        return std::span(record->visitorPath).first(progress.visitorPoints);
+    }
+    std::span<const P> dronePath() const { return std::span(record->dronePath).first(progress.dronePoints); }
+
+    bool operator==(const Replay&) const = default;
+};
 
 /// Everything that one picture of the map shows.
 struct MapScene {
     LiveState state;
     Settings settings;
-    std::optional<MissionRecord> replay; ///< shown instead of the live visitor and drone
-    bool showLabels = true;              ///< false: shapes only
+    std::optional<Replay> replay; ///< shown instead of the live visitor and drone
+    bool showLabels = true;       ///< false: shapes only
 };
 
 /// Site metres to view pixels: the whole plan fitted into the canvas and centred.

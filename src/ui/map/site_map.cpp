@@ -25,13 +25,13 @@ QString waitingText() {
     return SiteMap::tr("Waiting for velmora");
 }
 
-std::string watchingCamera(const MapScene& scene) {
-    return scene.state.visitor ? scene.state.visitor->cameraId : std::string();
+std::string watchingCamera(const LiveState& state) {
+    return state.visitor ? state.visitor->cameraId : std::string();
 }
 
-bool sameGrounds(const MapScene& a, const MapScene& b) {
-    return a.state.site == b.state.site && a.settings.boundaryBuffer == b.settings.boundaryBuffer &&
-           watchingCamera(a) == watchingCamera(b) && a.showLabels == b.showLabels;
+bool sameGrounds(const MapScene& scene, const LiveState& state, const Settings& settings) {
+    return scene.state.site == state.site && scene.settings.boundaryBuffer == settings.boundaryBuffer &&
+           watchingCamera(scene.state) == watchingCamera(state);
 }
 
 bool samePaths(const MapScene& a, const MapScene& b) {
@@ -61,8 +61,19 @@ void SiteMap::setState(const LiveState* known, const Settings& settings, Freshne
     setFreshness(freshness);
 }
 
-void SiteMap::setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings) {
-    setScene({state, settings, record, scene_.showLabels});
+/// Copies the state only if its grounds differ.
+void SiteMap::setReplay(Replay replay, const LiveState& state, const Settings& settings) {
+    if (!scene_.replay || !sameGrounds(scene_, state, settings)) {
+        setScene({state, settings, std::move(replay), scene_.showLabels});
+        return;
+    }
+    if (scene_.replay == replay)
+        return;
+    scene_.replay = std::move(replay);
+    pathsStale_ = true;
+    if (!covered_)
+        update();
+    describe();
 }
 
 void SiteMap::setShowLabels(bool show) {
@@ -92,7 +103,8 @@ void SiteMap::setCovered(bool covered) {
 /// While frames run, the next one shows what moved; only what lies outside the moving parts is asked for
 /// here.
 void SiteMap::setScene(MapScene scene) {
-    const bool grounds = !sameGrounds(scene, scene_);
+    const bool grounds =
+        !sameGrounds(scene_, scene.state, scene.settings) || scene.showLabels != scene_.showLabels;
     const bool paths = !samePaths(scene, scene_);
     const bool standing = !sameStanding(scene, scene_);
     const bool newSize = scene.state.site.size != scene_.state.site.size;

@@ -19,8 +19,8 @@ public:
 
     /// The live picture. An old one is paler and still; without one (null) the map shows only a word.
     void setState(const LiveState* known, const Settings& settings, Freshness freshness);
-    /// A mission's paths over its grounds.
-    void setReplay(const MissionRecord& record, const LiveState& state, const Settings& settings);
+    /// A mission's paths over the grounds. Cheap enough for every frame of a replay.
+    void setReplay(Replay replay, const LiveState& state, const Settings& settings);
     void setShowLabels(bool show);
     /// Something lies over the map: no frames until it is gone.
     void setCovered(bool covered);

@@ -88,7 +88,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
         return row.caption;
     const QString text =
         QStringList{outcomeText(record->outcome), toQString(record->cameraName),
-                    dayAndTime(record->start, store_.now()), duration(Seconds{lengthOf(*record)})}
+                    dayAndTime(record->start, store_.now()), duration(Seconds{durationOf(*record)})}
             .join(QStringLiteral(", "));
     return record->demo ? text + tr(", demo") : text;
 }

@@ -143,7 +143,7 @@ void HistoryView::remove(RecordKey key) {
 }
 
 void HistoryView::offerExports(QPoint below) {
-    const MissionRecord record = detail_->record();
+    const MissionRecord record = *detail_->record();
     const QString name = fileNameFor(record);
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -21,8 +21,8 @@ namespace {
 QString factsOf(const MissionRecord& record) {
     QStringList facts{isolated(toQString(record.cameraName)),
                       timeOfDay(record.start).chopped(3)}; // without the seconds
-    if (lengthOf(record) >= 1)
-        facts.append(duration(Seconds{lengthOf(record)}));
+    if (durationOf(record) >= 1)
+        facts.append(duration(Seconds{durationOf(record)}));
     return facts.join(QStringLiteral(" · "));
 }
 

@@ -93,8 +93,8 @@ void RecordDetail::setEntry(const HistoryEntry& entry) {
     if (key_ == entry.key)
         return;
     key_ = entry.key;
-    record_ = entry.record;
-    const MissionRecord& record = record_;
+    record_ = std::make_shared<MissionRecord>(entry.record);
+    const MissionRecord& record = *record_;
     eyebrow_->setText(isolated(toQString(record.cameraName)) + QStringLiteral(" · ") +
                       dayAndTime(record.start, store_.now()));
     title_->setSentence(outcomeSentence(record.outcome));
@@ -102,10 +102,8 @@ void RecordDetail::setEntry(const HistoryEntry& entry) {
     bar_->setRecord(record);
 }
 
-/// The whole record at its end, or as far as it had happened.
 void RecordDetail::showMoment() {
-    const bool whole = player_->position() >= player_->length();
-    map_->setReplay(whole ? record_ : cutAt(record_, player_->position()), groundsFor(store_),
+    map_->setReplay({record_, progressAt(*record_, player_->position())}, groundsFor(store_),
                     store_.settings());
 }
 

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 namespace velmora {
 
 class Chip;
@@ -24,7 +26,8 @@ public:
     RecordDetail(AppStore& store, QWidget* parent);
 
     void setEntry(const HistoryEntry& entry);
-    const MissionRecord& record() const { return record_; }
+    /// Never null.
+    const std::shared_ptr<const MissionRecord>& record() const { return record_; }
     /// Gives the replay the keyboard.
     void takeFocus();
     void pause();
@@ -47,7 +50,7 @@ private:
 
     AppStore& store_;
     std::optional<RecordKey> key_; ///< of the record shown
-    MissionRecord record_;
+    std::shared_ptr<const MissionRecord> record_ = std::make_shared<MissionRecord>();
     ReplayPlayer* player_;
     Text* eyebrow_;
     Headline* title_;

@@ -128,7 +128,7 @@ void RecordFacts::setRecord(const MissionRecord& record, const Site& site, const
 }
 
 void RecordFacts::showMetrics(const MissionRecord& record) {
-    const Seconds length{lengthOf(record)};
+    const Seconds length{durationOf(record)};
     duration_->setValue(clockTime(Seconds{std::round(length.count())}), tr("min"));
     if (flew(record.outcome)) {
         furthest_->setValue(rounded(record.maxDistanceFromPad), tr("m"));

@@ -51,7 +51,7 @@ ReplayBar::ReplayBar(ReplayPlayer& player, QWidget* parent)
 
 void ReplayBar::setRecord(const MissionRecord& record) {
     slider_->setRecord(record);
-    player_.load(lengthOf(record));
+    player_.load(durationOf(record));
 }
 
 void ReplayBar::takeFocus() {

@@ -28,7 +28,7 @@ ReplaySlider::ReplaySlider(QWidget* parent) : QAbstractSlider(parent) {
 
 void ReplaySlider::setRecord(const MissionRecord& record) {
     const QSignalBlocker silently(this);
-    length_ = lengthOf(record);
+    length_ = durationOf(record);
     setRange(0, static_cast<int>(std::ceil(length_ / pathInterval)));
     gaps_ = gapsOf(record);
     marks_.clear();
@@ -84,7 +84,7 @@ void ReplaySlider::paintEvent(QPaintEvent*) {
     };
     track(0, length_, SB::rule2);
     track(0, shown_, SB::teal);
-    for (const Stretch& gap : gaps_)
+    for (const TimeSpan& gap : gaps_)
         painter.fillRect(
             QRectF(xOf(gap.from), middle - half, xOf(gap.to) - xOf(gap.from), Measure::replayTrack),
             SB::page);

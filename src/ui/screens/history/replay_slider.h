@@ -37,7 +37,7 @@ private:
     double length_ = 0;
     double shown_ = 0;
     std::vector<double> marks_; ///< seconds
-    std::vector<Stretch> gaps_;
+    std::vector<TimeSpan> gaps_;
 };
 
 } // namespace velmora
