@@ -54,7 +54,7 @@ void fly(World& world, double hours) {
 /// Memory in MB that eight hours of missions add, and how much of it the longer history is.
 void eightHours(benchmark::State& run) {
     World world(samples::flownHistory(200));
-    const MainWindow window(world.store(), Autostart(world.directory().path()));
+    const MainWindow window(world.store());
     fly(world, 0.5);
     for ([[maybe_unused]] auto iteration : run) {
         const double residentBefore = resident(), heapBefore = heap(),

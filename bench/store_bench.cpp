@@ -30,7 +30,7 @@ BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMilli
 /// A few seconds of following, each tick heard by the whole window, which is hidden.
 void hiddenTick(benchmark::State& run) {
     World world(samples::flownHistory(200));
-    const MainWindow window(world.store(), Autostart(world.directory().path()));
+    const MainWindow window(world.store());
     world.follow();
     const auto before = allocations();
     for ([[maybe_unused]] auto iteration : run)
@@ -69,7 +69,7 @@ private:
 void recording(benchmark::State& run) {
     World world(samples::flownHistory(200));
     AppStore& store = world.store();
-    MainWindow window(store, Autostart(world.directory().path()));
+    MainWindow window(store);
     window.show();
     world.follow();
     store.setSection(Section::history);

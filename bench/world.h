@@ -30,8 +30,8 @@ public:
 
     AppStore& store() {
         if (!store_)
-            store_ = std::make_unique<AppStore>(
-                AppStore::Environment{[this] { return present(); }, random_, directory(), notifier_, link_});
+            store_ = std::make_unique<AppStore>(AppStore::Environment{
+                [this] { return present(); }, random_, directory(), notifier_, loginItem_, link_});
         return *store_;
     }
     QDir directory() const { return QDir(home_.path() + "/Velmora"); }
@@ -68,6 +68,7 @@ private:
     QTemporaryDir home_;
     samples::SeededRandom random_;
     SilentNotifier notifier_;
+    NoLoginItem loginItem_;
     MuteLink link_;
     std::unique_ptr<AppStore> store_;
 };

@@ -29,8 +29,9 @@ Date systemClock() {
 
 App::App(AppService& service, const Options& options)
     : notifier_(QDBusConnection::sessionBus(), pictureOf),
-      store_({systemClock, random_, DataFiles::defaultDirectory(), notifier_, link_}),
-      window_(store_, Autostart(Autostart::defaultDirectory())),
+      autostart_(Autostart::defaultDirectory()),
+      store_({systemClock, random_, DataFiles::defaultDirectory(), notifier_, autostart_, link_}),
+      window_(store_),
       tray_(store_) {
     store_.start();
     SelfCheck::runIfRequested(store_);

@@ -26,6 +26,7 @@ private:
     SystemRandom random_;
     HttpLink link_;
     DesktopNotifier notifier_;
+    Autostart autostart_;
     AppStore store_;
     MainWindow window_;
     Tray tray_;

@@ -42,7 +42,7 @@ bool Autostart::isOn() const {
     return true;
 }
 
-bool Autostart::setOn(bool on) const {
+bool Autostart::setOn(bool on) {
     if (!on)
         return !QFile::exists(path()) || QFile::remove(path());
     if (!QDir().mkpath(directory_))

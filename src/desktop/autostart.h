@@ -1,11 +1,13 @@
 #pragma once
 
+#include "store/login_item.h"
+
 #include <QString>
 
 namespace velmora {
 
-/// Whether Velmora starts, hidden, when the owner logs in: an entry in the desktop's autostart folder.
-class Autostart {
+/// An entry in the desktop's autostart folder.
+class Autostart final : public LoginItem {
 public:
     /// The entry is made as `org.velmora.Velmora.desktop` in this directory.
     explicit Autostart(QString directory);
@@ -14,9 +16,8 @@ public:
     static QString defaultDirectory();
 
     /// What the file really says: an entry that is hidden or disabled is off.
-    bool isOn() const;
-    /// False when the entry cannot be written or removed.
-    bool setOn(bool on) const;
+    bool isOn() const override;
+    bool setOn(bool on) override;
 
 private:
     QString path() const;

@@ -1,6 +1,10 @@
 #include "store/app_store.h"
 
+#include "model/csv.h"
+#include "model/json.h"
 #include "store/demo_history.h"
+
+#include <QSaveFile>
 
 #include <algorithm>
 #include <chrono>
@@ -24,6 +28,16 @@ DetectionNotification detectionNotification(const LiveState& state) {
             QStringLiteral("Launch the drone to keep an eye on them?"),
             camera ? QString::fromStdString(camera->snapshot) : QString(),
             alertId(state).value_or(AlertId{})};
+}
+
+/// The owner's file keeps its permissions; a full disk may refuse only what is flushed.
+QString writeExport(const QString& path, std::string_view bytes) {
+    QSaveFile file(path);
+    const auto size = static_cast<qint64>(bytes.size());
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush() &&
+        file.commit())
+        return {};
+    return AppStore::tr("%1 could not be written: %2.").arg(path, file.errorString());
 }
 
 } // namespace
@@ -183,6 +197,30 @@ std::optional<HistoryEntry> AppStore::removeRecord(RecordKey key) {
 void AppStore::restoreRecord(HistoryEntry entry) {
     history_.restore(std::move(entry));
     emit historyChanged();
+}
+
+QString AppStore::exportRecord(const MissionRecord& record, const QString& path) const {
+    return writeExport(path, encode(record).value_or(""));
+}
+
+QString AppStore::exportPaths(const MissionRecord& record, const QString& path) const {
+    return writeExport(path, pathsCsv(record));
+}
+
+QString AppStore::exportList(const std::vector<RecordKey>& keys, const QString& path) const {
+    std::vector<MissionRecord> records;
+    for (const RecordKey key : keys)
+        if (const HistoryEntry* entry = findRecord(key))
+            records.push_back(entry->record);
+    return writeExport(path, recordsCsv(records));
+}
+
+QString AppStore::exportPicture(const QByteArray& png, const QString& path) const {
+    return writeExport(path, {png.constData(), static_cast<std::size_t>(png.size())});
+}
+
+void AppStore::setStartAtLogin(bool on) {
+    environment_.loginItem.setOn(on);
 }
 
 void AppStore::setState(const LiveState& state) {

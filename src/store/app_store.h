@@ -4,6 +4,7 @@
 #include "store/data_files.h"
 #include "store/history.h"
 #include "store/link_session.h"
+#include "store/login_item.h"
 #include "store/notifier.h"
 
 #include <QObject>
@@ -25,6 +26,7 @@ public:
         Random& random;
         QDir dataDirectory;
         Notifier& notifier;
+        LoginItem& loginItem;
         Link& link;
     };
 
@@ -55,6 +57,8 @@ public:
     bool showWelcome() const { return showWelcome_; }
     /// Where settings.json and history.json are.
     const QDir& dataDirectory() const { return environment_.dataDirectory; }
+    /// What the desktop's setting says now.
+    bool startsAtLogin() const { return environment_.loginItem.isOn(); }
     /// The clock's present, for ages and countdowns.
     Date now() const { return environment_.clock(); }
 
@@ -65,6 +69,8 @@ public:
     void setShowWelcome(bool show);
     /// Saves a change at once and hands it to the simulator and the link.
     void setSettings(const Settings& settings);
+    /// Nothing changes if the desktop refuses.
+    void setStartAtLogin(bool on);
 
     /// The alert that can be answered now: it waits, and the link to the server is live.
     std::optional<AlertId> waitingAlert() const;
@@ -87,6 +93,15 @@ public:
     std::optional<HistoryEntry> removeRecord(RecordKey key);
     /// Puts a removed record back above the older ones.
     void restoreRecord(HistoryEntry entry);
+
+    /// Exports write one file, complete or not at all. They return an empty text, or a sentence for the owner
+    /// that says which file was not written and why. This one writes the record as JSON.
+    QString exportRecord(const MissionRecord& record, const QString& path) const;
+    /// The record's paths and notices as CSV.
+    QString exportPaths(const MissionRecord& record, const QString& path) const;
+    /// One line of CSV for each of these records.
+    QString exportList(const std::vector<RecordKey>& keys, const QString& path) const;
+    QString exportPicture(const QByteArray& png, const QString& path) const;
 
 signals:
     void stateChanged();

@@ -226,7 +226,7 @@ class NotifiedStoreTest : public StoreTest {};
 TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {
     NotificationService service({"actions"});
     DesktopNotifier real(QDBusConnection::sessionBus(), pictureOf);
-    AppStore store({[this] { return now; }, random, QDir(directory()), real, link});
+    AppStore store({[this] { return now; }, random, QDir(directory()), real, loginItem, link});
     QObject::connect(&real, &DesktopNotifier::answered, &store, &AppStore::answer);
     ASSERT_TRUE(waitUntil([&] { return service.asked > 0; }));
     QCoreApplication::processEvents();

@@ -49,13 +49,25 @@ public:
     int withdrawals = 0;
 };
 
+class FakeLoginItem final : public LoginItem {
+public:
+    bool isOn() const override { return on; }
+    bool setOn(bool wanted) override {
+        on = refuses ? on : wanted;
+        return on == wanted;
+    }
+
+    bool on = false;
+    bool refuses = false;
+};
+
 /// A store with a clock that only the test moves, in a data directory of its own.
 class StoreTest : public testing::Test {
 protected:
     AppStore& store() {
         if (!store_)
-            store_ = std::make_unique<AppStore>(
-                AppStore::Environment{[this] { return now; }, random, QDir(directory()), notifier, link});
+            store_ = std::make_unique<AppStore>(AppStore::Environment{
+                [this] { return now; }, random, QDir(directory()), notifier, loginItem, link});
         return *store_;
     }
     void restart() { store_.reset(); }
@@ -107,6 +119,7 @@ protected:
     Date now = dateFromSeconds(1'700'000'042);
     CalmRandom random;
     FakeNotifier notifier;
+    FakeLoginItem loginItem;
     FakeLink link;
 
 private:

@@ -228,6 +228,18 @@ TEST_F(SettingsTest, AlertsGoWhereTheOwnerSays) {
     EXPECT_EQ(store().settings().ntfyTopic, "ab my/topic ") << "the cursor stays where one types";
 }
 
+TEST_F(SettingsTest, TheSwitchForTheLoginShowsWhatTheDesktopTook) {
+    loginItem.on = true;
+    look();
+    auto* start = find<QAbstractButton>("Start Velmora when I log in");
+    EXPECT_TRUE(start->isChecked());
+    QTest::mouseClick(start, Qt::LeftButton);
+    EXPECT_FALSE(loginItem.on || start->isChecked());
+    loginItem.refuses = true;
+    QTest::mouseClick(start, Qt::LeftButton);
+    EXPECT_FALSE(loginItem.on || start->isChecked());
+}
+
 TEST_F(SettingsTest, TheWelcomeComesBackWithoutForgettingThatItWasDone) {
     look();
     const QByteArray file = content("settings.json");

@@ -29,7 +29,7 @@ protected:
     /// Opens the window at its default size.
     MainWindow& window() {
         if (!window_) {
-            window_ = std::make_unique<MainWindow>(store(), Autostart(home.path() + "/autostart"));
+            window_ = std::make_unique<MainWindow>(store());
             window_->show();
             settle();
         }

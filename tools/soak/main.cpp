@@ -54,7 +54,7 @@ void playVisits(int hours, unsigned seed) {
     settings.onboarded = true;
     DataFiles(world.directory).saveSettings(settings);
     AppStore store(world.forStore());
-    MainWindow window(store, Autostart(world.home.path() + QStringLiteral("/autostart")));
+    MainWindow window(store);
     window.show();
     Ledger ledger(store);
     Owner owner(world.random, store, ledger, window);

@@ -56,7 +56,7 @@ struct World {
     explicit World(unsigned seed) : random(seed), server(random) {}
 
     AppStore::Environment forStore() {
-        return {[this] { return now; }, random, directory, notifier, server};
+        return {[this] { return now; }, random, directory, notifier, loginItem, server};
     }
 
     QTemporaryDir home;
@@ -64,6 +64,7 @@ struct World {
     SeededRandom random;
     FickleServer server;
     SilentNotifier notifier;
+    NoLoginItem loginItem;
     Date now = dateFromSeconds(1'750'000'000);
 };
 

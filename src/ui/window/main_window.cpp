@@ -32,9 +32,8 @@
 
 namespace velmora {
 
-MainWindow::MainWindow(AppStore& store, Autostart autostart)
+MainWindow::MainWindow(AppStore& store)
     : store_(store),
-      autostart_(std::move(autostart)),
       guard_(new AnswerGuard(store, *this)),
       menus_(new CommandMenus(store, this)),
       stack_(new SectionStack(this)) {
@@ -103,7 +102,7 @@ void MainWindow::buildSections() {
     });
     sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
-    sections_[Section::settings] = new SettingsView(store_, autostart_, stack_);
+    sections_[Section::settings] = new SettingsView(store_, stack_);
     for (const auto& [section, screen] : sections_)
         stack_->addWidget(screen);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/autostart.h"
 #include "store/app_store.h"
 
 #include <QWidget>
@@ -28,7 +27,7 @@ class MainWindow : public QWidget {
     Q_OBJECT
 
 public:
-    MainWindow(AppStore& store, Autostart autostart);
+    explicit MainWindow(AppStore& store);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,7 +45,6 @@ private:
     bool isCovered() const;
 
     AppStore& store_;
-    Autostart autostart_;
     AnswerGuard* guard_;
     CommandMenus* menus_;
     TitleStrip* strip_;

@@ -1,7 +1,5 @@
 #include "ui/screens/history/history_view.h"
 
-#include "model/csv.h"
-#include "model/json.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -10,13 +8,15 @@
 #include "ui/screens/history/empty_icon.h"
 #include "ui/screens/history/history_list.h"
 #include "ui/screens/history/record_detail.h"
-#include "ui/screens/history/record_export.h"
 
 #include <QBuffer>
+#include <QFileDialog>
 #include <QMenu>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace velmora {
@@ -30,10 +30,6 @@ QString fileNameFor(const MissionRecord& record) {
         if (!character.isLetterOrNumber() && character != '-')
             character = '-';
     return name;
-}
-
-QByteArray bytesOf(const std::string& text) {
-    return QByteArray::fromStdString(text);
 }
 
 QByteArray pngOf(const QPixmap& picture) {
@@ -147,26 +143,36 @@ void HistoryView::offerExports(QPoint below) {
     const QString name = fileNameFor(record);
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto offer = [&](const QString& title, const QString& suffix, const QString& filter, auto bytes) {
-        connect(menu->addAction(title), &QAction::triggered, this, [=, this] {
-            saveExport({title, name + suffix, filter, bytes()}, window(),
-                       [this](const QString& why) { emit exportFailed(why); });
-        });
+    const auto offer = [&](const QString& title, const QString& suffix, const QString& filter, auto write) {
+        connect(menu->addAction(title), &QAction::triggered, this,
+                [=, this] { saveAs(title, name + suffix, filter, write()); });
     };
     offer(tr("Record as JSON…"), QStringLiteral(".json"), tr("JSON (*.json)"),
-          [record] { return bytesOf(encode(record).value_or("")); });
+          [=, this] { return std::bind_front(&AppStore::exportRecord, &store_, record); });
     offer(tr("Paths and notices as CSV…"), QStringLiteral(".csv"), tr("CSV (*.csv)"),
-          [record] { return bytesOf(pathsCsv(record)); });
-    offer(tr("Map as a picture…"), QStringLiteral(".png"), tr("PNG (*.png)"),
-          [detail = detail_] { return pngOf(detail->mapPicture()); });
-    menu->addSeparator();
-    offer(tr("The list as CSV…"), QStringLiteral("-list.csv"), tr("CSV (*.csv)"), [this] {
-        std::vector<MissionRecord> shown;
-        for (const RecordKey key : list_->shown())
-            shown.push_back(store_.findRecord(key)->record);
-        return bytesOf(recordsCsv(shown));
+          [=, this] { return std::bind_front(&AppStore::exportPaths, &store_, record); });
+    offer(tr("Map as a picture…"), QStringLiteral(".png"), tr("PNG (*.png)"), [this] {
+        return std::bind_front(&AppStore::exportPicture, &store_, pngOf(detail_->mapPicture()));
     });
+    menu->addSeparator();
+    offer(tr("The list as CSV…"), QStringLiteral("-list.csv"), tr("CSV (*.csv)"),
+          [this] { return std::bind_front(&AppStore::exportList, &store_, list_->shown()); });
     menu->popup(below);
+}
+
+/// `write` is given the path that the owner chooses, and returns why nothing was written, if so.
+void HistoryView::saveAs(const QString& title, const QString& name, const QString& filter,
+                         std::function<QString(const QString& path)> write) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto* dialog = new QFileDialog(window(), title, documents, filter);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(name);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QFileDialog::fileSelected, this, [this, write = std::move(write)](const QString& path) {
+        if (const QString why = write(path); !why.isEmpty())
+            emit exportFailed(why);
+    });
+    dialog->open();
 }
 
 void HistoryView::resizeEvent(QResizeEvent*) {

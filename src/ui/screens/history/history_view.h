@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+#include <functional>
+
 namespace velmora {
 
 class HistoryList;
@@ -40,6 +42,8 @@ private:
     void remove(RecordKey key);
     std::optional<RecordKey> neighbour(RecordKey key) const;
     void offerExports(QPoint below);
+    void saveAs(const QString& title, const QString& name, const QString& filter,
+                std::function<QString(const QString& path)> write);
 
     HistoryList* list_;
     RecordDetail* detail_;

@@ -59,8 +59,7 @@ QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
 
 } // namespace
 
-SettingsView::SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent)
-    : Screen(store, parent), autostart_(autostart) {
+SettingsView::SettingsView(AppStore& store, QWidget* parent) : Screen(store, parent) {
     setPage(new Page({.eyebrow = tr("Settings"),
                       .headline = {tr("How the drone "), tr("behaves"), tr(".")},
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
@@ -213,8 +212,8 @@ QWidget* SettingsView::buildAbout() {
     columnOf(rows)->addSpacing(Measure::gap8);
     columnOf(rows)->addLayout(buttons);
     connect(startAtLogin_, &Switch::turned, this, [this](bool on) {
-        autostart_.setOn(on);
-        startAtLogin_->setChecked(autostart_.isOn());
+        store_.setStartAtLogin(on);
+        startAtLogin_->setChecked(store_.startsAtLogin());
     });
     connect(folder, &SBButton::clicked, this,
             [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(store_.dataDirectory().path())); });
@@ -231,7 +230,7 @@ void SettingsView::refresh() {
     trackingNote_->setText(trackingNote(settings.tracking));
     notify_->setChecked(settings.notifyMac);
     topic_->setText(toQString(settings.ntfyTopic));
-    startAtLogin_->setChecked(autostart_.isOn());
+    startAtLogin_->setChecked(store_.startsAtLogin());
 }
 
 /// Whoever is sent here for the connection finds it at the top.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/autostart.h"
 #include "ui/screens/screen.h"
 
 #include <vector>
@@ -19,7 +18,7 @@ class SettingsView : public Screen {
     Q_OBJECT
 
 public:
-    SettingsView(AppStore& store, const Autostart& autostart, QWidget* parent);
+    SettingsView(AppStore& store, QWidget* parent);
 
 protected:
     void refresh() override;
@@ -48,7 +47,6 @@ private:
     template <class Edit>
     void change(Edit edit);
 
-    const Autostart& autostart_;
     QWidget* form_ = nullptr;
     std::vector<Limit> limits_;
     ConnectionForm* connection_ = nullptr;
