@@ -2,12 +2,12 @@
 
 #include "store/store_fixture.h"
 #include "ui/guard/answer_guard.h"
+#include "ui/manual_clock.h"
 #include "ui/window/main_window.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QMouseEvent>
 #include <QTest>
 #include <QWidget>
@@ -39,12 +39,13 @@ protected:
     /// Lets everything that is due happen.
     static void settle() { QApplication::processEvents(); }
 
-    /// Waits until the condition holds; false when it has not after five seconds.
+    /// Moves the user interface's clock until the condition holds; false when it does not within five seconds
+    /// of that clock.
     template <class Condition>
-    static bool waitUntil(Condition condition) {
-        QDeadlineTimer deadline(5000);
-        while (!condition() && !deadline.hasExpired())
-            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    bool waitUntil(Condition condition) {
+        const auto end = clock.now() + std::chrono::seconds(5);
+        while (!condition() && clock.now() < end)
+            clock.advance(std::chrono::milliseconds(20));
         return condition();
     }
 
@@ -88,7 +89,7 @@ protected:
     }
     /// Presses and lets go of a key, through the window.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::qSleep(2); // milliseconds; a press at the very moment of a release counts as a repeat
+        clock.advance(std::chrono::milliseconds(1)); // a press at the very moment of a release is a repeat
         QTest::keyClick(window().windowHandle(), key, modifiers);
         settle();
     }
@@ -99,7 +100,7 @@ protected:
         QAccessible::queryAccessibleInterface(widget)->actionInterface()->doAction(
             QAccessibleActionInterface::pressAction());
         const auto* button = qobject_cast<QAbstractButton*>(widget);
-        EXPECT_TRUE(waitUntil([&] { return !button->isDown(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !button->isDown(); }));
         settle();
     }
     /// Waits until the card, or what else answers an alert, takes a press.
@@ -124,6 +125,8 @@ protected:
         pass(seconds);
         settle();
     }
+
+    ManualClock clock;
 
 private:
     std::unique_ptr<MainWindow> window_;

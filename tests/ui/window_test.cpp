@@ -1,3 +1,5 @@
+#include "ui/look/motion.h"
+#include "ui/look/style.h"
 #include "ui/served_fixture.h"
 
 #include <QAbstractButton>
@@ -155,6 +157,32 @@ TEST_F(WindowTest, NothingBehindTheAlertIsReached) {
     ASSERT_TRUE(waitUntil([&] { return !shows(alertCard); }));
     clickThrough("Settings");
     EXPECT_EQ(store().section(), Section::settings);
+}
+
+TEST_F(WindowTest, NothingMovesWhereTheDesktopAsksForNoMovement) {
+    class StillStyle final : public Style {
+        int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                      QStyleHintReturn* returned) const override {
+            return hint == SH_Widget_Animation_Duration ? 0
+                                                        : Style::styleHint(hint, option, widget, returned);
+        }
+    };
+    QApplication::setStyle(new StillStyle);
+    window();
+    visit(Scenario::driveway);
+    EXPECT_TRUE(shows("Launch drone")) << "the card is there at once";
+    respond(Command::ignore);
+    EXPECT_FALSE(shows("Launch drone"));
+    store().setSection(Section::live);
+    visit(Scenario::driveway);
+    approve();
+    fly(10);
+    const auto look = [&] {
+        clock.advance(Motion::frame * 5);
+        return window().grab().toImage();
+    };
+    EXPECT_EQ(look(), look()) << "nothing pulses";
+    QApplication::setStyle(new Style);
 }
 
 TEST_F(WindowTest, SearchStaysBehindACard) {

@@ -1,11 +1,9 @@
 #include "ui/blocks/art_image.h"
 
 #include "ui/look/art.h"
-#include "ui/look/icons.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
 
 namespace velmora {
 
@@ -55,31 +53,21 @@ void ArtImage::load() {
 void ArtImage::paintEvent(QPaintEvent*) {
     load();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const double below = squareBottom_ ? radius_ : 0; // these corners fall outside the widget
     if (picture_.isNull()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::panel);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, below), radius_, radius_);
-        QRectF icon(0, 0, Measure::missingPictureIcon, Measure::missingPictureIcon);
-        icon.moveCenter(QRectF(rect()).center());
-        paintIcon(painter, icon, Icon::cameras, SB::rule);
+        fillRounded(painter, QRectF(rect()).adjusted(0, 0, 0, below), radius_, SB::panel);
+        paintIcon(painter, QRectF(rect()).center(), Measure::missingPictureIcon, Icon::cameras, SB::rule);
         return;
     }
     if (faint_) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::navy);
-        painter.drawRoundedRect(rect(), radius_, radius_);
+        fillRounded(painter, rect(), radius_, SB::navy);
         painter.setOpacity(faintOpacity);
     }
     const QSizeF shown = picture_.deviceIndependentSize();
     const QPointF corner((width() - shown.width()) / 2, (height() - shown.height()) / 2);
     QBrush brush(picture_);
     brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(brush);
-    painter.drawRoundedRect((QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below), radius_,
-                            radius_);
+    fillRounded(painter, (QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below), radius_, brush);
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "ui/blocks/badge.h"
 
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -19,10 +20,7 @@ double badgeWidth(const QString& text) {
 double paintBadge(QPainter& painter, double right, double y, const QString& text) {
     const double width = badgeWidth(text);
     const QRectF badge(right - width, y - Measure::badgeHeight / 2.0, width, Measure::badgeHeight);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::rule);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(badge.adjusted(0.5, 0.5, -0.5, -0.5), Measure::badgeRadius, Measure::badgeRadius);
+    fillRounded(painter, badge, Measure::badgeRadius, Qt::NoBrush, SB::rule);
     drawText(painter, badge, text, Type::badge, SB::muted, Qt::AlignCenter);
     return width;
 }
@@ -43,9 +41,7 @@ NumberBadge::NumberBadge(int number, QWidget* parent) : QWidget(parent), number_
 
 void NumberBadge::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::rule);
-    painter.drawEllipse(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    fillDisc(painter, QRectF(rect()).center(), width(), Qt::NoBrush, SB::rule);
     drawText(painter, rect(), QString::number(number_), Type::numberBadge, SB::ink, Qt::AlignCenter);
 }
 

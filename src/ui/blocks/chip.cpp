@@ -2,6 +2,7 @@
 
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -33,10 +34,7 @@ void Chip::setText(const QString& text) {
 
 void Chip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::faded(SB::navy, plate));
-    painter.drawRoundedRect(rect(), Measure::thumbnailRadius, Measure::thumbnailRadius);
+    fillRounded(painter, rect(), Measure::thumbnailRadius, SB::faded(SB::navy, plate));
     paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
                    {.color = SB::dTeal, .diameter = Measure::statusDotInRow});
     drawText(painter, QRectF(textX, 0, width() - textX - Measure::chipPadding + 1, height()),

@@ -3,6 +3,7 @@
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -30,18 +31,13 @@ bool RadioChoice::hitButton(const QPoint& position) const {
 
 void RadioChoice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QRectF circle(0, (height() - Measure::radioCircle) / 2.0, Measure::radioCircle, Measure::radioCircle);
-    painter.setBrush(SB::page);
-    if (isChecked()) {
-        constexpr double ring = Measure::radioRing;
-        painter.setPen(QPen(SB::teal, ring));
-        painter.drawEllipse(circle.adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2));
-    } else {
-        painter.setPen(SB::faded(SB::muted, underMouse() ? 0.8 : 0.55));
-        painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
-    }
-    const QRectF words(circle.right() + Measure::radioGap, 0, width(), height());
+    const QPointF center(Measure::radioCircle / 2.0, height() / 2.0);
+    if (isChecked())
+        fillDisc(painter, center, Measure::radioCircle, SB::page, SB::teal, Measure::radioRing);
+    else
+        fillDisc(painter, center, Measure::radioCircle, SB::page,
+                 SB::faded(SB::muted, underMouse() ? 0.8 : 0.55));
+    const QRectF words(Measure::radioCircle + Measure::radioGap, 0, width(), height());
     drawText(painter, words, text(), Type::compactRow, SB::ink, Qt::AlignVCenter);
 }
 
@@ -67,13 +63,8 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        if (isChecked()) {
-            painter.setPen(SB::rule);
-            painter.setBrush(SB::page);
-            painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::thumbnailRadius,
-                                    Measure::thumbnailRadius);
-        }
+        if (isChecked())
+            fillRounded(painter, rect(), Measure::thumbnailRadius, SB::page, SB::rule);
         drawText(painter, rect(), text(), isChecked() ? Type::segmentChosen : Type::segment,
                  isChecked() || underMouse() ? SB::ink : SB::muted, Qt::AlignCenter);
     }
@@ -111,11 +102,7 @@ void SegmentedChoice::setCurrentIndex(int index) {
 
 void SegmentedChoice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::rule);
-    painter.setBrush(SB::panel);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::buttonRadius,
-                            Measure::buttonRadius);
+    fillRounded(painter, rect(), Measure::buttonRadius, SB::panel, SB::rule);
 }
 
 } // namespace velmora

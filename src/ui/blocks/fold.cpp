@@ -1,22 +1,16 @@
 #include "ui/blocks/fold.h"
 
-#include "ui/look/motion.h"
-
 #include <QEvent>
 
 #include <cmath>
 
 namespace velmora {
 
-Fold::Fold(QWidget* block, int gap, int duration, QWidget* parent)
-    : QWidget(parent), block_(block), gap_(gap) {
+Fold::Fold(QWidget* block, int gap, std::chrono::milliseconds duration, QWidget* parent)
+    : QWidget(parent), block_(block), gap_(gap), share_(*this, duration, QEasingCurve::OutCubic) {
     block_->setParent(this);
-    share_.setStartValue(0.0);
-    share_.setEndValue(0.0);
-    share_.setDuration(duration);
-    share_.setEasingCurve(QEasingCurve::OutCubic);
-    connect(&share_, &QVariantAnimation::valueChanged, this, &Fold::follow);
-    connect(&share_, &QVariantAnimation::finished, this, [this] { setVisible(open_); });
+    connect(&share_, &Transition::changed, this, &Fold::follow);
+    connect(&share_, &Transition::finished, this, [this] { setVisible(open_); });
     setFixedHeight(0);
     hide();
 }
@@ -25,21 +19,9 @@ void Fold::setOpen(bool open) {
     if (open == open_)
         return;
     open_ = open;
-    const double to = open ? 1 : 0;
-    const double from = share_.currentValue().toDouble();
-    const bool moves = parentWidget()->isVisible() && !Motion::reduced();
-    share_.stop();
-    share_.setStartValue(moves ? from : to);
-    share_.setEndValue(to);
     block_->setVisible(true);
     setVisible(true);
-    if (moves) {
-        share_.start();
-        return;
-    }
-    share_.setCurrentTime(share_.duration());
-    follow();
-    setVisible(open);
+    share_.moveTo(open ? 1 : 0);
 }
 
 int Fold::fullHeight() const {
@@ -50,7 +32,7 @@ int Fold::fullHeight() const {
 
 void Fold::follow() {
     const int full = fullHeight();
-    const int shown = static_cast<int>(std::lround(full * share_.currentValue().toDouble()));
+    const int shown = static_cast<int>(std::lround(full * share_.value()));
     block_->setGeometry(0, shown - full, width(), full - gap_);
     setFixedHeight(shown);
 }

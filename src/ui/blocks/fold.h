@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QVariantAnimation>
+#include "ui/look/transition.h"
+
 #include <QWidget>
 
 namespace velmora {
@@ -10,8 +11,8 @@ class Fold : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes the block over. `gap` is room below it while open, pixels; `duration` in milliseconds.
-    Fold(QWidget* block, int gap, int duration, QWidget* parent);
+    /// Takes the block over. `gap` is room below it while open, pixels.
+    Fold(QWidget* block, int gap, std::chrono::milliseconds duration, QWidget* parent);
 
     void setOpen(bool open);
     bool isOpen() const { return open_; }
@@ -26,7 +27,7 @@ private:
 
     QWidget* block_;
     int gap_;
-    QVariantAnimation share_; ///< of the full height: 0 closed, 1 open
+    Transition share_; ///< of the full height: 0 closed, 1 open
     bool open_ = false;
 };
 

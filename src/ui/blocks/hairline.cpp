@@ -1,11 +1,7 @@
 #include "ui/blocks/hairline.h"
 
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
-
-#include <algorithm>
-#include <cmath>
 
 namespace velmora {
 
@@ -26,20 +22,6 @@ QColor colorOf(Hairline::Tone tone) {
 }
 
 } // namespace
-
-void paintHairline(QPainter& painter, const QRect& line, const QColor& color) {
-    const double scale = painter.device()->devicePixelRatioF();
-    const double thickness = std::max(std::floor(scale), 1.0) / scale;
-    QRectF thin = line;
-    if (line.width() < line.height())
-        thin.setWidth(thickness);
-    else
-        thin.setHeight(thickness);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(thin, color);
-    painter.restore();
-}
 
 Hairline::Hairline(QWidget* parent, Tone tone) : QWidget(parent), color_(colorOf(tone)) {
     setFixedHeight(1);

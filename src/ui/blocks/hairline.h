@@ -3,13 +3,7 @@
 #include <QColor>
 #include <QWidget>
 
-class QPainter;
-
 namespace velmora {
-
-/// Fills a line that is one unit wide or high, as thick in one place as in another where a unit is not a
-/// whole number of the screen's pixels.
-void paintHairline(QPainter& painter, const QRect& line, const QColor& color);
 
 /// A thin line between two blocks.
 class Hairline : public QWidget {

@@ -3,9 +3,8 @@
 #include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
 
 namespace velmora {
 
@@ -28,14 +27,10 @@ void IconButton::setIcon(Icon icon, const QString& name) {
 
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::rule);
-    painter.setBrush(isDown() ? SB::rule2 : underMouse() ? SB::panel : SB::page);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::buttonRadius,
-                            Measure::buttonRadius);
-    QRectF icon(0, 0, Measure::buttonIcon, Measure::buttonIcon);
-    icon.moveCenter(QRectF(rect()).center());
-    paintIcon(painter, icon, icon_, isEnabled() ? SB::ink : SB::faded(SB::muted, 0.6));
+    const QColor fill = isDown() ? SB::rule2 : underMouse() ? SB::panel : SB::page;
+    fillRounded(painter, rect(), Measure::buttonRadius, fill, SB::rule);
+    paintIcon(painter, QRectF(rect()).center(), Measure::buttonIcon, icon_,
+              isEnabled() ? SB::ink : SB::faded(SB::muted, 0.6));
 }
 
 } // namespace velmora

@@ -1,8 +1,8 @@
 #include "ui/blocks/menu_button.h"
 
 #include "ui/blocks/focus_ring.h"
-#include "ui/look/icons.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -65,9 +65,8 @@ void MenuButton::paintEvent(QPaintEvent*) {
     const QColor color = underMouse() ? SB::blue : SB::ink;
     const QRectF words = QRectF(rect()).adjusted(0, 0, -Measure::gap4 - Measure::chevron, 0);
     drawText(painter, words, text(), Type::compactRow, color, Qt::AlignVCenter);
-    const QRectF chevron(width() - Measure::chevron, (height() - Measure::chevron) / 2.0, Measure::chevron,
-                         Measure::chevron);
-    paintIcon(painter, chevron, Icon::chevron, color);
+    paintIcon(painter, {width() - Measure::chevron / 2.0, height() / 2.0}, Measure::chevron, Icon::chevron,
+              color);
 }
 
 } // namespace velmora

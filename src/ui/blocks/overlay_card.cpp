@@ -3,12 +3,12 @@
 #include "ui/blocks/accessibility.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace velmora {
@@ -21,13 +21,12 @@ constexpr double smallest = 0.98; // of the card's size when it begins to appear
 /// One soft shadow: offset and blur in pixels, drawn as nested outlines that add up.
 void paintShadow(QPainter& painter, const QRectF& card, double offset, double blur, double opacity) {
     constexpr int steps = 16;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::faded(SB::navy, 1 - std::pow(1 - opacity, 1.0 / steps)));
+    const QColor share = SB::faded(SB::navy, 1 - std::pow(1 - opacity, 1.0 / steps));
     for (int step = 0; step < steps; ++step) {
         const double grown = blur * (0.5 - static_cast<double>(step) / steps);
         const double radius = std::max(Measure::overlayRadius + grown, 2.0);
-        painter.drawRoundedRect(card.translated(0, offset).adjusted(-grown, -grown, grown, grown), radius,
-                                radius);
+        fillRounded(painter, card.translated(0, offset).adjusted(-grown, -grown, grown, grown), radius,
+                    share);
     }
 }
 
@@ -39,24 +38,24 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::page);
-        painter.drawRoundedRect(rect(), Measure::overlayRadius, Measure::overlayRadius);
+        fillRounded(painter, rect(), Measure::overlayRadius, SB::page);
     }
 };
 
 } // namespace
 
 OverlayCard::OverlayCard(int cardWidth, QWidget* window)
-    : QWidget(window), card_(new Surface(this)), column_(new QVBoxLayout(card_)) {
+    : QWidget(window),
+      card_(new Surface(this)),
+      column_(new QVBoxLayout(card_)),
+      appearance_(*this, Motion::cardIn, QEasingCurve::OutCubic) {
     declareRole(this, QAccessible::Dialog);
     setFocusPolicy(Qt::StrongFocus);
     card_->setFixedWidth(cardWidth);
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(0);
-    connect(&appearance_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
-    connect(&appearance_, &QVariantAnimation::finished, this, &OverlayCard::settled);
+    connect(&appearance_, &Transition::changed, this, qOverload<>(&QWidget::update));
+    connect(&appearance_, &Transition::finished, this, &OverlayCard::settled);
     window->installEventFilter(this);
     hide();
 }
@@ -73,7 +72,8 @@ void OverlayCard::open() {
     raise(); // before the window, told by the show event, raises what belongs above every card
     show();
     setFocus(Qt::OtherFocusReason);
-    animate(0, 1, Motion::cardIn);
+    appearance_.setDuration(Motion::cardIn);
+    appearance_.move(0, 1);
 }
 
 void OverlayCard::close() {
@@ -84,22 +84,14 @@ void OverlayCard::close() {
     const bool hasFocus = focus && (focus == this || isAncestorOf(focus));
     picture_ = card_->grab();
     card_->hide();
-    animate(1, 0, Motion::cardOut);
+    appearance_.setDuration(Motion::cardOut);
+    appearance_.move(1, 0);
     if (!hasFocus)
         return;
     if (focusBefore_ && focusBefore_->isVisible())
         focusBefore_->setFocus(Qt::OtherFocusReason);
     else
         focus->clearFocus();
-}
-
-void OverlayCard::animate(double from, double to, int duration) {
-    appearance_.stop();
-    appearance_.setStartValue(from);
-    appearance_.setEndValue(to);
-    appearance_.setEasingCurve(QEasingCurve::OutCubic);
-    appearance_.setDuration(duration);
-    appearance_.start();
 }
 
 void OverlayCard::settled() {
@@ -161,11 +153,11 @@ bool OverlayCard::focusNextPrevChild(bool next) {
 void OverlayCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const bool moving = appearance_.state() == QAbstractAnimation::Running;
-    const double shown = moving ? appearance_.currentValue().toDouble() : 1;
+    const bool moving = appearance_.isRunning();
+    const double shown = appearance_.value();
     painter.fillRect(rect(), SB::faded(SB::navy, veil * shown));
     painter.setOpacity(shown);
-    if (moving && !Motion::reduced()) {
+    if (moving) {
         const QPointF center = QRectF(card_->geometry()).center();
         const double scale = smallest + (1 - smallest) * shown;
         painter.translate(center + QPointF(0, (1 - shown) * Measure::overlayRise));

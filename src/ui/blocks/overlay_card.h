@@ -1,8 +1,9 @@
 #pragma once
 
+#include "ui/look/transition.h"
+
 #include <QPixmap>
 #include <QPointer>
-#include <QVariantAnimation>
 #include <QWidget>
 
 class QVBoxLayout;
@@ -42,14 +43,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void animate(double from, double to, int duration);
     void settled();
     QList<QWidget*> focusable() const;
 
     QWidget* card_;
     QVBoxLayout* column_;
-    QVariantAnimation appearance_; ///< 0: away; 1: there
-    QPixmap picture_;              ///< the card while it moves
+    Transition appearance_; ///< 0: away; 1: there
+    QPixmap picture_;       ///< the card while it moves
     QPointer<QWidget> focusBefore_;
     bool open_ = false;
 };

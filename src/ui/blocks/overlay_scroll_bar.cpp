@@ -1,10 +1,10 @@
 #include "ui/blocks/overlay_scroll_bar.h"
 
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -13,15 +13,14 @@ namespace velmora {
 
 namespace {
 
-constexpr int shownFor = 900; // milliseconds after the last movement
+constexpr std::chrono::milliseconds shownFor{900}; // after the last movement
 constexpr double shortestThumb = 32;
 
 } // namespace
 
-OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent) : QWidget(parent), model_(model) {
-    rest_.setSingleShot(true);
-    rest_.setInterval(shownFor);
-    connect(&rest_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent)
+    : QWidget(parent), model_(model), rest_(shownFor, UiTimer::Mode::singleShot) {
+    connect(&rest_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
     connect(model, &QScrollBar::valueChanged, this, [this] {
         rest_.start();
         update();
@@ -53,10 +52,7 @@ void OverlayScrollBar::paintEvent(QPaintEvent*) {
     if (!rest_.isActive() && !underMouse() && !held_)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::rule);
-    painter.drawRoundedRect(thumb(), Measure::scrollBar / 2.0, Measure::scrollBar / 2.0);
+    fillRounded(painter, thumb(), Measure::scrollBar / 2.0, SB::rule);
 }
 
 void OverlayScrollBar::enterEvent(QEnterEvent*) {

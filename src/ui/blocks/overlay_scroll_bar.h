@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QTimer>
+#include "ui/look/ui_clock.h"
+
 #include <QWidget>
 
 class QScrollBar;
@@ -31,7 +32,7 @@ private:
     void scrollTo(double top);
 
     QScrollBar* model_;
-    QTimer rest_;
+    UiTimer rest_;
     double grip_ = 0; ///< where the thumb is held, from its top
     bool held_ = false;
 };

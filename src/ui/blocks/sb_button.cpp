@@ -3,6 +3,7 @@
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -65,18 +66,15 @@ SBButtonLook SBButton::lookOf(SBButtonKind kind, Look look) {
 }
 
 SBButton::SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent)
-    : QAbstractButton(parent), style_(style) {
+    : QAbstractButton(parent), style_(style), fade_(*this, Motion::hover) {
     setText(text);
     setAccessibleName(text);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(style.wide ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
     FocusRing::setLook(this, {Measure::buttonRadius, style.kind == SBButtonKind::onDark});
     shown_ = target_ = lookOf(style_.kind, wantedLook());
-    fade_.setStartValue(0.0);
-    fade_.setEndValue(1.0);
-    fade_.setDuration(Motion::hover);
-    connect(&fade_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        const double share = value.toDouble();
+    connect(&fade_, &Transition::changed, this, [this] {
+        const double share = fade_.value();
         shown_ = {SB::mixed(from_.fill, target_.fill, share), SB::mixed(from_.border, target_.border, share),
                   SB::mixed(from_.text, target_.text, share)};
         update();
@@ -118,13 +116,7 @@ void SBButton::fadeToWantedLook() {
         return;
     from_ = shown_;
     target_ = wanted;
-    fade_.stop();
-    if (isVisible()) {
-        fade_.start();
-    } else {
-        shown_ = target_;
-        update();
-    }
+    fade_.move(0, 1);
 }
 
 bool SBButton::event(QEvent* event) {
@@ -152,23 +144,20 @@ void SBButton::keyPressEvent(QKeyEvent* event) {
 
 void SBButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     if (pale_)
         painter.setOpacity(paleOpacity);
-    painter.setPen(shown_.border.alpha() > 0 ? QPen(shown_.border, 1) : QPen(Qt::NoPen));
-    painter.setBrush(shown_.fill);
-    const double inset = shown_.border.alpha() > 0 ? 0.5 : 0;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), Measure::buttonRadius,
-                            Measure::buttonRadius);
+    if (shown_.border.alpha() > 0)
+        fillRounded(painter, rect(), Measure::buttonRadius, shown_.fill, shown_.border);
+    else
+        fillRounded(painter, rect(), Measure::buttonRadius, shown_.fill);
 
     const TextStyle& style = textStyleOf(style_);
     const double words = textWidth(text(), style);
     const double icon = style_.icon ? Measure::buttonIcon + Measure::gap8 : 0;
     double x = (width() - words - icon) / 2;
     if (style_.icon) {
-        paintIcon(painter,
-                  {x, (height() - Measure::buttonIcon) / 2.0, Measure::buttonIcon, Measure::buttonIcon},
-                  *style_.icon, shown_.text);
+        paintIcon(painter, {x + Measure::buttonIcon / 2.0, height() / 2.0}, Measure::buttonIcon, *style_.icon,
+                  shown_.text);
         x += icon;
     }
     drawText(painter, QRectF(x, 0, words + 1, height()), text(), style, shown_.text, Qt::AlignVCenter);

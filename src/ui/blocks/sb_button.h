@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ui/look/icons.h"
+#include "ui/look/transition.h"
 
 #include <QAbstractButton>
-#include <QVariantAnimation>
 
 #include <optional>
 
@@ -55,7 +55,7 @@ private:
 
     SBButtonStyle style_;
     SBButtonLook from_, shown_, target_;
-    QVariantAnimation fade_;
+    Transition fade_;
     bool pale_ = false;
 };
 

@@ -2,10 +2,10 @@
 
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -64,22 +64,14 @@ void Slider::wheelEvent(QWheelEvent* event) {
 
 void Slider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QPointF thumb(thumbX(), height() / 2.0);
     QRectF track(0, thumb.y() - Measure::sliderTrack / 2.0, width(), Measure::sliderTrack);
     const double radius = track.height() / 2;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::rule2);
-    painter.drawRoundedRect(track, radius, radius);
+    fillRounded(painter, track, radius, SB::rule2);
     track.setRight(thumb.x());
-    painter.setBrush(SB::teal);
-    painter.drawRoundedRect(track, radius, radius);
-    constexpr double half = Measure::sliderThumb / 2.0;
-    painter.setBrush(SB::faded(SB::navy, 0.08));
-    painter.drawEllipse(thumb + QPointF(0, 1), half + 0.5, half + 0.5);
-    painter.setPen(SB::rule);
-    painter.setBrush(SB::page);
-    painter.drawEllipse(thumb, half - 0.5, half - 0.5);
+    fillRounded(painter, track, radius, SB::teal);
+    fillDisc(painter, thumb + QPointF(0, 1), Measure::sliderThumb + 1, SB::faded(SB::navy, 0.08));
+    fillDisc(painter, thumb, Measure::sliderThumb, SB::page, SB::rule);
 }
 
 } // namespace velmora

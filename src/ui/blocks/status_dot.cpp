@@ -1,13 +1,10 @@
 #include "ui/blocks/status_dot.h"
 
 #include "ui/look/motion.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QEasingCurve>
-#include <QPainter>
-#include <QTimerEvent>
-
-#include <cmath>
 
 namespace velmora {
 
@@ -18,28 +15,22 @@ constexpr double pulseFrom = 8, pulseTo = 20; // diameters
 
 } // namespace
 
-void paintDisc(QPainter& painter, QPointF center, double diameter, const QColor& color) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawEllipse(center, diameter / 2, diameter / 2);
-}
-
 void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look) {
-    painter.setRenderHint(QPainter::Antialiasing);
     const QColor halo = look.dark ? SB::faded(look.color, darkHalo) : SB::dotBg;
     if (look.pulse >= 0) {
         const double grown = QEasingCurve(QEasingCurve::OutCubic).valueForProgress(look.pulse);
-        paintDisc(painter, center, pulseFrom + (pulseTo - pulseFrom) * grown,
-                  SB::faded(halo, 1 - look.pulse));
+        fillDisc(painter, center, pulseFrom + (pulseTo - pulseFrom) * grown, SB::faded(halo, 1 - look.pulse));
     } else if (look.halo) {
-        paintDisc(painter, center, Measure::statusHalo, halo);
+        fillDisc(painter, center, Measure::statusHalo, halo);
     }
-    paintDisc(painter, center, look.diameter, look.color);
+    fillDisc(painter, center, look.diameter, look.color);
 }
 
-StatusDot::StatusDot(const DotLook& look, QWidget* parent) : QWidget(parent), look_(look) {
+StatusDot::StatusDot(const DotLook& look, QWidget* parent)
+    : QWidget(parent), look_(look), frames_(Motion::frame) {
     const int side = static_cast<int>(look.halo ? pulseTo : look.diameter);
     setFixedSize(side, side);
+    connect(&frames_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
 }
 
 void StatusDot::setLook(const DotLook& look) {
@@ -57,10 +48,7 @@ void StatusDot::setPulsing(bool pulsing) {
 }
 
 void StatusDot::runOrRest() {
-    if (pulsing_ && onScreen_ && !Motion::reduced())
-        timer_.start(Motion::frame, this);
-    else
-        timer_.stop();
+    frames_.setActive(pulsing_ && onScreen_ && !Motion::reduced());
     update();
 }
 
@@ -74,15 +62,11 @@ void StatusDot::hideEvent(QHideEvent*) {
     runOrRest();
 }
 
-void StatusDot::timerEvent(QTimerEvent*) {
-    update();
-}
-
 void StatusDot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     DotLook look = look_;
-    if (timer_.isActive())
-        look.pulse = std::fmod(Motion::seconds(), Motion::pulseSeconds) / Motion::pulseSeconds;
+    if (frames_.isActive())
+        look.pulse = Motion::pulseAt(Motion::seconds());
     paintStatusDot(painter, QRectF(rect()).center(), look);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/look/measures.h"
+#include "ui/look/ui_clock.h"
 
-#include <QBasicTimer>
 #include <QColor>
 #include <QWidget>
 
@@ -19,7 +19,6 @@ struct DotLook {
     bool operator==(const DotLook&) const = default;
 };
 
-void paintDisc(QPainter& painter, QPointF center, double diameter, const QColor& color);
 void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look);
 
 /// A dot whose halo pulses while a mission is under way.
@@ -34,7 +33,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -44,7 +42,7 @@ private:
     DotLook look_;
     bool pulsing_ = false;
     bool onScreen_ = false; ///< false also while the window is minimised
-    QBasicTimer timer_;
+    UiTimer frames_;
 };
 
 } // namespace velmora

@@ -4,24 +4,22 @@
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
-#include <QPainter>
 #include <QSignalBlocker>
 
 namespace velmora {
 
-Switch::Switch(const QString& name, QWidget* parent) : QAbstractButton(parent) {
+Switch::Switch(const QString& name, QWidget* parent)
+    : QAbstractButton(parent), position_(*this, Motion::toggle) {
     setCheckable(true);
     setAccessibleName(name);
     setFixedSize(Measure::switchSize);
     setFocusPolicy(Qt::StrongFocus);
     letEnterPress(this);
     FocusRing::setLook(this, {Measure::switchSize.height() / 2.0});
-    position_.setDuration(Motion::toggle);
-    position_.setStartValue(0.0);
-    position_.setEndValue(0.0);
-    connect(&position_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(&position_, &Transition::changed, this, qOverload<>(&QWidget::update));
     connect(this, &QAbstractButton::toggled, this, &Switch::slide);
     connect(this, &QAbstractButton::toggled, this, &Switch::turned);
 }
@@ -35,26 +33,17 @@ void Switch::setChecked(bool on) {
 }
 
 void Switch::slide(bool on) {
-    const QVariant from = position_.currentValue();
-    position_.stop();
-    position_.setStartValue(isVisible() && !Motion::reduced() ? from : QVariant(on ? 1.0 : 0.0));
-    position_.setEndValue(on ? 1.0 : 0.0);
-    position_.start();
+    position_.moveTo(on ? 1 : 0);
 }
 
 void Switch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled())
         painter.setOpacity(0.5);
-    const double on = position_.currentValue().toDouble();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::mixed(SB::rule, SB::teal, on));
-    painter.drawRoundedRect(rect(), height() / 2.0, height() / 2.0);
-    const double edge = (height() - Measure::switchThumb) / 2.0;
-    const double travel = width() - Measure::switchThumb - 2 * edge;
-    painter.setBrush(SB::page);
-    painter.drawEllipse(QRectF(edge + travel * on, edge, Measure::switchThumb, Measure::switchThumb));
+    const double on = position_.value();
+    const double middle = height() / 2.0, travel = width() - height();
+    fillRounded(painter, rect(), middle, SB::mixed(SB::rule, SB::teal, on));
+    fillDisc(painter, {middle + travel * on, middle}, Measure::switchThumb, SB::page);
 }
 
 } // namespace velmora

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ui/look/transition.h"
+
 #include <QAbstractButton>
-#include <QVariantAnimation>
 
 namespace velmora {
 
@@ -25,7 +26,7 @@ protected:
 private:
     void slide(bool on);
 
-    QVariantAnimation position_; ///< of the thumb: 0 off, 1 on
+    Transition position_; ///< of the thumb: 0 off, 1 on
 };
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -40,11 +41,10 @@ void TextField::setRefused(bool refused) {
 void TextField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(refused_ ? SB::alert : hasFocus() ? SB::blue : SB::rule);
-        painter.setBrush(isEnabled() ? SB::page : SB::panel);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::thumbnailRadius,
-                                Measure::thumbnailRadius);
+        fillRounded(painter, rect(), Measure::thumbnailRadius, isEnabled() ? SB::page : SB::panel,
+                    refused_     ? SB::alert
+                    : hasFocus() ? SB::blue
+                                 : SB::rule);
     }
     QLineEdit::paintEvent(event);
 }

@@ -1,13 +1,12 @@
 #include "ui/blocks/toast.h"
 
 #include "ui/blocks/accessibility.h"
-#include "ui/blocks/status_dot.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
 #include <QEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -23,12 +22,10 @@ constexpr double textLeft = padding + dot + Measure::gap8;
 
 } // namespace
 
-Toast::Toast(QWidget* window) : QWidget(window) {
+Toast::Toast(QWidget* window) : QWidget(window), time_(messageTime, UiTimer::Mode::singleShot) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     declareRole(this, QAccessible::AlertMessage);
-    time_.setSingleShot(true);
-    time_.setInterval(messageTime);
-    connect(&time_, &QTimer::timeout, this, &QWidget::hide);
+    connect(&time_, &UiTimer::timeout, this, &QWidget::hide);
     window->installEventFilter(this);
     hide();
 }
@@ -60,14 +57,10 @@ bool Toast::eventFilter(QObject* watched, QEvent* event) {
 
 void Toast::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::faded(SB::dTitle, 0.2));
-    painter.setBrush(SB::navy);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::cardRadius,
-                            Measure::cardRadius);
+    fillRounded(painter, rect(), Measure::cardRadius, SB::navy, SB::faded(SB::dTitle, 0.2));
     const QPointF center(padding + dot / 2, height() / 2.0);
-    paintDisc(painter, center, dot + 2, SB::dTitle);
-    paintDisc(painter, center, dot, SB::alert);
+    fillDisc(painter, center, dot + 2, SB::dTitle);
+    fillDisc(painter, center, dot, SB::alert);
     drawText(painter, QRectF(rect()).adjusted(textLeft, 0, -padding, 0), message_, Type::link, SB::dTitle,
              Qt::AlignVCenter);
 }

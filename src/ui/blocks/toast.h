@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QTimer>
+#include "ui/look/ui_clock.h"
+
 #include <QWidget>
 
 namespace velmora {
@@ -24,7 +25,7 @@ private:
     void place();
 
     QString message_;
-    QTimer time_;
+    UiTimer time_;
 };
 
 } // namespace velmora

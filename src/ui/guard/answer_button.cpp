@@ -32,7 +32,7 @@ bool AnswerButton::event(QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         byMouse_ = true;
-        press_ = guard_.admit(static_cast<QMouseEvent*>(event)->timestamp());
+        press_ = guard_.admit(UiClock::current().stampOf(*static_cast<QMouseEvent*>(event)));
         return press_ ? SBButton::event(event) : true;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease: {

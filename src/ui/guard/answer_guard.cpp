@@ -1,7 +1,5 @@
 #include "ui/guard/answer_guard.h"
 
-#include "model/boot_clock.h"
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,18 +8,10 @@
 
 namespace velmora {
 
-namespace {
-
-constexpr auto beatInterval = std::chrono::milliseconds(50);
-
-} // namespace
-
 AnswerGuard::AnswerGuard(AppStore& store, QWidget& window)
     : QObject(&window), store_(store), window_(window) {
     qApp->installEventFilter(this);
-    beat_.setTimerType(Qt::PreciseTimer);
-    beat_.setInterval(beatInterval);
-    connect(&beat_, &QTimer::timeout, this, &AnswerGuard::beat);
+    connect(&beat_, &UiTimer::timeout, this, &AnswerGuard::beat);
     connect(&store_, &AppStore::stateChanged, this, &AnswerGuard::followAlert);
     connect(&store_, &AppStore::freshnessChanged, this, &AnswerGuard::followAlert);
     followAlert();
@@ -32,20 +22,20 @@ void AnswerGuard::followAlert() {
         return;
     rule_.cardGone();
     invalidatePresses();
-    alert_ ? beat_.start() : beat_.stop();
+    beat_.setActive(alert_.has_value());
 }
 
 void AnswerGuard::cardPainted() {
     if (alert_ && !rule_.cardWasPainted())
-        rule_.cardPainted(sinceBoot());
+        rule_.cardPainted(clock_.now());
 }
 
 bool AnswerGuard::isOpen() const {
-    return alert_ && rule_.counts(sinceBoot());
+    return alert_ && rule_.counts(clock_.now());
 }
 
 std::optional<AnswerGuard::Press> AnswerGuard::admit(std::uint64_t stamp) {
-    if (!passesStallCheck() || !alert_ || !rule_.counts(eventClock_.began(stamp, sinceBoot())))
+    if (!passesStallCheck() || !alert_ || !rule_.counts(eventClock_.began(stamp, clock_.now())))
         return std::nullopt;
     return Press{*alert_, round_};
 }
@@ -53,14 +43,14 @@ std::optional<AnswerGuard::Press> AnswerGuard::admit(std::uint64_t stamp) {
 void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
     if (!passesStallCheck() || !press || press->round != round_ || !store_.answer(command, press->alert))
         return;
-    rule_.restart(sinceBoot()); // a double click answers once
+    rule_.restart(clock_.now()); // a double click answers once
     invalidatePresses();
     emit answered();
 }
 
 /// The clock of the time stamps does not run during a suspend, so its offset is learned again after a stall.
 bool AnswerGuard::passesStallCheck() {
-    if (rule_.beat(sinceBoot()))
+    if (rule_.beat(clock_.now()))
         return true;
     eventClock_ = {};
     invalidatePresses();
@@ -88,11 +78,12 @@ bool AnswerGuard::eventFilter(QObject* watched, QEvent* event) {
         followWindow(*event);
     if (!watched->isWindowType() || !event->isInputEvent())
         return false;
-    eventClock_.began(static_cast<QInputEvent*>(event)->timestamp(), sinceBoot()); // a sample of the delay
+    eventClock_.began(clock_.stampOf(*static_cast<QInputEvent*>(event)),
+                      clock_.now()); // a sample of the delay
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)
         return dropsKey(static_cast<QKeyEvent&>(*event));
     if (event->type() == QEvent::KeyRelease)
-        keys_.released(eventOf(static_cast<QKeyEvent&>(*event), sinceBoot()));
+        keys_.released(eventOf(static_cast<QKeyEvent&>(*event), clock_.now()));
     return false;
 }
 
@@ -103,7 +94,7 @@ void AnswerGuard::followWindow(const QEvent& event) {
         invalidatePresses();
         break;
     case QEvent::WindowActivate:
-        rule_.windowActivated(sinceBoot());
+        rule_.windowActivated(clock_.now());
         invalidatePresses();
         break;
     case QEvent::WindowDeactivate:
@@ -122,7 +113,7 @@ bool AnswerGuard::dropsKey(QKeyEvent& key) {
     if (key.type() != QEvent::ShortcutOverride)
         return false;
     const bool repeats =
-        keys_.pressed(eventOf(key, eventClock_.began(key.timestamp(), sinceBoot()))).isRepeat;
+        keys_.pressed(eventOf(key, eventClock_.began(clock_.stampOf(key), clock_.now()))).isRepeat;
     const bool drops = repeats && key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     if (drops)
         key.accept(); // then it is no shortcut, only a press
@@ -131,11 +122,11 @@ bool AnswerGuard::dropsKey(QKeyEvent& key) {
 
 bool AnswerGuard::dropsAnswerKey(QKeyEvent& key) {
     const bool judged = key.type() == QEvent::KeyPress && verdict_ && verdict_->key == key.key() &&
-                        (key.timestamp() == 0 || key.timestamp() == verdict_->stamp);
+                        (clock_.stampOf(key) == 0 || clock_.stampOf(key) == verdict_->stamp);
     const bool drops = judged ? !verdict_->mayPress : !mayPress(key);
     verdict_.reset();
     if (key.type() == QEvent::ShortcutOverride)
-        verdict_ = {key.key(), key.timestamp(), !drops};
+        verdict_ = {key.key(), clock_.stampOf(key), !drops};
     if (drops)
         key.accept();
     return drops;
@@ -143,16 +134,16 @@ bool AnswerGuard::dropsAnswerKey(QKeyEvent& key) {
 
 bool AnswerGuard::mayPress(const QKeyEvent& key) {
     const KeyPresses::Press press =
-        keys_.pressed(eventOf(key, eventClock_.began(key.timestamp(), sinceBoot())));
+        keys_.pressed(eventOf(key, eventClock_.began(clock_.stampOf(key), clock_.now())));
     if (alert_)
-        return !press.isRepeat && press.othersUp && admit(key.timestamp());
+        return !press.isRepeat && press.othersUp && admit(clock_.stampOf(key));
     const bool onButton = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
     return !press.isRepeat || !onButton;
 }
 
 KeyPresses::Event AnswerGuard::eventOf(const QKeyEvent& key, EventTime time) const {
     const auto code = key.nativeScanCode() ? key.nativeScanCode() : static_cast<quint32>(key.key());
-    return {code, KeyPresses::isAnswerKey(key.key()), key.timestamp(), time, key.isAutoRepeat()};
+    return {code, KeyPresses::isAnswerKey(key.key()), clock_.stampOf(key), time, key.isAutoRepeat()};
 }
 
 } // namespace velmora

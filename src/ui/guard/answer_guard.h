@@ -3,8 +3,7 @@
 #include "store/app_store.h"
 #include "ui/guard/key_presses.h"
 #include "ui/guard/press_rule.h"
-
-#include <QTimer>
+#include "ui/look/ui_clock.h"
 
 class QKeyEvent;
 class QWidget;
@@ -71,7 +70,8 @@ private:
     PressRule rule_;
     EventClock eventClock_;
     KeyPresses keys_;
-    QTimer beat_; ///< runs while an alert waits
+    UiClock& clock_ = UiClock::current();
+    UiTimer beat_{std::chrono::milliseconds(50)}; ///< runs while an alert waits
     std::optional<AlertId> alert_;
     std::optional<Verdict> verdict_; ///< on the last possible shortcut
     int round_ = 0;                  ///< counts the guard times

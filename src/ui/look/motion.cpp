@@ -1,15 +1,21 @@
 #include "ui/look/motion.h"
 
+#include "ui/look/ui_clock.h"
+
 #include <QApplication>
 #include <QStyle>
 
-#include <chrono>
+#include <cmath>
 
 namespace velmora::Motion {
 
 double seconds() {
-    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(sinceStart).count();
+    return std::chrono::duration<double>(UiClock::current().now()).count();
+}
+
+double pulseAt(double seconds) {
+    constexpr double period = 1.6; // seconds
+    return std::fmod(seconds, period) / period;
 }
 
 bool reduced() {

@@ -1,21 +1,26 @@
 #pragma once
 
-/// Durations of the movements, milliseconds, and the pulse that the status dots and the map share.
+#include <chrono>
+
+/// Durations of the movements, and the pulse that the status dots and the map share.
 namespace velmora::Motion {
 
-inline constexpr int hover = 120;
-inline constexpr int toggle = 140;
-inline constexpr int banner = 180;
-inline constexpr int formFold = 160;
-inline constexpr int cardIn = 220;
-inline constexpr int cardOut = 140;
-inline constexpr int sectionChange = 160;
+using std::chrono::milliseconds;
 
-inline constexpr int frame = 34; ///< between two frames: at most 30 a second
-inline constexpr double pulseSeconds = 1.6;
+inline constexpr milliseconds hover{120};
+inline constexpr milliseconds toggle{140};
+inline constexpr milliseconds banner{180};
+inline constexpr milliseconds formFold{160};
+inline constexpr milliseconds cardIn{220};
+inline constexpr milliseconds cardOut{140};
+inline constexpr milliseconds sectionChange{160};
 
-/// Seconds of a clock that only goes forward; everything that pulses reads it, and so pulses in step.
+inline constexpr milliseconds frame{34}; ///< between two frames: at most 30 a second
+
+/// Seconds of the user interface's clock, by which everything that pulses moves.
 double seconds();
+/// How far the pulse has come at a moment of that clock, 0 to 1.
+double pulseAt(double seconds);
 
 /// Whether the desktop asks for no movement.
 bool reduced();

@@ -1,13 +1,13 @@
 #include "ui/look/style.h"
 
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -28,11 +28,7 @@ bool cutsCorners() {
 void paintMenuPanel(QPainter& painter, const QRect& rect) {
     if (cutsCorners())
         painter.fillRect(rect, SB::page);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::rule);
-    painter.setBrush(SB::page);
-    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), Measure::cardRadius,
-                            Measure::cardRadius);
+    fillRounded(painter, rect, Measure::cardRadius, SB::page, SB::rule);
 }
 
 /// Without the mnemonic's ampersands; the shortcut stands behind a tab.
@@ -52,12 +48,8 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     }
     const bool enabled = item.state & QStyle::State_Enabled;
     const bool highlighted = enabled && item.state & QStyle::State_Selected;
-    if (highlighted) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::ink);
-        painter.drawRoundedRect(row, Measure::thumbnailRadius, Measure::thumbnailRadius);
-    }
+    if (highlighted)
+        fillRounded(painter, row, Measure::thumbnailRadius, SB::ink);
     const QColor plain = enabled ? SB::ink : SB::faded(SB::muted, disabledText);
     const QColor quiet = enabled ? SB::muted : plain;
     const QRectF words = QRectF(item.rect).adjusted(Measure::menuPadding, 0, -Measure::menuPadding, 0);
@@ -69,12 +61,8 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
 
 void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& item) {
     const bool lively = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
-    if (lively) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(SB::rule2);
-        painter.drawRoundedRect(item.rect, Measure::menuTitleRadius, Measure::menuTitleRadius);
-    }
+    if (lively)
+        fillRounded(painter, item.rect, Measure::menuTitleRadius, SB::rule2);
     drawText(painter, item.rect, textAndShortcut(item).first, Type::menu, lively ? SB::ink : SB::muted,
              Qt::AlignCenter);
 }

@@ -148,7 +148,7 @@ public:
             painter_.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
             painter_.drawLine(view_.map(scene_.state.drone.pos), at);
         }
-        const double pulse = std::fmod(t, Motion::pulseSeconds) / Motion::pulseSeconds;
+        const double pulse = Motion::pulseAt(t);
         drawCircle(painter_, at, pulseFrom + pulseGrowth * pulse, Qt::NoBrush,
                    QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
         drawCircle(painter_, at, visitorRadius, SB::lilac, QPen(Qt::white, 1.5));

@@ -2,13 +2,12 @@
 
 #include "ui/blocks/accessibility.h"
 #include "ui/look/measures.h"
-#include "ui/look/motion.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
 
-#include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -52,6 +51,7 @@ bool sameStanding(const MapScene& a, const MapScene& b) {
 SiteMap::SiteMap(QWidget* parent) : QWidget(parent) {
     scene_.state = LiveState::initial();
     declareRole(this, QAccessible::Graphic);
+    connect(&frames_, &UiTimer::timeout, this, &SiteMap::showFrame);
     describe();
 }
 
@@ -150,18 +150,11 @@ bool SiteMap::isAnimated() const {
 }
 
 void SiteMap::runOrRest() {
-    const bool runs = onScreen_ && !covered_ && isAnimated();
+    const bool runs = onScreen_ && !covered_ && isAnimated() && !Motion::reduced();
     if (runs == frames_.isActive())
         return;
-    if (runs)
-        frames_.start(Motion::frame, Qt::PreciseTimer, this);
-    else
-        frames_.stop();
+    frames_.setActive(runs);
     update();
-}
-
-void SiteMap::timerEvent(QTimerEvent*) {
-    showFrame();
 }
 
 /// Asks for the moving parts only, where they were and where they are.
@@ -218,21 +211,16 @@ QPixmap SiteMap::picture(int scale) const {
     QPainter painter(&picture);
     drawGrounds(painter, scene_, size());
     painter.drawPixmap(0, 0, paths);
-    drawMovers(painter, scene_, size(), Motion::seconds());
+    drawMovers(painter, scene_, size(), Motion::reduced() ? 0 : Motion::seconds());
     return picture;
 }
 
 void SiteMap::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    const auto fillRounded = [&](const QBrush& brush) {
-        painter.setBrush(brush);
-        painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
-    };
+    const auto fill = [&](const QBrush& brush) { fillRounded(painter, rect(), Measure::cardRadius, brush); };
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
     if (freshness != Freshness::live)
-        fillRounded(SB::navy);
+        fill(SB::navy);
     if (freshness == Freshness::unknown) {
         drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
         return;
@@ -240,12 +228,12 @@ void SiteMap::paintEvent(QPaintEvent*) {
     if (freshness == Freshness::stale)
         painter.setOpacity(dimmedOpacity);
     drawStill();
-    fillRounded(grounds_);
-    fillRounded(paths_);
+    fill(grounds_);
+    fill(paths_);
     QPainterPath corners;
     corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
     painter.setClipPath(corners, Qt::IntersectClip);
-    drawMovers(painter, scene_, size(), Motion::seconds());
+    drawMovers(painter, scene_, size(), Motion::reduced() ? 0 : Motion::seconds());
 }
 
 } // namespace velmora

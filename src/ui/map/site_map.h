@@ -1,9 +1,10 @@
 #pragma once
 
 #include "model/freshness.h"
+#include "ui/look/motion.h"
+#include "ui/look/ui_clock.h"
 #include "ui/map/map_scene.h"
 
-#include <QBasicTimer>
 #include <QPixmap>
 #include <QWidget>
 
@@ -37,7 +38,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -55,7 +55,7 @@ private:
     Freshness freshness_ = Freshness::live;
     bool covered_ = false;
     bool onScreen_ = false; ///< false also while the window is minimised
-    QBasicTimer frames_;
+    UiTimer frames_{Motion::frame};
     QRectF shownArea_; ///< of the last frame's moving parts
     bool groundsStale_ = true;
     bool pathsStale_ = true;

@@ -4,11 +4,11 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace velmora {
 
@@ -31,8 +31,7 @@ StaleBanner::StaleBanner(AppStore& store, QWidget* parent)
     connect(settings, &SBButton::clicked, this, [this] { store_.setSection(Section::settings); });
     connect(&store_, &AppStore::linkStatusChanged, this, &StaleBanner::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &StaleBanner::refresh);
-    connect(&everySecond_, &QTimer::timeout, this, &StaleBanner::refresh);
-    everySecond_.setInterval(1000);
+    connect(&everySecond_, &UiTimer::timeout, this, &StaleBanner::refresh);
 }
 
 bool StaleBanner::isDue(const AppStore& store) {
@@ -69,14 +68,10 @@ void StaleBanner::hideEvent(QHideEvent*) {
 
 void StaleBanner::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SB::faded(SB::alert, 0.24));
-    painter.setBrush(SB::faded(SB::alert, 0.05));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::cardRadius,
-                            Measure::cardRadius);
-    QRectF icon(Measure::staleMargins.left(), 0, Measure::gap20, Measure::gap20);
-    icon.moveTop((height() - icon.height()) / 2);
-    paintIcon(painter, icon, Icon::brokenLink, SB::alert);
+    fillRounded(painter, rect(), Measure::cardRadius, SB::faded(SB::alert, 0.05), SB::faded(SB::alert, 0.24));
+    constexpr double icon = Measure::gap20;
+    paintIcon(painter, {Measure::staleMargins.left() + icon / 2, height() / 2.0}, icon, Icon::brokenLink,
+              SB::alert);
 }
 
 } // namespace velmora

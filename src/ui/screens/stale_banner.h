@@ -1,8 +1,8 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "ui/look/ui_clock.h"
 
-#include <QTimer>
 #include <QWidget>
 
 namespace velmora {
@@ -32,7 +32,7 @@ private:
     AppStore& store_;
     Text* title_;
     Text* detail_;
-    QTimer everySecond_;
+    UiTimer everySecond_{std::chrono::seconds(1)};
 };
 
 } // namespace velmora

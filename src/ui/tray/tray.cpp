@@ -14,7 +14,6 @@ namespace velmora {
 namespace {
 
 const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
-constexpr int patienceForOldTray = 60'000; // milliseconds
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
 QString iconFor(Phase phase) {
@@ -111,13 +110,12 @@ void Tray::watchForTray() {
         return;
     }
     connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, this, &Tray::showIcon);
-    patience_.setSingleShot(true);
-    connect(&patience_, &QTimer::timeout, this, &Tray::showIcon);
-    patience_.start(patienceForOldTray);
+    connect(&legacyTrayTimer_, &UiTimer::timeout, this, &Tray::showIcon);
+    legacyTrayTimer_.start();
 }
 
 void Tray::showIcon() {
-    patience_.stop();
+    legacyTrayTimer_.stop();
     if (icon_)
         return;
     icon_ = std::make_unique<QSystemTrayIcon>();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "ui/look/ui_clock.h"
 
 #include <QDBusServiceWatcher>
 #include <QMenu>
 #include <QSystemTrayIcon>
-#include <QTimer>
 
 #include <memory>
 
@@ -45,7 +45,8 @@ private:
     QAction* afterHome_;
     QAction* arming_;
     QDBusServiceWatcher trayWatcher_;
-    QTimer patience_; ///< until a tray of the old kind is taken
+    UiTimer legacyTrayTimer_{std::chrono::minutes(1),
+                             UiTimer::Mode::singleShot}; ///< until a tray of the old kind is taken
     std::unique_ptr<QSystemTrayIcon> icon_;
     QString shownIcon_;
     std::optional<AlertId> openedFor_; ///< the alert that waited when the menu was opened

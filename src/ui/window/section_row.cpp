@@ -4,10 +4,9 @@
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
 
 namespace velmora {
 
@@ -32,12 +31,11 @@ void SectionRow::setMark(std::optional<SectionMark> mark) {
 
 void SectionRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     paintSurface(painter);
-    QRectF icon(Measure::sectionPadding, 0, Measure::sectionIcon, Measure::sectionIcon);
-    icon.moveTop((height() - icon.height()) / 2);
-    paintIcon(painter, icon, icon_, isChecked() ? SB::teal : SB::muted);
-    const QRectF title = QRectF(rect()).adjusted(icon.right() + Measure::sectionPadding, 0, 0, 0);
+    constexpr double icon = Measure::sectionIcon;
+    paintIcon(painter, {Measure::sectionPadding + icon / 2, height() / 2.0}, icon, icon_,
+              isChecked() ? SB::teal : SB::muted);
+    const QRectF title = QRectF(rect()).adjusted(2 * Measure::sectionPadding + icon, 0, 0, 0);
     drawText(painter, title, text(), Type::rowTitle, isChecked() ? SB::ink : SB::muted,
              Qt::AlignLeft | Qt::AlignVCenter);
     if (mark_)
@@ -45,17 +43,11 @@ void SectionRow::paintEvent(QPaintEvent*) {
 }
 
 void SectionRow::paintSurface(QPainter& painter) const {
-    const QRectF surface = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(Qt::NoPen);
-    if (isChecked()) {
-        painter.setPen(SB::rule2);
-        painter.setBrush(SB::page);
-    } else if (underMouse()) {
-        painter.setBrush(SB::faded(SB::rule2, 0.5));
-    } else {
-        return;
-    }
-    painter.drawRoundedRect(surface, Measure::buttonRadius, Measure::buttonRadius);
+    if (isChecked())
+        fillRounded(painter, rect(), Measure::buttonRadius, SB::page, SB::rule2);
+    else if (underMouse())
+        fillRounded(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Measure::buttonRadius,
+                    SB::faded(SB::rule2, 0.5));
 }
 
 void SectionRow::paintMark(QPainter& painter) const {

@@ -1,23 +1,20 @@
 #include "ui/window/section_stack.h"
 
 #include "ui/look/motion.h"
+#include "ui/look/transition.h"
 
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace velmora {
 
 /// The picture of the last section while it fades away.
 class SectionStack::Fading : public QWidget {
 public:
-    explicit Fading(QWidget* parent) : QWidget(parent) {
+    explicit Fading(QWidget* parent) : QWidget(parent), opacity_(*this, Motion::sectionChange) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         hide();
-        away_.setStartValue(1.0);
-        away_.setEndValue(0.0);
-        away_.setDuration(Motion::sectionChange);
-        connect(&away_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
-        connect(&away_, &QVariantAnimation::finished, this, [this] {
+        connect(&opacity_, &Transition::changed, this, qOverload<>(&QWidget::update));
+        connect(&opacity_, &Transition::finished, this, [this] {
             hide();
             picture_ = {};
         });
@@ -28,20 +25,19 @@ public:
         setGeometry(parentWidget()->rect());
         show();
         raise();
-        away_.stop();
-        away_.start();
+        opacity_.move(1, 0);
     }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setOpacity(away_.currentValue().toDouble());
+        painter.setOpacity(opacity_.value());
         painter.drawPixmap(0, 0, picture_);
     }
 
 private:
     QPixmap picture_;
-    QVariantAnimation away_;
+    Transition opacity_;
 };
 
 SectionStack::SectionStack(QWidget* parent) : QStackedWidget(parent), fading_(new Fading(this)) {}

@@ -3,11 +3,11 @@
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/wordmark.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/window/section_row.h"
 #include "ui/window/status_badges.h"
 
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace velmora {

@@ -4,7 +4,7 @@
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
-#include "ui/look/icons.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -20,22 +20,15 @@ namespace {
 
 void paintBattery(QPainter& painter, const QRectF& bar, double charge, bool low) {
     const double radius = bar.height() / 2;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::rule2);
-    painter.drawRoundedRect(bar, radius, radius);
+    fillRounded(painter, bar, radius, SB::rule2);
     QRectF filled = bar;
     filled.setWidth(bar.width() * std::clamp(charge, 0.0, 1.0));
-    painter.setBrush(low ? SB::caution : SB::teal);
-    painter.drawRoundedRect(filled, radius, radius);
+    fillRounded(painter, filled, radius, low ? SB::caution : SB::teal);
 }
 
 void paintDroneInCircle(QPainter& painter, const QRectF& circle) {
-    painter.setPen(QPen(SB::rule, 1));
-    painter.setBrush(SB::page);
-    painter.drawEllipse(circle.adjusted(0.5, 0.5, -0.5, -0.5));
-    QRectF icon(0, 0, Measure::droneBadgeIcon, Measure::droneBadgeIcon);
-    icon.moveCenter(circle.center());
-    paintIcon(painter, icon, Icon::drone, SB::ink);
+    fillDisc(painter, circle.center(), circle.width(), SB::page, SB::rule);
+    paintIcon(painter, circle.center(), Measure::droneBadgeIcon, Icon::drone, SB::ink);
 }
 
 } // namespace

@@ -2,12 +2,12 @@
 
 #include "ui/blocks/hairline.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QWindow>
 
 namespace velmora {
@@ -31,9 +31,8 @@ void WindowButton::paintEvent(QPaintEvent*) {
     const bool closes = icon_ == Icon::close;
     if (underMouse())
         painter.fillRect(rect(), closes ? SB::alert : SB::rule2);
-    QRectF glyph({}, QSizeF(Measure::windowGlyph, Measure::windowGlyph));
-    glyph.moveCenter(QRectF(rect()).center());
-    paintIcon(painter, glyph, icon_, underMouse() && closes ? SB::page : SB::muted);
+    paintIcon(painter, QRectF(rect()).center(), Measure::windowGlyph, icon_,
+              underMouse() && closes ? SB::page : SB::muted);
 }
 
 void WindowButton::enterEvent(QEnterEvent*) {

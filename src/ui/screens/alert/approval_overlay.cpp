@@ -19,7 +19,6 @@ namespace velmora {
 
 namespace {
 
-constexpr int countdownEvery = 250;       // milliseconds
 constexpr double patienceWithAnswers = 5; // seconds; a command may take three
 constexpr double longestCountdown = 3600; // seconds; a deadline further away is one of a clock that is off
 
@@ -42,7 +41,7 @@ QString bodyFor(const Settings& settings) {
 ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* window)
     : OverlayCard(Measure::approvalCard, window), store_(store), guard_(guard) {
     build();
-    connect(&countdown_, &QTimer::timeout, this, &ApprovalOverlay::countDown);
+    connect(&countdown_, &UiTimer::timeout, this, &ApprovalOverlay::countDown);
     connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
@@ -133,7 +132,7 @@ void ApprovalOverlay::followPhase() {
     const auto deadline = store_.knownState()->approvalDeadline;
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
-    countdown_.start(countdownEvery);
+    countdown_.start();
     if (isOpen()) {
         layCard();
         setFocus(Qt::OtherFocusReason);

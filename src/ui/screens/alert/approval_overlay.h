@@ -3,8 +3,6 @@
 #include "ui/blocks/overlay_card.h"
 #include "ui/guard/answer_guard.h"
 
-#include <QTimer>
-
 namespace velmora {
 
 class ApprovalPicture;
@@ -42,7 +40,7 @@ private:
     Metric* battery_;
     Metric* wind_;
     Metric* expires_;
-    QTimer countdown_;
+    UiTimer countdown_{std::chrono::milliseconds(250)};
     std::optional<AlertId> asked_;    ///< the alert that the card asks about
     std::optional<Date> answeredAt_;  ///< when the owner last answered it
     std::optional<AlertId> unheeded_; ///< an alert whose answer had no effect

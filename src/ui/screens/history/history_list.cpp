@@ -11,13 +11,13 @@
 #include "ui/blocks/text.h"
 #include "ui/blocks/text_field.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/screens/history/record_delegate.h"
 
 #include <QKeyEvent>
 #include <QListView>
-#include <QPainter>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -27,11 +27,7 @@
 
 namespace velmora {
 
-namespace {
-
-constexpr auto undoOffered = std::chrono::seconds(10);
-
-} // namespace
+namespace {} // namespace
 
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
@@ -61,9 +57,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
         showCount();
         showSelection();
     });
-    undoTime_.setSingleShot(true);
-    undoTime_.setInterval(undoOffered);
-    connect(&undoTime_, &QTimer::timeout, this, [this] {
+    connect(&undoTime_, &UiTimer::timeout, this, [this] {
         deleted_.reset();
         refresh();
     });

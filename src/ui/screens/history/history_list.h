@@ -1,9 +1,9 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "ui/look/ui_clock.h"
 #include "ui/screens/history/history_model.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class QListView;
@@ -78,7 +78,7 @@ private:
     QWidget* foot_;
     SBButton* clearDemo_;
     QWidget* undoLine_;
-    QTimer undoTime_;
+    UiTimer undoTime_{std::chrono::seconds(10), UiTimer::Mode::singleShot};
     std::optional<HistoryEntry> deleted_;
     QStringList cameras_; ///< names to choose from
 };

@@ -59,7 +59,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged});
-    connect(&everyMinute_, &QTimer::timeout, list_, &HistoryList::refresh);
+    connect(&everyMinute_, &UiTimer::timeout, list_, &HistoryList::refresh);
 }
 
 void HistoryView::takeFocus() {
@@ -186,7 +186,7 @@ void HistoryView::resizeEvent(QResizeEvent*) {
 
 void HistoryView::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
-    everyMinute_.start(std::chrono::minutes(1));
+    everyMinute_.start();
     list_->takeFocus();
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "ui/look/ui_clock.h"
 #include "ui/screens/screen.h"
-
-#include <QTimer>
 
 #include <functional>
 
@@ -49,7 +48,7 @@ private:
     RecordDetail* detail_;
     SBButton* simulate_ = nullptr;
     QWidget* empty_;
-    QTimer everyMinute_; ///< while shown: another day may have begun
+    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< while shown: another day may have begun
 };
 
 } // namespace velmora

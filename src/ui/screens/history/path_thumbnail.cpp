@@ -1,9 +1,8 @@
 #include "ui/screens/history/path_thumbnail.h"
 
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
 
 #include <algorithm>
 
@@ -27,9 +26,7 @@ QPolygonF thinned(const std::vector<P>& path) {
 } // namespace
 
 void paintPathThumbnail(QPainter& painter, const QRectF& rect, const MissionRecord& record) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::navy);
-    painter.drawRoundedRect(rect, Measure::badgeRadius, Measure::badgeRadius);
+    fillRounded(painter, rect, Measure::badgeRadius, SB::navy);
     const QPolygonF visitor = thinned(record.visitorPath), drone = thinned(record.dronePath);
     const QRectF covered = visitor.boundingRect() | drone.boundingRect();
     const double span =

@@ -3,6 +3,7 @@
 #include "model/mission_evidence.h"
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -27,15 +28,12 @@ QString factsOf(const MissionRecord& record) {
 }
 
 void paintSelection(QPainter& painter, const QRectF& row) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::panel);
-    painter.drawRoundedRect(row, Measure::buttonRadius, Measure::buttonRadius);
+    fillRounded(painter, row, Measure::buttonRadius, SB::panel);
     const QRectF bar(row.left(), row.top() + Measure::gap12, Measure::selectionBar,
                      row.height() - 2 * Measure::gap12);
     QLinearGradient gradient(bar.topLeft(), bar.bottomLeft());
     gradient.setStops(SB::gradientLight(0, 1).stops());
-    painter.setBrush(gradient);
-    painter.drawRoundedRect(bar, Measure::selectionBar / 2.0, Measure::selectionBar / 2.0);
+    fillRounded(painter, bar, Measure::selectionBar / 2.0, gradient);
 }
 
 /// The paths at the right, below the badge of a demo visit; returns the width that they take.

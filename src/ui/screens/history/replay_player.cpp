@@ -1,18 +1,16 @@
 #include "ui/screens/history/replay_player.h"
 
-#include "ui/look/motion.h"
-
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 
 ReplayPlayer::ReplayPlayer(QObject* parent) : QObject(parent) {
-    timer_.setInterval(Motion::frame);
-    connect(&timer_, &QTimer::timeout, this, &ReplayPlayer::advance);
+    connect(&frames_, &UiTimer::timeout, this, &ReplayPlayer::advance);
 }
 
 void ReplayPlayer::load(double length) {
-    timer_.stop();
+    frames_.stop();
     length_ = length;
     position_ = length;
     emit changed();
@@ -21,15 +19,15 @@ void ReplayPlayer::load(double length) {
 void ReplayPlayer::play() {
     if (position_ >= length_)
         position_ = 0;
-    sinceLast_.start();
-    timer_.start();
+    lastFrame_ = UiClock::current().now();
+    frames_.start();
     emit changed();
 }
 
 void ReplayPlayer::pause() {
-    if (!timer_.isActive())
+    if (!frames_.isActive())
         return;
-    timer_.stop();
+    frames_.stop();
     emit changed();
 }
 
@@ -39,11 +37,11 @@ void ReplayPlayer::setPosition(double seconds) {
 }
 
 void ReplayPlayer::advance() {
-    constexpr double millisecondsInSecond = 1000;
-    position_ += static_cast<double>(sinceLast_.restart()) / millisecondsInSecond * speed_;
+    const auto now = UiClock::current().now();
+    position_ += std::chrono::duration<double>(now - std::exchange(lastFrame_, now)).count() * speed_;
     if (position_ >= length_) {
         position_ = length_;
-        timer_.stop();
+        frames_.stop();
     }
     emit changed();
 }

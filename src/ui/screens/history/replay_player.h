@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QElapsedTimer>
-#include <QObject>
-#include <QTimer>
+#include "ui/look/motion.h"
+#include "ui/look/ui_clock.h"
 
 namespace velmora {
 
@@ -17,7 +16,7 @@ public:
     void load(double length);
     double length() const { return length_; }
     double position() const { return position_; }
-    bool isPlaying() const { return timer_.isActive(); }
+    bool isPlaying() const { return frames_.isActive(); }
 
     /// From the end it begins anew.
     void play();
@@ -32,8 +31,8 @@ signals:
 private:
     void advance();
 
-    QTimer timer_;
-    QElapsedTimer sinceLast_;
+    UiTimer frames_{Motion::frame};
+    std::chrono::milliseconds lastFrame_{};
     double length_ = 0;   ///< seconds
     double position_ = 0; ///< seconds
     double speed_ = 1;

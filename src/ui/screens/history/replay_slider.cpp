@@ -3,10 +3,10 @@
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -74,13 +74,10 @@ void ReplaySlider::mouseReleaseEvent(QMouseEvent*) {
 
 void ReplaySlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const double middle = height() / 2.0, half = Measure::replayTrack / 2;
     const auto track = [&](double from, double to, const QColor& color) {
-        painter.setBrush(color);
-        painter.drawRoundedRect(QRectF(xOf(from), middle - half, xOf(to) - xOf(from), Measure::replayTrack),
-                                half, half);
+        fillRounded(painter, {xOf(from), middle - half, xOf(to) - xOf(from), Measure::replayTrack}, half,
+                    color);
     };
     track(0, length_, SB::rule2);
     track(0, shown_, SB::teal);
@@ -90,10 +87,7 @@ void ReplaySlider::paintEvent(QPaintEvent*) {
             SB::page);
     for (const double mark : marks_)
         painter.fillRect(QRectF(xOf(mark) - 0.5, middle + half + 2, 1, Measure::replayMark), SB::muted);
-    painter.setPen(SB::rule);
-    painter.setBrush(SB::page);
-    const double radius = Measure::replayThumb / 2 - 0.5;
-    painter.drawEllipse(QPointF(xOf(shown_), middle), radius, radius);
+    fillDisc(painter, {xOf(shown_), middle}, Measure::replayThumb, SB::page, SB::rule);
 }
 
 } // namespace velmora

@@ -4,13 +4,12 @@
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/live/telemetry.h"
 #include "ui/screens/stale_banner.h"
-
-#include <QPainter>
 
 #include <algorithm>
 
@@ -23,8 +22,7 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
       note_(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this)),
       line_(new Hairline(this, Hairline::Tone::dark)),
       telemetry_(new Telemetry(this)) {
-    everySecond_.setInterval(1000);
-    connect(&everySecond_, &QTimer::timeout, this, &LiveCard::refresh);
+    connect(&everySecond_, &UiTimer::timeout, this, &LiveCard::refresh);
     refresh();
 }
 
@@ -33,10 +31,7 @@ void LiveCard::refresh() {
     map_->setState(store_.knownState(), store_.settings(), store_.freshness());
     telemetry_->setState(store_.knownState(), store_.settings(), old ? *store_.lastAnswerAt() : store_.now());
     telemetry_->setDimmed(store_.freshness() != Freshness::live);
-    if (!old || !isVisible())
-        everySecond_.stop();
-    else if (!everySecond_.isActive())
-        everySecond_.start();
+    everySecond_.setActive(old && isVisible());
     const QString age = old ? StaleBanner::pictureAge(store_) : QString();
     if (age == pictureAge_)
         return;
@@ -64,10 +59,7 @@ void LiveCard::resizeEvent(QResizeEvent*) {
 
 void LiveCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::navy);
-    painter.drawRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+    fillRounded(painter, rect(), Measure::cardRadius, SB::navy);
     if (!pictureAge_.isEmpty())
         paintPictureAge(painter);
 }

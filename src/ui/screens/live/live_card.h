@@ -1,8 +1,8 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "ui/look/ui_clock.h"
 
-#include <QTimer>
 #include <QWidget>
 
 namespace velmora {
@@ -36,7 +36,7 @@ private:
     QWidget* line_;
     QString pictureAge_; ///< empty while the picture is fresh
     Telemetry* telemetry_;
-    QTimer everySecond_; ///< counts the age of an old picture
+    UiTimer everySecond_{std::chrono::seconds(1)}; ///< counts the age of an old picture
     bool narrow_ = false;
 };
 

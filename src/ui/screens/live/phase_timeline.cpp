@@ -1,13 +1,10 @@
 #include "ui/screens/live/phase_timeline.h"
 
 #include "ui/blocks/accessibility.h"
-#include "ui/blocks/status_dot.h"
-#include "ui/look/icons.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-
-#include <QPainter>
 
 #include <algorithm>
 
@@ -37,22 +34,17 @@ void paintConnector(QPainter& painter, std::size_t step, Progress next) {
 void paintMarker(QPainter& painter, QPointF center, Progress progress) {
     constexpr double diameter = Measure::timelineMarker;
     switch (progress) {
-    case Progress::done: {
-        paintDisc(painter, center, diameter, SB::teal);
-        QRectF tick(0, 0, Measure::timelineTick, Measure::timelineTick);
-        tick.moveCenter(center);
-        paintIcon(painter, tick, Icon::check, SB::page);
+    case Progress::done:
+        fillDisc(painter, center, diameter, SB::teal);
+        paintIcon(painter, center, Measure::timelineTick, Icon::check, SB::page);
         break;
-    }
     case Progress::current:
-        paintDisc(painter, center, diameter + 2 * Measure::timelineHalo, SB::dotBg);
-        paintDisc(painter, center, diameter, SB::teal);
-        paintDisc(painter, center, Measure::timelineHole, SB::page);
+        fillDisc(painter, center, diameter + 2 * Measure::timelineHalo, SB::dotBg);
+        fillDisc(painter, center, diameter, SB::teal);
+        fillDisc(painter, center, Measure::timelineHole, SB::page);
         break;
     case Progress::pending:
-        painter.setPen(QPen(SB::rule, 1));
-        painter.setBrush(SB::page);
-        painter.drawEllipse(center, (diameter - 1) / 2, (diameter - 1) / 2);
+        fillDisc(painter, center, diameter, SB::page, SB::rule);
         break;
     }
 }

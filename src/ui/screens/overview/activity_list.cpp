@@ -6,6 +6,7 @@
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"

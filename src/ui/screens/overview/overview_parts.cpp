@@ -4,25 +4,15 @@
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/guard/answer_button.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace velmora {
 
-namespace {
-
-void fillRounded(QWidget* widget, const QColor& color) {
-    QPainter painter(widget);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(widget->rect(), Measure::cardRadius, Measure::cardRadius);
-}
-
-} // namespace
+namespace {} // namespace
 
 ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
     : QWidget(parent),
@@ -62,7 +52,8 @@ void ArmSwitch::refresh() {
 }
 
 void ArmSwitch::paintEvent(QPaintEvent*) {
-    fillRounded(this, SB::panel);
+    QPainter painter(this);
+    fillRounded(painter, rect(), Measure::cardRadius, SB::panel);
 }
 
 ActiveBanner::ActiveBanner(AppStore& store, QWidget* parent)
@@ -90,7 +81,8 @@ QSize ActiveBanner::sizeHint() const {
 }
 
 void ActiveBanner::paintEvent(QPaintEvent*) {
-    fillRounded(this, SB::navy);
+    QPainter painter(this);
+    fillRounded(painter, rect(), Measure::cardRadius, SB::navy);
 }
 
 VisitOffers::VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent)

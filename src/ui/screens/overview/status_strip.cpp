@@ -5,6 +5,7 @@
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"

@@ -2,6 +2,7 @@
 
 #include "ui/blocks/accessibility.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -15,11 +16,7 @@ RuleLine::RuleLine(const QString& rule, QWidget* parent) : QWidget(parent) {
 
 void RuleLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(SB::teal);
-    constexpr double radius = Measure::ruleBullet / 2;
-    painter.drawEllipse(QPointF(radius, height() / 2.0), radius, radius);
+    fillDisc(painter, {Measure::ruleBullet / 2, height() / 2.0}, Measure::ruleBullet, SB::teal);
     drawText(painter, QRectF(Measure::ruleTextX, 0, width() - Measure::ruleTextX, height()), accessibleName(),
              Type::body, SB::body, Qt::AlignVCenter);
 }

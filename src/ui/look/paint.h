@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/look/icons.h"
+
+#include <QPainter>
+
+namespace velmora {
+
+/// Fills a rectangle with round corners, edges smoothed; the painter keeps no pen.
+void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill);
+/// The same with a border of one pixel inside the rectangle's edge.
+void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
+                 const QColor& border);
+
+/// Fills a circle; the painter keeps no pen.
+void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill);
+/// The same with a border inside the circle's edge, `width` pixels wide.
+void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill, const QColor& border,
+              double width = 1);
+
+/// Draws the icon in one colour into a square around this point.
+void paintIcon(QPainter& painter, QPointF center, double side, Icon icon, const QColor& color);
+
+/// Fills a 1 px line snapped to whole device pixels, so that it is equally thick at fractional scales.
+void paintHairline(QPainter& painter, const QRect& line, const QColor& color);
+
+} // namespace velmora

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/look/ui_clock.h"
+
+#include <QApplication>
+
+#include <map>
+
+namespace velmora {
+
+/// The user interface's clock while it exists, moved by the test alone. Events happen when they are sent.
+class ManualClock final : public UiClock {
+public:
+    ManualClock() { install(this); }
+    ~ManualClock() override { install(nullptr); }
+
+    std::chrono::milliseconds now() const override { return now_; }
+    std::uint64_t stampOf(const QInputEvent&) const override {
+        return static_cast<std::uint64_t>(now_.count());
+    }
+
+    /// Lets the timers run that are due in this time, in their order, and everything that follows from them.
+    void advance(std::chrono::milliseconds time) {
+        const auto end = now_ + time;
+        for (UiTimer* timer = nextBefore(end); timer; timer = nextBefore(end)) {
+            now_ = due_[timer];
+            due_[timer] += timer->interval();
+            timer->expire();
+            QApplication::processEvents();
+        }
+        now_ = end;
+        QApplication::processEvents();
+    }
+
+protected:
+    void start(UiTimer& timer) override { due_[&timer] = now_ + timer.interval(); }
+    void stop(UiTimer& timer) override { due_.erase(&timer); }
+
+private:
+    UiTimer* nextBefore(std::chrono::milliseconds end) const {
+        const auto next =
+            std::ranges::min_element(due_, {}, &std::pair<UiTimer* const, milliseconds>::second);
+        return next != due_.end() && next->second <= end ? next->first : nullptr;
+    }
+
+    using milliseconds = std::chrono::milliseconds;
+    milliseconds now_ = std::chrono::hours(24);
+    std::map<UiTimer*, milliseconds> due_; ///< of the running timers
+};
+
+} // namespace velmora
