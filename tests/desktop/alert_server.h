@@ -64,18 +64,19 @@ public:
     std::vector<Post> posts;
 
 private:
-    ScriptedServer::Reply replyTo(const QByteArray& request) {
+    standin::ScriptedServer::Reply replyTo(const QByteArray& request) {
         const bool post = request.startsWith("POST");
         if (post)
             record(QJsonDocument::fromJson(request.mid(request.indexOf("\r\n\r\n") + 4)).object());
         if (hangs || (post && dropsPosts))
             return {{}, !hangs};
         if (post)
-            return {ScriptedServer::wellFormed(200, {}, {}), !keepsConnections};
+            return {standin::ScriptedServer::wellFormed(200, {}, {}), !keepsConnections};
         if (sent_++ == 0)
             firstSent_[mission()].start();
         const auto body = encode(state_, KeyStyle::snakeCase);
-        return {ScriptedServer::wellFormed(200, QByteArray::fromStdString(*body), "1"), !keepsConnections};
+        return {standin::ScriptedServer::wellFormed(200, QByteArray::fromStdString(*body), "1"),
+                !keepsConnections};
     }
     void record(const QJsonObject& command) {
         const QString mission = command["mission_id"].toString();
@@ -87,7 +88,7 @@ private:
     int sent_ = 0;
     std::map<QString, QElapsedTimer> firstSent_;
     std::set<QString> excused_;
-    ScriptedServer server_{[this](const QByteArray& request) { return replyTo(request); }};
+    standin::ScriptedServer server_{[this](const QByteArray& request) { return replyTo(request); }};
 };
 
 } // namespace velmora

@@ -8,6 +8,8 @@
 
 namespace velmora {
 
+using namespace standin;
+
 namespace {
 
 /// The program with all its calls about files and the network on record.

@@ -3,6 +3,8 @@
 
 namespace velmora {
 
+using namespace standin;
+
 namespace {
 
 /// The program linked to grounds whose time only the test moves, among the desktop's real parts.

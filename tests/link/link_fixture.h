@@ -26,6 +26,7 @@ inline QByteArray contentOf(const QString& name) {
 /// A link, and a server on loopback that answers each request with `reply`.
 class LinkTest : public testing::Test {
 protected:
+    using ScriptedServer = standin::ScriptedServer;
     using Reply = ScriptedServer::Reply;
 
     LinkTest()

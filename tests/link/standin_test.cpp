@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+using namespace standin;
+
 namespace {
 
 class CalmRandom final : public Random {

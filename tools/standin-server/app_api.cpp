@@ -5,7 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace velmora {
+namespace velmora::standin {
 
 AppApi::AppApi(SimulatedSite& site, std::function<Date()> clock) : site_(site), clock_(std::move(clock)) {}
 
@@ -25,4 +25,4 @@ AppApi::Answer AppApi::command(const QByteArray& body) {
     return {};
 }
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace velmora {
+namespace velmora::standin {
 
 /// The app API over a simulated site, without the network.
 class AppApi {
@@ -29,4 +29,4 @@ private:
     std::function<Date()> clock_;
 };
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -6,6 +6,7 @@
 #include <iostream>
 
 using namespace velmora;
+using namespace velmora::standin;
 
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);

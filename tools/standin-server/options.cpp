@@ -2,7 +2,7 @@
 
 #include <QCommandLineParser>
 
-namespace velmora {
+namespace velmora::standin {
 
 namespace {
 
@@ -101,4 +101,4 @@ std::variant<Options, OptionsText> readOptions(const QStringList& arguments) {
     return options;
 }
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -10,7 +10,7 @@
 #include <optional>
 #include <variant>
 
-namespace velmora {
+namespace velmora::standin {
 
 /// What the command line asks of the stand-in server.
 struct Options {
@@ -39,4 +39,4 @@ struct OptionsText {
 /// Reads the command line, the program's name first.
 std::variant<Options, OptionsText> readOptions(const QStringList& arguments);
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace velmora {
+namespace velmora::standin {
 
 namespace {
 
@@ -61,4 +61,4 @@ void ScriptedServer::play(QTcpSocket* socket, const Reply& reply) {
     }
 }
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <functional>
 
-namespace velmora {
+namespace velmora::standin {
 
 /// Answers HTTP requests byte by byte as its script says, for replies that an HTTP server refuses to send.
 class ScriptedServer {
@@ -35,4 +35,4 @@ private:
     QTcpServer listener_;
 };
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace velmora {
+namespace velmora::standin {
 
 namespace {
 
@@ -39,4 +39,4 @@ void SimulatedSite::carryOut(Command command, const std::string& mission, Date n
         simulator_.send(command, now);
 }
 
-} // namespace velmora
+} // namespace velmora::standin

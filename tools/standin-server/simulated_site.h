@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace velmora {
+namespace velmora::standin {
 
 /// Grounds that are watched by the simulator, with a visitor every so often.
 class SimulatedSite {
@@ -30,4 +30,4 @@ private:
     std::optional<Date> nextVisit_;
 };
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace velmora {
+namespace velmora::standin {
 
 using namespace std::chrono_literals;
 
@@ -77,4 +77,4 @@ ScriptedServer::Reply StandinServer::brokenReply(const QByteArray& request) {
     return {bytes, true, options_.delay, options_.drip ? 1000ms : 0ms};
 }
 
-} // namespace velmora
+} // namespace velmora::standin

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace velmora {
+namespace velmora::standin {
 
 /// Serves the app API over HTTP, well or as badly as the options ask.
 class StandinServer {
@@ -33,4 +33,4 @@ private:
     std::optional<ScriptedServer> broken_;
 };
 
-} // namespace velmora
+} // namespace velmora::standin
