@@ -15,8 +15,7 @@ namespace {
 /// The history screen on the screen, with so many records.
 class ShownHistory {
 public:
-    explicit ShownHistory(std::size_t records)
-        : world_(samples::flownHistory(records)), view_(world_.store(), nullptr) {
+    explicit ShownHistory(std::size_t records) : world_(records), view_(world_.store(), nullptr) {
         view_.resize(1100, 780);
         view_.show();
         QApplication::processEvents();
@@ -69,7 +68,7 @@ BENCHMARK(keystroke)
     ->Unit(benchmark::kMillisecond);
 
 void open(benchmark::State& run) {
-    World world(samples::flownHistory(static_cast<std::size_t>(run.range(0))));
+    World world(static_cast<std::size_t>(run.range(0)));
     AppStore& store = world.store();
     for ([[maybe_unused]] auto iteration : run) {
         HistoryView view(store, nullptr);

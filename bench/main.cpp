@@ -1,9 +1,7 @@
 #include "samples.h"
 #include "store/history.h"
-#include "ui/look/fonts.h"
-#include "ui/look/style.h"
+#include "support/application.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -22,13 +20,7 @@ int main(int argc, char* argv[]) {
         writeSample(QString::fromLocal8Bit(argv[2]));
         return 0;
     }
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    QApplication app(argc, argv);
-    QApplication::setStyle(new velmora::Style);
-    QApplication::setPalette(velmora::Style::lightPalette());
-    velmora::SBFont::registerBundled();
+    const auto application = velmora::makeApplication(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "sim/simulator.h"
+#include "support/random.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,7 @@
 #include "samples.h"
 #include "sim/simulator.h"
 #include "store/demo_history.h"
+#include "support/random.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,7 +14,7 @@ constexpr double step = 0.05; // seconds
 
 /// Follows a visitor who stands still, so that the mission goes on for as long as it takes.
 void simulatorStep(benchmark::State& run) {
-    samples::SeededRandom random;
+    SeededRandom random;
     Simulator simulator(samples::followingState(), Settings{}, random);
     simulator.settings.returnBattery = -1;
     Date now = dateFromSeconds(1'750'000'000);
@@ -26,7 +27,7 @@ void simulatorStep(benchmark::State& run) {
 BENCHMARK(simulatorStep)->Name("simulator step, following")->Unit(benchmark::kMicrosecond);
 
 void seeding(benchmark::State& run) {
-    samples::SeededRandom random;
+    SeededRandom random;
     for ([[maybe_unused]] auto iteration : run)
         benchmark::DoNotOptimize(rehearsedHistory(Settings{}, dateFromSeconds(1'750'000'000), random));
 }
@@ -34,7 +35,7 @@ BENCHMARK(seeding)->Name("seeding")->Unit(benchmark::kMillisecond);
 
 /// A step's cost as the site grows.
 void stepWithCameras(benchmark::State& run) {
-    samples::SeededRandom random;
+    SeededRandom random;
     const auto cameras = static_cast<std::size_t>(run.range(0));
     Simulator simulator(
         samples::withBoundary(samples::withCameras(samples::followingState(), cameras), cameras), Settings{},

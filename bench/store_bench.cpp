@@ -1,27 +1,19 @@
 #include "allocations.h"
-#include "model/json.h"
 #include "ui/window/main_window.h"
 #include "world.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTest>
 #include <QTimer>
 #include <benchmark/benchmark.h>
 
 namespace velmora {
 
-void World::writeHistory(const std::vector<MissionRecord>& history) const {
-    QFile file(directory().filePath("history.json"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(QByteArray::fromStdString(*encode(history)));
-}
-
 namespace {
 
 void loadHistory(benchmark::State& run) {
-    const World world(samples::flownHistory(200));
+    const World world(200);
     for ([[maybe_unused]] auto iteration : run)
         benchmark::DoNotOptimize(DataFiles(world.directory()).loadHistory());
 }
@@ -29,7 +21,7 @@ BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMilli
 
 /// A few seconds of following, each tick heard by the whole window, which is hidden.
 void hiddenTick(benchmark::State& run) {
-    World world(samples::flownHistory(200));
+    World world(200);
     const MainWindow window(world.store());
     world.follow();
     const auto before = allocations();
@@ -67,7 +59,7 @@ private:
 
 /// The longest time between two ticks while a mission joins a full history, the window showing it.
 void recording(benchmark::State& run) {
-    World world(samples::flownHistory(200));
+    World world(200);
     AppStore& store = world.store();
     MainWindow window(store);
     window.show();

@@ -30,7 +30,7 @@ protected:
 
 /// Ten seconds of the real program's ticks with nothing going on; the counters are what matters.
 void rest(benchmark::State& run, Section section) {
-    World world(samples::flownHistory(200));
+    World world(200);
     MainWindow window(world.store());
     world.store().setSection(section);
     window.show();
@@ -48,7 +48,7 @@ BENCHMARK_CAPTURE(rest, live, Section::live)->Name("10 s docked, Live flight")->
 
 /// A tick with the window showing, and what it makes the window paint.
 void shownTick(benchmark::State& run, Section section) {
-    World world(samples::flownHistory(200));
+    World world(200);
     MainWindow window(world.store());
     window.show();
     world.follow();

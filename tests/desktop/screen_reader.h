@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/wait_until.h"
+#include "desktop/bus_call.h"
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>

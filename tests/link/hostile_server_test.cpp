@@ -84,16 +84,16 @@ TEST_F(HostileServerTest, AThousandDroppedConnectionsLeaveNothingBehind) {
     for (int i = 0; i < 50; ++i) {
         for (int together = 0; together < 20; ++together)
             startFetch();
-        ASSERT_TRUE(eventually([&] { return results.size() == std::size_t(20 * (i + 1)); }));
+        ASSERT_TRUE(waitUntil([&] { return results.size() == std::size_t(20 * (i + 1)); }));
     }
     for (const FetchResult& result : results)
         EXPECT_EQ(std::get<LinkError>(result).text, badResponse);
     EXPECT_EQ(failureOf(ok(document())), "");
-    EXPECT_TRUE(eventually([this] { return link->findChildren<Exchange*>().isEmpty(); }));
+    EXPECT_TRUE(waitUntil([this] { return link->findChildren<Exchange*>().isEmpty(); }));
     const auto connections = [this] { return server.listener().findChildren<QTcpSocket*>().size(); };
-    EXPECT_TRUE(eventually([&] { return connections() <= 6; })) << "more than Qt keeps open for one host";
+    EXPECT_TRUE(waitUntil([&] { return connections() <= 6; })) << "more than Qt keeps open for one host";
     link.reset();
-    EXPECT_TRUE(eventually([&] { return connections() == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return connections() == 0; }));
 }
 
 TEST_F(HostileServerTest, ADifferentSiteWithEveryPollArrivesWhole) {

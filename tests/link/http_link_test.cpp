@@ -64,7 +64,7 @@ TEST_F(LinkTest, FetchesThatAreOutTogetherEndEachOnItsOwn) {
     for (int i = 0; i < 20; ++i)
         startFetch();
     EXPECT_TRUE(results.empty()) << "answers come from the event loop";
-    EXPECT_TRUE(eventually([this] { return results.size() == 20; }));
+    EXPECT_TRUE(waitUntil([this] { return results.size() == 20; }));
     for (const FetchResult& result : results)
         EXPECT_TRUE(std::holds_alternative<FetchedState>(result));
 }
@@ -84,7 +84,7 @@ TEST_F(LinkTest, ACommandNamesItselfAndTheMission) {
     for (const auto& [command, mission, body] : cases) {
         const int before = sent;
         startSend(command, mission);
-        ASSERT_TRUE(eventually([&] { return sent > before; }));
+        ASSERT_TRUE(waitUntil([&] { return sent > before; }));
         const QByteArray request = requests.back();
         EXPECT_THAT(request.toStdString(), StartsWith("POST /api/app/v1/command HTTP/1.1\r\n"));
         EXPECT_THAT(request.toStdString(), HasSubstr("\r\nContent-Type: application/json\r\n"));
@@ -100,13 +100,13 @@ TEST_F(LinkTest, ACommandIsDoneHoweverItsExchangeEnds) {
         const int before = sent;
         reply = end;
         startSend(Command::hold);
-        ASSERT_TRUE(eventually([&] { return sent > before; })) << end.bytes.left(40).toStdString();
+        ASSERT_TRUE(waitUntil([&] { return sent > before; })) << end.bytes.left(40).toStdString();
         EXPECT_EQ(lastFailure.empty(), end.bytes.startsWith("HTTP"))
             << "only a reply counts, whatever it says";
     }
     server.listener().close();
     startSend(Command::hold);
-    EXPECT_TRUE(eventually([this] { return sent == 6; }));
+    EXPECT_TRUE(waitUntil([this] { return sent == 6; }));
     EXPECT_EQ(lastFailure, "The connection was refused");
 }
 
@@ -124,9 +124,9 @@ TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
         reply = {{}, true};
         const int before = sent;
         startSend(Command::approve);
-        ASSERT_TRUE(eventually([&] { return sent > before; }));
+        ASSERT_TRUE(waitUntil([&] { return sent > before; }));
         EXPECT_EQ(lastFailure, "The server sent a bad response") << kept;
-        eventually([this, end = QDeadlineTimer(300)] { return end.hasExpired(); });
+        waitUntil([this, end = QDeadlineTimer(300)] { return end.hasExpired(); });
         EXPECT_EQ(posts(), 1) << kept;
     }
 }
@@ -137,11 +137,11 @@ TEST_F(LinkTest, AReplyThatAPauseOfTheProgramDelaysHasTimedOut) {
     int paused = 0;
     for (std::size_t i = 1; i <= 10; ++i) {
         startFetch();
-        ASSERT_TRUE(eventually([&] { return requests.size() == i; }));
+        ASSERT_TRUE(waitUntil([&] { return requests.size() == i; }));
         QCoreApplication::processEvents(); // the server writes its reply
         const bool waits = results.size() < i;
         std::this_thread::sleep_for(150ms);
-        ASSERT_TRUE(eventually([&] { return results.size() == i; }));
+        ASSERT_TRUE(waitUntil([&] { return results.size() == i; }));
         if (!waits)
             continue;
         ++paused;
@@ -156,7 +156,7 @@ TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {
     settings.host = "127.0.0.1";
     reply = ok({});
     startSend(Command::approve);
-    EXPECT_TRUE(eventually([this] { return sent > 0; }));
+    EXPECT_TRUE(waitUntil([this] { return sent > 0; }));
     EXPECT_EQ(sent, 1);
     EXPECT_EQ(requests.size(), 1u);
 }
@@ -165,9 +165,9 @@ TEST_F(LinkTest, NothingIsHeardOnceTheLinkIsGone) {
     reply = {{}, false};
     startFetch();
     startSend(Command::approve);
-    ASSERT_TRUE(eventually([this] { return requests.size() == 2; }));
+    ASSERT_TRUE(waitUntil([this] { return requests.size() == 2; }));
     link.reset();
-    EXPECT_TRUE(eventually([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }))
+    EXPECT_TRUE(waitUntil([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }))
         << "the connections are closed";
     EXPECT_TRUE(results.empty());
     EXPECT_EQ(sent, 0);
@@ -181,8 +181,8 @@ TEST_F(LinkTest, WhoeverIsToldMayDestroyTheLink) {
             ++told;
             link.reset();
         });
-    EXPECT_TRUE(eventually([&] { return told > 0; }));
-    EXPECT_TRUE(eventually([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }));
+    EXPECT_TRUE(waitUntil([&] { return told > 0; }));
+    EXPECT_TRUE(waitUntil([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }));
     EXPECT_EQ(told, 1);
 }
 

@@ -3,12 +3,10 @@
 #include "link/http_link.h"
 #include "model/json.h"
 #include "standin-server/scripted_server.h"
+#include "support/wait_until.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QTcpSocket>
-#include <QTimer>
 #include <gmock/gmock.h>
 
 #include <memory>
@@ -58,21 +56,10 @@ protected:
         });
     }
 
-    static bool eventually(const std::function<bool()>& condition) {
-        QTimer wake; // where QTest::qWaitFor sleeps, every hop of an exchange costs ten milliseconds
-        wake.start(20);
-        QDeadlineTimer deadline(20'000);
-        while (!condition() && !deadline.hasExpired()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-        return condition();
-    }
-
     FetchResult fetch() {
         const std::size_t before = results.size();
         startFetch();
-        EXPECT_TRUE(eventually([&] { return results.size() > before; }));
+        EXPECT_TRUE(waitUntil([&] { return results.size() > before; }));
         return results.size() > before ? results.back() : LinkError{"no answer"};
     }
     /// Why the fetch failed, or "" when it gave a state.

@@ -1,25 +1,13 @@
 #include "link_fixture.h"
 
 #include "standin-server/standin_server.h"
+#include "support/random.h"
 
 #include <QRegularExpression>
 
 namespace velmora {
 
 using namespace standin;
-
-namespace {
-
-class CalmRandom final : public Random {
-public:
-    double uniform(double low, double high) override { return (low + high) / 2; }
-    Uuid uuid() override { return Uuid::fromRandomBits(0, ++count_); }
-
-private:
-    std::uint64_t count_ = 0;
-};
-
-} // namespace
 
 /// The link and the stand-in server, with a clock that only the test moves.
 class StandinTest : public LinkTest {
@@ -38,11 +26,11 @@ protected:
     void command(Command command, const std::optional<std::string>& mission) {
         const int before = sent;
         startSend(command, mission);
-        ASSERT_TRUE(eventually([&] { return sent > before; }));
+        ASSERT_TRUE(waitUntil([&] { return sent > before; }));
     }
 
     Date now = dateFromSeconds(1'700'000'042);
-    CalmRandom random;
+    ScriptedRandom random;
     SimulatedSite site{Scenario::garden, Seconds{300}, now, random};
     AppApi api{site, [this] { return now; }};
     std::unique_ptr<StandinServer> standin;

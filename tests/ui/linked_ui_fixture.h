@@ -21,7 +21,7 @@ protected:
     /// Starts over with these records, newest first. Before the window opens.
     void records(const std::vector<MissionRecord>& history) {
         restart();
-        put("history.json", QByteArray::fromStdString(encode(history).value()));
+        putHistory(history);
     }
     /// A visit of ten seconds.
     MissionRecord record(const std::string& id, Outcome outcome, double secondsAgo) const {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ledger.h"
+#include "support/random.h"
 #include "ui/window/main_window.h"
-#include "world.h"
 
 namespace velmora {
 
@@ -22,7 +22,7 @@ public:
         sometimes(1.0 / 60, [this] { changeSettings(); });
         sometimes(1.0 / 60, [this] { window_.setVisible(!window_.isVisible()); });
         sometimes(1.0 / 60, [this] { window_.resize(1100 + small(500), 720 + small(300)); });
-        sometimes(1.0 / 300, [this] { store_.setArmed(random_.happens(0.8)); });
+        sometimes(1.0 / 300, [this] { store_.setArmed(random_.chance(0.8)); });
         sometimes(1.0 / 600, [this] { store_.applyLinkMode(!store_.settings().linkMode); });
         while (store_.history().size() > recordsKept)
             store_.removeRecord(store_.history().back().key);
@@ -33,7 +33,7 @@ private:
 
     template <class Deed>
     void sometimes(double chance, Deed deed) {
-        if (!random_.happens(chance))
+        if (!random_.chance(chance))
             return;
         deed();
         ledger_.look();
@@ -49,9 +49,9 @@ private:
     /// Alerts are mostly approved, so that there is something to fly.
     void command() {
         const auto alert = store_.waitingAlert();
-        const Command any = random_.anyOf<Command>();
+        const auto any = random_.anyOf<Command>();
         if (alert)
-            store_.answer(random_.happens(0.8) ? Command::approve : any, *alert);
+            store_.answer(random_.chance(0.8) ? Command::approve : any, *alert);
         else
             store_.send(any);
     }

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "model/json.h"
+#include "store/app_store.h"
+#include "store/data_files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace velmora {
+
+/// A server that never answers.
+class MuteLink final : public Link {
+public:
+    void fetchState(const Settings&, std::function<void(FetchResult)>) override {}
+    void send(Command, const std::optional<std::string>&, const Settings&, CommandDone) override {}
+};
+
+/// A store over a temporary data directory, with a clock that only `tickAfter` moves until `run` is called.
+template <class RandomType, class LinkType = MuteLink, class NotifierType = SilentNotifier,
+          class LoginItemType = NoLoginItem>
+class StoreWorld {
+public:
+    explicit StoreWorld(RandomType draws = RandomType(), LinkType server = LinkType())
+        : random(std::move(draws)), link(std::move(server)) {}
+
+    /// The store, which reads its files at the first call.
+    AppStore& store() {
+        if (!store_)
+            store_ = std::make_unique<AppStore>(AppStore::Environment{
+                [this] { return time(); }, random, QDir(directory()), notifier, loginItem, link});
+        return *store_;
+    }
+    void restart() { store_.reset(); }
+
+    QString directory() const { return home.path() + QStringLiteral("/data/Velmora"); }
+    QString path(const QString& name) const { return directory() + '/' + name; }
+    QByteArray content(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void put(const QString& name, const QByteArray& bytes) const {
+        QDir().mkpath(directory());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("%s cannot be written.", qPrintable(file.fileName()));
+    }
+    void putHistory(const std::vector<MissionRecord>& history) const {
+        put(QStringLiteral("history.json"), QByteArray::fromStdString(encode(history).value()));
+    }
+
+    void tickAfter(double seconds) {
+        now += Seconds{seconds};
+        store().tick();
+    }
+    /// From now on the store ticks in real time.
+    void run() {
+        runningSince_ = std::chrono::steady_clock::now();
+        store().start();
+    }
+    /// Answers the waiting alert, if there is one.
+    void respond(Command command) {
+        if (const auto alert = store().waitingAlert())
+            store().answer(command, *alert);
+    }
+
+    QTemporaryDir home;
+    Date now = dateFromSeconds(1'700'000'042); ///< when `run` was called, from then on
+    RandomType random;
+    NotifierType notifier;
+    LoginItemType loginItem;
+    LinkType link;
+
+private:
+    Date time() const {
+        return runningSince_ ? now + Seconds(std::chrono::steady_clock::now() - *runningSince_) : now;
+    }
+
+    std::optional<std::chrono::steady_clock::time_point> runningSince_;
+    std::unique_ptr<AppStore> store_;
+};
+
+} // namespace velmora

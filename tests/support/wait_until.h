@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTimer>
+
+namespace velmora {
+
+/// Processes events until the condition holds; false if it does not hold after twenty seconds.
+template <class Condition>
+bool waitUntil(Condition condition) {
+    QTimer wake; // QTest::qWaitFor sleeps 10 ms at every check
+    wake.start(20);
+    QDeadlineTimer deadline(20'000);
+    while (!condition() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as QCoreApplication::exec does
+    }
+    return condition();
+}
+
+} // namespace velmora
