@@ -52,7 +52,7 @@ void sendInDemo(AppStore& store, Command command) {
 /// The run: every action is scheduled at once, each so many seconds after the one before.
 class Timetable {
 public:
-    Timetable(AppStore& store, QDir directory) : store_(store), directory_(std::move(directory)) {}
+    Timetable(AppStore& store, const QDir& directory) : store_(store), directory_(directory) {}
 
     template <class Action>
     void at(double delay, Action action) {

@@ -8,7 +8,8 @@ namespace velmora {
 
 namespace {
 
-int pipeEnds[2] = {-1, -1}; // a signal handler reaches only globals
+// A signal handler reaches only globals.
+int pipeEnds[2] = {-1, -1}; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 int openPipe() {
     if (::pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)

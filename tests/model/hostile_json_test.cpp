@@ -26,7 +26,7 @@ TEST(HostileJson, DepthAndSizeAreNeverFatal) {
     const std::string open(200'000, '['), close(200'000, ']');
     for (const std::string& deep : {open, open + close, R"({"x":1,"y":2,"z":)" + open + close + '}'})
         EXPECT_FALSE(isRead(deep));
-    const std::string huge(64 * 1024 * 1024, 'a');
+    const std::string huge(64U << 20, 'a');
     EXPECT_FALSE(decode<Missions>('"' + huge));
     EXPECT_FALSE(decode<LiveState>('"' + huge + '"'));
     const auto settings = decode<Settings>(changed(settingsDocument, "velmora.local", huge)).value;

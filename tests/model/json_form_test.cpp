@@ -66,7 +66,7 @@ TEST(JsonForm, DoublesSurviveToTheLastBit) {
     std::mt19937_64 bits(1);
     std::vector<double> numbers{0.1, -0.0, 1e-300, 5e-324, 1.7976931348623157e308, 1e23, 1748786592.1234567};
     while (numbers.size() < 20'000)
-        if (const double number = std::bit_cast<double>(bits()); std::isfinite(number))
+        if (const auto number = std::bit_cast<double>(bits()); std::isfinite(number))
             numbers.push_back(number);
     for (const double number : numbers) {
         const double back = decoded<P>(encode(P{number, 0}).value()).x;

@@ -21,7 +21,7 @@ QString StandinServer::listen() {
     if (broken_)
         return listenOn(broken_->listener());
     auto listener = std::make_unique<QTcpServer>();
-    const QString problem = listenOn(*listener);
+    QString problem = listenOn(*listener);
     if (problem.isEmpty())
         http_.bind(listener.release());
     return problem;
