@@ -1,5 +1,5 @@
-#include "link/state_guard.h"
 #include "model/json.h"
+#include "model/validation.h"
 #include "samples.h"
 
 #include <benchmark/benchmark.h>
@@ -13,7 +13,7 @@ void readState(benchmark::State& run, const LiveState& state) {
     const std::string body = *encode(state, KeyStyle::snakeCase);
     for ([[maybe_unused]] auto iteration : run) {
         const auto read = decode<LiveState>(body, KeyStyle::snakeCase);
-        benchmark::DoNotOptimize(troubleIn(*read.value));
+        benchmark::DoNotOptimize(firstProblem(*read.value));
     }
     run.counters["kB"] = static_cast<double>(body.size()) / 1e3;
 }
