@@ -6,7 +6,7 @@
 
 namespace {
 
-std::atomic<std::size_t> count;
+std::atomic<std::size_t> count; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 } // namespace
 

@@ -14,7 +14,7 @@ const QString exampleName = QStringLiteral("app_api_state.json");
 
 QSet<QString> keysIn(const QJsonValue& value) {
     QSet<QString> keys;
-    for (const QJsonValue& item : value.toArray())
+    for (const QJsonValue item : value.toArray())
         keys += keysIn(item);
     const QJsonObject object = value.toObject();
     for (auto member = object.begin(); member != object.end(); ++member)

@@ -42,7 +42,7 @@ protected:
         state.site.name = "../" + std::to_string(draw(1 << 30)) + "/<b>\u202E\x1b";
         state.site.size = {1.0 + draw(90'000), 1.0 + draw(90'000)};
         state.site.cameras.resize(std::size_t(draw(100)), state.site.cameras[0]);
-        state.site.boundary.resize(std::size_t(1 + draw(900)), {double(draw(1000)), double(draw(1000))});
+        state.site.boundary.resize(1 + std::size_t(draw(900)), {double(draw(1000)), double(draw(1000))});
         return state;
     }
     static Reply served(const LiveState& state) {

@@ -84,7 +84,7 @@ TEST_F(HostileTextTest, AnotherSiteWithEveryPollIsDrawn) {
         state.site.boundary.assign(std::size_t(1 + i % 4), {-50.0 * i, 1e5});
         state.site.cameras.resize(std::size_t(i % 7 == 0 ? 100 : i % 5),
                                   {"c", "Gate", {1e9, -1e9}, 1e6, "", true});
-        state.drone.trail.assign(std::size_t(i * 400), {double(i), 7});
+        state.drone.trail.assign(std::size_t(i) * 400, {double(i), 7});
         store().setSection(rawValuesOf<Section>[std::size_t(i) % 5].first);
         serve(state);
         EXPECT_FALSE(window().grab().isNull());

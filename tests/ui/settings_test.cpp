@@ -94,20 +94,20 @@ TEST_F(SettingsTest, EverySliderStoresItsOwnLimitBetweenItsBounds) {
                   {"Don't launch if wind is over", &Settings::maxWindKmh, 15, 38},
                   {"Alert expires after", &Settings::approvalSeconds, 30, 120}};
     look();
-    for (const auto& [name, field, lower, upper] : limits) {
+    for (const auto& limit : limits) {
         Settings expected = store().settings();
         const auto pressing = [&](Qt::Key key, double value) {
-            QTest::keyClick(&slider(name), key);
-            expected.*field = value;
-            EXPECT_EQ(store().settings(), expected) << name.toStdString() << ' ' << key;
+            QTest::keyClick(&slider(limit.name), key);
+            expected.*limit.field = value;
+            EXPECT_EQ(store().settings(), expected) << limit.name.toStdString() << ' ' << key;
         };
-        pressing(Qt::Key_Home, lower);
-        pressing(Qt::Key_Left, lower);
-        pressing(Qt::Key_Right, lower + 1);
-        pressing(Qt::Key_PageUp, lower + 6);
-        pressing(Qt::Key_PageDown, lower + 1);
-        pressing(Qt::Key_End, upper);
-        pressing(Qt::Key_Down, upper - 1);
+        pressing(Qt::Key_Home, limit.lower);
+        pressing(Qt::Key_Left, limit.lower);
+        pressing(Qt::Key_Right, limit.lower + 1);
+        pressing(Qt::Key_PageUp, limit.lower + 6);
+        pressing(Qt::Key_PageDown, limit.lower + 1);
+        pressing(Qt::Key_End, limit.upper);
+        pressing(Qt::Key_Down, limit.upper - 1);
     }
     EXPECT_TRUE(tells("Alert expires after", "119 s"));
     EXPECT_TRUE(content("settings.json").contains(R"("approvalSeconds":119)"));
