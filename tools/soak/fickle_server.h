@@ -26,6 +26,6 @@ private:
     SeededRandom random_;
 };
 
-using World = StoreWorld<SeededRandom, FickleServer>;
+using SoakWorld = StoreWorld<SeededRandom, FickleServer>;
 
 } // namespace velmora

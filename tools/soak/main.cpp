@@ -33,12 +33,12 @@ double secondsOf(const QElapsedTimer& timer) {
     return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
 }
 
-std::vector<MissionRecord> historyOnFile(const World& world) {
+std::vector<MissionRecord> historyOnFile(const SoakWorld& world) {
     return DataFiles(world.directory()).loadHistory().value_or(std::vector<MissionRecord>{});
 }
 
 /// The time that the slowest tick took, in seconds.
-double tickForASecond(World& world, Ledger& ledger) {
+double tickForASecond(SoakWorld& world, Ledger& ledger) {
     double slowest = 0;
     for (int tick = 0; tick < ticksPerSecond; ++tick) {
         QElapsedTimer time;
@@ -52,7 +52,7 @@ double tickForASecond(World& world, Ledger& ledger) {
 
 /// Days of visits in ticks of 0.05 s, with the window open.
 void playVisits(int hours, unsigned seed) {
-    World world{SeededRandom(seed), FickleServer(seed)};
+    SoakWorld world{SeededRandom(seed), FickleServer(seed)};
     Settings settings;
     settings.onboarded = true;
     DataFiles(world.directory()).saveSettings(settings);
@@ -92,7 +92,7 @@ void playVisits(int hours, unsigned seed) {
 }
 
 /// One approved mission after another.
-void fly(World& world, double hours) {
+void fly(SoakWorld& world, double hours) {
     for (double ticks = hours * 3600 * ticksPerSecond; ticks > 0; --ticks) {
         if (world.store().phase() == Phase::docked) {
             const bool even = world.store().history().size() % 2 == 0;
@@ -106,7 +106,7 @@ void fly(World& world, double hours) {
 
 /// Eight hours of missions under a hidden window: the heap may only grow with the history.
 void watchHeap() {
-    World world{SeededRandom(1), FickleServer(1)};
+    SoakWorld world{SeededRandom(1), FickleServer(1)};
     const MainWindow window(world.store());
     fly(world, 1);
     const double before = heapMegabytes(world.store().history());
@@ -119,7 +119,7 @@ void watchHeap() {
 
 /// The store's own timer in real time.
 void watchTimer(int seconds) {
-    World world{SeededRandom(1), FickleServer(1)};
+    SoakWorld world{SeededRandom(1), FickleServer(1)};
     int ticks = 0;
     // The wind changes with every tick.
     QObject::connect(&world.store(), &AppStore::stateChanged, [&] { ++ticks; });
@@ -136,7 +136,7 @@ void watchTimer(int seconds) {
 /// Far more missions than the program writes, as a foreign one may have put into the file.
 void loadLargeHistory() {
     constexpr std::size_t fileSize = 300'000'000;
-    World world{SeededRandom(1), FickleServer(1)};
+    SoakWorld world{SeededRandom(1), FickleServer(1)};
     const std::string record =
         encode(*Simulator::rehearse(Scenario::driveway, 9, {}, world.now, Settings{}, world.random)).value();
     const std::size_t records = fileSize / record.size();
