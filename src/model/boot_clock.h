@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// Time since the machine started, suspend included; never set back. For measuring pauses of the program.
+/// Time since boot, including suspend; monotonic. Measures how long the program was paused.
 inline std::chrono::milliseconds sinceBoot() {
     std::timespec time{};
     clock_gettime(CLOCK_BOOTTIME, &time);

@@ -18,7 +18,8 @@ std::string numberText(double number) {
     return {buffer.data(), end};
 }
 
-/// Quoted where it must be. A text that a spreadsheet would take for a formula is given an apostrophe first.
+/// Quotes the field if RFC 4180 requires it. Prefixes an apostrophe if a spreadsheet would read the text as a
+/// formula.
 std::string field(std::string text) {
     constexpr std::string_view formulaStarts = "=+-@\t";
     if (!text.empty() && formulaStarts.find(text.front()) != std::string_view::npos)
@@ -34,7 +35,7 @@ std::string field(std::string text) {
     return quoted + '"';
 }
 
-/// Fields that are already in their final form.
+/// Appends one line; `fields` must already be quoted.
 void addLine(std::string& csv, std::initializer_list<std::string> fields) {
     bool first = true;
     for (const std::string& one : fields) {

@@ -11,8 +11,8 @@ namespace velmora {
 /// or "notice"), x and y in metres, and the notice's text.
 std::string pathsCsv(const MissionRecord& record);
 
-/// One line for each record: id, start, end, camera, label, outcome, confidence, battery used, furthest out,
-/// demo.
+/// A header, then one line for each record: id, start, end, camera, label, outcome, confidence, battery used,
+/// furthest out, demo.
 std::string recordsCsv(const std::vector<MissionRecord>& records);
 
 } // namespace velmora

@@ -36,11 +36,11 @@ std::optional<std::string> dateText(Date date) {
     constexpr Date afterLast{sys_days{year{10000} / January / 1}};
     if (!(date >= first && date < afterLast))
         return std::nullopt;
-    const auto wholeSeconds = floor<seconds>(date);
-    const auto day = floor<days>(wholeSeconds);
+    const auto fullSeconds = floor<seconds>(date);
+    const auto day = floor<days>(fullSeconds);
     const year_month_day calendar{day};
-    const hh_mm_ss clock{wholeSeconds - day};
-    std::array<char, 80> text{}; // as wide as the widest numbers, which do not occur
+    const hh_mm_ss clock{fullSeconds - day};
+    std::array<char, 80> text{}; // large enough for any values of these types
     std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", int(calendar.year()),
                   unsigned(calendar.month()), unsigned(calendar.day()), int(clock.hours().count()),
                   int(clock.minutes().count()), int(clock.seconds().count()));

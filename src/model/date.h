@@ -20,11 +20,10 @@ constexpr double secondsSince1970(Date date) {
     return date.time_since_epoch().count();
 }
 
-/// The instant as "2025-06-01T14:03:12Z": UTC, fractions of the second dropped. Absent outside the years
-/// 0 to 9999, which the form cannot hold.
+/// `date` as "2025-06-01T14:03:12Z": UTC, fractions of a second dropped. nullopt outside the years 0 to 9999.
 std::optional<std::string> dateText(Date date);
 
-/// The instant written in exactly that form; absent for any other text and for impossible dates.
+/// Parses exactly that format; nullopt for any other text and for impossible dates.
 std::optional<Date> dateFromText(std::string_view text);
 
 } // namespace velmora

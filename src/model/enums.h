@@ -7,8 +7,8 @@
 
 namespace velmora {
 
-/// The cases of an enumeration in their order, each with its raw value: the text stored in files and sent
-/// over the network. Each enumeration specialises it below its cases.
+/// Table of the enumerators and their raw values, in declaration order. Raw values are stored in files and
+/// sent over the network. Specialised after each enumeration.
 template <class Enum>
 inline constexpr auto rawValuesOf = std::array<std::pair<Enum, std::string_view>, 0>{};
 
@@ -24,7 +24,7 @@ constexpr std::string_view rawValue(Enum value) {
     return {};
 }
 
-/// The case with this raw value; absent for an unknown text.
+/// The enumerator with this raw value; nullopt if there is none.
 template <RawValued Enum>
 constexpr std::optional<Enum> fromRawValue(std::string_view text) {
     for (const auto& [value, candidate] : rawValuesOf<Enum>)
@@ -33,7 +33,7 @@ constexpr std::optional<Enum> fromRawValue(std::string_view text) {
     return std::nullopt;
 }
 
-/// Mission phase.
+/// Phase of a mission.
 enum class Phase { docked, awaitingApproval, launching, enRoute, following, holding, returning, landing };
 
 template <>
@@ -64,7 +64,7 @@ enum class Outcome {
     windTooHigh
 };
 
-/// The sentences are both what people read and what files hold, so rewording one makes old files unreadable.
+/// These texts are shown to the owner and stored in files: changing one makes existing files unreadable.
 template <>
 inline constexpr auto rawValuesOf<Outcome> = std::to_array<std::pair<Outcome, std::string_view>>({
     {Outcome::visitorLeft, "Visitor left your grounds"},
@@ -81,7 +81,7 @@ constexpr bool flew(Outcome outcome) {
     return outcome <= Outcome::landedByYou;
 }
 
-/// Who steers the follow: this computer, or the drone's own subject tracking.
+/// What steers the drone while it follows: this computer (own) or the drone's subject tracking (native).
 enum class TrackingMode { own, native };
 
 template <>
@@ -112,7 +112,7 @@ inline constexpr auto rawValuesOf<Scenario> = std::to_array<std::pair<Scenario, 
     {Scenario::front, "front"},
 });
 
-/// What the owner asks of the drone.
+/// The owner's commands.
 enum class Command { approve, ignore, hold, resume, returnHome, land };
 
 template <>
@@ -125,7 +125,7 @@ inline constexpr auto rawValuesOf<Command> = std::to_array<std::pair<Command, st
     {Command::land, "land"},
 });
 
-/// Whether the command answers an alert; the others steer a drone that flies.
+/// Whether the command answers an alert; the others steer a flying drone.
 constexpr bool answersAlert(Command command) {
     return command == Command::approve || command == Command::ignore;
 }

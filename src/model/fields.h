@@ -15,8 +15,8 @@ struct Field {
 template <class Record, class Value>
 Field(std::string_view, Value Record::*) -> Field<Record, Value>;
 
-/// The table of a record's fields, in the order they are written. Each record specialises it beside its
-/// struct; equality, writing and reading all walk it, so a field is listed nowhere else.
+/// Table of a record's fields, in the order in which they are written. Specialised after each struct.
+/// Equality, reading, writing and validation iterate over it, so it is the only list of the fields.
 template <class Record>
 inline constexpr auto fieldsOf = std::tuple<>{};
 

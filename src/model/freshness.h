@@ -2,11 +2,11 @@
 
 namespace velmora {
 
-/// How far the live state can be believed.
+/// How current the live state is.
 enum class Freshness {
-    live,   ///< the simulator's, or what the server said just now
-    stale,  ///< the server has not answered for a while: the state is old
-    unknown ///< the server has not answered yet: there is no state
+    live,   ///< from the simulator, or a recent answer of the server
+    stale,  ///< the last answer of the server is too old
+    unknown ///< no answer of the server yet, so there is no state
 };
 
 } // namespace velmora

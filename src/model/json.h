@@ -10,11 +10,11 @@
 
 namespace velmora {
 
-/// How the keys of a document are spelled: as the fields are named, or in the server's snake case
-/// ("mission_id"), in which every key is converted before it is matched.
+/// Spelling of a document's keys: the field names, or the server's snake case ("mission_id"). With snake case
+/// the reader converts every key before it matches it.
 enum class KeyStyle { fieldNames, snakeCase };
 
-/// What reading a document gave: the value, or what is wrong and where ("drone.trail[3].x: expected a
+/// Result of reading a document: the value, or an error with its path ("drone.trail[3].x: expected a
 /// number").
 template <class T>
 struct Decoded {
@@ -24,17 +24,17 @@ struct Decoded {
     explicit operator bool() const { return value.has_value(); }
 };
 
-/// Reads one whole JSON document (UTF-8, no byte order mark). Strict about types, required keys, repeated
-/// keys and dates; tolerant of unknown keys. `root` comes before the path in error texts ("settings" gives
-/// "settings.port: expected an integer"). Hostile input is only ever an error.
+/// Reads one JSON document (UTF-8, no byte order mark). Wrong types, missing or repeated keys and invalid
+/// dates are errors; unknown keys are ignored. `root` is prepended to the path in error texts ("settings"
+/// gives "settings.port: expected an integer"). Hostile input gives an error, never a crash.
 ///
 /// Defined for every record and for a list of mission records.
 template <class T>
 Decoded<T> decode(std::string_view json, KeyStyle keys = KeyStyle::fieldNames, std::string_view root = {});
 
-/// The compact document of a record, keys in the order of its table and spelled as the style says. Absent
-/// when it cannot be written: a number that is not finite, a date outside the years 0 to 9999, or text that
-/// is not UTF-8.
+/// Writes compact JSON, keys in the order of the field table and in the given spelling. nullopt if the value
+/// cannot be written: a number that is not finite, a date outside the years 0 to 9999, or text that is not
+/// UTF-8.
 ///
 /// Defined for every record, and for a list of mission records or of pointers to them.
 template <class T>

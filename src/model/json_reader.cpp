@@ -10,8 +10,8 @@ namespace {
 
 using Element = simdjson::dom::element;
 
-/// "mission_id" becomes "missionId": each underscore inside the key goes and the letter after it is raised.
-/// Underscores at either end stay.
+/// Removes each underscore inside the key and capitalises the letter after it: "mission_id" becomes
+/// "missionId". Underscores at either end stay. The result refers to `key` or `buffer`.
 std::string_view camelCase(std::string_view key, std::string& buffer) {
     const std::size_t first = key.find_first_not_of('_');
     if (first == std::string_view::npos || key.find('_', first) == std::string_view::npos)
@@ -21,14 +21,14 @@ std::string_view camelCase(std::string_view key, std::string& buffer) {
     for (std::size_t i = first; i <= last; ++i) {
         if (key[i] == '_')
             continue;
-        const bool raised = i > first && key[i - 1] == '_' && key[i] >= 'a' && key[i] <= 'z';
-        buffer += raised ? static_cast<char>(key[i] - 'a' + 'A') : key[i];
+        const bool capitalised = i > first && key[i - 1] == '_' && key[i] >= 'a' && key[i] <= 'z';
+        buffer += capitalised ? static_cast<char>(key[i] - 'a' + 'A') : key[i];
     }
     buffer.append(key.substr(last + 1));
     return buffer;
 }
 
-/// Reads values one after another; the first failure is kept with the path to it.
+/// Reads values and keeps the first error with its path. Its reading functions return false on an error.
 class Reader {
 public:
     explicit Reader(KeyStyle keys) : keys_(keys) {}
@@ -111,7 +111,7 @@ private:
         return false;
     }
 
-    /// Puts one step before the path of the failure: a key, or "[index]".
+    /// Prepends one step to the path of the error: a key, or "[index]". Returns false.
     bool within(std::string_view step) {
         const bool joined = path_.empty() || path_.front() == '[';
         path_ = std::string(step) + (joined ? "" : ".") + path_;
@@ -130,7 +130,7 @@ private:
         return true;
     }
 
-    /// Reads the member into the field it names, if it names one.
+    /// Reads the member into the field with its name; ignores a member without such a field.
     template <class Record>
     bool readMember(std::string_view key, Element member, Record& record,
                     std::bitset<fieldCount<Record>>& seen) {
@@ -169,7 +169,7 @@ private:
     KeyStyle keys_;
     std::string problem_;
     std::string path_;
-    std::string buffer_; ///< a converted key; read before the next key is converted
+    std::string buffer_; ///< a converted key; overwritten by the next one
 };
 
 std::string errorText(std::string_view root, const std::string& path, std::string_view problem) {

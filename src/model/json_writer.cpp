@@ -87,7 +87,7 @@ bool writeMember(Sink& sink, std::string_view name, const Value& value) {
     return named && write(sink, value);
 }
 
-/// An absent value leaves no member behind.
+/// Writes no member for an absent value.
 template <class Value>
 bool writeMember(Sink& sink, std::string_view name, const std::optional<Value>& value) {
     return !value || writeMember(sink, name, *value);

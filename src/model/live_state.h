@@ -12,7 +12,7 @@ struct DroneState {
     P pos;
     double altitude = 0;  ///< metres above the pad
     double heading = 0;   ///< degrees from the +x axis towards +y
-    double speed = 0;     ///< ground speed; the producer sets the unit, the simulator m/s
+    double speed = 0;     ///< ground speed; the simulator uses m/s, a server its own unit
     double battery = 0;   ///< percent, 0 to 100
     double signal = 0;    ///< link quality, 0 to 1
     std::vector<P> trail; ///< recent positions, oldest first
@@ -28,8 +28,8 @@ inline constexpr auto fieldsOf<DroneState> =
 /// The person being watched.
 struct Visitor {
     P pos;
-    std::string label;     ///< what the cameras call the person
-    double confidence = 0; ///< 0 to 1, how sure the system is that the face is not known
+    std::string label;     ///< the name that the cameras give the person
+    double confidence = 0; ///< 0 to 1, certainty that the face is unknown
     std::string cameraId;  ///< id of the camera that sees the person
     bool inside = false;   ///< inside the boundary
     std::vector<P> trail;  ///< recent positions, oldest first
@@ -66,7 +66,7 @@ inline constexpr auto fieldsOf<Notice> =
     std::tuple{Field{"id", &Notice::id}, Field{"time", &Notice::time}, Field{"text", &Notice::text},
                Field{"level", &Notice::level}};
 
-/// The whole live snapshot, as the screens show it and as the server sends it.
+/// The live state of site, drone and mission, as the server sends it and the screens show it.
 struct LiveState {
     bool armed = false; ///< the system reacts to detections
     Phase phase = Phase::docked;
@@ -74,15 +74,15 @@ struct LiveState {
     std::optional<Date> missionStart;     ///< of the mission in progress
     std::optional<Date> approvalDeadline; ///< until when the launch may be approved
     DroneState drone;
-    std::optional<Visitor> visitor; ///< absent when nobody is being handled
+    std::optional<Visitor> visitor; ///< absent if nobody is being watched
     double windKmh = 0;             ///< mean wind, km/h
     double gustKmh = 0;             ///< current gust, km/h
     bool atBoundary = false;        ///< the drone is holding at the boundary buffer
-    std::string trackingMode;       ///< raw value of the TrackingMode in force
+    std::string trackingMode;       ///< raw value of the current TrackingMode
     std::vector<Notice> notices;    ///< newest first
     Site site;
 
-    /// The demo site with an armed system and a docked drone: where the simulator starts.
+    /// The state in which the simulator starts: the demo site, armed, with a docked drone.
     static LiveState initial();
 };
 
@@ -105,22 +105,22 @@ inline constexpr auto fieldsOf<LiveState> =
 /// Whether the drone is within a metre of its pad.
 bool isOverPad(const LiveState& state);
 
-/// Identifies one alert, so that an answer to it is not taken for an answer to the next. A server that names
-/// its missions is trusted to name each alert differently; otherwise start, deadline and camera tell alerts
-/// apart.
+/// Identifies one alert, so that an answer to it is never applied to the next one. If the server sends
+/// mission ids, each alert must have a different one; otherwise start, deadline and camera identify the
+/// alert.
 struct AlertId {
     std::optional<std::string> missionId;
-    std::optional<Date> start; ///< absent where there is a mission id, as are the next two
+    std::optional<Date> start; ///< absent if there is a mission id, as are the next two
     std::optional<Date> deadline;
     std::string cameraId;
 
     bool operator==(const AlertId&) const = default;
 };
 
-/// The alert that waits for the owner's approval in this state; absent in every other phase.
+/// The alert that waits for the owner's answer; nullopt in every phase but awaitingApproval.
 std::optional<AlertId> alertId(const LiveState& state);
 
-/// Puts the notice in front of the others; beyond forty the oldest goes.
+/// Prepends the notice. Drops the oldest one if there are more than 40.
 void addNotice(LiveState& state, Notice notice);
 
 } // namespace velmora

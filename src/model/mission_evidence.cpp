@@ -9,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-std::optional<ResponseStep> stepToldBy(const Notice& notice) {
+std::optional<ResponseStep> stepOf(const Notice& notice) {
     const auto kind = noticeKindOf(notice.text);
     if (!kind)
         return std::nullopt;
@@ -30,8 +30,8 @@ std::optional<ResponseStep> stepToldBy(const Notice& notice) {
     }
 }
 
-const Notice* firstTelling(const MissionRecord& record, ResponseStep step) {
-    const auto notice = std::ranges::find(record.notices, std::optional(step), stepToldBy);
+const Notice* firstNoticeOf(const MissionRecord& record, ResponseStep step) {
+    const auto notice = std::ranges::find(record.notices, std::optional(step), stepOf);
     return notice == record.notices.end() ? nullptr : &*notice;
 }
 
@@ -39,14 +39,14 @@ const Notice* firstTelling(const MissionRecord& record, ResponseStep step) {
 /// implausible.
 double intervalOf(const MissionRecord& record) {
     constexpr double longest = 1.1 * pathInterval;
-    const Notice* approved = firstTelling(record, ResponseStep::answered);
+    const Notice* approved = firstNoticeOf(record, ResponseStep::answered);
     const bool flown = !record.dronePath.empty() && approved;
     const double seconds = flown ? (record.end - approved->time).count() : durationOf(record);
     const auto points = static_cast<double>(flown ? record.dronePath.size() : record.visitorPath.size());
     return pathInterval * points <= seconds && seconds <= longest * points ? seconds / points : pathInterval;
 }
 
-/// Number of points from `first` on that lie at or before the moment.
+/// Number of points at or before `seconds`. The points begin at `first` and are `interval` seconds apart.
 std::size_t pointsUntil(double seconds, double first, double interval, std::size_t count) {
     if (seconds < first)
         return 0;
@@ -61,7 +61,7 @@ std::vector<ResponseMoment> responseTimeline(const MissionRecord& record) {
     std::vector<ResponseMoment> moments{{ResponseStep::seen, record.start}};
     for (const ResponseStep step :
          {ResponseStep::answered, ResponseStep::airborne, ResponseStep::onStation, ResponseStep::comingHome})
-        if (const Notice* notice = firstTelling(record, step))
+        if (const Notice* notice = firstNoticeOf(record, step))
             moments.push_back({step, notice->time});
     moments.push_back({ResponseStep::ended, record.end});
     return moments;

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// The steps of a response, in their order.
+/// The steps of a response, in order.
 enum class ResponseStep { seen, answered, airborne, onStation, comingHome, ended };
 
 /// When a step of the response was reached.
@@ -16,39 +16,39 @@ struct ResponseMoment {
     Date time;
 };
 
-/// The steps that the record's notices tell of, from the detection to the end; a step that never happened is
-/// left out.
+/// The steps found in the record's notices, from the detection to the end; steps without a notice are
+/// omitted.
 std::vector<ResponseMoment> responseTimeline(const MissionRecord& record);
 
 /// When a record's path points were taken, in seconds after its start.
 struct PathTimes {
-    double interval = pathInterval; ///< from point to point; steps that come late stretch it by up to a tenth
-    double visitorTo = 0;           ///< the visitor's last; the first was taken at the start
-    double droneFrom = 0;           ///< the drone's first; the last was taken at the end
+    double interval = pathInterval; ///< between two points; late steps add up to a tenth
+    double visitorTo = 0;           ///< of the visitor's last point; the first one is at 0
+    double droneFrom = 0;           ///< of the drone's first point; the last one is at the end
 };
 
 PathTimes pathTimes(const MissionRecord& record);
 
-/// How the drone kept to the boundary.
+/// How close the drone came to the boundary.
 struct BoundaryEvidence {
-    double leastDistance = 0;   ///< metres from the boundary at the nearest; negative outside it
-    double secondsInBuffer = 0; ///< nearer to the boundary than the buffer
+    double leastDistance = 0;   ///< metres between drone and boundary at the closest point; negative outside
+    double secondsInBuffer = 0; ///< time closer to the boundary than the buffer
 };
 
-/// Absent when the drone did not fly.
+/// `buffer` is in metres. nullopt if the drone did not fly.
 std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
                                                  double buffer);
 
-/// How much of a mission had happened at a moment.
+/// How much of a mission had happened at one moment.
 struct Progress {
-    std::size_t visitorPoints = 0; ///< taken by then, of the visitor's path
-    std::size_t dronePoints = 0;   ///< likewise
+    std::size_t visitorPoints = 0; ///< number of points of the visitor's path up to then
+    std::size_t dronePoints = 0;   ///< the same for the drone's path
     bool ended = false;
 
     bool operator==(const Progress&) const = default;
 };
 
-/// The moment is in seconds after the record's start; from its end on every point counts.
+/// `seconds` counts from the record's start. From the end on, all points count.
 Progress progressAt(const MissionRecord& record, double seconds);
 
 /// Seconds after the record's start.
@@ -57,7 +57,7 @@ struct TimeSpan {
     double to = 0;
 };
 
-/// Where neither path has points although the mission went on.
+/// The spans of the mission in which neither path has points.
 std::vector<TimeSpan> gapsOf(const MissionRecord& record);
 
 /// Seconds from start to end, never negative.

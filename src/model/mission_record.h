@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// Path points are taken with the first step at or after this many seconds since the last.
+/// Seconds between two path points: a point is taken in the first step after at least this time.
 inline constexpr double pathInterval = 0.5;
 
 /// One finished mission, or a detection that was only logged.
@@ -12,18 +12,18 @@ struct MissionRecord {
     std::string id; ///< not unique: two missions may share one
     Date start;
     Date end;
-    std::string cameraId;   ///< camera that raised the alert
+    std::string cameraId;   ///< id of the camera that raised the alert
     std::string cameraName; ///< its display name at the time
     std::string label;      ///< what the cameras called the visitor
     double confidence = 0;  ///< 0 to 1
     Outcome outcome = Outcome::visitorLeft;
-    std::vector<P> dronePath;      ///< while airborne, so up to the end
-    std::vector<P> visitorPath;    ///< from the start
+    std::vector<P> dronePath;      ///< points while airborne, until the end
+    std::vector<P> visitorPath;    ///< points from the start
     double maxDistanceFromPad = 0; ///< metres
     double batteryUsed = 0;        ///< percentage points
     std::vector<Notice> notices;   ///< oldest first
-    std::string snapshot;          ///< artwork of the alert
-    bool demo = false;             ///< rehearsed to fill an empty history, and cleared with the demo history
+    std::string snapshot;          ///< name of the artwork shown with the alert
+    bool demo = false; ///< rehearsed for an empty history; removed when the owner clears the demo history
 };
 
 template <>

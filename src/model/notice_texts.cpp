@@ -8,12 +8,12 @@ namespace velmora {
 
 namespace {
 
-/// A text: the words before and behind the inserted ones, if there are any.
+/// The text of a kind of notice: the parts before and after the inserted value, if it has one.
 struct Form {
     NoticeKind kind;
     Notice::Level level;
     std::string_view before;
-    std::string_view behind = {};
+    std::string_view after = {};
     bool inserts = false;
 };
 
@@ -47,8 +47,8 @@ const Form& formOf(NoticeKind kind) {
 }
 
 bool fits(const Form& form, std::string_view text) {
-    return form.inserts ? text.size() >= form.before.size() + form.behind.size() &&
-                              text.starts_with(form.before) && text.ends_with(form.behind)
+    return form.inserts ? text.size() >= form.before.size() + form.after.size() &&
+                              text.starts_with(form.before) && text.ends_with(form.after)
                         : text == form.before;
 }
 
@@ -56,7 +56,7 @@ bool fits(const Form& form, std::string_view text) {
 
 std::string noticeText(NoticeKind kind, std::string_view inserted) {
     const Form& form = formOf(kind);
-    return std::string(form.before).append(inserted).append(form.behind);
+    return std::string(form.before).append(inserted).append(form.after);
 }
 
 std::string noticeText(NoticeKind kind, double inserted) {

@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// The meaning of a notice of the simulator. One table holds the text and level of each, so that a record's
-/// notices can be read back.
+/// Kind of a notice of the simulator. One table holds the text and level of each kind, so that the kind can
+/// be found from the text.
 enum class NoticeKind {
     detection, ///< inserts the camera's name
     approved,
@@ -17,7 +17,7 @@ enum class NoticeKind {
     following, ///< inserts the follow distance, metres
     handedOver,
     atBoundary, ///< inserts the buffer, metres
-    gust,       ///< inserts its speed, km/h
+    gust,       ///< inserts the speed of the gust, km/h
     crossedBoundary,
     leftGrounds,
     holding, ///< inserts the height, metres
@@ -33,14 +33,14 @@ enum class NoticeKind {
     disarmed,
 };
 
-/// The text of a notice. `inserted` is what the kind says above.
+/// The text of a notice; `inserted` is the value listed above for its kind.
 std::string noticeText(NoticeKind kind, std::string_view inserted = {});
-/// With a number, truncated toward zero.
+/// Inserts the number, truncated toward zero.
 std::string noticeText(NoticeKind kind, double inserted);
 
 Notice::Level noticeLevel(NoticeKind kind);
 
-/// The kind of a notice, by its text; absent for any other text.
+/// The kind of the notice with this text; nullopt for any other text.
 std::optional<NoticeKind> noticeKindOf(std::string_view text);
 
 } // namespace velmora

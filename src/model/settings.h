@@ -9,10 +9,10 @@
 
 namespace velmora {
 
-/// The host that a fresh installation proposes, set when the program is built.
+/// Default host of a fresh installation, set at build time.
 std::string defaultHost();
 
-/// The owner's settings; the initialisers are what a fresh installation starts with.
+/// The owner's settings. The initialisers are the defaults of a fresh installation.
 struct Settings {
     bool linkMode = false; ///< false: built-in simulation; true: a server on the network
     std::string host = defaultHost();

@@ -14,7 +14,7 @@ struct CameraInfo {
     std::string name;
     P pos;
     double heading = 0;   ///< degrees from the +x axis towards +y
-    std::string snapshot; ///< name of the artwork that stands for the camera's view
+    std::string snapshot; ///< name of the artwork shown as the camera's view
     bool online = false;
 };
 

@@ -10,8 +10,8 @@ constexpr bool fitsInt64(double number) {
     return number >= -limit && number < limit;
 }
 
-/// Truncates toward zero, as texts print numbers; 0 if the result does not fit. Validation refuses such
-/// numbers in settings and server states; a mission's record may hold them.
+/// Truncates toward zero, as texts print numbers; 0 if the result does not fit. Validation rejects such
+/// numbers in settings and server states; a mission record may contain them.
 constexpr std::int64_t truncated(double number) {
     return fitsInt64(number) ? static_cast<std::int64_t>(number) : 0;
 }

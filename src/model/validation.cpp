@@ -11,29 +11,29 @@ inline constexpr bool isList = false;
 template <class Item>
 inline constexpr bool isList<std::vector<Item>> = true;
 
-/// Path and problem of the first value that `check` refuses, such as ".drone.battery: out of range"; empty if
-/// there is none. `check` is called with every value that is not a record, a list before its items, and
-/// returns the problem or nothing.
+/// Path and problem of the first value that `check` rejects, such as ".drone.battery: out of range"; empty if
+/// there is none. `check` is called with every value that is not a record, a list before its items. It
+/// returns the problem, or an empty text.
 template <class Value, class Check>
-std::string firstRefused(const Value& value, const Check& check) {
+std::string firstRejected(const Value& value, const Check& check) {
     std::string found;
     if constexpr (Described<Value>) {
         forEachField<Value>([&](const auto& field) {
             if (!found.empty())
                 return;
-            found = firstRefused(value.*(field.member), check);
+            found = firstRejected(value.*(field.member), check);
             if (!found.empty())
                 found = '.' + std::string(field.name) + found;
         });
     } else if constexpr (isOptional<Value>) {
         if (value)
-            found = firstRefused(*value, check);
+            found = firstRejected(*value, check);
     } else {
         if (const std::string problem = check(value); !problem.empty())
             return ": " + problem;
         if constexpr (isList<Value>)
             for (std::size_t i = 0; i < value.size() && found.empty(); ++i)
-                if (found = firstRefused(value[i], check); !found.empty())
+                if (found = firstRejected(value[i], check); !found.empty())
                     found = '[' + std::to_string(i) + ']' + found;
     }
     return found;
@@ -77,7 +77,7 @@ struct StateFits : NumbersFit {
 } // namespace
 
 std::string firstProblem(const Settings& settings) {
-    return withoutDot(firstRefused(settings, NumbersFit()));
+    return withoutDot(firstRejected(settings, NumbersFit()));
 }
 
 std::string firstProblem(const LiveState& state, const Limits& limits) {
@@ -89,7 +89,7 @@ std::string firstProblem(const LiveState& state, const Limits& limits) {
     if (!isDrawable(state.site.size.x) || !isDrawable(state.site.size.y))
         return "site.size: expected " + std::to_string(limits.smallestSite) + " to " +
                std::to_string(limits.largestSite) + " metres";
-    return withoutDot(firstRefused(state, StateFits(limits)));
+    return withoutDot(firstRejected(state, StateFits(limits)));
 }
 
 } // namespace velmora

@@ -7,7 +7,8 @@
 
 namespace velmora {
 
-/// What a server's state may hold. More would stall the screens; a site outside these sizes cannot be drawn.
+/// Limits of a server's state. A larger state would stall the screens; a site outside these sizes cannot be
+/// drawn.
 struct Limits {
     int smallestSite = 1, largestSite = 100'000; ///< metres, width and height
     std::size_t textBytes = 1000;
@@ -16,11 +17,12 @@ struct Limits {
     std::size_t cameras = 100;
 };
 
-/// Path and problem of the first value that makes the record unusable, such as "flightHeight: out of range";
-/// empty if it is usable. Every number must fit a 64-bit integer when truncated, because texts print it so.
+/// Path and problem of the first value that makes the settings unusable, such as "flightHeight: out of
+/// range"; empty if there is none. Texts print numbers truncated, so each must fit a 64-bit integer.
 std::string firstProblem(const Settings& settings);
 
-/// Likewise "notices: more than 1000 entries". A site also needs a boundary.
+/// The same for a server's state, which must also have a boundary and keep within the limits ("notices: more
+/// than 1000 entries").
 std::string firstProblem(const LiveState& state, const Limits& limits = {});
 
 } // namespace velmora
