@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// Where chance comes from. A test gives its own to script the wind.
+/// Source of random numbers. Tests pass their own to control the wind.
 class Random {
 public:
     virtual ~Random() = default;
@@ -16,7 +16,7 @@ public:
     virtual Uuid uuid() = 0;
 };
 
-/// A generator that starts from the operating system's random source, so that no two runs are alike.
+/// A generator seeded by the operating system, so that every run differs.
 class SystemRandom final : public Random {
 public:
     SystemRandom();

@@ -10,10 +10,10 @@ namespace velmora {
 /// One point of a visitor's walk.
 struct RoutePoint {
     P pos;
-    double linger = 0; ///< seconds that the visitor stands there on arrival
+    double linger = 0; ///< seconds that the visitor waits there
 };
 
-/// The walk of a demo visit. Each starts inside the demo site's boundary and ends outside it.
+/// The visitor's walk in a demo visit. It starts inside the demo site's boundary and ends outside.
 std::span<const RoutePoint> routeOf(Scenario scenario);
 
 } // namespace velmora

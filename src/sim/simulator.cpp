@@ -8,7 +8,7 @@ namespace velmora {
 namespace {
 
 constexpr double walkingSpeed = 1.45;     // m/s
-constexpr double patienceOutside = 6;     // seconds outside before a visitor counts as gone
+constexpr double leaveTimeout = 6;        // seconds outside the boundary after which the visitor has left
 constexpr double batteryPerSecond = 0.09; // percent used in flight
 constexpr std::size_t trailLength = 160;  // samples
 
@@ -48,7 +48,7 @@ void Simulator::stepWeather(double dt) {
         gust();
 }
 
-/// Knocks the drone off its course; the steering law brings it back.
+/// Adds a random velocity to the drone's; the steering corrects it.
 void Simulator::gust() {
     nextGust_ = random_.uniform(18, 35);
     const double strength = random_.uniform(24, 36);
@@ -96,7 +96,7 @@ void Simulator::walk(Visitor& visitor, double dt) {
 
 void Simulator::watchOutside(double dt) {
     outsideFor_ += dt;
-    if (!(outsideFor_ > patienceOutside))
+    if (!(outsideFor_ > leaveTimeout))
         return;
     note(NoticeKind::leftGrounds);
     state.visitor.reset();

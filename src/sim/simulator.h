@@ -10,9 +10,9 @@
 
 namespace velmora {
 
-/// Takes the place of the drone server in demo mode: wind, the visitor's walk, the drone's flight, and the
-/// missions that come of them. Time moves only through the dates handed in. Positions are metres of the site
-/// plan, speeds m/s, wind km/h. Nothing fails; a command that does not fit the phase is dropped.
+/// Simulates the drone server in demo mode: wind, the visitor's walk, the drone's flight and the missions.
+/// Time advances only by the dates passed in. Positions are metres on the site plan, speeds m/s, wind km/h.
+/// Nothing fails; commands that do not fit the phase are ignored.
 class Simulator {
 public:
     /// `random` must outlive the simulator.
@@ -23,16 +23,16 @@ public:
     /// Called with the record of each finished mission.
     std::function<void(const MissionRecord&)> onFinish;
 
-    /// Advances by `dt` seconds to the moment `at`.
+    /// Advances by `dt` seconds. `at` is the time at the end of the step.
     void step(double dt, Date at);
-    /// Carries out one of the owner's commands.
+    /// Executes a command of the owner at the time `at`.
     void send(Command command, Date at);
-    /// Starts a demo visit; dropped unless docked.
+    /// Starts a demo visit; ignored unless docked.
     void trigger(Scenario scenario, Date at);
 
-    /// Flies one whole mission, detected at `at`, in steps of 0.1 s with the initial live state. The owner
-    /// approves and sends the drone home the given seconds after detection; absent means never. Absent when
-    /// the mission takes longer than 900 s. The record is marked as demo.
+    /// Simulates one mission from the initial live state, in steps of 0.1 s. `at` is the time of the
+    /// detection. The owner approves and calls the drone home the given seconds after it; nullopt means
+    /// never. Returns the record, marked as demo, or nullopt if the mission takes longer than 900 s.
     static std::optional<MissionRecord> rehearse(Scenario scenario, std::optional<double> approveAfter,
                                                  std::optional<double> returnAfter, Date at,
                                                  const Settings& settings, Random& random);
@@ -71,7 +71,7 @@ private:
     Random& random_;
     std::span<const RoutePoint> route_; ///< the visitor's walk in the current scenario
     std::size_t leg_ = 0;               ///< the route point that the visitor last reached
-    double lingerLeft_ = 0;             ///< seconds that the visitor still stands there
+    double lingerLeft_ = 0;             ///< seconds that the visitor still waits there
     P velocity_;                        ///< of the drone, m/s
     double outsideFor_ = 0;             ///< seconds that the visitor has been outside the boundary
     double sampleClock_ = 0;            ///< seconds since the last path sample

@@ -15,7 +15,7 @@ constexpr double followSpeed = 7;        // m/s
 constexpr double steeringGain = 0.9;     // 1/s
 constexpr double maxAcceleration = 4;    // m/s²
 
-/// Raised to the lower limit first, then lowered to the upper, which decides where the limits cross.
+/// Like std::clamp, but gives `high` if `low` is greater.
 double raiseThenLower(double value, double low, double high) {
     return std::min(std::max(value, low), high);
 }
@@ -113,8 +113,8 @@ void Simulator::descend(double dt) {
     finish(pendingOutcome_.value_or(Outcome::visitorLeft));
 }
 
-/// Steers with a cap on speed and on acceleration. The position is kept inside the buffered bounds; the
-/// velocity is not cut by that.
+/// Steers with limited speed and acceleration. The position is clamped to the buffered bounds; the velocity
+/// is not.
 void Simulator::fly(P toward, double maxSpeed, double dt, std::optional<P> face) {
     DroneState& drone = state.drone;
     P desired = (toward - drone.pos) * steeringGain;

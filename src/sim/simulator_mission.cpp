@@ -106,8 +106,8 @@ void Simulator::finish(Outcome outcome) {
         onFinish(record);
 }
 
-/// A visitor who has left is gone from the state by now, so the record of such a mission has a stand-in label
-/// and confidence.
+/// If the visitor has left, the state has no visitor any more; the record then gets a default label and
+/// confidence.
 MissionRecord Simulator::recordOf(Outcome outcome) const {
     MissionRecord record;
     record.id = *state.missionId;
