@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-/// The header as it fits on one line of the sidebar.
+/// The header on one line, limited to 40 printable characters for the sidebar.
 QString versionText(const QByteArray& header) {
     constexpr qsizetype longest = 40; // characters
     QString text = QString::fromUtf8(header).simplified();
@@ -48,7 +48,7 @@ void Exchange::finished() {
     end(reply_->error() == QNetworkReply::NoError ? End::Kind::complete : End::Kind::failed);
 }
 
-/// Reports from the event loop, where whoever is told may destroy anything, this exchange included.
+/// Queues the callback, so that it may destroy any object, including this one.
 void Exchange::end(End::Kind kind) {
     auto ended = std::exchange(ended_, nullptr);
     if (!ended)

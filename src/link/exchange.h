@@ -9,26 +9,27 @@
 
 namespace velmora {
 
-/// One request and its reply, from the first byte to the last or to whatever goes wrong before. Deletes
-/// itself, and the reply with it, when it has ended.
+/// One HTTP request and its reply. It ends when the reply is complete, fails, takes too long or is too large,
+/// and then deletes itself and the reply.
 class Exchange : public QObject {
     Q_OBJECT
 
 public:
-    /// How an exchange ended. Failed means what Qt calls an error, HTTP statuses from 400 included.
+    /// Result of an exchange. `failed` means any error that Qt reports, including HTTP statuses from 400.
     struct End {
         enum class Kind { complete, failed, timedOut, tooLarge };
 
         Kind kind = Kind::complete;
         QNetworkReply::NetworkError error = QNetworkReply::NoError;
-        QString errorText; ///< Qt's own
-        int status = 0;    ///< HTTP status; 0 when none came
+        QString errorText; ///< Qt's text for the error
+        int status = 0;    ///< HTTP status; 0 if no reply came
         QByteArray body;
-        QString version; ///< header X-Velmora-Version, on one line: at most 40 printable characters
+        QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
     };
 
-    /// Calls `ended` exactly once, from the event loop, unless the parent goes first. A reply that is handled
-    /// after the time limit, as after a pause of the program, has timed out.
+    /// Takes ownership of `reply`. Calls `ended` exactly once, from the event loop, unless `parent` is
+    /// destroyed first. The exchange times out if the reply is not processed within `timeLimit`, even if a
+    /// pause of the program is the cause. A body of more than `byteLimit` bytes is too large.
     Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
              std::function<void(const End&)> ended, QObject* parent);
 

@@ -22,8 +22,8 @@ Failure failureOf(QNetworkReply::NetworkError error) {
         return Failure::unreachable;
     case QNetworkReply::TimeoutError:
         return Failure::timedOut;
-    case QNetworkReply::RemoteHostClosedError:            // before the reply was whole
-    case QNetworkReply::ProxyAuthenticationRequiredError: // status 407, for there is no proxy
+    case QNetworkReply::RemoteHostClosedError:            // before the reply was complete
+    case QNetworkReply::ProxyAuthenticationRequiredError: // status 407, because no proxy is used
         return Failure::badResponse;
     default:
         return Failure::other;

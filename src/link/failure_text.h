@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// The kinds of failure that the owner can be told apart.
+/// The kinds of failure that have their own text.
 enum class Failure {
     invalidAddress,
     hostNotFound,
@@ -14,14 +14,14 @@ enum class Failure {
     unreachable,
     timedOut,
     badResponse,
-    unreadable, ///< followed by where and why
-    other       ///< Qt's own text
+    unreadable, ///< with the path and the problem in the state
+    other       ///< the text that Qt gives
 };
 
-/// What kind of failure an ended exchange is; absent when it brought a whole reply with status 200.
+/// The kind of failure of an exchange that has ended; nullopt for a complete reply with status 200.
 std::optional<Failure> failureOf(const Exchange::End& end);
 
-/// The owner's words for the failure; `detail` is the path and problem in the state, or Qt's text.
+/// Error text for the owner. `detail` is the path and problem in the state, or Qt's text.
 QString failureText(Failure failure, const QString& detail = {});
 
 } // namespace velmora

@@ -23,7 +23,7 @@ QNetworkRequest requestTo(const QUrl& base, const QString& endpoint) {
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setRawHeader("Accept-Encoding", "identity"); // a compressed reply could unfold without end
+    request.setRawHeader("Accept-Encoding", "identity"); // a compressed reply could expand without limit
     return request;
 }
 
@@ -50,15 +50,15 @@ QByteArray bodyOf(Command command, const std::optional<std::string>& mission) {
     return QJsonDocument(body).toJson(QJsonDocument::Compact);
 }
 
-/// Why no reply came to a command; absent when one came, whatever it says.
+/// Why a command got no reply; nullopt if it got one, whatever its status.
 std::optional<LinkError> commandFailure(const Exchange::End& end) {
     if (end.kind == Exchange::End::Kind::complete || end.status != 0)
         return std::nullopt;
     return LinkError{failureText(*failureOf(end), end.errorText)};
 }
 
-/// A request's body that can be read once. Qt sends a request again when its connection breaks before the
-/// reply, unless it cannot rewind the body.
+/// A request body that can be read only once. Qt resends a request whose connection breaks before the reply,
+/// unless it cannot rewind the body.
 class SingleUseBody : public QIODevice {
 public:
     explicit SingleUseBody(const QByteArray& bytes) : rest_(bytes) { open(ReadOnly); }
@@ -82,7 +82,7 @@ private:
 } // namespace
 
 HttpLink::HttpLink(const Limits& limits) : limits_(limits) {
-    manager_.setProxy(QNetworkProxy::NoProxy); // the server stands in the same house
+    manager_.setProxy(QNetworkProxy::NoProxy); // the server is on the home network
 }
 
 std::optional<QUrl> HttpLink::base(const Settings& settings) {
@@ -118,7 +118,7 @@ void HttpLink::send(Command command, const std::optional<std::string>& mission, 
     request.setHeader(QNetworkRequest::ContentLengthHeader, bytes.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     request.setRawHeader("Connection", "close");
-    // A connection of its own: the server may just be closing one that was kept, and nothing is sent twice.
+    // Use a new connection: the server may be closing a kept one, and a command is never sent twice.
     auto* manager = new QNetworkAccessManager;
     manager->setProxy(QNetworkProxy::NoProxy);
     QNetworkReply* reply = manager->post(request, body);

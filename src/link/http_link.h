@@ -11,14 +11,13 @@
 
 namespace velmora {
 
-/// Talks to a velmora server over plain HTTP on the home network. It keeps nothing between two exchanges: no
-/// cookies, no cache, no proxy, no redirect. An exchange that is out when the object goes is dropped without
-/// a word.
+/// Talks to a velmora server over plain HTTP on the home network. Stateless: no cookies, cache, proxy or
+/// redirects. Pending requests are aborted at destruction and their callbacks not called.
 class HttpLink final : public QObject, public Link {
     Q_OBJECT
 
 public:
-    /// How long an exchange may take from its start to its last byte, and how much a reply may hold.
+    /// Time from the start of an exchange to its last byte, and size of a reply's body.
     struct Limits {
         std::chrono::milliseconds state{2000};
         std::chrono::milliseconds command{3000};
@@ -28,8 +27,8 @@ public:
     HttpLink() : HttpLink(Limits{}) {}
     explicit HttpLink(const Limits& limits);
 
-    /// "http://HOST:PORT/api/app/v1/" with the host as it stands in the settings; absent when that is no
-    /// address.
+    /// "http://HOST:PORT/api/app/v1/" with the host exactly as in the settings; nullopt if that is not a
+    /// valid address.
     static std::optional<QUrl> base(const Settings& settings);
 
     void fetchState(const Settings& settings, std::function<void(FetchResult)> done) override;
