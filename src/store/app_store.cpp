@@ -16,7 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto tickInterval = 50ms;
-constexpr double longestTick = 5;         // seconds; a longer gap, as after sleep, counts as this
+constexpr double longestTick = 5;         // seconds; a longer gap, for example a suspend, counts as this
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
 
@@ -30,7 +30,8 @@ DetectionNotification detectionNotification(const LiveState& state) {
             alertId(state).value_or(AlertId{})};
 }
 
-/// The owner's file keeps its permissions; a full disk may refuse only what is flushed.
+/// QSaveFile keeps the permissions of an existing file. Flushed before the commit, because a full disk may
+/// fail only then.
 QString writeExport(const QString& path, std::string_view bytes) {
     QSaveFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
@@ -97,7 +98,7 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
     setState(sim_.state);
 }
 
-/// A server may go from one waiting alert to the next between two polls.
+/// Also compares the alerts, because a server can replace a waiting alert with another one between two polls.
 void AppStore::followPhase() {
     const Phase before = std::exchange(lastPhase_, state_.phase);
     const auto alert = alertId(state_);
@@ -135,7 +136,8 @@ std::optional<AlertId> AppStore::waitingAlert() const {
     return freshness() == Freshness::live ? alertId(state_) : std::nullopt;
 }
 
-/// After a pause of the program an answer can arrive before the tick, when the state is as old as the pause.
+/// Ticks first: after a pause of the program an answer can arrive before the next tick, while the state is
+/// still old.
 bool AppStore::answer(Command command, const AlertId& seen) {
     tick();
     if (!answersAlert(command) || waitingAlert() != seen)
@@ -239,7 +241,7 @@ void AppStore::setSettings(const Settings& settings) {
     sim_.settings = settings_;
     emit settingsChanged();
     if (leavesLink)
-        setState(sim_.state); // before the session calls the state live
+        setState(sim_.state); // before the session reports the state as live
     if (session_.setSettings(settings_))
         environment_.notifier.withdrawAll();
 }

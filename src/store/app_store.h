@@ -12,15 +12,14 @@
 
 namespace velmora {
 
-/// The one controller of the app: owns the live state, the settings and the history, ticks twenty times a
-/// second, and carries out what the owner asks. Demo mode advances the simulator, link mode polls the server.
-/// Screens read its values, call its operations and listen to its signals. Everything happens on the main
-/// thread.
+/// The only controller of the app: owns the live state, the settings and the history, ticks twenty times a
+/// second and carries out the owner's commands. Demo mode advances the simulator, link mode polls the server.
+/// Screens read its values, call its operations and listen to its signals. Main thread only.
 class AppStore : public QObject {
     Q_OBJECT
 
 public:
-    /// What the store needs from outside; all of it must outlive the store.
+    /// The injected dependencies; the references must outlive the store.
     struct Environment {
         std::function<Date()> clock;
         Random& random;
@@ -30,36 +29,36 @@ public:
         Link& link;
     };
 
-    /// Reads both files, or seeds an empty history with rehearsed missions.
+    /// Reads settings and history. Seeds an empty history with rehearsed missions.
     explicit AppStore(Environment environment, QObject* parent = nullptr);
 
-    /// Starts the ticking. Called once.
+    /// Starts the timer. Call once.
     void start();
-    /// Advances to the clock's present; the timer calls it every 0.05 s.
+    /// Advances to the current time of the clock. The timer calls it every 0.05 s.
     void tick();
 
-    /// The live picture; null in link mode until the server has answered.
+    /// The live state; null in link mode until the server has answered.
     const LiveState* knownState() const;
-    /// The phase of the live picture; docked while nothing is known.
+    /// The phase of the live state; docked if there is no state.
     Phase phase() const { return knownState() ? state_.phase : Phase::docked; }
     const Settings& settings() const { return settings_; }
     /// Finished missions, newest first.
     const std::vector<HistoryEntry>& history() const { return history_.entries(); }
-    /// Null if there is no such record (any more).
+    /// The record with this key; null if there is none.
     const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }
     Section section() const { return section_; }
-    /// The record opened in the history.
+    /// The record selected in the history; nullopt if none is.
     const std::optional<RecordKey>& selectedRecord() const { return selectedRecord_; }
     const LinkStatus& linkStatus() const { return session_.status(); }
     Freshness freshness() const { return session_.freshness(); }
-    /// When the server last answered with a state; absent in demo mode and before its first answer.
+    /// When the server last answered with a state; nullopt in demo mode and before its first answer.
     const std::optional<Date>& lastAnswerAt() const { return session_.lastAnswerAt(); }
     bool showWelcome() const { return showWelcome_; }
-    /// Where settings.json and history.json are.
+    /// The directory of settings.json and history.json.
     const QDir& dataDirectory() const { return environment_.dataDirectory; }
-    /// What the desktop's setting says now.
+    /// Whether the desktop starts Velmora at login.
     bool startsAtLogin() const { return environment_.loginItem.isOn(); }
-    /// The clock's present, for ages and countdowns.
+    /// The current time of the store's clock.
     Date now() const { return environment_.clock(); }
 
     void setSection(Section section);
@@ -67,35 +66,37 @@ public:
     /// Selects the record and shows the history.
     void openRecord(RecordKey key);
     void setShowWelcome(bool show);
-    /// Saves a change at once and hands it to the simulator and the link.
+    /// Saves changed settings at once and applies them to simulator and link. Does nothing if nothing
+    /// changed.
     void setSettings(const Settings& settings);
-    /// Nothing changes if the desktop refuses.
+    /// Has no effect if the desktop's setting cannot be changed.
     void setStartAtLogin(bool on);
 
-    /// The alert that can be answered now: it waits, and the link to the server is live.
+    /// The alert that can be answered now; nullopt if none waits or the state is not live.
     std::optional<AlertId> waitingAlert() const;
-    /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown: the answer
-    /// goes out, once, if that very alert can still be answered at this moment; otherwise nothing happens.
-    /// Returns whether it went out.
+    /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown. Sends the
+    /// command once if exactly this alert can still be answered, otherwise does nothing. Returns whether it
+    /// sent the command.
     bool answer(Command command, const AlertId& seen);
-    /// Carries out a flight command in the simulator or at the server, at once and once, also while the
-    /// server is silent. Does nothing for an answer to an alert.
+    /// Sends a flight command to the simulator or the server, at once and only once, even if the server is
+    /// silent. Does nothing for an answer to an alert.
     void send(Command command);
-    /// Demo mode only: a server decides for itself whether it is armed.
+    /// Demo mode only; in link mode the server decides whether it is armed.
     void setArmed(bool armed);
-    /// Switches between demo mode and link mode. Also restarts the link's status if the mode stays.
+    /// Switches between demo mode and link mode. Unlike setSettings() it resets the link status even if the
+    /// mode is the same.
     void applyLinkMode(bool linked);
-    /// Starts a demo visit; nothing in link mode.
+    /// Starts a demo visit; does nothing in link mode.
     void simulate(Scenario scenario);
     /// Removes the rehearsed missions.
     void clearDemoHistory();
-    /// Removes one record and returns it; absent if there is none.
+    /// Removes one record and returns it; nullopt if there is none with this key.
     std::optional<HistoryEntry> removeRecord(RecordKey key);
-    /// Puts a removed record back above the older ones.
+    /// Inserts a removed record again, before the older ones.
     void restoreRecord(HistoryEntry entry);
 
-    /// Exports write one file, complete or not at all. They return an empty text, or a sentence for the owner
-    /// that says which file was not written and why. This one writes the record as JSON.
+    /// Each export writes a complete file, or changes nothing on failure. Returns an empty text, or the file
+    /// and the reason of the failure in words for the owner. This one writes the record as JSON.
     QString exportRecord(const MissionRecord& record, const QString& path) const;
     /// The record's paths and notices as CSV.
     QString exportPaths(const MissionRecord& record, const QString& path) const;
@@ -112,9 +113,10 @@ signals:
     void linkStatusChanged();
     void freshnessChanged();
     void showWelcomeChanged();
-    /// Someone waits for the owner's decision.
+    /// A new alert waits for the owner's answer.
     void attentionRequested();
-    /// No reply came to a command, for this reason in words for the owner. Comes within three seconds.
+    /// A command got no reply; `reason` is in words for the owner. Emitted within three seconds of the
+    /// command.
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:

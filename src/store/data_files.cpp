@@ -81,7 +81,7 @@ void DataFiles::save(File& file, const std::optional<std::string>& bytes) {
     replaceFile(path, *bytes);
 }
 
-/// Copies the file as "name.unreadable", or with the first free number after that.
+/// Copies the file to NAME.unreadable, or to the first free one of NAME.unreadable.2, .3 and so on.
 bool DataFiles::keepCopy(const QString& path) const {
     if (!QFile::exists(path))
         return true;

@@ -7,18 +7,18 @@
 
 namespace velmora {
 
-/// settings.json and history.json in the data directory. Failures are silent: reading then gives nothing,
-/// and a failed write leaves the file as it was. A file that exists but cannot be read as what it should be
-/// is copied beside itself before anything is written over it.
+/// settings.json and history.json in the data directory. Errors are silent: a failed read returns nullopt, a
+/// failed write leaves the file unchanged. A file that exists but cannot be read is copied before it is
+/// overwritten.
 class DataFiles {
 public:
-    /// The directory (mode 0700) is made with its parents whenever something is written.
+    /// Each write creates the directory (mode 0700) and its parents if they are missing.
     explicit DataFiles(QDir directory);
 
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();
 
-    /// Makes a directory with its parents if it is missing, for the owner's eyes only.
+    /// Creates the directory (mode 0700) and its parents if it is missing.
     static void makeDirectory(const QDir& directory);
 
     std::optional<Settings> loadSettings();
@@ -31,7 +31,7 @@ public:
 private:
     struct File {
         QString name;
-        bool unreadable = false; ///< holds something of the owner's that we could not read
+        bool unreadable = false; ///< the file exists but could not be read
     };
 
     template <class T>

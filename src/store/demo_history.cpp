@@ -9,11 +9,11 @@ namespace {
 
 struct Visit {
     int daysAgo;
-    int hour; ///< local clock time of the detection
+    int hour; ///< local time of the detection
     int minute;
     Scenario scenario;
-    std::optional<double> approveAfter; ///< seconds
-    std::optional<double> returnAfter;  ///< seconds
+    std::optional<double> approveAfter; ///< seconds after the detection; nullopt: never
+    std::optional<double> returnAfter;  ///< likewise
 };
 
 const Visit nightOnTheDriveway{1, 22, 47, Scenario::driveway, 9, {}};
@@ -28,8 +28,8 @@ std::optional<MissionRecord> rehearse(const Visit& visit, const Settings& settin
     return Simulator::rehearse(visit.scenario, visit.approveAfter, visit.returnAfter, *at, settings, random);
 }
 
-/// An alert that nobody answered becomes one that the owner waved off after 14 seconds, so that the history
-/// shows that ending too.
+/// Turns an expired alert into one that the owner ignored after 14 seconds, so that the demo history contains
+/// this outcome.
 void makeIgnored(MissionRecord& record) {
     if (record.outcome != Outcome::expired)
         return;

@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/// Three rehearsed missions of the past days, newest first, for a history that is still empty. One that
-/// does not come to an end is left out.
+/// Three rehearsed missions of the past days, newest first, for an empty history. A mission that cannot be
+/// rehearsed is left out.
 std::vector<MissionRecord> rehearsedHistory(const Settings& settings, Date now, Random& random);
 
 } // namespace velmora

@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// Names one record for as long as the program runs; ids are not unique.
+/// Identifies a record while the program runs; record ids are not unique.
 enum class RecordKey : std::uint32_t {};
 
 struct HistoryEntry {
@@ -14,23 +14,23 @@ struct HistoryEntry {
     MissionRecord record;
 };
 
-/// The finished missions, newest first, in memory and on file. Every change is saved at once.
+/// The finished missions, newest first, in memory and in history.json. Every change is saved at once.
 class History {
 public:
     /// Reads the file; empty if there is none or it cannot be read. `files` must outlive the history.
     explicit History(DataFiles& files);
 
     const std::vector<HistoryEntry>& entries() const { return entries_; }
-    /// Null if there is no such record (any more).
+    /// The record with this key; null if there is none.
     const HistoryEntry* find(RecordKey key) const;
 
-    /// Puts finished missions, newest first, in front of the others.
+    /// Inserts finished missions, newest first, before all others.
     void add(std::vector<MissionRecord> records);
     /// Removes the rehearsed missions.
     void clearDemo();
-    /// Removes one record and returns it; absent if there is none.
+    /// Removes one record and returns it; nullopt if there is none with this key.
     std::optional<HistoryEntry> remove(RecordKey key);
-    /// Puts a removed record back, with its key, above the older ones.
+    /// Inserts a removed record again, with its key, before the older ones.
     void restore(HistoryEntry entry);
 
 private:

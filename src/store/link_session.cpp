@@ -9,8 +9,8 @@ namespace velmora {
 namespace {
 
 constexpr double pollInterval = 0.5;     // seconds
-constexpr double earlyTick = 0.005;      // seconds by which ten ticks may fall short of half a second
-constexpr double longestDebt = 5;        // seconds of waiting that a clock that is set back can cost
+constexpr double earlyTick = 0.005;      // seconds; ten ticks may take slightly less than the interval
+constexpr double longestDebt = 5;        // seconds by which setting the clock back can delay a poll
 constexpr double failingUntilStale = 2;  // seconds since the last good answer
 constexpr double silentUntilStale = 2.5; // seconds since the last good answer
 
@@ -41,12 +41,12 @@ void LinkSession::resetStatus() {
     setStatus(settings_.linkMode ? LinkStatus::connecting() : LinkStatus::demo());
 }
 
-/// A poll that falls due while one is outstanding is dropped, not postponed.
+/// A poll that becomes due while another is outstanding is skipped, not postponed.
 void LinkSession::advance(Date now, double elapsed) {
     if (!settings_.linkMode)
         return;
     if (lastAnswerAt_)
-        lastAnswerAt_ = std::min(*lastAnswerAt_, now); // or a clock that is set back puts it into the future
+        lastAnswerAt_ = std::min(*lastAnswerAt_, now); // never in the future, even if the clock was set back
     pollClock_ = std::max(pollClock_ + elapsed, -longestDebt);
     if (pollClock_ + earlyTick >= pollInterval) {
         pollClock_ = 0;
@@ -96,7 +96,7 @@ void LinkSession::setStatus(const LinkStatus& status) {
     emit statusChanged();
 }
 
-/// A server that says it cannot be reached is believed a little sooner than one that says nothing.
+/// After a failed poll the state becomes stale a little sooner than after silence.
 void LinkSession::updateFreshness() {
     Freshness freshness = Freshness::live;
     if (settings_.linkMode && !lastAnswerAt_) {

@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-/// The conversation with the server: polls its state twice a second, one request at a time, judges how fresh
-/// the last answer is, and sends commands. It is off in demo mode; then nothing is polled and everything is
+/// Talks to the server in link mode: polls its state twice a second, one request at a time, judges the
+/// freshness of the last answer, and sends commands. In demo mode it polls nothing and the state is always
 /// live.
 class LinkSession : public QObject {
     Q_OBJECT
@@ -22,24 +22,24 @@ public:
 
     const LinkStatus& status() const { return status_; }
     Freshness freshness() const { return freshness_; }
-    /// When the server last answered with a state; absent in demo mode and before its first answer.
+    /// When the server last answered with a state; nullopt in demo mode and before its first answer.
     const std::optional<Date>& lastAnswerAt() const { return lastAnswerAt_; }
 
-    /// Follows changed settings. Another server, or another mode, starts a new conversation: replies to the
-    /// old one are dropped. Returns whether it is a new one.
+    /// Applies changed settings. Another server or another mode resets status and freshness, and replies to
+    /// earlier requests are ignored. Returns whether server or mode changed.
     bool setSettings(const Settings& settings);
-    /// Shows the status of a conversation that has only begun.
+    /// Sets the status to that of a session without an answer yet.
     void resetStatus();
-    /// Lets `elapsed` seconds pass; `now` is the clock's present.
+    /// Advances by `elapsed` seconds to `now` and polls if a poll is due.
     void advance(Date now, double elapsed);
-    /// Posts a command once, and polls as soon as the exchange has ended.
+    /// Posts a command once, and polls as soon as its exchange ends.
     void send(Command command, const std::optional<std::string>& mission);
 
 signals:
     void received(const velmora::LiveState& state);
     void statusChanged();
     void freshnessChanged();
-    /// No reply came to a command, for this reason in words for the owner.
+    /// A command got no reply; `reason` is in words for the owner.
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:
@@ -55,8 +55,8 @@ private:
     Freshness freshness_;
     std::optional<Date> lastAnswerAt_;
     bool pollInFlight_ = false;
-    double pollClock_ = 0; ///< seconds gathered towards the next poll
-    int generation_ = 0;   ///< counts the conversations
+    double pollClock_ = 0; ///< seconds since the last poll; negative after the clock was set back
+    int generation_ = 0;   ///< incremented when server or mode changes
 };
 
 } // namespace velmora

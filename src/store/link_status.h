@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// How the app stands to its server.
+/// Status of the connection to the server.
 struct LinkStatus {
     enum class Case { connected, failed, demo, connecting };
 
@@ -18,7 +18,7 @@ struct LinkStatus {
 
     bool operator==(const LinkStatus&) const = default;
 
-    /// As the sidebar and the settings show it.
+    /// The text in the sidebar and the settings.
     QString text() const;
 };
 

@@ -17,13 +17,13 @@ std::optional<std::tm> localCalendar(std::time_t instant) {
     return calendar;
 }
 
-/// Seconds that the local clock is ahead of UTC at the instant.
+/// Seconds by which local time is ahead of UTC at the instant.
 std::optional<std::time_t> offsetAt(std::time_t instant) {
     const auto calendar = localCalendar(instant);
     return calendar ? std::optional(calendar->tm_gmtoff) : std::nullopt;
 }
 
-/// The first instant after `before` with another offset, given that `after` has one.
+/// The first instant after `before` with another offset; `after` must have another one.
 std::time_t changeBetween(std::time_t before, std::time_t after) {
     const auto old = offsetAt(before);
     while (after - before > 1) {
@@ -33,7 +33,7 @@ std::time_t changeBetween(std::time_t before, std::time_t after) {
     return after;
 }
 
-/// The instant of a wall-clock time given as seconds since 1970 as if the local clock were UTC.
+/// Converts a local wall-clock time to an instant. `wall` is in seconds since 1970 as if local time were UTC.
 std::optional<std::time_t> instantOfWallClock(std::time_t wall) {
     constexpr std::time_t day = 86400;
     const auto before = offsetAt(wall - day);

@@ -12,7 +12,7 @@ public:
     virtual bool setOn(bool on) = 0;
 };
 
-/// For a desktop that starts nothing at login.
+/// For an environment that starts nothing at login.
 class NoLoginItem final : public LoginItem {
 public:
     bool isOn() const override { return false; }

@@ -6,23 +6,23 @@
 
 namespace velmora {
 
-/// What a desktop notification about a detection says.
+/// Content of a desktop notification about a detection.
 struct DetectionNotification {
     QString identifier; ///< a later one with the same identifier replaces it
     QString title;
     QString body;
-    QString picture; ///< artwork of the camera's view; may name nothing
-    AlertId alert;   ///< that its actions answer
+    QString picture; ///< name of the artwork shown as the camera's view; may be unknown
+    AlertId alert;   ///< the alert that its actions answer
 };
 
-/// The desktop's notification service as the store uses it. A desktop that has none shows nothing; the window
-/// carries the alert all the same.
+/// The desktop's notification service. If there is none, nothing is shown; the window shows the alert anyway.
 class Notifier {
 public:
     virtual ~Notifier() = default;
 
+    /// Does not block; failures are silent.
     virtual void post(const DetectionNotification& notification) = 0;
-    /// Takes back every notification posted.
+    /// Closes every notification posted.
     virtual void withdrawAll() = 0;
 };
 

@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int longestChain = 40; // links, as many as the kernel follows
+constexpr int longestChain = 40; // links, the limit of the kernel
 constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 QString withoutLinks(QString path) {
@@ -20,12 +20,12 @@ QString withoutLinks(QString path) {
     return path;
 }
 
-/// Until the disk has it; some file systems cannot tell.
+/// Waits until the bytes are on disk. EINVAL: the file system does not support fsync.
 bool sync(const QFile& file) {
     return ::fsync(file.handle()) == 0 || errno == EINVAL;
 }
 
-/// Flushed before it counts as written: the last bytes are buffered, and a full disk refuses them only then.
+/// Flushes and syncs, because a full disk may refuse buffered bytes only then.
 bool writeNew(const QString& path, std::string_view bytes) {
     QFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
@@ -35,8 +35,8 @@ bool writeNew(const QString& path, std::string_view bytes) {
 
 } // namespace
 
-/// Through a file beside it and a rename. That file always has the same name, so that kills leave no more
-/// than one behind, until the next change.
+/// Writes path + ".part" and renames it. The fixed name means that a killed process leaves at most one stray
+/// file, which the next save replaces.
 bool replaceFile(const QString& path, std::string_view bytes) {
     const QString target = withoutLinks(path);
     const QString part = target + QStringLiteral(".part");

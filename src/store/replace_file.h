@@ -6,9 +6,8 @@
 
 namespace velmora {
 
-/// Replaces the content of a file, or makes it, for the owner's eyes only (mode 0600). Whatever happens
-/// meanwhile, a kill or a full disk, the file holds the old content or the new. A link stays a link: what it
-/// names is written. False when the content is the old one.
+/// Atomically writes `bytes` to `path` (mode 0600), creating it if needed. After a crash or a full disk the
+/// file holds the old or the new content. Follows symlinks. Returns false if the file is unchanged.
 bool replaceFile(const QString& path, std::string_view bytes);
 
 } // namespace velmora
