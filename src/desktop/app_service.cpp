@@ -15,7 +15,7 @@ const QString objectPath = QStringLiteral("/org/velmora/Velmora");
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 constexpr int handOverTime = 5000; // milliseconds
 
-/// The sections that a launcher's actions open.
+/// The sections that the desktop entry's actions open.
 constexpr Section actionSections[] = {Section::overview, Section::live, Section::history};
 
 QString tokenFrom(const QVariantMap& platformData) {
@@ -27,7 +27,7 @@ QString tokenFrom(const QVariantMap& platformData) {
 
 AppService::AppService(const QDBusConnection& bus) : bus_(bus) {}
 
-/// The object is there before the name is, so that whoever finds the name owned finds someone who answers.
+/// Registers the object before the name, so that a client that sees the name can call it at once.
 AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
@@ -41,7 +41,7 @@ AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
     lock_.emplace(dataDirectory + QStringLiteral("/lock"));
     lock_->setStaleLockTime(0);
     const bool taken = !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
-    return taken ? Claim::refused : Claim::granted; // a directory that cannot be written to keeps nobody out
+    return taken ? Claim::refused : Claim::granted; // an unwritable directory does not prevent the start
 }
 
 bool AppService::handOver() {

@@ -11,28 +11,29 @@
 
 namespace velmora {
 
-/// Makes this the one running Velmora, and lets a second start, the desktop's launcher and its actions reach
-/// it over org.freedesktop.Application. Nothing that comes this way can launch the drone.
+/// Makes this process the single running instance. A second start, the desktop's launcher and its actions
+/// reach it over org.freedesktop.Application. No call of that interface can launch the drone.
 class AppService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// What became of the attempt to be the one.
+    /// Result of trying to become the single running instance.
     enum class Claim {
         granted,
-        handedOver, ///< another one runs, and comes forward unless the start was hidden
-        refused     ///< another one writes to the same data and cannot be reached
+        handedOver, ///< another instance runs; it shows its window unless the start was hidden
+        refused     ///< another instance uses the same data and cannot be reached
     };
 
     explicit AppService(const QDBusConnection& bus);
 
-    /// Owns the bus name and the data directory from then on. A hidden start does not call the running
-    /// window.
+    /// Takes the bus name and the lock of the data directory, and keeps them. If another instance runs, asks
+    /// it to show its window unless `hidden`.
     Claim claim(const QString& dataDirectory, bool hidden);
 
 signals:
-    /// The window is asked for; the token lets it come to the front where the desktop wants one.
+    /// The window should come to the front. `activationToken` allows it to, on desktops that require a token;
+    /// it may be empty.
     void windowRequested(const QString& activationToken);
     void sectionRequested(velmora::Section section);
 

@@ -6,16 +6,16 @@
 
 namespace velmora {
 
-/// An entry in the desktop's autostart folder.
+/// The login item as an entry in the desktop's autostart directory.
 class Autostart final : public LoginItem {
 public:
-    /// The entry is made as `org.velmora.Velmora.desktop` in this directory.
+    /// `directory` holds the entry, `org.velmora.Velmora.desktop`.
     explicit Autostart(QString directory);
 
     /// $XDG_CONFIG_HOME/autostart, by default ~/.config/autostart.
     static QString defaultDirectory();
 
-    /// What the file really says: an entry that is hidden or disabled is off.
+    /// Reads the entry; false if it is missing, hidden or disabled.
     bool isOn() const override;
     bool setOn(bool on) override;
 

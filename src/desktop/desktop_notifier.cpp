@@ -18,14 +18,14 @@ const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLit
               defaultAction = QStringLiteral("default");
 constexpr uchar criticalUrgency = 2;
 constexpr int neverExpires = 0;
-constexpr uint dismissedByUser = 2;    // a reason of NotificationClosed
-constexpr int quietAfterAnswer = 2000; // milliseconds
+constexpr uint dismissedByUser = 2;      // a reason of NotificationClosed
+constexpr int answerCooldownTime = 2000; // milliseconds
 
 QDBusMessage call(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
 }
 
-/// Without control characters, which some services cannot show.
+/// Removes control characters, which some services cannot show.
 QString printable(QString text) {
     text.removeIf([](QChar character) { return character.category() == QChar::Other_Control; });
     return text;
@@ -78,7 +78,7 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection& bus,
 }
 
 /// If the notification service exits, forget its notifications. When a new one appears, query its
-/// capabilities. One that our own call has started had no predecessor and already has the notification.
+/// capabilities. A service that our own call started has no predecessor and already has the notification.
 void DesktopNotifier::onOwnerChanged(const QString&, const QString& before, const QString& now) {
     if (!before.isEmpty()) {
         posted_.clear();
@@ -166,7 +166,7 @@ void DesktopNotifier::close(uint id) {
     bus_.asyncCall(message);
 }
 
-/// A service that this very call starts has not told what it can do, and most can.
+/// Capabilities are unknown until the service replies; assume that it supports actions, as most do.
 QStringList DesktopNotifier::actions() const {
     if (capabilities_ && !capabilities_->contains(QStringLiteral("actions")))
         return {};
@@ -188,16 +188,16 @@ std::map<QString, DesktopNotifier::Posted>::iterator DesktopNotifier::find(uint 
     return std::ranges::find_if(posted_, [id](const auto& one) { return id != 0 && one.second.id == id; });
 }
 
-/// The signal goes to everyone on the bus, so only notifications of this run count, and a double click counts
+/// The signal is broadcast: ignore notifications of other programs. The cooldown makes a double click count
 /// once.
 void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
     const auto entry = find(id);
-    if (entry == posted_.end() || !entry->second.quiet.hasExpired())
+    if (entry == posted_.end() || !entry->second.answerCooldown.hasExpired())
         return;
     const AlertId alert = entry->second.alert;
     const QString token = entry->second.token;
     if (action == launchAction || action == ignoreAction)
-        entry->second.quiet.setRemainingTime(quietAfterAnswer);
+        entry->second.answerCooldown.setRemainingTime(answerCooldownTime);
     if (action != ignoreAction)
         emit windowRequested(token);
     if (action == launchAction)
@@ -211,14 +211,14 @@ void DesktopNotifier::onActivationToken(uint id, const QString& token) {
         entry->second.token = token;
 }
 
-/// Whoever dismisses an alert without an answer is shown the window.
+/// If the owner dismisses an alert without an answer, show the window.
 void DesktopNotifier::onNotificationClosed(uint id, uint reason) {
     const auto entry = find(id);
     if (entry == posted_.end())
         return;
     const Posted closed = entry->second;
     posted_.erase(entry);
-    if (reason == dismissedByUser && closed.quiet.hasExpired())
+    if (reason == dismissedByUser && closed.answerCooldown.hasExpired())
         emit windowRequested(closed.token);
 }
 

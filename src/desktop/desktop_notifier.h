@@ -14,7 +14,7 @@
 
 namespace velmora {
 
-/// A picture as the notification service takes it: RGBA rows, eight bits a channel.
+/// A picture in the format of the notification service: RGBA rows, 8 bits per channel.
 struct NotificationPicture {
     int width = 0;
     int height = 0;
@@ -22,14 +22,13 @@ struct NotificationPicture {
     QByteArray pixels;
 };
 
-/// Posts to the desktop's notification service (org.freedesktop.Notifications) and hears its answers. Every
-/// call is asynchronous, so that a service that hangs holds nothing up; a missing or failing service is
-/// silent.
+/// Posts to the desktop's notification service (org.freedesktop.Notifications) and reports the answers. Every
+/// call is asynchronous, so a hanging service blocks nothing. Errors are silent.
 class DesktopNotifier final : public QObject, public Notifier {
     Q_OBJECT
 
 public:
-    /// `pictureOf` looks up artwork by name; a picture without pixels is left out.
+    /// `pictureOf` looks up artwork by name; a picture without pixels is not sent.
     DesktopNotifier(const QDBusConnection& bus, std::function<NotificationPicture(const QString&)> pictureOf);
 
     void post(const DetectionNotification& notification) override;
@@ -38,7 +37,8 @@ public:
 signals:
     /// The owner chose "Launch drone" or "Ignore" in the notification of this alert.
     void answered(velmora::Command command, const velmora::AlertId& alert);
-    /// The window is asked for; the token lets it come to the front where the desktop wants one.
+    /// The window should come to the front. `activationToken` allows it to, on desktops that require a token;
+    /// it may be empty.
     void windowRequested(const QString& activationToken);
 
 private slots:
@@ -47,20 +47,20 @@ private slots:
     void onNotificationClosed(uint id, uint reason);
 
 private:
-    /// A notification of this run, from the moment it is sent.
+    /// A notification that this process has sent.
     struct Posted {
-        AlertId alert;           ///< that its actions answer
-        uint id = 0;             ///< 0 until the service has answered
-        bool withdrawn = false;  ///< before the service had answered
-        QDeadlineTimer quiet{0}; ///< until a second press counts as another answer
+        AlertId alert;                    ///< the alert that its actions answer
+        uint id = 0;                      ///< 0 until the service has replied
+        bool withdrawn = false;           ///< withdrawn before the service replied
+        QDeadlineTimer answerCooldown{0}; ///< further actions are ignored until it expires
         QString token;
-        std::optional<DetectionNotification> next; ///< to replace it as soon as its id is known
+        std::optional<DetectionNotification> next; ///< replaces it as soon as its id is known
     };
 
     void askForCapabilities();
     void onOwnerChanged(const QString& service, const QString& before, const QString& now);
     void send(const DetectionNotification& notification, Posted& posted);
-    /// The service took the notification, or refused it (id 0).
+    /// Handles the reply to Notify; `id` is 0 if the service refused the notification.
     void onPosted(const QString& identifier, uint id);
     void close(uint id);
     QVariantMap hintsFor(const DetectionNotification& notification) const;
@@ -70,7 +70,7 @@ private:
     QDBusConnection bus_;
     QDBusServiceWatcher watcher_;
     std::function<NotificationPicture(const QString&)> pictureOf_;
-    std::optional<QStringList> capabilities_; ///< of the service; absent until it has told
+    std::optional<QStringList> capabilities_; ///< of the service; nullopt until it has replied
     std::map<QString, Posted> posted_;        ///< by identifier
 };
 

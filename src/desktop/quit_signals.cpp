@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-// A signal handler reaches only globals.
+// Global, because a signal handler has no other data.
 int pipeEnds[2] = {-1, -1}; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 int openPipe() {
@@ -17,7 +17,7 @@ int openPipe() {
     return pipeEnds[0];
 }
 
-/// Only what is allowed in a signal handler: one byte into the pipe.
+/// Writes one byte into the pipe, which a signal handler may do.
 void onSignal(int) {
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(pipeEnds[1], &byte, 1);
@@ -28,7 +28,7 @@ void onSignal(int) {
 QuitSignals::QuitSignals() : notifier_(openPipe(), QSocketNotifier::Read) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         if (std::signal(signal, onSignal) == SIG_IGN)
-            std::signal(signal, SIG_IGN); // as after nohup
+            std::signal(signal, SIG_IGN); // stays ignored, as after nohup
     connect(&notifier_, &QSocketNotifier::activated, this, &QuitSignals::quitRequested);
 }
 
