@@ -47,7 +47,7 @@ App::App(AppService& service, const Options& options)
 
 void App::showWindow(const QString& activationToken) {
     if (!activationToken.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8()); // Qt's Wayland plugin takes it from there
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8()); // read by Qt's Wayland plugin
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     window_.show();
     window_.raise();

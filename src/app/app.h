@@ -12,7 +12,7 @@
 
 namespace velmora {
 
-/// The running program: the store and everything that shows it, wired together.
+/// Creates and connects the store, the window, the tray and the desktop services.
 class App : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     App(AppService& service, const Options& options);
 
 private:
-    /// Brings the window to the front, with the desktop's token where there is one.
+    /// Brings the window to the front. `activationToken` may be empty.
     void showWindow(const QString& activationToken = {});
 
     SystemRandom random_;

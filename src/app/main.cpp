@@ -16,31 +16,31 @@ using namespace velmora;
 
 namespace {
 
-/// Without a display: --help and the like work anywhere.
+/// Needs no display, so that --help and --version work anywhere.
 std::variant<Options, Message> optionsFrom(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     return readOptions(QCoreApplication::arguments());
 }
 
-/// A relative place counts for nothing by the desktop's rules: it would be another one in every directory.
-void forgetRelativePlaces() {
-    for (const char* place : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
-        if (QDir::isRelativePath(qEnvironmentVariable(place)))
-            qunsetenv(place);
+/// XDG Base Directory rules: relative paths must be ignored.
+void ignoreRelativeXdgPaths() {
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        if (QDir::isRelativePath(qEnvironmentVariable(variable)))
+            qunsetenv(variable);
 }
 
-/// Qt itself would end the program with an abort and advice that does not help.
+/// Checked first, because Qt would abort with an unhelpful message.
 bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-/// Qt's file dialog remembers its places: with the other data, and nowhere else.
-void keepSettingsWithTheData() {
+/// Keeps the state of Qt's file dialog in the data directory.
+void moveQSettingsToDataDirectory() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
 }
 
-void dress() {
+void setUpApplication() {
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
@@ -69,12 +69,12 @@ int main(int argc, char* argv[]) {
         std::cerr << "Velmora needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n";
         return 1;
     }
-    forgetRelativePlaces();
+    ignoreRelativeXdgPaths();
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
-    const QuitSignals quitSignals; // before anything that a signal could leave behind
+    const QuitSignals quitSignals; // first, so that every later step is undone on a signal
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
-    // A self-check run stands beside a Velmora that is open, which would be shown in its place.
+    // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
     switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden)) {
     case AppService::Claim::handedOver:
@@ -85,8 +85,8 @@ int main(int argc, char* argv[]) {
     case AppService::Claim::granted:
         break;
     }
-    keepSettingsWithTheData();
-    dress();
+    moveQSettingsToDataDirectory();
+    setUpApplication();
     const App app(service, options);
     return QApplication::exec();
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int usageError = 2;
 
-/// Without what the toolkit takes for itself, such as "-session ID" when a session is restored.
+/// Removes the options that Qt handles itself, such as "-session ID" when a session is restored.
 QStringList withoutToolkitOptions(const QStringList& arguments) {
     static const QStringList toolkit{"-session", "-platform", "-display"};
     QStringList own;

@@ -6,18 +6,18 @@
 
 namespace velmora {
 
-/// How the program was asked to start.
+/// The command line options.
 struct Options {
-    bool hidden = false; ///< with no window, for the autostart
+    bool hidden = false; ///< start without a window, for the autostart
 };
 
-/// What to print instead of starting.
+/// The text to print instead of starting.
 struct Message {
     QString text;
     int exitCode = 0;
 };
 
-/// Reads the command line: the options, or the text for --help, --version or a mistake.
+/// Parses the command line. Returns the options, or the text for --help, --version or an error.
 std::variant<Options, Message> readOptions(const QStringList& arguments);
 
 } // namespace velmora

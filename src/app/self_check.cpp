@@ -38,7 +38,7 @@ void finishWelcome(AppStore& store) {
     store.setSettings(settings);
 }
 
-/// In demo mode only: the run must not fly a server's drone.
+/// Demo mode only: the run must not launch a server's drone.
 void approveInDemo(AppStore& store) {
     if (const auto alert = store.waitingAlert(); alert && !store.settings().linkMode)
         store.answer(Command::approve, *alert);
@@ -49,7 +49,7 @@ void sendInDemo(AppStore& store, Command command) {
         store.send(command);
 }
 
-/// The run: every action is scheduled at once, each so many seconds after the one before.
+/// Schedules the actions of the run. Each delay is in seconds after the action before.
 class Timetable {
 public:
     Timetable(AppStore& store, const QDir& directory) : store_(store), directory_(directory) {}
