@@ -72,7 +72,7 @@ int main(int argc, char* argv[]) {
     ignoreRelativeXdgPaths();
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
-    const QuitSignals quitSignals; // first, so that every later step is undone on a signal
+    const QuitSignals quitSignals; // installed before anything that a signal must clean up
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
