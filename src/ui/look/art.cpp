@@ -31,13 +31,14 @@ QImage readImage(const QString& path) {
 }
 
 QImage load(const QString& name) {
-    QList<QDir> places;
+    QList<QDir> directories;
     if (ownersDirectory())
-        places.append(*ownersDirectory());
-    places.append(QDir(QStringLiteral(":/art")));
-    for (const QDir& place : places)
+        directories.append(*ownersDirectory());
+    directories.append(QDir(QStringLiteral(":/art")));
+    for (const QDir& directory : directories)
         for (const char* suffix : {"png", "jpg", "jpeg", "webp"})
-            if (const QString file = place.filePath(name + '.' + QLatin1String(suffix)); QFile::exists(file))
+            if (const QString file = directory.filePath(name + '.' + QLatin1String(suffix));
+                QFile::exists(file))
                 if (QImage image = readImage(file); !image.isNull())
                     return image;
     return {};

@@ -6,12 +6,13 @@
 /// Named pictures: the plan of the grounds, camera views, the drone.
 namespace velmora::Art {
 
-/// Where the owner's own pictures are looked for, before the program's. Called once at start-up.
+/// Sets the directory of the owner's pictures, which is searched before the built-in ones. Call once at
+/// start-up.
 void setDirectory(const QDir& directory);
 
-/// The picture, or null when there is none. A name is letters, digits, dots, dashes and underscores and does
-/// not start with a dot: it may come from a server and must not lead out of the directory. Pictures above 64
-/// megapixels are not loaded. Read anew each time: who shows a picture keeps it at the size shown.
+/// The picture; null if there is none. A name may come from a server, so it must not lead out of the
+/// directory: only letters, digits, dots, dashes and underscores are accepted, and no dot at the start.
+/// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
 } // namespace velmora::Art

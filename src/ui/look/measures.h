@@ -18,7 +18,7 @@ inline constexpr int overlayRadius = 16;
 // The window
 inline constexpr QSize windowMinimum(1120, 720);
 inline constexpr QSize windowDefault(1360, 860);
-inline constexpr int narrowWindow = 1280; // below it the narrow rules hold
+inline constexpr int narrowWindow = 1280; // narrower windows use the narrow layout
 inline constexpr int resizeBand = 6;
 inline constexpr int titleStrip = 36;
 inline constexpr int titleStripIndent = 12;
@@ -89,7 +89,7 @@ inline constexpr int activityRow = 40, activityDotX = 3, activityTitleX = 18;
 // Live flight
 inline constexpr int railMinimum = 288, railMaximum = 480;
 inline constexpr int mapMinimumHeight = 280;
-inline constexpr int liveCardMinimum = 480; // under which the telemetry is cut
+inline constexpr int liveCardMinimum = 480; // below it the telemetry is clipped
 inline constexpr int narrowContent = 900;   // below it the telemetry takes two rows, as in a card below
 inline constexpr int wideTelemetry = 560;
 inline constexpr int noteRow = 47;
@@ -114,14 +114,14 @@ inline constexpr int logFade = 24;
 // Overview
 inline constexpr int overviewRailMinimum = 320;
 inline constexpr int overviewMapMinimum = 290;
-inline constexpr int mapCardMinimum = 450; // under which the legend is cut
+inline constexpr int mapCardMinimum = 450; // below it the legend is clipped
 inline constexpr int mapTitle = 32, mapLegend = 36;
 inline constexpr int legendSample = 22, legendGap = 8;
 inline constexpr int statusStripTop = 16, statusStripCell = 76, cellPadding = 20;
 inline constexpr QSize dronePicture(84, 56), dronePictureNarrow(54, 36);
 inline constexpr int activityRows = 5;
 inline constexpr int bannerHeight = 48;
-inline constexpr QMargins bannerMargins(14, 0, 8, 0); // 20 but for the halo of the dot
+inline constexpr QMargins bannerMargins(14, 0, 8, 0); // 20, less the halo of the dot
 inline constexpr QMargins armSwitchMargins(14, 12, 12, 12);
 inline constexpr QMargins staleMargins(20, 12, 12, 12);
 
@@ -142,7 +142,7 @@ inline constexpr int chevron = 14;
 inline constexpr int menuButtonMinimum = 60;
 inline constexpr double menuText = 320; // longer options are elided
 inline constexpr int detailLeft = 32, detailRight = 40;
-inline constexpr int detailLog = 138; // that the replay map leaves for the log
+inline constexpr int detailLog = 138; // height that the replay map leaves for the log
 inline constexpr QSize alertPicture(192, 108);
 inline constexpr int emptyIcon = 40, emptyWidth = 340;
 inline constexpr int replaySlider = 28;

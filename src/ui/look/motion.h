@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-/// Durations of the movements, and the pulse that the status dots and the map share.
+/// Durations of the animations, and the pulse that the status dots and the map share.
 namespace velmora::Motion {
 
 using std::chrono::milliseconds;
@@ -17,12 +17,12 @@ inline constexpr milliseconds sectionChange{160};
 
 inline constexpr milliseconds frame{34}; ///< between two frames: at most 30 a second
 
-/// Seconds of the user interface's clock, by which everything that pulses moves.
+/// The time of the user interface's clock in seconds; drives the pulses.
 double seconds();
-/// How far the pulse has come at a moment of that clock, 0 to 1.
+/// Phase of the pulse at a time of that clock, 0 to 1.
 double pulseAt(double seconds);
 
-/// Whether the desktop asks for no movement.
+/// Whether the desktop asks for reduced motion.
 bool reduced();
 
 } // namespace velmora::Motion

@@ -6,15 +6,15 @@
 
 namespace velmora {
 
-/// Fills a rectangle with round corners, edges smoothed; the painter keeps no pen.
+/// Fills a rectangle with round corners, antialiased. Leaves the painter without a pen.
 void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill);
-/// The same with a border of one pixel inside the rectangle's edge.
+/// The same with a border of one pixel inside the edge.
 void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
                  const QColor& border);
 
-/// Fills a circle; the painter keeps no pen.
+/// Fills a circle, antialiased. Leaves the painter without a pen.
 void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill);
-/// The same with a border inside the circle's edge, `width` pixels wide.
+/// The same with a border inside the edge, `width` pixels wide.
 void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill, const QColor& border,
               double width = 1);
 

@@ -20,7 +20,7 @@ namespace {
 
 constexpr double disabledText = 0.55;
 
-/// On X11 nobody may compose windows, and what a menu lets through would be black: its corners are cut off.
+/// Without an X11 compositor transparent corners render black, so mask them off.
 bool cutsCorners() {
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
@@ -31,7 +31,7 @@ void paintMenuPanel(QPainter& painter, const QRect& rect) {
     fillRounded(painter, rect, Measure::cardRadius, SB::page, SB::rule);
 }
 
-/// Without the mnemonic's ampersands; the shortcut stands behind a tab.
+/// Splits the item at the tab between text and shortcut, and removes the ampersands of mnemonics.
 std::pair<QString, QString> textAndShortcut(const QStyleOptionMenuItem& item) {
     QString text = item.text;
     text.remove('&');
@@ -51,19 +51,19 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
     if (highlighted)
         fillRounded(painter, row, Measure::thumbnailRadius, SB::ink);
     const QColor plain = enabled ? SB::ink : SB::faded(SB::muted, disabledText);
-    const QColor quiet = enabled ? SB::muted : plain;
+    const QColor shortcutColor = enabled ? SB::muted : plain;
     const QRectF words = QRectF(item.rect).adjusted(Measure::menuPadding, 0, -Measure::menuPadding, 0);
     const auto [text, shortcut] = textAndShortcut(item);
     drawText(painter, words, text, Type::menu, highlighted ? SB::page : plain, Qt::AlignVCenter);
-    drawText(painter, words, shortcut, Type::label2, highlighted ? SB::page : quiet,
+    drawText(painter, words, shortcut, Type::label2, highlighted ? SB::page : shortcutColor,
              Qt::AlignVCenter | Qt::AlignRight);
 }
 
 void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& item) {
-    const bool lively = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
-    if (lively)
+    const bool active = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
+    if (active)
         fillRounded(painter, item.rect, Measure::menuTitleRadius, SB::rule2);
-    drawText(painter, item.rect, textAndShortcut(item).first, Type::menu, lively ? SB::ink : SB::muted,
+    drawText(painter, item.rect, textAndShortcut(item).first, Type::menu, active ? SB::ink : SB::muted,
              Qt::AlignCenter);
 }
 
@@ -97,7 +97,7 @@ QPalette Style::lightPalette() {
     return palette;
 }
 
-/// A menu's corners are round, so its window has to let the desktop through.
+/// Menus have round corners, so their windows need a translucent background.
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     if (!qobject_cast<QMenu*>(widget))
@@ -165,7 +165,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     }
 }
 
-/// Menu titles are no mnemonics: Alt belongs to the desktop.
+/// Alt does not activate the menu bar; many desktops use Alt themselves.
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* returned) const {
     switch (hint) {

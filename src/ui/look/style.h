@@ -4,8 +4,8 @@
 
 namespace velmora {
 
-/// The program's widget style: menus, menu bars and scroll bars drawn from the tokens, Fusion underneath, and
-/// one light palette whatever the desktop's.
+/// The program's widget style: menus, menu bars and scroll bars drawn from the tokens, everything else as in
+/// Fusion, and a light palette whatever the desktop's theme.
 class Style : public QProxyStyle {
     Q_OBJECT
 

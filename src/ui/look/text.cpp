@@ -12,8 +12,9 @@ namespace velmora {
 
 namespace {
 
-constexpr double fitTolerance = 0.5; // pixels by which a measured text may exceed its own width
-constexpr double enlarged = 8; // Qt rounds fonts to whole pixels, so texts are laid out this much larger
+constexpr double fitTolerance = 0.5; // pixels; tolerance when a text is fitted into its own measured width
+constexpr double enlarged =
+    8; // Qt rounds font metrics to integer pixels, so texts are laid out at this scale
 
 QFont enlargedFontOf(const TextStyle& style) {
     QFont font = SBFont::font(style.face, style.size * enlarged);
@@ -21,7 +22,7 @@ QFont enlargedFontOf(const TextStyle& style) {
     return font;
 }
 
-/// Widths of texts in a style, pixels.
+/// Measures texts of one style, in pixels.
 class Ruler {
 public:
     explicit Ruler(const TextStyle& style) : metrics_(enlargedFontOf(style)) {}
@@ -47,15 +48,15 @@ bool isRightToLeft(QChar character) {
     return character.direction() == QChar::DirR || character.direction() == QChar::DirAL;
 }
 
-/// Scripts that run from right to left order digits and letters among themselves.
+/// Excludes right-to-left text, which reorders digits and letters.
 bool isTabular(const QString& text, const TextStyle& style) {
     return style.tabular && std::ranges::none_of(text, isRightToLeft);
 }
 
-/// Every digit in a cell as wide as "0", what stands between digits in one piece; returns the width of the
-/// line.
+/// Calls `draw` with the offset and text of each piece: a digit centred in a cell as wide as "0", or the text
+/// between two digits. Returns the width of the line in pixels.
 template <class Draw>
-double layTabular(const QString& text, const TextStyle& style, Draw draw) {
+double layoutTabular(const QString& text, const TextStyle& style, Draw draw) {
     const Ruler ruler(style);
     const double cell = ruler.advance(QStringLiteral("0"));
     double x = 0;
@@ -63,7 +64,7 @@ double layTabular(const QString& text, const TextStyle& style, Draw draw) {
         const bool digit = isAsciiDigit(*from);
         const auto to = digit ? from + 1 : std::find_if(from, text.end(), isAsciiDigit);
         const QString piece(from, to - from);
-        const double advance = ruler.advance(piece); // with its tracking
+        const double advance = ruler.advance(piece); // includes the tracking
         draw(digit ? x + (cell - advance) / 2 : x, piece);
         x += digit ? cell : advance;
         from = to;
@@ -75,7 +76,7 @@ double casedWidth(const QString& text, const TextStyle& style) {
     if (text.isEmpty())
         return 0;
     if (isTabular(text, style))
-        return layTabular(text, style, [](double, const QString&) {});
+        return layoutTabular(text, style, [](double, const QString&) {});
     return Ruler(style).advance(text) - style.tracking;
 }
 
@@ -85,7 +86,7 @@ QString casedElided(const QString& text, const TextStyle& style, double width) {
     return Ruler(style).elided(text, width);
 }
 
-/// Emoji are pictures without outlines.
+/// False for text with emoji, which are pictures without outlines.
 bool hasOutlines(const QString& text) {
     return std::ranges::none_of(text, [](QChar character) { return character.isSurrogate(); });
 }
@@ -113,8 +114,8 @@ double baselineOf(const TextStyle& style) {
 
 namespace {
 
-/// The outlines of a text from a baseline at the origin. Shaping and reading them takes longer than filling
-/// them, and most texts are painted again and again.
+/// The outlines of a text whose baseline begins at the origin. Cached, because shaping and reading outlines
+/// takes longer than filling them, and most texts are painted many times.
 QPainterPath outlinesOf(const QString& text, const TextStyle& style) {
     using Key = std::pair<std::pair<int, double>, std::pair<double, QString>>;
     constexpr int mostElements = 40'000; // about 1 MB
@@ -132,8 +133,8 @@ QPainterPath outlinesOf(const QString& text, const TextStyle& style) {
 
 } // namespace
 
-/// Small glyphs are filled as outlines: drawn as glyphs, FreeType thickens the stems of this typeface by a
-/// weight.
+/// Fills outlines instead of drawing glyphs, because FreeType draws the stems of this typeface one weight too
+/// thick.
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
              const QBrush& color) {
     if (!hasOutlines(text)) {
@@ -165,7 +166,7 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
         drawRun(painter, {x, baseline}, shown, style, color);
         return;
     }
-    layTabular(shown, style, [&](double offset, const QString& piece) {
+    layoutTabular(shown, style, [&](double offset, const QString& piece) {
         drawRun(painter, {x + offset, baseline}, piece, style, color);
     });
 }

@@ -9,7 +9,7 @@ namespace velmora {
 /// The font of a style, with its tracking.
 QFont fontOf(const TextStyle& style);
 
-/// Width of one line, pixels, without a gap after its last letter.
+/// Width of one line in pixels, without tracking after its last letter.
 double textWidth(const QString& text, const TextStyle& style);
 
 /// The text, or as much of its start as fits into the width, with an ellipsis.
@@ -19,16 +19,16 @@ QString elided(const QString& text, const TextStyle& style, double width);
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
              const QBrush& color);
 
-/// Draws one line into the rectangle, elided where it is too long. Vertically the line's own height is
-/// aligned.
+/// Draws one line into the rectangle, elided if it is too long. Vertical alignment uses the style's line
+/// height.
 void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
               const QBrush& color, Qt::Alignment alignment);
 
 /// Distance from the top of a line to its baseline, pixels.
 double baselineOf(const TextStyle& style);
 
-/// The text broken into lines of at most the width; what does not fit into `maximumLines` (0: any number)
-/// ends in an ellipsis.
+/// Breaks the text into lines of at most `width` pixels. Text that does not fit into `maximumLines` (0: any
+/// number) ends in an ellipsis.
 QStringList brokenIntoLines(const QString& text, const TextStyle& style, double width, int maximumLines = 0);
 
 } // namespace velmora

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QLinearGradient>
 
-/// The colours and gradients that everything on the screen is made of.
+/// The colours and gradients of the user interface.
 namespace velmora::SB {
 
 inline constexpr QColor ink{16, 40, 60};
@@ -37,7 +37,7 @@ inline QColor faded(QColor color, double opacity) {
     return color;
 }
 
-/// The colour that share (0 to 1) of `over` gives on `under`.
+/// `over` painted on `under` with an opacity of `share`, 0 to 1.
 QColor mixed(const QColor& under, const QColor& over, double share);
 
 /// Lilac to teal from x = left to x = right, for dark surfaces.

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace velmora {
 
-/// A value, 0 to 1, that takes a while to change. It changes at once while its widget is not visible, or
-/// where the desktop asks for no movement.
+/// An animated value from 0 to 1. It changes at once while its widget is not visible or if the desktop asks
+/// for reduced motion.
 class Transition : public QObject {
     Q_OBJECT
 
@@ -20,13 +20,13 @@ public:
     double value() const { return value_; }
     bool isRunning() const { return frames_.isActive(); }
     void setDuration(std::chrono::milliseconds duration) { duration_ = duration; }
-    /// Moves from the current value.
+    /// Moves from the current value to `target`.
     void moveTo(double target) { move(value_, target); }
     void move(double from, double to);
 
 signals:
     void changed();
-    /// The value has arrived.
+    /// The value has reached its target.
     void finished();
 
 private:

@@ -4,14 +4,14 @@
 
 namespace velmora {
 
-/// How a run of text is set. Sizes are pixels.
+/// The style of a text. Sizes are in pixels.
 struct TextStyle {
     SBFont::Face face = SBFont::Face::regular;
     double size = 0;
     double line = 0;     ///< height of one line
-    double tracking = 0; ///< added between two letters, none after the last
+    double tracking = 0; ///< added between two letters, not after the last
     bool upperCase = false;
-    bool tabular = false; ///< every digit as wide as "0", so that a changing number shifts nothing
+    bool tabular = false; ///< every digit as wide as "0", so that a changing number moves nothing
 
     bool operator==(const TextStyle&) const = default;
 

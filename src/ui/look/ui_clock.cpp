@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-/// Qt lets coarser timers fire up to 5 % early or late.
+/// Shorter timers are precise; Qt fires coarse ones up to 5 % early or late.
 constexpr std::chrono::milliseconds shortestCoarse{1000};
 
 UiClock* installed = nullptr;
@@ -18,8 +18,8 @@ UiClock* installed = nullptr;
 } // namespace
 
 UiClock& UiClock::current() {
-    static UiClock machine;
-    return installed ? *installed : machine;
+    static UiClock systemClock;
+    return installed ? *installed : systemClock;
 }
 
 void UiClock::install(UiClock* clock) {

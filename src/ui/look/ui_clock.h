@@ -12,8 +12,8 @@ namespace velmora {
 
 class UiTimer;
 
-/// The time that the user interface lives by: timers, transitions, pulses, replays and the guard of the
-/// answers. The program has one, as it has one style; a test puts its own in its place.
+/// The clock of the user interface. Timers, transitions, pulses, replays and the answer guard use it. The
+/// program has one; a test installs its own.
 class UiClock {
 public:
     UiClock() = default;
@@ -21,14 +21,14 @@ public:
     UiClock(const UiClock&) = delete;
     UiClock& operator=(const UiClock&) = delete;
 
-    /// The machine's clock unless another one is installed.
+    /// The installed clock; the system's clock if none is.
     static UiClock& current();
-    /// Makes this the current clock; null: the machine's.
+    /// Makes this the current clock; null restores the system's.
     static void install(UiClock* clock);
 
-    /// Time since the machine started, suspend included.
+    /// Time since boot, including suspend.
     virtual std::chrono::milliseconds now() const;
-    /// When an event happened by the window system's own clock, milliseconds; 0 if it does not say.
+    /// The window system's time stamp of the event, milliseconds; 0 if it has none.
     virtual std::uint64_t stampOf(const QInputEvent& event) const;
 
 protected:
@@ -49,12 +49,12 @@ public:
 
     std::chrono::milliseconds interval() const { return interval_; }
     bool isActive() const { return active_; }
-    /// Starts, or starts over.
+    /// Starts or restarts.
     void start();
     void stop();
-    /// Starts or stops; a timer that runs already goes on undisturbed.
+    /// Starts or stops; does not restart a running timer.
     void setActive(bool active);
-    /// The clock calls this when the interval is over.
+    /// Called by the clock when the interval is over.
     void expire();
 
 signals:
@@ -69,7 +69,7 @@ private:
     std::chrono::milliseconds interval_;
     Mode mode_;
     bool active_ = false;
-    QBasicTimer timer_; ///< of the machine's clock
+    QBasicTimer timer_; ///< of the system's clock
 };
 
 } // namespace velmora

@@ -110,7 +110,7 @@ QString rounded(double value) {
     return QString::number(truncated(std::round(value)));
 }
 
-/// Not QString::number, which rounds 3.25 up; not printf, whose point is the locale's.
+/// QString::number would round 3.25 up, and printf uses the locale's decimal point.
 QString oneDecimal(double value) {
     std::array<char, 400> text{}; // the largest double has 309 digits
     const auto end =

@@ -6,34 +6,32 @@
 
 namespace velmora {
 
-/// A record's UTF-8 text as the screens use it: one line, without characters that control what stands around
-/// it.
+/// Decodes UTF-8 for display: control, line-break and bidi-override characters become spaces.
 QString toQString(std::string_view text);
 
-/// Words to stand within a line of others, whose order they leave alone though they may be read from right to
-/// left.
+/// Wraps right-to-left text in Unicode isolates so that it does not reorder the rest of the line.
 QString isolated(const QString& words);
 
-/// The phase as the owner reads it, such as "Coming home".
+/// Display name of the phase, such as "Coming home".
 QString phaseWord(Phase phase);
 
 /// "velmora did not confirm “Return home”. The connection timed out."
 QString failureText(Command command, const QString& reason);
 
-/// "Visitor on the driveway": the offer to stage the visit.
+/// Title of the demo visit, such as "Visitor on the driveway".
 QString scenarioTitle(Scenario scenario);
 
 /// Display name of the camera, or "a camera" for an id that the site does not have.
 QString cameraName(const Site& site, std::string_view id);
 
-/// The whole number nearest to the value, halves away from zero.
+/// The integer nearest to the value, halves away from zero.
 QString rounded(double value);
-/// With one decimal place, as "%.1f" writes it.
+/// With one decimal, as "%.1f" writes it in the C locale.
 QString oneDecimal(double value);
-/// The fraction as a whole percent.
+/// The fraction in percent, rounded to an integer.
 QString percent(double fraction);
 
-/// "1:28"; from one hour "1:02:03". Negative times count as none.
+/// "1:28"; from one hour on "1:02:03". A negative time counts as 0.
 QString clockTime(Seconds elapsed);
 /// The local time of day, "14:31:42".
 QString timeOfDay(Date date);
@@ -43,7 +41,7 @@ QString dayName(Date date, Date now);
 QString dayAndTime(Date date, Date now);
 /// "2 min 20 s", "14 s" or "1 h 5 min".
 QString duration(Seconds length);
-/// "12 s", "3 min" or "2 h": an age that counts.
+/// An age that keeps growing: "12 s", "3 min" or "2 h".
 QString age(Seconds length);
 
 } // namespace velmora
