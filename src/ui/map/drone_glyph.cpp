@@ -12,7 +12,7 @@ namespace {
 
 constexpr double armEnd = 4.949747468305833; // 7 pixels at 45 degrees
 constexpr QPointF armEnds[] = {{-armEnd, -armEnd}, {armEnd, -armEnd}, {-armEnd, armEnd}, {armEnd, armEnd}};
-constexpr double rotorRadius = 3.4, rotorBreath = 0.4, rotorSpeed = 30; // pixels, pixels, radians a second
+constexpr double rotorRadius = 3.4, rotorPulse = 0.4, rotorSpeed = 30; // pixels, pixels, radians a second
 
 void drawBody(QPainter& painter, bool flying) {
     painter.setBrush(SB::faded(SB::navy, 0.55));
@@ -28,7 +28,7 @@ void drawArms(QPainter& painter) {
 }
 
 void drawRotors(QPainter& painter, bool flying, double t) {
-    const double radius = rotorRadius + rotorBreath * std::sin(rotorSpeed * t * (flying ? 1 : 0));
+    const double radius = rotorRadius + rotorPulse * std::sin(rotorSpeed * t * (flying ? 1 : 0));
     painter.setPen(QPen(SB::dTitle, 1.1));
     for (const QPointF& end : armEnds)
         painter.drawEllipse(end, radius, radius);

@@ -8,8 +8,8 @@ namespace velmora {
 
 inline constexpr double droneRadius = 15; ///< of the glyph's body, pixels
 
-/// The drone from above, its nose along the heading (degrees from +x towards +y); its rotors breathe while it
-/// flies.
+/// Draws the drone from above, its nose along the heading (degrees from +x towards +y). While it flies, the
+/// radius of its rotors pulses with the time `t`, seconds.
 void drawDrone(QPainter& painter, QPointF at, double heading, bool flying, double t);
 
 } // namespace velmora

@@ -6,7 +6,8 @@
 
 namespace velmora {
 
-/// What the map shows, in words: where the drone and the visitor are, how far apart, how far to the boundary.
+/// Describes the map for screen readers: the positions of drone and visitor, their distance, and the distance
+/// to the boundary.
 QString mapDescription(const MapScene& scene);
 
 } // namespace velmora

@@ -46,7 +46,7 @@ void drawCircle(QPainter& painter, QPointF center, double radius, const QBrush& 
     painter.drawEllipse(center, radius, radius);
 }
 
-/// A caption whose box touches the point with the side or corner that the anchor names.
+/// Draws a caption whose box touches the point with the side or corner that the anchor names.
 void drawCaption(QPainter& painter, QPointF at, Qt::Alignment anchor, const QString& text,
                  const QColor& color) {
     constexpr double reach = 400;
@@ -153,7 +153,7 @@ public:
                    QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
         drawCircle(painter_, at, visitorRadius, SB::lilac, QPen(Qt::white, 1.5));
         if (scene_.showLabels)
-            drawCaptionBeside(at, visitorLabelOffset, toQString(scene_.state.visitor->label));
+            drawPointCaption(at, visitorLabelOffset, toQString(scene_.state.visitor->label));
     }
 
     void drawDroneWithHeight(double t) {
@@ -182,7 +182,7 @@ private:
         QRectF around(0, 0, 2 * radius, 2 * radius);
         around.moveCenter(center);
         QPainterPath wedge(center);
-        wedge.arcTo(around, -(heading - fieldOfView), -2 * fieldOfView); // Qt turns the other way
+        wedge.arcTo(around, -(heading - fieldOfView), -2 * fieldOfView); // Qt's angles grow counterclockwise
         wedge.closeSubpath();
         QRadialGradient light(center, radius);
         light.setColorAt(0, SB::faded(SB::softBlue, opacity));
@@ -190,8 +190,8 @@ private:
         painter_.fillPath(wedge, light);
     }
 
-    /// Strokes a path piece by piece, because one stroke of a long tangle takes many times as long. A piece
-    /// replaces the end of the one before instead of darkening it.
+    /// Strokes a path piece by piece, because stroking a long tangle at once takes many times as long. Each
+    /// piece overwrites the end of the one before, so that the overlap is not darker.
     void drawPath(std::span<const P> path, QPen pen) {
         if (path.size() < 2)
             return;
@@ -215,8 +215,8 @@ private:
         painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
 
-    /// Where the part of a path begins that is drawn. Longer ones cover the map until nothing can be told
-    /// apart, and a tangle takes seconds to stroke.
+    /// Index of the first point to draw. Older points are left out: a very long path covers the map, and a
+    /// tangle takes seconds to stroke.
     std::ptrdiff_t newestPart(std::span<const P> path) const {
         double left = longestPath / view_.scale();
         auto from = std::ssize(path) - 1;
@@ -231,11 +231,11 @@ private:
         const QPointF center = view_.map(at);
         drawCircle(painter_, center, markerRadius, SB::lilac, Qt::NoPen);
         if (scene_.showLabels)
-            drawCaptionBeside(center, markerLabelOffset, caption);
+            drawPointCaption(center, markerLabelOffset, caption);
     }
 
-    /// At the right of a point, or above its left where the map ends too soon.
-    void drawCaptionBeside(QPointF point, double offset, const QString& caption) {
+    /// To the right of a point, or above and left of it if the map ends too soon.
+    void drawPointCaption(QPointF point, double offset, const QString& caption) {
         if (point.x() + offset + textWidth(caption, Type::mapCaption) <= width_)
             drawCaption(painter_, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter, caption,
                         SB::lilac);
@@ -291,9 +291,10 @@ QRectF liveArea(const MapScene& scene, QSizeF canvas) {
     if (const auto& visitor = scene.state.visitor) {
         area |= around(visitor->pos,
                        std::max(pulseFrom + pulseGrowth, scene.settings.followDistance * view.scale()));
-        const double beside = visitorLabelOffset + textWidth(toQString(visitor->label), Type::mapCaption);
+        const double captionReach =
+            visitorLabelOffset + textWidth(toQString(visitor->label), Type::mapCaption);
         area |= around(visitor->pos, 0)
-                    .adjusted(-beside, -visitorLabelOffset - Type::mapCaption.line, beside,
+                    .adjusted(-captionReach, -visitorLabelOffset - Type::mapCaption.line, captionReach,
                               Type::mapCaption.line);
     }
     return area;

@@ -14,7 +14,7 @@
 
 namespace velmora {
 
-/// A finished mission as far as it had happened at one moment.
+/// A finished mission, as far as it had happened at one moment.
 struct Replay {
     std::shared_ptr<const MissionRecord> record; ///< never null
     Progress progress;
@@ -27,7 +27,7 @@ struct Replay {
     bool operator==(const Replay&) const = default;
 };
 
-/// Everything that one picture of the map shows.
+/// Everything that one painting of the map shows.
 struct MapScene {
     LiveState state;
     Settings settings;
@@ -35,7 +35,7 @@ struct MapScene {
     bool showLabels = true;       ///< false: shapes only
 };
 
-/// Site metres to view pixels: the whole plan fitted into the canvas and centred.
+/// Converts site metres to canvas pixels; the plan is fitted into the canvas and centred.
 class MapTransform {
 public:
     MapTransform(QSizeF canvas, P siteSize);

@@ -39,8 +39,8 @@ bool samePaths(const MapScene& a, const MapScene& b) {
            (!a.state.visitor || a.state.visitor->trail == b.state.visitor->trail);
 }
 
-/// Without what is drawn anew with every frame anyway.
-bool sameStanding(const MapScene& a, const MapScene& b) {
+/// Compares what drawMovers() paints, apart from its animation.
+bool sameMovers(const MapScene& a, const MapScene& b) {
     const DroneState &from = a.state.drone, &to = b.state.drone;
     return a.state.phase == b.state.phase && from.pos == to.pos && from.heading == to.heading &&
            from.altitude == to.altitude && a.state.visitor == b.state.visitor;
@@ -86,7 +86,7 @@ void SiteMap::setFreshness(Freshness freshness) {
     if (freshness == freshness_)
         return;
     freshness_ = freshness;
-    runOrRest();
+    updateAnimation();
     describe();
     update();
 }
@@ -95,33 +95,33 @@ void SiteMap::setCovered(bool covered) {
     if (covered == covered_)
         return;
     covered_ = covered;
-    runOrRest();
+    updateAnimation();
     if (!covered)
         update();
 }
 
-/// While frames run, the next one shows what moved; only what lies outside the moving parts is asked for
-/// here.
+/// Repaints grounds and paths if they changed. Drone and visitor are repainted by the next frame, or here if
+/// no frames run.
 void SiteMap::setScene(MapScene scene) {
     const bool grounds =
         !sameGrounds(scene_, scene.state, scene.settings) || scene.showLabels != scene_.showLabels;
     const bool paths = !samePaths(scene, scene_);
-    const bool standing = !sameStanding(scene, scene_);
+    const bool movers = !sameMovers(scene, scene_);
     const bool newSize = scene.state.site.size != scene_.state.site.size;
-    const bool newStory = scene.state.phase != scene_.state.phase ||
-                          scene.state.visitor.has_value() != scene_.state.visitor.has_value() ||
-                          scene.replay != scene_.replay;
+    const bool newSituation = scene.state.phase != scene_.state.phase ||
+                              scene.state.visitor.has_value() != scene_.state.visitor.has_value() ||
+                              scene.replay != scene_.replay;
     scene_ = std::move(scene);
     groundsStale_ |= grounds;
     pathsStale_ |= paths;
     if (newSize)
         updateGeometry();
-    runOrRest();
+    updateAnimation();
     if (!covered_ && (grounds || paths))
         update();
-    else if (!covered_ && standing && !frames_.isActive())
+    else if (!covered_ && movers && !frames_.isActive())
         showFrame();
-    if (newStory || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
+    if (newSituation || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
         describe();
 }
 
@@ -149,7 +149,7 @@ bool SiteMap::isAnimated() const {
            (scene_.state.visitor || airborne(scene_.state.phase));
 }
 
-void SiteMap::runOrRest() {
+void SiteMap::updateAnimation() {
     const bool runs = onScreen_ && !covered_ && isAnimated() && !Motion::reduced();
     if (runs == frames_.isActive())
         return;
@@ -157,7 +157,7 @@ void SiteMap::runOrRest() {
     update();
 }
 
-/// Asks for the moving parts only, where they were and where they are.
+/// Repaints the moving parts only, at their old and new positions.
 void SiteMap::showFrame() {
     const QRectF area = liveArea(scene_, size()) & QRectF(rect());
     update((area | shownArea_).toAlignedRect());
@@ -166,26 +166,26 @@ void SiteMap::showFrame() {
 
 void SiteMap::showEvent(QShowEvent*) {
     onScreen_ = true;
-    runOrRest();
+    updateAnimation();
 }
 
 void SiteMap::hideEvent(QHideEvent*) {
     onScreen_ = false;
-    runOrRest();
+    updateAnimation();
 }
 
-QPixmap SiteMap::blank(double scale, const QColor& color) const {
+QPixmap SiteMap::emptyLayer(double scale, const QColor& color) const {
     QPixmap picture(size() * scale);
     picture.setDevicePixelRatio(scale);
     picture.fill(color);
     return picture;
 }
 
-/// What of the two kept pictures is not as the scene any more.
-void SiteMap::drawStill() {
+/// Redraws whichever cached layer is out of date.
+void SiteMap::updateLayers() {
     if (grounds_.size() != size() * devicePixelRatioF()) {
-        grounds_ = blank(devicePixelRatioF(), SB::navy);
-        paths_ = blank(devicePixelRatioF(), Qt::transparent);
+        grounds_ = emptyLayer(devicePixelRatioF(), SB::navy);
+        paths_ = emptyLayer(devicePixelRatioF(), Qt::transparent);
         groundsStale_ = true;
     }
     if (groundsStale_) {
@@ -203,8 +203,8 @@ void SiteMap::drawStill() {
 }
 
 QPixmap SiteMap::picture(int scale) const {
-    QPixmap picture = blank(scale, SB::navy);
-    QPixmap paths = blank(scale, Qt::transparent);
+    QPixmap picture = emptyLayer(scale, SB::navy);
+    QPixmap paths = emptyLayer(scale, Qt::transparent);
     QPainter onPaths(&paths);
     drawPaths(onPaths, scene_, size());
     onPaths.end();
@@ -227,7 +227,7 @@ void SiteMap::paintEvent(QPaintEvent*) {
     }
     if (freshness == Freshness::stale)
         painter.setOpacity(dimmedOpacity);
-    drawStill();
+    updateLayers();
     fill(grounds_);
     fill(paths_);
     QPainterPath corners;

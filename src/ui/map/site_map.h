@@ -10,30 +10,32 @@
 
 namespace velmora {
 
-/// The animated plan of the grounds, or the still replay of a finished mission. It draws at most 30 frames a
-/// second, and none while nothing on it can have changed or nobody can see it.
+/// The animated map of the site, or the replay of a finished mission. It draws at most 30 frames a second,
+/// and none while nothing moves or nobody can see it.
 class SiteMap : public QWidget {
     Q_OBJECT
 
 public:
     explicit SiteMap(QWidget* parent);
 
-    /// The live picture. An old one is paler and still; without one (null) the map shows only a word.
+    /// Shows the live state. A stale state is paler and not animated; if `known` is null, the map shows only
+    /// a text.
     void setState(const LiveState* known, const Settings& settings, Freshness freshness);
-    /// A mission's paths over the grounds. Cheap enough for every frame of a replay.
+    /// Shows a mission's paths over the grounds. Fast enough for every frame of a replay.
     void setReplay(Replay replay, const LiveState& state, const Settings& settings);
+    /// Whether captions are drawn.
     void setShowLabels(bool show);
-    /// Something lies over the map: no frames until it is gone.
+    /// Another widget covers the map: no frames are drawn until it is gone.
     void setCovered(bool covered);
 
-    /// The whole map as it stands, drawn anew at so many pixels for one of its own.
+    /// Paints the map in its current size, with `scale` device pixels for each logical pixel.
     QPixmap picture(int scale) const;
 
     bool hasHeightForWidth() const override { return true; }
-    /// The height that the site's proportions give for a width.
+    /// The height at this width that keeps the site's proportions.
     int heightForWidth(int width) const override;
-    /// The largest map that fits, though not narrower than `least` where there is room: then the plan is
-    /// centred.
+    /// The size of the largest map that fits into `room`, at least `least` pixels wide if there is room. A
+    /// wider map centres the plan.
     QSize fitted(QSize room, int least) const;
 
 protected:
@@ -45,11 +47,11 @@ private:
     void setFreshness(Freshness freshness);
     void setScene(MapScene scene);
     bool isAnimated() const;
-    void runOrRest();
+    void updateAnimation();
     void showFrame();
     void describe();
-    void drawStill();
-    QPixmap blank(double scale, const QColor& color) const;
+    void updateLayers();
+    QPixmap emptyLayer(double scale, const QColor& color) const;
 
     MapScene scene_;
     Freshness freshness_ = Freshness::live;
