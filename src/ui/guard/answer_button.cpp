@@ -11,7 +11,7 @@ AnswerButton::AnswerButton(Command answer, AnswerGuard& guard, const QString& te
     : SBButton(text, style, parent), guard_(guard) {
     connect(&guard_, &AnswerGuard::changed, this, &AnswerButton::followGuard);
     connect(this, &SBButton::pressed, this, [this] {
-        if (!byMouse_) // a mouse that is dragged back onto the button does not begin a press
+        if (!byMouse_) // dragging the mouse back onto the button does not begin a press
             press_ = guard_.admit();
     });
     connect(this, &SBButton::clicked, this,

@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-/// A button that answers the waiting alert once the guard lets it; until then it is paler and takes no press.
-/// It answers with the alert for which it was pressed, by mouse, key or accessible action.
+/// A button that answers the waiting alert. While the guard is closed it is paler and ignores presses. It
+/// answers the alert that waited when the press began, by mouse, key or accessible action.
 class AnswerButton : public SBButton {
     Q_OBJECT
 

@@ -48,7 +48,7 @@ void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
     emit answered();
 }
 
-/// The clock of the time stamps does not run during a suspend, so its offset is learned again after a stall.
+/// The clock of the time stamps stops during suspend, so its offset is measured again after a stall.
 bool AnswerGuard::passesStallCheck() {
     if (rule_.beat(clock_.now()))
         return true;
@@ -72,14 +72,14 @@ void AnswerGuard::update() {
         emit changed();
 }
 
-/// Every input event reaches a window first; the releases of keys also those of menus and dialogs.
+/// Qt sends every input event to a window first; key releases in menus and dialogs too.
 bool AnswerGuard::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &window_)
         followWindow(*event);
     if (!watched->isWindowType() || !event->isInputEvent())
         return false;
     eventClock_.began(clock_.stampOf(*static_cast<QInputEvent*>(event)),
-                      clock_.now()); // a sample of the delay
+                      clock_.now()); // samples the delay of delivery
     if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress)
         return dropsKey(static_cast<QKeyEvent&>(*event));
     if (event->type() == QEvent::KeyRelease)
@@ -116,7 +116,7 @@ bool AnswerGuard::dropsKey(QKeyEvent& key) {
         keys_.pressed(eventOf(key, eventClock_.began(clock_.stampOf(key), clock_.now()))).isRepeat;
     const bool drops = repeats && key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     if (drops)
-        key.accept(); // then it is no shortcut, only a press
+        key.accept(); // an accepted ShortcutOverride triggers no shortcut
     return drops;
 }
 

@@ -10,35 +10,35 @@ class QWidget;
 
 namespace velmora {
 
-/// The one guard before every answer that the window can give: by its buttons, its menu, its shortcuts and
-/// its accessible actions. It watches the program's input events, drops key presses that may not answer, and
-/// passes the owner's answer to the store with the alert that he saw. Repeats of a held key trigger no button
-/// and no shortcut.
+/// Guards every answer that the window can give: by its buttons, its menu, its shortcuts and its accessible
+/// actions. It filters the program's input events, drops key presses that may not answer, and passes the
+/// owner's answer to the store with the alert that was shown. Repeats of a held key trigger no button and no
+/// shortcut.
 class AnswerGuard : public QObject {
     Q_OBJECT
 
 public:
-    /// A press that counts, from its beginning to the answer that it gives.
+    /// A press that counts, from its beginning to its answer.
     struct Press {
         AlertId alert;
-        int round; ///< the guard time after which it began
+        int round; ///< number of the guard time after which it began
     };
 
-    /// Watches the window, which must not be shown yet.
+    /// `window` owns the guard and must not be shown yet.
     AnswerGuard(AppStore& store, QWidget& window);
 
     /// Call when the card of the waiting alert has been painted.
     void cardPainted();
     /// Whether a press that begins now would count.
     bool isOpen() const;
-    /// The press that begins now, by an input event with this time stamp or without any event; absent if it
-    /// does not count.
+    /// Admits a press that begins with an input event of this time stamp, or without an event (0). nullopt if
+    /// the press does not count.
     std::optional<Press> admit(std::uint64_t stamp = 0);
-    /// Sends the owner's answer, unless the guard time has begun again since the press.
+    /// Sends the answer, unless the guard time has restarted since the press began.
     void answer(Command command, const std::optional<Press>& press);
 
 signals:
-    /// The guard opened or closed. When it closes, presses that are under way do not count any more.
+    /// The guard opened or closed. When it closes, presses in progress no longer count.
     void changed();
     /// An answer went out.
     void answered();
@@ -73,8 +73,8 @@ private:
     UiClock& clock_ = UiClock::current();
     UiTimer beat_{std::chrono::milliseconds(50)}; ///< runs while an alert waits
     std::optional<AlertId> alert_;
-    std::optional<Verdict> verdict_; ///< on the last possible shortcut
-    int round_ = 0;                  ///< counts the guard times
+    std::optional<Verdict> verdict_; ///< on the last ShortcutOverride
+    int round_ = 0;                  ///< incremented when presses in progress become invalid
     bool wasOpen_ = false;
 };
 

@@ -8,8 +8,8 @@ namespace velmora {
 
 namespace {
 
-/// Whether press and release happened at the same moment. Under a screen reader releases arrive late and
-/// without a time stamp: then a press that is not clearly younger than the arrival belongs to the release.
+/// Whether the press follows the release at once, as a repeat does. Under a screen reader releases arrive
+/// late and without a time stamp; then a press that is not clearly later than the arrival counts as a repeat.
 bool followsAtOnce(const KeyPresses::Event& press, const KeyPresses::Event& release) {
     constexpr EventTime inaccuracy{10};
     if (press.stamp == 0 || release.stamp != 0)

@@ -7,9 +7,8 @@
 
 namespace velmora {
 
-/// Tells the press of a finger from the repeats of a held key. Qt's own flag is not enough: on X11 it misses
-/// repeats under load. A repeat carries the time stamp of the release just before it, which a finger never
-/// does.
+/// Tells new key presses from repeats of a held key. Qt's auto-repeat flag is not enough: on X11 it misses
+/// repeats under load. A repeat has the time stamp of the release just before it; a new press never has.
 class KeyPresses {
 public:
     /// Whether the key, a Qt::Key, presses buttons or gives answers: Return, Enter, Space, Select or Escape.
@@ -20,7 +19,7 @@ public:
         std::uint32_t code = 0;  ///< of the physical key, whose name can change while it is held
         bool answers = false;    ///< an answer key
         std::uint64_t stamp = 0; ///< of the window system; 0 for none
-        EventTime time{};        ///< of a press: when it happened; of a release: when it arrived
+        EventTime time{};        ///< when a press happened, or when a release arrived
         bool flagged = false;    ///< Qt's auto-repeat flag
     };
     struct Press {
@@ -30,7 +29,7 @@ public:
 
     Press pressed(const Event& press);
     void released(const Event& release);
-    /// Forgets which keys are held: another program gets their releases.
+    /// Forgets which keys are held. Call when another program gets their releases.
     void forget() { held_.clear(); }
 
 private:

@@ -7,8 +7,9 @@ namespace velmora {
 namespace {
 
 constexpr EventTime sampleLifetime =
-    std::chrono::minutes(1); // the clocks of two machines drift by less than 10 ms
-constexpr EventTime longestDelay = std::chrono::minutes(1); // beyond it the window system's clock was set
+    std::chrono::minutes(1); // within it two clocks drift apart by less than 10 ms
+constexpr EventTime longestDelay =
+    std::chrono::minutes(1); // a longer one means that the window system's clock was set
 
 } // namespace
 

@@ -15,20 +15,20 @@ using EventTime = std::chrono::milliseconds;
 class PressRule {
 public:
     static constexpr EventTime guardTime{600};
-    /// Between two calls of `beat`; after a longer one the event loop has stalled, and presses made for an
-    /// older picture may still be queued.
+    /// Longest time between two calls of `beat`. After a longer one the event loop has stalled, and presses
+    /// made for an older picture may still be queued.
     static constexpr EventTime longestGap{250};
 
-    /// The alert's card is on the screen, or no card of it is.
+    /// Call when the alert's card is first painted, and when it is not shown any more.
     void cardPainted(EventTime now);
     void cardGone() { painted_.reset(); }
     bool cardWasPainted() const { return painted_.has_value(); }
     void windowActivated(EventTime now) { activated_ = now; }
     void windowDeactivated() { activated_.reset(); }
-    /// Begins the guard time again, as after an answer.
+    /// Restarts the guard time, for example after an answer.
     void restart(EventTime now) { restarted_ = now; }
-    /// The event loop runs; called several times a second while a card is up. Returns false after a stall,
-    /// which begins the guard time again.
+    /// Reports that the event loop runs; called several times a second while a card is shown. After a stall
+    /// it restarts the guard time and returns false.
     bool beat(EventTime now);
 
     /// Whether a press that began at this moment counts.
@@ -41,11 +41,12 @@ private:
     EventTime lastBeat_{};
 };
 
-/// Tells when an input event happened, on the steady clock, from the time stamps of the window system. Their
-/// zero is unknown, so the promptest event of the last minute counts as delivered without delay.
+/// Converts the window system's time stamps to the steady clock. The offset between the two clocks is
+/// unknown, so the fastest event of the last minute is taken as delivered without delay.
 class EventClock {
 public:
-    /// `stamp`: milliseconds of which the low 32 bits count; 0 for an event without a time stamp.
+    /// When the event happened. `stamp`: milliseconds, of which the low 32 bits are used; 0 for an event
+    /// without a time stamp, which gives `now`.
     EventTime began(std::uint64_t stamp, EventTime now);
 
 private:

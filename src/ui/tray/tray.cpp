@@ -23,7 +23,7 @@ QString iconFor(Phase phase) {
                            : QStringLiteral(":/icons/app/tray-docked.svg");
 }
 
-/// As pixmaps: the tray's host need not know SVG.
+/// Renders the file to pixmaps, because a tray need not support SVG.
 QIcon pixmapsOf(const QString& file) {
     QSvgRenderer drawing(file);
     QIcon icons;
@@ -54,7 +54,7 @@ Tray::Tray(AppStore& store, QObject* parent)
     connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        if (icon_ && !QApplication::activeWindow()) // the window tells it itself
+        if (icon_ && !QApplication::activeWindow()) // an active window shows the failure itself
             icon_->showMessage(tr("Velmora"), failureText(command, reason), QSystemTrayIcon::Warning);
     });
     refresh();
@@ -81,8 +81,7 @@ bool Tray::isArmed() const {
     return store_.knownState() && store_.knownState()->armed;
 }
 
-/// A menu may be open while an alert comes or gives way to the next, and its lines move under the pointer.
-/// Without an answer to the alert for which it was opened, the line opens the window, where the card asks.
+/// If the alert changed since the menu was opened, does not answer it but shows the window.
 void Tray::answer(Command command) {
     if (!openedFor_ || !store_.answer(command, *openedFor_))
         emit openRequested();
@@ -101,8 +100,8 @@ QAction* Tray::addCommand(const QString& text, Action action) {
     return line;
 }
 
-/// Qt decides once for a run whether the desktop has a tray, so the icon is made only when one is there.
-/// Without a tray on the bus one of the old X11 kind is taken after a while.
+/// Qt checks only once whether there is a tray, so create the icon when one is registered on the bus. If none
+/// appears for a while, try a legacy X11 tray.
 void Tray::watchForTray() {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected() && bus.interface()->isServiceRegistered(trayService)) {
@@ -129,7 +128,7 @@ void Tray::showIcon() {
     icon_->show();
 }
 
-/// Lines come and go by visibility, so that an open menu is not built anew under the pointer.
+/// Hides and shows lines instead of rebuilding the menu, which may be open.
 void Tray::refresh() {
     const Phase phase = store_.phase();
     const QString status =

@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/// The icon in the desktop's tray with its small menu: the phase, the answers to an alert, the way home. It
-/// appears when the desktop has a tray, however late.
+/// The tray icon and its menu: the phase, the answers to an alert, "Return home". The icon appears as soon as
+/// the desktop has a tray.
 class Tray : public QObject {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private:
     QAction* arming_;
     QDBusServiceWatcher trayWatcher_;
     UiTimer legacyTrayTimer_{std::chrono::minutes(1),
-                             UiTimer::Mode::singleShot}; ///< until a tray of the old kind is taken
+                             UiTimer::Mode::singleShot}; ///< until the icon tries a legacy X11 tray
     std::unique_ptr<QSystemTrayIcon> icon_;
     QString shownIcon_;
     std::optional<AlertId> openedFor_; ///< the alert that waited when the menu was opened
