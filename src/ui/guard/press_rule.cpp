@@ -6,10 +6,8 @@ namespace velmora {
 
 namespace {
 
-constexpr EventTime sampleLifetime =
-    std::chrono::minutes(1); // within it two clocks drift apart by less than 10 ms
-constexpr EventTime longestDelay =
-    std::chrono::minutes(1); // a longer one means that the window system's clock was set
+constexpr EventTime sampleLifetime = std::chrono::minutes(1); // two clocks drift by less than 10 ms in it
+constexpr EventTime longestDelay = std::chrono::minutes(1);   // a longer one: the clock was set
 
 } // namespace
 

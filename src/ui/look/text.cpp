@@ -13,8 +13,7 @@ namespace velmora {
 namespace {
 
 constexpr double fitTolerance = 0.5; // pixels; tolerance when a text is fitted into its own measured width
-constexpr double enlarged =
-    8; // Qt rounds font metrics to integer pixels, so texts are laid out at this scale
+constexpr double enlarged = 8;       // Qt rounds font metrics to integer pixels, so layouts use this scale
 
 QFont enlargedFontOf(const TextStyle& style) {
     QFont font = SBFont::font(style.face, style.size * enlarged);
