@@ -31,7 +31,6 @@ public:
     /// Paints the map in its current size, with `scale` device pixels for each logical pixel.
     QPixmap picture(int scale) const;
 
-    bool hasHeightForWidth() const override { return true; }
     /// The height at this width that keeps the site's proportions.
     int heightForWidth(int width) const override;
     /// The size of the largest map that fits into `room`, at least `least` pixels wide if there is room. A

@@ -11,17 +11,27 @@
 #include "ui/screens/live/telemetry.h"
 #include "ui/screens/stale_banner.h"
 
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace velmora {
 
 LiveCard::LiveCard(AppStore& store, QWidget* parent)
-    : QWidget(parent),
+    : MapPanel({Measure::liveCardMinimum, Measure::mapMinimumHeight}, parent),
       store_(store),
-      map_(new SiteMap(this)),
-      note_(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this)),
-      line_(new Hairline(this, Hairline::Tone::dark)),
       telemetry_(new Telemetry(this)) {
+    auto* note = new QGridLayout;
+    note->setContentsMargins(Measure::cardInset, 0, Measure::cardInset, 0);
+    note->setVerticalSpacing(0);
+    note->setRowMinimumHeight(0, Measure::noteRow);
+    note->addWidget(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this), 0,
+                    0, Qt::AlignVCenter);
+    note->addWidget(new Hairline(this, Hairline::Tone::dark), 1, 0);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(map_, 1);
+    column->addLayout(note);
+    column->addWidget(telemetry_);
     connect(&everySecond_, &UiTimer::timeout, this, &LiveCard::refresh);
     refresh();
 }
@@ -39,22 +49,12 @@ void LiveCard::refresh() {
     update();
 }
 
-QSize LiveCard::fitted(int width, int height, bool narrow) {
-    narrow_ = narrow;
-    telemetry_->setNarrow(narrow);
-    const int below = Measure::noteRow + line_->height() + Telemetry::heightFor(narrow);
-    const QSize room(width, std::max(height - below, Measure::mapMinimumHeight));
-    return map_->fitted(room, Measure::liveCardMinimum) + QSize(0, below);
-}
-
-void LiveCard::resizeEvent(QResizeEvent*) {
-    const int mapBottom = height() - Measure::noteRow - line_->height() - Telemetry::heightFor(narrow_);
-    const int noteTop = mapBottom + (Measure::noteRow - note_->sizeHint().height()) / 2;
-    const int inner = width() - 2 * Measure::cardInset;
-    map_->setGeometry(0, 0, width(), mapBottom);
-    note_->setGeometry(Measure::cardInset, noteTop, inner, note_->sizeHint().height());
-    line_->setGeometry(Measure::cardInset, mapBottom + Measure::noteRow, inner, line_->height());
-    telemetry_->setGeometry(0, line_->geometry().bottom() + 1, width(), Telemetry::heightFor(narrow_));
+QSize LiveCard::fitted(QSize room) {
+    constexpr int narrow = Measure::narrowContent - Measure::gutter - Measure::railMinimum;
+    const int wideRows = rowsHeight() - telemetry_->minimumHeight() + Telemetry::heightFor(false);
+    telemetry_->setNarrow(room.width() < narrow ||
+                          MapPanel::fitted(room, wideRows).width() < Measure::wideTelemetry);
+    return MapPanel::fitted(room);
 }
 
 void LiveCard::paintEvent(QPaintEvent*) {

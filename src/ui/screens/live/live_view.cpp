@@ -9,10 +9,7 @@
 #include "ui/screens/live/live_rail.h"
 #include "ui/screens/stale_banner.h"
 
-#include <QEvent>
-#include <QLayout>
-
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace velmora {
 
@@ -52,73 +49,32 @@ Sentence headlineFor(const AppStore& store) {
 
 } // namespace
 
-/// Under the banner the card takes the largest map that fits; the rail takes the rest.
-class LiveView::Content : public QWidget {
-public:
-    explicit Content(AppStore& store)
-        : stale(new Fold(new StaleBanner(store, this), Measure::gap16, Motion::banner, this)),
-          card(new LiveCard(store, this)),
-          rail(new LiveRail(store, this)) {}
-
-    Fold* const stale;
-    LiveCard* const card;
-    LiveRail* const rail;
-
-    /// Below this height the page scrolls.
-    QSize minimumSizeHint() const override {
-        const int beside = rail->layout()->hasHeightForWidth()
-                               ? rail->layout()->minimumHeightForWidth(rail->width())
-                               : rail->minimumSizeHint().height();
-        return {0, top() + std::max(card->minimumHeight(), beside)};
-    }
-
-protected:
-    void resizeEvent(QResizeEvent*) override { lay(); }
-    bool event(QEvent* event) override {
-        if (event->type() == QEvent::LayoutRequest)
-            lay();
-        return QWidget::event(event);
-    }
-
-private:
-    int top() const { return stale->isHidden() ? 0 : stale->height(); }
-    void lay() {
-        stale->setGeometry(0, 0, width(), stale->height());
-        const int room = height() - top(), inView = std::min(height(), parentWidget()->height()) - top();
-        const int widest = std::max(width() - Measure::gutter - Measure::railMinimum, 0);
-        const bool narrow = width() < Measure::narrowContent ||
-                            card->fitted(widest, inView, false).width() < Measure::wideTelemetry;
-        card->setMinimumHeight(card->fitted(widest, 0, narrow).height());
-        const QSize size = card->fitted(widest, inView, narrow);
-        card->setGeometry({{0, top()}, size});
-        const int left = size.width() + Measure::gutter;
-        rail->setGeometry(left, top(), std::min(width() - left, Measure::railMaximum), room);
-        if (const int least = minimumSizeHint().height(); least != least_) {
-            least_ = least;
-            updateGeometry();
-        }
-    }
-
-    int least_ = 0; ///< height, as last told to the page
-};
-
-LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent), content_(new Content(store)) {
+LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent) {
+    auto* content = new QWidget(this);
+    stale_ = new Fold(new StaleBanner(store, content), Measure::gap16, Motion::banner, content);
+    card_ = new LiveCard(store, content);
+    rail_ = new LiveRail(store, content);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(stale_);
+    column->addLayout(new MapBesideRail(card_, rail_, Measure::railMinimum), 1);
     setPage(new Page({.eyebrow = tr("Live flight"),
                       .headline = headlineFor(store),
                       .fills = true,
                       .contentGap = Measure::gap20,
-                      .content = content_},
+                      .content = content},
                      this));
-    connect(content_->rail, &LiveRail::landRequested, this, &LiveView::landRequested);
+    connect(rail_, &LiveRail::landRequested, this, &LiveView::landRequested);
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged,
                &AppStore::linkStatusChanged});
 }
 
 void LiveView::refresh() {
     page().setHeadline(headlineFor(store_));
-    content_->stale->setOpen(StaleBanner::isDue(store_));
-    content_->card->refresh();
-    content_->rail->refresh();
+    stale_->setOpen(StaleBanner::isDue(store_));
+    card_->refresh();
+    rail_->refresh();
 }
 
 } // namespace velmora

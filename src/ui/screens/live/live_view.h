@@ -4,6 +4,10 @@
 
 namespace velmora {
 
+class Fold;
+class LiveCard;
+class LiveRail;
+
 /// Live flight: where the owner watches and steers a flight.
 class LiveView : public Screen {
     Q_OBJECT
@@ -19,9 +23,9 @@ protected:
     void refresh() override;
 
 private:
-    class Content;
-
-    Content* content_;
+    LiveCard* card_;
+    LiveRail* rail_;
+    Fold* stale_;
 };
 
 } // namespace velmora

@@ -7,7 +7,7 @@
 #include "ui/look/tokens.h"
 #include "ui/map/site_map.h"
 
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace velmora {
 
@@ -29,9 +29,15 @@ double paintKey(QPainter& painter, const QRectF& row, double x, const QString& n
 
 } // namespace
 
-MapCard::MapCard(AppStore& store, QWidget* parent) : QWidget(parent), store_(store), map_(new SiteMap(this)) {
+MapCard::MapCard(AppStore& store, QWidget* parent)
+    : MapPanel({Measure::mapCardMinimum, Measure::overviewMapMinimum}, parent), store_(store) {
     auto* title = new Text(tr("Your grounds, live"), Type::groupHeading, SB::ink, this);
-    title->setGeometry(0, 0, title->sizeHint().width(), title->sizeHint().height());
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, Measure::mapLegend);
+    column->setSpacing(0);
+    column->addWidget(title, 0, Qt::AlignLeft);
+    column->addSpacing(Measure::mapTitle - title->sizeHint().height());
+    column->addWidget(map_, 1);
 }
 
 void MapCard::refresh() {
@@ -42,16 +48,6 @@ void MapCard::refresh() {
         return;
     buffer_ = buffer;
     update();
-}
-
-QSize MapCard::fitted(int width, int height) const {
-    constexpr int around = Measure::mapTitle + Measure::mapLegend;
-    const QSize room(width, std::max(height - around, Measure::overviewMapMinimum));
-    return map_->fitted(room, Measure::mapCardMinimum) + QSize(0, around);
-}
-
-void MapCard::resizeEvent(QResizeEvent*) {
-    map_->setGeometry(0, Measure::mapTitle, width(), height() - Measure::mapTitle - Measure::mapLegend);
 }
 
 void MapCard::paintEvent(QPaintEvent*) {

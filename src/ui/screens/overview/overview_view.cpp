@@ -11,7 +11,6 @@
 #include "ui/screens/overview/status_strip.h"
 #include "ui/screens/stale_banner.h"
 
-#include <QEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -55,85 +54,68 @@ QString ledeFor(const AppStore& store) {
 
 } // namespace
 
-/// Banners above; the map and the rail share what the status strip leaves.
-class OverviewView::Content : public QWidget {
+/// The latest visits, as many as fit, and below them what may be started.
+class OverviewView::Rail : public QWidget {
 public:
-    Content(AppStore& store, AnswerGuard& guard)
-        : activeBanner(new ActiveBanner(store, this)),
-          map(new MapCard(store, this)),
-          activity(new ActivityList(store, this)),
-          offers(new VisitOffers(store, guard, this)),
-          strip(new StatusStrip(store, this)),
-          body(new Body(this)) {
-        stale = new Fold(new StaleBanner(store, this), Measure::gap16, Motion::banner, this);
-        active = new Fold(activeBanner, Measure::gap16, Motion::banner, this);
+    Rail(AppStore& store, AnswerGuard& guard, QWidget* parent)
+        : QWidget(parent),
+          activity_(new ActivityList(store, this)),
+          offers_(new VisitOffers(store, guard, this)) {
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 0);
         column->setSpacing(0);
-        column->addWidget(stale);
-        column->addWidget(active);
-        body->setMinimumHeight(Measure::overviewMapMinimum + Measure::mapTitle + Measure::mapLegend);
-        column->addWidget(body, 1);
-        column->addWidget(strip);
+        column->addWidget(activity_);
+        column->addSpacing(Measure::gap28);
+        column->addWidget(offers_);
+        column->addStretch(1);
     }
 
-    Fold* stale;
-    Fold* active;
-    ActiveBanner* activeBanner;
-    MapCard* map;
-    ActivityList* activity;
-    VisitOffers* offers;
-    StatusStrip* strip;
+    void refresh() {
+        activity_->refresh();
+        offers_->refresh();
+        fitRows();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { fitRows(); }
 
 private:
-    /// Map column and rail.
-    class Body : public QWidget {
-    public:
-        explicit Body(Content* content) : QWidget(content), content_(*content) {
-            for (QWidget* part :
-                 std::initializer_list<QWidget*>{content->map, content->activity, content->offers})
-                part->setParent(this);
-        }
+    void fitRows() {
+        const int offers = offers_->isHidden() ? 0 : offers_->sizeHint().height();
+        const int room = height() - offers - Measure::mapTitle - Measure::gap28;
+        activity_->setRows(std::clamp(room / Measure::activityRow, 1, Measure::activityRows));
+    }
 
-    protected:
-        void resizeEvent(QResizeEvent*) override { lay(); }
-        bool event(QEvent* event) override {
-            if (event->type() == QEvent::LayoutRequest)
-                lay();
-            return QWidget::event(event);
-        }
-
-    private:
-        void lay() {
-            const int room = height() - Measure::gap16;
-            const int widest = width() - Measure::gutter - Measure::overviewRailMinimum;
-            const QSize map = content_.map->fitted(widest, room);
-            content_.map->setGeometry({{}, map});
-            const int left = map.width() + Measure::gutter;
-            const int rail = std::min(width() - left, Measure::railMaximum);
-            const int offers = content_.offers->isHidden() ? 0 : content_.offers->sizeHint().height();
-            const int rows = (room - offers - Measure::mapTitle - Measure::gap28) / Measure::activityRow;
-            content_.activity->setRows(std::clamp(rows, 1, Measure::activityRows));
-            const int activity = content_.activity->layout()->heightForWidth(rail);
-            content_.activity->setGeometry(left, 0, rail, activity);
-            content_.offers->setGeometry(left, activity + Measure::gap28, rail, offers);
-        }
-
-        Content& content_;
-    };
-
-    Body* body;
+    ActivityList* activity_;
+    VisitOffers* offers_;
 };
 
 OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
-    : Screen(store, parent), armSwitch_(new ArmSwitch(store, this)), content_(new Content(store, guard)) {
+    : Screen(store, parent), armSwitch_(new ArmSwitch(store, this)) {
+    auto* content = new QWidget(this);
+    activeBanner_ = new ActiveBanner(store, content);
+    map_ = new MapCard(store, content);
+    rail_ = new Rail(store, guard, content);
+    strip_ = new StatusStrip(store, content);
+    stale_ = new Fold(new StaleBanner(store, content), Measure::gap16, Motion::banner, content);
+    active_ = new Fold(activeBanner_, Measure::gap16, Motion::banner, content);
+    auto* mapAndRail = new MapBesideRail(map_, rail_, Measure::overviewRailMinimum);
+    mapAndRail->setContentsMargins(0, 0, 0, Measure::gap16);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(stale_);
+    column->addWidget(active_);
+    column->addLayout(mapAndRail, 1);
+    column->addWidget(strip_);
     setPage(new Page({.eyebrow = tr("Overview"),
                       .headline = headlineFor(store),
                       .lede = ledeFor(store),
                       .fills = true,
                       .contentGap = Measure::gap24,
                       .trailing = armSwitch_,
-                      .content = content_},
+                      .content = content},
                      this));
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
                &AppStore::freshnessChanged, &AppStore::linkStatusChanged});
@@ -143,13 +125,12 @@ void OverviewView::refresh() {
     page().setHeadline(headlineFor(store_));
     page().setLede(ledeFor(store_));
     armSwitch_->refresh();
-    content_->stale->setOpen(StaleBanner::isDue(store_));
-    content_->active->setOpen(store_.phase() != Phase::docked);
-    content_->activeBanner->refresh();
-    content_->map->refresh();
-    content_->activity->refresh();
-    content_->offers->refresh();
-    content_->strip->refresh();
+    stale_->setOpen(StaleBanner::isDue(store_));
+    active_->setOpen(store_.phase() != Phase::docked);
+    activeBanner_->refresh();
+    map_->refresh();
+    rail_->refresh();
+    strip_->refresh();
 }
 
 } // namespace velmora

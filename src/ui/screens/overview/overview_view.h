@@ -4,8 +4,12 @@
 
 namespace velmora {
 
+class ActiveBanner;
 class AnswerGuard;
 class ArmSwitch;
+class Fold;
+class MapCard;
+class StatusStrip;
 
 /// Overview: a calm summary of the grounds.
 class OverviewView : public Screen {
@@ -18,10 +22,15 @@ protected:
     void refresh() override;
 
 private:
-    class Content;
+    class Rail;
 
     ArmSwitch* armSwitch_;
-    Content* content_;
+    Fold* stale_;
+    Fold* active_;
+    ActiveBanner* activeBanner_;
+    MapCard* map_;
+    Rail* rail_;
+    StatusStrip* strip_;
 };
 
 } // namespace velmora

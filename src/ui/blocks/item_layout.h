@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLayout>
+
+namespace velmora {
+
+/// The items of a layout without margins of its own. A subclass says where they lie.
+class ItemLayout : public QLayout {
+public:
+    ItemLayout() { setContentsMargins(0, 0, 0, 0); }
+    ~ItemLayout() override { qDeleteAll(items_); }
+
+    void addItem(QLayoutItem* item) override { items_.append(item); }
+    QLayoutItem* takeAt(int index) override { return itemAt(index) ? items_.takeAt(index) : nullptr; }
+    QLayoutItem* itemAt(int index) const override { return items_.value(index); }
+    int count() const override { return static_cast<int>(items_.size()); }
+
+private:
+    QList<QLayoutItem*> items_;
+};
+
+} // namespace velmora

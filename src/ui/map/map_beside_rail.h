@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/blocks/item_layout.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class SiteMap;
+
+/// A panel with a map, and rows of a fixed height above or below it.
+class MapPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The largest size within the room in which the map keeps the site's proportions. In a room that is too
+    /// low the map has its minimum height.
+    virtual QSize fitted(QSize room);
+    QSize minimumSizeHint() const override;
+
+protected:
+    /// The subclass lays out the map and the rows.
+    MapPanel(QSize mapMinimum, QWidget* parent);
+
+    /// As above, with rows of this height in all.
+    QSize fitted(QSize room, int rows) const;
+    /// The height of all rows.
+    int rowsHeight() const { return layout()->minimumSize().height(); }
+
+    SiteMap* map_;
+
+private:
+    QSize mapMinimum_; ///< wide grounds make a lower map
+};
+
+/// A panel as large as its map allows, and right of it a rail over the full height. Where the room is short,
+/// the bottom margin gives way, and so does a rail whose vertical size policy is `Ignored`.
+class MapBesideRail : public ItemLayout {
+public:
+    /// `railMinimum` is the width that the panel leaves the rail.
+    MapBesideRail(MapPanel* panel, QWidget* rail, int railMinimum);
+
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSize() const override;
+    void setGeometry(const QRect& rect) override;
+
+private:
+    MapPanel* panel_;
+    QWidget* rail_;
+    int railMinimum_;
+    int shownMinimum_ = 0; ///< minimum height at the rail's present width
+};
+
+} // namespace velmora
