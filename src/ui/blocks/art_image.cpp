@@ -5,6 +5,8 @@
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -22,6 +24,10 @@ void ArtImage::setName(const QString& name) {
     name_ = name;
     loadedFor_ = {-1, 0};
     update();
+}
+
+int ArtImage::heightForWidth(int width) const {
+    return ratio_ > 0 ? static_cast<int>(std::lround(width / ratio_)) : -1;
 }
 
 void ArtImage::setSquareBottom(bool square) {

@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace velmora {
 
@@ -20,14 +19,16 @@ CameraCard::CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent)
     : QWidget(parent),
       store_(store),
       cam_(cam),
-      picture_(new ArtImage(toQString(cam.snapshot), ArtImage::Mode::fill, Measure::cardRadius, this)),
-      words_(new QWidget(this)) {
-    auto* column = new QVBoxLayout(words_);
+      picture_(new ArtImage(toQString(cam.snapshot), ArtImage::Mode::fill, Measure::cardRadius, this)) {
+    picture_->setRatio(Measure::cameraRatio);
+    auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    column->addWidget(picture_);
+    column->addSpacing(Measure::gap16);
     column->addWidget(buildName());
     column->addSpacing(Measure::gap12);
-    column->addWidget(new Hairline(words_));
+    column->addWidget(new Hairline(this));
     faces_ = toggleRow(tr("Faces it doesn't recognise"), tr("Recommended"), &Settings::alertUnknownFaces);
     people_ =
         toggleRow(tr("Any person, even without a face"), tr("More alerts at night"), &Settings::alertPeople);
@@ -37,7 +38,7 @@ CameraCard::CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent)
 }
 
 QWidget* CameraCard::buildName() {
-    auto* heading = new QWidget(words_);
+    auto* heading = new QWidget(this);
     name_ = new Text({}, Type::cardName, SB::ink, heading);
     name_->setMaximumLines(1);
     alerts_ = new Text({}, Type::label2, SB::muted, heading);
@@ -57,7 +58,7 @@ QWidget* CameraCard::buildName() {
 }
 
 ToggleRow* CameraCard::toggleRow(const QString& title, const QString& detail, Switches which) {
-    auto* row = new ToggleRow(title, detail, toQString(cam_.name), words_);
+    auto* row = new ToggleRow(title, detail, toQString(cam_.name), this);
     connect(row, &ToggleRow::turned, this, [this, which](bool on) { turn(which, on); });
     return row;
 }
@@ -90,17 +91,6 @@ void CameraCard::refresh(const CameraInfo& cam) {
                                    : tr("%1 alerts in the history").arg(raised));
     faces_->setChecked(reading(&Settings::alertUnknownFaces, true));
     people_->setChecked(reading(&Settings::alertPeople, false));
-}
-
-int CameraCard::heightForWidth(int width) const {
-    const int picture = static_cast<int>(std::lround(width / Measure::cameraRatio));
-    return picture + Measure::gap16 + words_->sizeHint().height();
-}
-
-void CameraCard::resizeEvent(QResizeEvent*) {
-    const int picture = static_cast<int>(std::lround(width() / Measure::cameraRatio));
-    picture_->setGeometry(0, 0, width(), picture);
-    words_->setGeometry(0, picture + Measure::gap16, width(), words_->sizeHint().height());
 }
 
 } // namespace velmora

@@ -21,10 +21,6 @@ public:
 
     const std::string& id() const { return cam_.id; }
     void refresh(const CameraInfo& cam);
-    int heightForWidth(int width) const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     using Switches = std::map<std::string, bool> Settings::*;
@@ -43,7 +39,6 @@ private:
     Text* online_;
     ToggleRow* faces_;
     ToggleRow* people_;
-    QWidget* words_;
 };
 
 } // namespace velmora

@@ -1,10 +1,13 @@
 #include "ui/screens/cameras/cameras_view.h"
 
+#include "ui/blocks/item_layout.h"
 #include "ui/blocks/page.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/screens/cameras/camera_card.h"
+
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -17,49 +20,26 @@ bool sameCameras(const std::vector<CameraInfo>& cameras, const std::vector<Camer
     return std::ranges::equal(cameras, cards, {}, &CameraInfo::id, &CameraCard::id);
 }
 
-} // namespace
-
-/// As many equal columns as fit.
-class CamerasView::Grid : public QWidget {
+/// Cards of the same size in as many equal columns as fit.
+class CardGrid : public ItemLayout {
 public:
-    explicit Grid(QWidget* parent)
-        : QWidget(parent), noCamera_(new Text({}, Type::emptyTitle, SB::ink, this)) {
-        noCamera_->setGeometry(0, 0, Measure::camerasLedeWidth, static_cast<int>(Type::emptyTitle.line));
-    }
-
-    void refresh(AppStore& store) {
-        static const std::vector<CameraInfo> unknown;
-        const LiveState* known = store.knownState();
-        const auto& cameras = known ? known->site.cameras : unknown;
-        noCamera_->setText(known ? CamerasView::tr("No cameras yet")
-                                 : CamerasView::tr("Waiting for velmora"));
-        noCamera_->setVisible(cameras.empty());
-        if (!sameCameras(cameras, cards_)) {
-            for (CameraCard* card : cards_)
-                card->deleteLater();
-            cards_.clear();
-            for (const CameraInfo& cam : cameras) {
-                cards_.push_back(new CameraCard(store, cam, this));
-                cards_.back()->show();
-            }
-            updateGeometry();
-            lay();
-        }
-        for (std::size_t i = 0; i < cards_.size(); ++i)
-            cards_[i]->refresh(cameras[i]);
-    }
-
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSize() const override { return {Measure::cameraMinimum, 0}; }
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override {
-        const int rows = (static_cast<int>(cards_.size()) + columns(width) - 1) / columns(width);
-        if (rows == 0)
-            return noCamera_->height();
-        return rows * cardHeight(width) + std::max(rows - 1, 0) * Measure::cameraRowGap;
+        const int rows = (count() + columns(width) - 1) / columns(width);
+        return std::max(rows * rowStep(width) - Measure::cameraRowGap, 0);
     }
-    QSize sizeHint() const override { return {Measure::cameraMinimum, heightForWidth(width())}; }
-
-protected:
-    void resizeEvent(QResizeEvent*) override { lay(); }
+    void setGeometry(const QRect& rect) override {
+        QLayout::setGeometry(rect);
+        const double width = cardWidth(rect.width());
+        const QSize card(static_cast<int>(width), rowStep(rect.width()) - Measure::cameraRowGap);
+        for (int i = 0; i < count(); ++i) {
+            const int column = i % columns(rect.width()), row = i / columns(rect.width());
+            const auto x = static_cast<int>(std::lround(column * (width + Measure::gap24)));
+            itemAt(i)->setGeometry({rect.topLeft() + QPoint(x, row * rowStep(rect.width())), card});
+        }
+    }
 
 private:
     static int columns(int width) {
@@ -68,26 +48,23 @@ private:
     static double cardWidth(int width) {
         return (width - (columns(width) - 1.0) * Measure::gap24) / columns(width);
     }
-    int cardHeight(int width) const {
-        return cards_.empty() ? 0 : cards_.front()->heightForWidth(static_cast<int>(cardWidth(width)));
+    /// From one row's top to the next.
+    int rowStep(int width) const {
+        const int card = isEmpty() ? 0 : itemAt(0)->heightForWidth(static_cast<int>(cardWidth(width)));
+        return card + Measure::cameraRowGap;
     }
-    void lay() {
-        const int across = columns(width());
-        const double step = cardWidth(width()) + Measure::gap24;
-        const int height = cardHeight(width());
-        for (int i = 0; i < static_cast<int>(cards_.size()); ++i) {
-            const int left = static_cast<int>(std::lround(i % across * step));
-            const int top = i / across * (height + Measure::cameraRowGap);
-            cards_[static_cast<std::size_t>(i)]->setGeometry(left, top, static_cast<int>(cardWidth(width())),
-                                                             height);
-        }
-    }
-
-    Text* noCamera_; ///< says why there are no cards
-    std::vector<CameraCard*> cards_;
 };
 
-CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, parent), grid_(new Grid(this)) {
+} // namespace
+
+CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, parent), grid_(new CardGrid) {
+    auto* content = new QWidget(this);
+    noCamera_ = new Text({}, Type::emptyTitle, SB::ink, content);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(noCamera_);
+    column->addLayout(grid_);
     setPage(new Page(
         {.eyebrow = tr("Cameras · UniFi Protect"),
          .headline = {tr("What sets off "), tr("an alert"), tr(".")},
@@ -95,14 +72,34 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, paren
                     "sees. People you've named in UniFi Protect never trigger the drone."),
          .ledeWidth = Measure::camerasLedeWidth,
          .contentGap = Measure::gap32,
-         .content = grid_},
+         .content = content},
         this));
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
                &AppStore::freshnessChanged});
 }
 
+void CamerasView::setCameras(const std::vector<CameraInfo>& cameras) {
+    for (CameraCard* card : cards_) {
+        grid_->removeWidget(card);
+        card->deleteLater();
+    }
+    cards_.clear();
+    for (const CameraInfo& cam : cameras) {
+        cards_.push_back(new CameraCard(store_, cam, this));
+        grid_->addWidget(cards_.back());
+    }
+}
+
 void CamerasView::refresh() {
-    grid_->refresh(store_);
+    static const std::vector<CameraInfo> unknown;
+    const LiveState* known = store_.knownState();
+    const auto& cameras = known ? known->site.cameras : unknown;
+    noCamera_->setText(known ? tr("No cameras yet") : tr("Waiting for velmora"));
+    noCamera_->setVisible(cameras.empty());
+    if (!sameCameras(cameras, cards_))
+        setCameras(cameras);
+    for (std::size_t i = 0; i < cards_.size(); ++i)
+        cards_[i]->refresh(cameras[i]);
 }
 
 } // namespace velmora

@@ -2,7 +2,14 @@
 
 #include "ui/screens/screen.h"
 
+#include <vector>
+
+class QLayout;
+
 namespace velmora {
+
+class CameraCard;
+class Text;
 
 /// Cameras: what sets off an alert, camera by camera.
 class CamerasView : public Screen {
@@ -15,9 +22,11 @@ protected:
     void refresh() override;
 
 private:
-    class Grid;
+    void setCameras(const std::vector<CameraInfo>& cameras);
 
-    Grid* grid_;
+    Text* noCamera_; ///< says why there are no cards
+    QLayout* grid_;
+    std::vector<CameraCard*> cards_;
 };
 
 } // namespace velmora
