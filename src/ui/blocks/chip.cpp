@@ -28,7 +28,7 @@ void Chip::setText(const QString& text) {
         return;
     setAccessibleName(text);
     const double words = std::min(textWidth(text, Type::caption.withTabularDigits()), Measure::chipText);
-    resize(static_cast<int>(std::ceil(textX + words)) + Measure::chipPadding, Measure::chipHeight);
+    setFixedSize(static_cast<int>(std::ceil(textX + words)) + Measure::chipPadding, Measure::chipHeight);
     update();
 }
 

@@ -20,6 +20,7 @@ constexpr double shortestThumb = 32;
 
 OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent)
     : QWidget(parent), model_(model), rest_(shownFor, UiTimer::Mode::singleShot) {
+    setFixedWidth(Measure::scrollBar);
     connect(&rest_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
     connect(model, &QScrollBar::valueChanged, this, [this] {
         rest_.start();
@@ -27,13 +28,6 @@ OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent)
     });
     connect(model, &QScrollBar::rangeChanged, this, [this] { setVisible(model_->maximum() > 0); });
     hide();
-}
-
-void OverlayScrollBar::place() {
-    const QSize size = parentWidget()->size();
-    setGeometry(size.width() - Measure::scrollBar - Measure::scrollBarEdge, 0, Measure::scrollBar,
-                size.height());
-    raise();
 }
 
 QRectF OverlayScrollBar::thumb() const {

@@ -16,9 +16,6 @@ public:
     /// Moves the model, which itself may be hidden.
     OverlayScrollBar(QScrollBar* model, QWidget* parent);
 
-    /// Lies along the parent's right edge.
-    void place();
-
 protected:
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;

@@ -20,16 +20,13 @@ Page::Page(const Parts& parts, QWidget* parent)
     column->addWidget(parts.content, parts.fills ? 1 : 0);
     if (!parts.fills)
         column->addStretch(1);
-    auto* area = new ScrollArea(this);
-    area->setWidget(frame);
-    area_ = area;
-    const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
+    const int width = parts.width > 0 ? parts.width : Measure::pageWidth; // the rest is room at the right
     frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
-}
-
-/// Wide windows leave the room at the right.
-void Page::resizeEvent(QResizeEvent*) {
-    area_->setGeometry(rect());
+    area_ = new ScrollArea(this);
+    area_->setWidget(frame);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(area_);
 }
 
 QWidget* Page::buildHeading(const Parts& parts) {

@@ -34,9 +34,6 @@ public:
     void setHeadline(const Sentence& headline);
     void setLede(const QString& lede);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     QWidget* buildHeading(const Parts& parts);
 

@@ -5,47 +5,56 @@
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 
-#include <QEvent>
+#include <QGridLayout>
 #include <QPainter>
 
 namespace velmora {
 
-namespace {
-
 /// The end of the content, fading into the page.
-class Fade : public QWidget {
+class ScrollArea::Fade : public QWidget {
 public:
     Fade(QScrollBar* model, QWidget* parent) : QWidget(parent) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        setFixedHeight(0);
         const auto refresh = [this, model] { setVisible(model->value() < model->maximum()); };
         connect(model, &QScrollBar::valueChanged, this, refresh);
         connect(model, &QScrollBar::rangeChanged, this, refresh);
         hide();
     }
 
+    void setPixels(int pixels) {
+        pixels_ = pixels;
+        updateGeometry();
+    }
+    QSize sizeHint() const override { return {0, pixels_}; }
+
 protected:
     void paintEvent(QPaintEvent*) override {
-        QLinearGradient gradient(0, 0, 0, height());
+        QLinearGradient gradient(0, height() - pixels_, 0, height());
         gradient.setColorAt(0, SB::faded(SB::page, 0));
         gradient.setColorAt(1, SB::page);
         QPainter(this).fillRect(rect(), gradient);
     }
+
+private:
+    int pixels_ = 0;
 };
 
-} // namespace
-
-ScrollArea::ScrollArea(QWidget* parent)
-    : QScrollArea(parent),
-      bar_(new OverlayScrollBar(verticalScrollBar(), this)),
-      fade_(new Fade(verticalScrollBar(), this)) {
+ScrollArea::ScrollArea(QWidget* parent) : QScrollArea(parent) {
+    auto* bar = new OverlayScrollBar(verticalScrollBar(), this);
+    fade_ = new Fade(verticalScrollBar(), this);
+    auto* overlays = new QGridLayout(this);
+    overlays->setContentsMargins(0, 0, 0, 0);
+    overlays->setSpacing(0);
+    overlays->setColumnStretch(0, 1);
+    overlays->setColumnMinimumWidth(1, Measure::scrollBarEdge);
+    overlays->addWidget(bar, 0, 0, Qt::AlignRight);
+    overlays->addWidget(fade_, 0, 0, 1, 2, Qt::AlignBottom);
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     viewport()->setAutoFillBackground(false);
-    viewport()->installEventFilter(this);
 }
 
 void ScrollArea::letKeysScroll() {
@@ -55,25 +64,7 @@ void ScrollArea::letKeysScroll() {
 }
 
 void ScrollArea::setFade(int pixels) {
-    fade_->setFixedHeight(pixels);
-    placeOverlays();
-}
-
-void ScrollArea::resizeEvent(QResizeEvent* event) {
-    QScrollArea::resizeEvent(event);
-    placeOverlays();
-}
-
-bool ScrollArea::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == viewport() && event->type() == QEvent::LayoutRequest)
-        placeOverlays();
-    return QScrollArea::eventFilter(watched, event);
-}
-
-void ScrollArea::placeOverlays() {
-    bar_->place();
-    fade_->setGeometry(0, height() - fade_->height(), width(), fade_->height());
-    fade_->raise();
+    fade_->setPixels(pixels);
 }
 
 } // namespace velmora

@@ -5,8 +5,6 @@
 
 namespace velmora {
 
-class OverlayScrollBar;
-
 /// A vertical scroll area without a frame, whose slim bar lies over the content and shows while it scrolls or
 /// the pointer is over it. Content that goes on below can fade into the page.
 class ScrollArea : public QScrollArea {
@@ -20,15 +18,10 @@ public:
     /// While there is more than fits, the tab key stops here and the arrows scroll.
     void letKeysScroll();
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-    void placeOverlays();
+    class Fade;
 
-    OverlayScrollBar* bar_;
-    QWidget* fade_;
+    Fade* fade_;
 };
 
 } // namespace velmora

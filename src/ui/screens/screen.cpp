@@ -2,6 +2,8 @@
 
 #include "ui/blocks/page.h"
 
+#include <QVBoxLayout>
+
 namespace velmora {
 
 Screen::Screen(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {}
@@ -13,7 +15,9 @@ void Screen::refreshOn(std::initializer_list<Change> changes) {
 
 void Screen::setPage(Page* page) {
     page_ = page;
-    page_->setParent(this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(page_);
 }
 
 /// The widgets of a minimised window stay visible.
@@ -24,11 +28,6 @@ void Screen::refreshIfSeen() {
 
 void Screen::showEvent(QShowEvent*) {
     refreshIfSeen();
-}
-
-void Screen::resizeEvent(QResizeEvent*) {
-    if (page_)
-        page_->setGeometry(rect());
 }
 
 } // namespace velmora

@@ -31,7 +31,6 @@ protected:
     virtual void refresh() = 0;
 
     void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
     AppStore& store_;
 

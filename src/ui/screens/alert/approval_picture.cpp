@@ -6,6 +6,7 @@
 #include "ui/look/tokens.h"
 
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace velmora {
 
@@ -35,13 +36,20 @@ private:
 ApprovalPicture::ApprovalPicture(QWidget* parent)
     : QWidget(parent),
       picture_(new ArtImage({}, ArtImage::Mode::fill, Measure::overlayRadius, this)),
-      chip_(new Chip(this)),
+      chip_(new Chip(picture_)),
       bar_(new Bar(this)) {
-    setFixedSize(Measure::approvalCard, Measure::approvalPicture + Measure::approvalBar);
-    picture_->setGeometry(0, 0, width(), Measure::approvalPicture);
+    picture_->setFixedHeight(Measure::approvalPicture);
     picture_->setSquareBottom(true);
-    chip_->move(Measure::chipInset, Measure::chipInset);
-    bar_->setGeometry(0, Measure::approvalPicture, width(), Measure::approvalBar);
+    bar_->setFixedHeight(Measure::approvalBar);
+    auto* onPicture = new QVBoxLayout(picture_);
+    onPicture->setContentsMargins(Measure::chipInset, Measure::chipInset, Measure::chipInset,
+                                  Measure::chipInset);
+    onPicture->addWidget(chip_, 0, Qt::AlignTop | Qt::AlignLeft);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(picture_);
+    column->addWidget(bar_);
 }
 
 void ApprovalPicture::setAlert(const QString& picture, const QString& chip) {

@@ -116,7 +116,9 @@ QWidget* HistoryList::buildRecords() {
     records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     records_->installEventFilter(this);
     FocusRing::setLook(records_, {Measure::buttonRadius});
-    bar_ = new OverlayScrollBar(records_->verticalScrollBar(), records_);
+    auto* onRecords = new QHBoxLayout(records_);
+    onRecords->setContentsMargins(0, 0, Measure::scrollBarEdge, 0);
+    onRecords->addWidget(new OverlayScrollBar(records_->verticalScrollBar(), records_), 0, Qt::AlignRight);
     connect(records_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
                 if (const auto key = model_->keyAt(index); key && key != store_.selectedRecord())
@@ -309,8 +311,6 @@ bool HistoryList::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
     }
-    if (watched == records_ && event->type() == QEvent::Resize)
-        bar_->place();
     return QWidget::eventFilter(watched, event);
 }
 

@@ -11,7 +11,6 @@ class QListView;
 namespace velmora {
 
 class MenuButton;
-class OverlayScrollBar;
 class SBButton;
 class SegmentedChoice;
 class Text;
@@ -74,7 +73,6 @@ private:
     QWidget* nothing_;
     QWidget* noMatch_;
     QListView* records_;
-    OverlayScrollBar* bar_;
     QWidget* foot_;
     SBButton* clearDemo_;
     QWidget* undoLine_;

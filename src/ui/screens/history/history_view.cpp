@@ -47,6 +47,12 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
       empty_(buildEmpty()) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(list_);
+    row->addWidget(detail_, 1);
+    row->addWidget(empty_, 1);
     connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
     connect(list_, &HistoryList::opened, detail_, &RecordDetail::takeFocus);
@@ -177,11 +183,7 @@ void HistoryView::saveAs(const QString& title, const QString& name, const QStrin
 
 void HistoryView::resizeEvent(QResizeEvent*) {
     const bool narrow = window()->width() < Measure::narrowWindow;
-    const int pane = narrow ? Measure::historyPaneNarrow : Measure::historyPane;
-    list_->setGeometry(0, 0, pane, height());
-    const QRect rest(pane, 0, width() - pane, height());
-    detail_->setGeometry(rest);
-    empty_->setGeometry(rest);
+    list_->setFixedWidth(narrow ? Measure::historyPaneNarrow : Measure::historyPane);
 }
 
 void HistoryView::showEvent(QShowEvent* event) {

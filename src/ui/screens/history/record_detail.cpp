@@ -16,7 +16,6 @@
 #include "ui/screens/history/replay_player.h"
 #include "ui/screens/outcomes.h"
 
-#include <QEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,15 +33,18 @@ const LiveState& groundsFor(const AppStore& store) {
 } // namespace
 
 RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
-    : QWidget(parent), store_(store), player_(new ReplayPlayer(this)), content_(new QWidget(this)) {
-    auto* heading = buildHeading(content_);
-    map_ = new SiteMap(content_);
-    map_->installEventFilter(this);
-    chip_ = new Chip(map_);
-    chip_->setText(tr("Replay"));
-    bar_ = new ReplayBar(*player_, content_);
-    facts_ = new RecordFacts(content_);
-    auto* column = new QVBoxLayout(content_);
+    : QWidget(parent), store_(store), player_(new ReplayPlayer(this)) {
+    auto* content = new QWidget(this);
+    auto* heading = buildHeading(content);
+    map_ = new SiteMap(content);
+    auto* chip = new Chip(map_);
+    chip->setText(tr("Replay"));
+    auto* onMap = new QVBoxLayout(map_);
+    onMap->setContentsMargins(Measure::gap12, Measure::gap12, Measure::gap12, Measure::gap12);
+    onMap->addWidget(chip, 0, Qt::AlignTop | Qt::AlignRight);
+    bar_ = new ReplayBar(*player_, content);
+    facts_ = new RecordFacts(content);
+    auto* column = new QVBoxLayout(content);
     column->setContentsMargins(Measure::detailLeft, Measure::pageMargins.top(), Measure::detailRight,
                                Measure::pageMargins.bottom());
     column->setSpacing(0);
@@ -55,9 +57,11 @@ RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     column->addWidget(facts_);
     column->addStretch(1);
     auto* area = new ScrollArea(this);
-    area->setWidget(content_);
+    area->setWidget(content);
     area->setFade(Measure::logFade);
-    area_ = area;
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(area);
     connect(player_, &ReplayPlayer::changed, this, &RecordDetail::showMoment);
     connect(facts_, &RecordFacts::momentRequested, this, [this](double seconds) {
         player_->pause();
@@ -134,13 +138,6 @@ void RecordDetail::fitMap() {
 
 void RecordDetail::resizeEvent(QResizeEvent*) {
     fitMap();
-    area_->setGeometry(rect());
-}
-
-bool RecordDetail::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == map_ && event->type() == QEvent::Resize)
-        chip_->move(map_->width() - chip_->width() - Measure::gap12, Measure::gap12);
-    return QWidget::eventFilter(watched, event);
 }
 
 void RecordDetail::hideEvent(QHideEvent*) {

@@ -8,7 +8,6 @@
 
 namespace velmora {
 
-class Chip;
 class Eyebrow;
 class Headline;
 class RecordFacts;
@@ -40,7 +39,6 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -55,12 +53,9 @@ private:
     Text* eyebrow_;
     Headline* title_;
     SBButton* export_;
-    QWidget* content_;
     SiteMap* map_;
-    Chip* chip_;
     ReplayBar* bar_;
     RecordFacts* facts_;
-    QWidget* area_;
 };
 
 } // namespace velmora

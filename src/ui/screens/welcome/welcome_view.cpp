@@ -12,8 +12,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace velmora {
 
 namespace {
@@ -35,11 +33,16 @@ protected:
 } // namespace
 
 WelcomeView::WelcomeView(AppStore& store, QWidget* parent)
-    : QWidget(parent), store_(store), column_(buildColumn()) {}
+    : QWidget(parent), store_(store), column_(buildColumn()) {
+    auto* all = new QGridLayout(this);
+    all->setContentsMargins(0, Measure::heroMinimum, 0, Measure::welcomeBottom);
+    all->addWidget(column_, 0, 0, Qt::AlignHCenter | Qt::AlignBottom);
+}
 
 QWidget* WelcomeView::buildColumn() {
     auto* column = new QWidget(this);
     auto* rows = new QVBoxLayout(column);
+    column->setFixedWidth(Measure::welcomeColumn);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(buildTitle());
@@ -121,12 +124,6 @@ void WelcomeView::finish(bool link) {
     store_.setShowWelcome(false);
     if (link)
         store_.setSection(Section::settings);
-}
-
-void WelcomeView::resizeEvent(QResizeEvent*) {
-    const int height = column_->layout()->heightForWidth(Measure::welcomeColumn);
-    const int top = std::max(this->height() - height - Measure::welcomeBottom, Measure::heroMinimum);
-    column_->setGeometry((width() - Measure::welcomeColumn) / 2, top, Measure::welcomeColumn, height);
 }
 
 /// Cropped to the room above the column, about the picture's middle.
