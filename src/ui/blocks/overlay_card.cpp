@@ -7,7 +7,6 @@
 #include "ui/look/tokens.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -52,11 +51,16 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     declareRole(this, QAccessible::Dialog);
     setFocusPolicy(Qt::StrongFocus);
     card_->setFixedWidth(cardWidth);
+    QSizePolicy policy = card_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // for the shadow and the picture while the card moves
+    card_->setSizePolicy(policy);
+    auto* middle = new QGridLayout(this);
+    middle->setContentsMargins(0, 0, 0, 0);
+    middle->addWidget(card_, 0, 0, Qt::AlignCenter);
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(0);
     connect(&appearance_, &Transition::changed, this, qOverload<>(&QWidget::update));
     connect(&appearance_, &Transition::finished, this, &OverlayCard::settled);
-    window->installEventFilter(this);
     hide();
 }
 
@@ -65,8 +69,6 @@ void OverlayCard::open() {
         return;
     open_ = true;
     focusBefore_ = QApplication::focusWidget();
-    setGeometry(parentWidget()->rect());
-    layCard();
     picture_ = card_->grab();
     card_->hide();
     raise(); // before the window, told by the show event, raises what belongs above every card
@@ -105,23 +107,6 @@ void OverlayCard::settled() {
 }
 
 void OverlayCard::takeFirstFocus() {}
-
-void OverlayCard::layCard() {
-    const int height =
-        column_->hasHeightForWidth() ? column_->heightForWidth(card_->width()) : column_->sizeHint().height();
-    card_->resize(card_->width(), height);
-    card_->move((width() - card_->width()) / 2, (this->height() - height) / 2);
-}
-
-void OverlayCard::resizeEvent(QResizeEvent*) {
-    layCard();
-}
-
-bool OverlayCard::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && watched == parentWidget() && isVisible())
-        setGeometry(parentWidget()->rect());
-    return QWidget::eventFilter(watched, event);
-}
 
 void OverlayCard::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier)

@@ -11,7 +11,7 @@ class QVBoxLayout;
 namespace velmora {
 
 /// A card over the whole window on a veil: nothing behind it can be pressed, and the keyboard's focus stays
-/// inside.
+/// inside. The window's layout gives it its size.
 class OverlayCard : public QWidget {
     Q_OBJECT
 
@@ -33,14 +33,10 @@ protected:
     /// What has the focus when the card opens: the card itself, so that no key can press a button by
     /// accident.
     virtual void takeFirstFocus();
-    /// Fits the card to content that has changed.
-    void layCard();
 
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void settled();

@@ -6,9 +6,6 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
-#include <QEvent>
-
-#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -26,14 +23,13 @@ Toast::Toast(QWidget* window) : QWidget(window), time_(messageTime, UiTimer::Mod
     setAttribute(Qt::WA_TransparentForMouseEvents);
     declareRole(this, QAccessible::AlertMessage);
     connect(&time_, &UiTimer::timeout, this, &QWidget::hide);
-    window->installEventFilter(this);
     hide();
 }
 
 void Toast::setMessage(const QString& message) {
     message_ = message;
     setAccessibleName(message);
-    place();
+    updateGeometry();
     show();
     raise();
     update();
@@ -42,17 +38,9 @@ void Toast::setMessage(const QString& message) {
     QAccessible::updateAccessibility(&alert);
 }
 
-void Toast::place() {
-    const int window = parentWidget()->width();
-    const int wanted = static_cast<int>(std::ceil(textLeft + textWidth(message_, Type::link))) + 1 + padding;
-    const int width = std::min(wanted, window - 2 * Measure::sidebar);
-    setGeometry((window - width) / 2, Measure::gap4, width, Measure::titleStrip - Measure::gap4);
-}
-
-bool Toast::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && isVisible())
-        place();
-    return QWidget::eventFilter(watched, event);
+QSize Toast::sizeHint() const {
+    const int width = static_cast<int>(std::ceil(textLeft + textWidth(message_, Type::link))) + 1 + padding;
+    return {width, Measure::titleStrip - Measure::gap4};
 }
 
 void Toast::paintEvent(QPaintEvent*) {

@@ -6,24 +6,22 @@
 
 namespace velmora {
 
-/// An urgent message of one line in the middle of the title strip, where it covers nothing, for ten seconds.
-/// It lies above cards and their veil.
+/// An urgent message of one line, shown for ten seconds. It fits into the title strip, where it covers
+/// nothing.
 class Toast : public QWidget {
     Q_OBJECT
 
 public:
     explicit Toast(QWidget* window);
 
+    QSize sizeHint() const override;
     /// Shows the message and announces it to assistive technology.
     void setMessage(const QString& message);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void place();
-
     QString message_;
     UiTimer time_;
 };

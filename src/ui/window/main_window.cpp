@@ -56,7 +56,8 @@ MainWindow::MainWindow(AppStore& store)
         addOverlay(overlay);
     new FocusRing(this);
     bands_ = new ResizeBands(this);
-    toast_ = new Toast(this);
+    layers_->addLayout(bands_, 0, 0);
+    addToast();
     addShortcuts();
 
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
@@ -74,6 +75,7 @@ MainWindow::MainWindow(AppStore& store)
     });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::makeWayForAlert);
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
+    approval_->followPhase();
     showSection();
     showWelcome();
     showCover();
@@ -104,7 +106,7 @@ void MainWindow::buildSections() {
     sections_[Section::cameras] = new CamerasView(store_, stack_);
     sections_[Section::settings] = new SettingsView(store_, stack_);
     for (const auto& [section, screen] : sections_)
-        stack_->addWidget(screen);
+        stack_->addSection(screen);
 }
 
 void MainWindow::layOut() {
@@ -116,12 +118,14 @@ void MainWindow::layOut() {
     row->addWidget(new Sidebar(store_, house_));
     row->addWidget(stack_, 1);
     welcome_ = new WelcomeView(store_, this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout;
     column->setSpacing(0);
     column->addWidget(strip_);
     column->addWidget(house_, 1);
     column->addWidget(welcome_, 1);
+    layers_ = new QGridLayout(this);
+    layers_->setContentsMargins(0, 0, 0, 0);
+    layers_->addLayout(column, 0, 0);
 }
 
 /// The sections by number, the history's search, closing the window, and the menus for those without a mouse.
@@ -150,7 +154,17 @@ void MainWindow::addShortcuts() {
 
 void MainWindow::addOverlay(OverlayCard* overlay) {
     overlays_.append(overlay);
+    layers_->addWidget(overlay, 0, 0);
     overlay->installEventFilter(this);
+}
+
+/// In the middle of the title strip, above cards and their veil.
+void MainWindow::addToast() {
+    toast_ = new Toast(this);
+    auto* strip = new QVBoxLayout;
+    strip->setContentsMargins(Measure::sidebar, Measure::gap4, Measure::sidebar, 0);
+    strip->addWidget(toast_, 0, Qt::AlignHCenter | Qt::AlignTop);
+    layers_->addLayout(strip, 0, 0);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -6,6 +6,8 @@
 
 #include <map>
 
+class QGridLayout;
+
 namespace velmora {
 
 class AboutCard;
@@ -37,6 +39,7 @@ private:
     void layOut();
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
+    void addToast();
     void makeWayForAlert();
     void showSection();
     void showWelcome();
@@ -47,6 +50,7 @@ private:
     AppStore& store_;
     AnswerGuard* guard_;
     CommandMenus* menus_;
+    QGridLayout* layers_; ///< content, cards, resize bands and toast, one above the other
     TitleStrip* strip_;
     QWidget* house_; ///< sidebar and section
     WelcomeView* welcome_;

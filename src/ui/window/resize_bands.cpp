@@ -24,17 +24,6 @@ class Band : public QWidget {
 public:
     Band(Qt::Edges edges, QWidget* window) : QWidget(window), edges_(edges) { setCursor(cursorFor(edges)); }
 
-    QRect placeIn(QSize window) const {
-        constexpr int band = Measure::resizeBand;
-        const bool left = edges_ & Qt::LeftEdge, right = edges_ & Qt::RightEdge;
-        const bool top = edges_ & Qt::TopEdge, bottom = edges_ & Qt::BottomEdge;
-        const int x = left ? 0 : right ? window.width() - band : band;
-        const int y = top ? 0 : bottom ? window.height() - band : band;
-        const int width = left || right ? band : window.width() - 2 * band;
-        const int height = top || bottom ? band : window.height() - 2 * band;
-        return {x, y, width, height};
-    }
-
 protected:
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton)
@@ -47,14 +36,25 @@ private:
 
 } // namespace
 
-ResizeBands::ResizeBands(QWidget* window) : QObject(window), window_(window) {
+ResizeBands::ResizeBands(QWidget* window) : window_(window) {
+    setContentsMargins(0, 0, 0, 0);
+    setSpacing(0);
+    setRowStretch(1, 1);
+    setColumnStretch(1, 1);
+    for (const int end : {0, 2}) {
+        setRowMinimumHeight(end, Measure::resizeBand);
+        setColumnMinimumWidth(end, Measure::resizeBand);
+    }
     for (const Qt::Edges edges :
          {Qt::Edges(Qt::LeftEdge), Qt::Edges(Qt::RightEdge), Qt::Edges(Qt::TopEdge),
           Qt::Edges(Qt::BottomEdge), Qt::LeftEdge | Qt::TopEdge, Qt::RightEdge | Qt::TopEdge,
-          Qt::LeftEdge | Qt::BottomEdge, Qt::RightEdge | Qt::BottomEdge})
-        bands_.push_back(new Band(edges, window));
+          Qt::LeftEdge | Qt::BottomEdge, Qt::RightEdge | Qt::BottomEdge}) {
+        const int row = edges & Qt::TopEdge ? 0 : edges & Qt::BottomEdge ? 2 : 1;
+        const int column = edges & Qt::LeftEdge ? 0 : edges & Qt::RightEdge ? 2 : 1;
+        bands_.append(new Band(edges, window));
+        addWidget(bands_.back(), row, column);
+    }
     window->installEventFilter(this);
-    lay();
 }
 
 void ResizeBands::raise() {
@@ -63,17 +63,10 @@ void ResizeBands::raise() {
 }
 
 bool ResizeBands::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::WindowStateChange)
-        lay();
-    return QObject::eventFilter(watched, event);
-}
-
-void ResizeBands::lay() {
-    const bool resizable = !window_->isMaximized() && !window_->isFullScreen();
-    for (QWidget* widget : bands_) {
-        widget->setVisible(resizable);
-        widget->setGeometry(static_cast<Band*>(widget)->placeIn(window_->size()));
-    }
+    if (event->type() == QEvent::WindowStateChange)
+        for (QWidget* band : bands_)
+            band->setVisible(!window_->isMaximized() && !window_->isFullScreen());
+    return QGridLayout::eventFilter(watched, event);
 }
 
 } // namespace velmora

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QObject>
-
-#include <vector>
+#include <QGridLayout>
 
 class QWidget;
 
 namespace velmora {
 
-/// Lets a window without a native frame be resized at its edges and corners. The bands lie over everything
-/// else in the window and are away while it is maximised or fills the screen.
-class ResizeBands : public QObject {
+/// Lets a window without a native frame be resized at its edges and corners, which the bands of this layout
+/// cover. They are away while the window is maximised or fills the screen.
+class ResizeBands : public QGridLayout {
     Q_OBJECT
 
 public:
@@ -23,10 +21,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void lay();
-
     QWidget* window_;
-    std::vector<QWidget*> bands_;
+    QList<QWidget*> bands_;
 };
 
 } // namespace velmora

@@ -3,7 +3,9 @@
 #include "ui/look/motion.h"
 #include "ui/look/transition.h"
 
+#include <QGridLayout>
 #include <QPainter>
+#include <QStackedLayout>
 
 namespace velmora {
 
@@ -22,7 +24,6 @@ public:
 
     void start(const QPixmap& picture) {
         picture_ = picture;
-        setGeometry(parentWidget()->rect());
         show();
         raise();
         opacity_.move(1, 0);
@@ -40,13 +41,23 @@ private:
     Transition opacity_;
 };
 
-SectionStack::SectionStack(QWidget* parent) : QStackedWidget(parent), fading_(new Fading(this)) {}
+SectionStack::SectionStack(QWidget* parent)
+    : QWidget(parent), sections_(new QStackedLayout), fading_(new Fading(this)) {
+    auto* layers = new QGridLayout(this);
+    layers->setContentsMargins(0, 0, 0, 0);
+    layers->addLayout(sections_, 0, 0);
+    layers->addWidget(fading_, 0, 0);
+}
+
+void SectionStack::addSection(QWidget* section) {
+    sections_->addWidget(section);
+}
 
 void SectionStack::showSection(QWidget* section) {
-    if (section == currentWidget())
+    if (section == sections_->currentWidget())
         return;
     const QPixmap last = isVisible() ? grab() : QPixmap();
-    setCurrentWidget(section);
+    sections_->setCurrentWidget(section);
     if (!last.isNull())
         fading_->start(last);
 }

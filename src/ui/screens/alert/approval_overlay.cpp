@@ -45,7 +45,6 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* w
     connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
-    followPhase();
 }
 
 void ApprovalOverlay::build() {
@@ -133,10 +132,8 @@ void ApprovalOverlay::followPhase() {
     wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
     countdown_.start();
-    if (isOpen()) {
-        layCard();
+    if (isOpen())
         setFocus(Qt::OtherFocusReason);
-    }
     open();
     emit asked();
 }

@@ -16,6 +16,9 @@ class ApprovalOverlay : public OverlayCard {
 public:
     ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* window);
 
+    /// Opens or closes the card for the store's alert; the window calls it once, when the card is laid out.
+    void followPhase();
+
 signals:
     /// The card comes up, or asks about another alert.
     void asked();
@@ -27,7 +30,6 @@ private:
     void build();
     QWidget* buildMetrics();
     QWidget* buildButtons();
-    void followPhase();
     void refresh();
     void countDown();
 
