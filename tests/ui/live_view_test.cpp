@@ -4,6 +4,7 @@
 #include "ui/map/site_map.h"
 #include "ui/screens/live/flight_controls.h"
 #include "ui/screens/live/live_rail.h"
+#include "ui/screens/live/live_view.h"
 #include "ui/screens/log_list.h"
 #include "ui/served_fixture.h"
 
@@ -111,6 +112,17 @@ TEST_F(LiveViewTest, ControlsAreThoseOfThePhase) {
     serve(mission(Phase::docked));
     EXPECT_EQ(controls(), QStringList());
     EXPECT_TRUE(explains(nothing));
+}
+
+TEST_F(LiveViewTest, TheMapTakesTheProportionsOfASiteThatCameWhileItWasHidden) {
+    store().setSection(Section::settings);
+    LiveState state = mission(Phase::following);
+    state.site.size = {300, 80};
+    serve(state);
+    store().setSection(Section::live);
+    settle();
+    const SiteMap& map = *window().findChild<LiveView*>()->findChild<SiteMap*>();
+    EXPECT_EQ(map.height(), map.heightForWidth(map.width()));
 }
 
 TEST_F(LiveViewTest, EachControlSendsItsCommand) {
