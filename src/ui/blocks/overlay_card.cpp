@@ -1,6 +1,7 @@
 #include "ui/blocks/overlay_card.h"
 
 #include "ui/blocks/accessibility.h"
+#include "ui/blocks/layouts.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
 #include "ui/look/paint.h"
@@ -46,7 +47,7 @@ protected:
 OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     : QWidget(window),
       card_(new Surface(this)),
-      column_(new QVBoxLayout(card_)),
+      column_(bareLayout<QVBoxLayout>(card_)),
       appearance_(*this, Motion::cardIn, QEasingCurve::OutCubic) {
     declareRole(this, QAccessible::Dialog);
     setFocusPolicy(Qt::StrongFocus);
@@ -54,11 +55,8 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     QSizePolicy policy = card_->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // for the shadow and the picture while the card moves
     card_->setSizePolicy(policy);
-    auto* middle = new QGridLayout(this);
-    middle->setContentsMargins(0, 0, 0, 0);
+    auto* middle = bareLayout<QGridLayout>(this);
     middle->addWidget(card_, 0, 0, Qt::AlignCenter);
-    column_->setContentsMargins(0, 0, 0, 0);
-    column_->setSpacing(0);
     connect(&appearance_, &Transition::changed, this, qOverload<>(&QWidget::update));
     connect(&appearance_, &Transition::finished, this, &OverlayCard::settled);
     hide();

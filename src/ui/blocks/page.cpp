@@ -1,5 +1,6 @@
 #include "ui/blocks/page.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/scroll_area.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -24,16 +25,13 @@ Page::Page(const Parts& parts, QWidget* parent)
     frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
     area_ = new ScrollArea(this);
     area_->setWidget(frame);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
+    auto* all = bareLayout<QVBoxLayout>(this);
     all->addWidget(area_);
 }
 
 QWidget* Page::buildHeading(const Parts& parts) {
     auto* heading = new QWidget(this);
-    auto* row = new QHBoxLayout(heading);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap24);
+    auto* row = bareLayout<QHBoxLayout>(heading, Measure::gap24);
     auto* words = new QVBoxLayout;
     words->setSpacing(Measure::gap4);
     words->addWidget(new Eyebrow(parts.eyebrow, false, heading));

@@ -1,6 +1,7 @@
 #include "ui/blocks/sb_row.h"
 
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -22,9 +23,7 @@ SBRow::SBRow(const QString& label, bool dark, QWidget* content, bool first, int 
     row->setSpacing(Measure::gap24);
     row->addLayout(labelColumn);
     row->addWidget(content, 1);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(new Hairline(this, dark    ? Hairline::Tone::dark
                                          : first ? Hairline::Tone::first
                                                  : Hairline::Tone::between));

@@ -1,6 +1,7 @@
 #include "ui/blocks/scroll_area.h"
 
 #include "ui/blocks/focus_ring.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/overlay_scroll_bar.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -42,9 +43,7 @@ private:
 ScrollArea::ScrollArea(QWidget* parent) : QScrollArea(parent) {
     auto* bar = new OverlayScrollBar(verticalScrollBar(), this);
     fade_ = new Fade(verticalScrollBar(), this);
-    auto* overlays = new QGridLayout(this);
-    overlays->setContentsMargins(0, 0, 0, 0);
-    overlays->setSpacing(0);
+    auto* overlays = bareLayout<QGridLayout>(this);
     overlays->setColumnStretch(0, 1);
     overlays->setColumnMinimumWidth(1, Measure::scrollBarEdge);
     overlays->addWidget(bar, 0, 0, Qt::AlignRight);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/blocks/item_layout.h"
+#include "ui/blocks/layouts.h"
 
 #include <QWidget>
 

@@ -1,5 +1,6 @@
 #include "ui/screens/screen.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
 
 #include <QVBoxLayout>
@@ -15,8 +16,7 @@ void Screen::refreshOn(std::initializer_list<Change> changes) {
 
 void Screen::setPage(Page* page) {
     page_ = page;
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(page_);
 }
 

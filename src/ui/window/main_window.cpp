@@ -2,6 +2,7 @@
 
 #include "ui/blocks/confirmation_card.h"
 #include "ui/blocks/focus_ring.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/toast.h"
 #include "ui/guard/answer_guard.h"
 #include "ui/look/measures.h"
@@ -112,9 +113,7 @@ void MainWindow::buildSections() {
 void MainWindow::layOut() {
     strip_ = new TitleStrip(menus_, this);
     house_ = new QWidget(this);
-    auto* row = new QHBoxLayout(house_);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    auto* row = bareLayout<QHBoxLayout>(house_);
     row->addWidget(new Sidebar(store_, house_));
     row->addWidget(stack_, 1);
     welcome_ = new WelcomeView(store_, this);
@@ -123,8 +122,7 @@ void MainWindow::layOut() {
     column->addWidget(strip_);
     column->addWidget(house_, 1);
     column->addWidget(welcome_, 1);
-    layers_ = new QGridLayout(this);
-    layers_->setContentsMargins(0, 0, 0, 0);
+    layers_ = bareLayout<QGridLayout>(this);
     layers_->addLayout(column, 0, 0);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/window/section_stack.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/look/motion.h"
 #include "ui/look/transition.h"
 
@@ -43,8 +44,7 @@ private:
 
 SectionStack::SectionStack(QWidget* parent)
     : QWidget(parent), sections_(new QStackedLayout), fading_(new Fading(this)) {
-    auto* layers = new QGridLayout(this);
-    layers->setContentsMargins(0, 0, 0, 0);
+    auto* layers = bareLayout<QGridLayout>(this);
     layers->addLayout(sections_, 0, 0);
     layers->addWidget(fading_, 0, 0);
 }

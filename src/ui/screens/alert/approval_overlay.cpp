@@ -2,6 +2,7 @@
 
 #include "model/truncated.h"
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
 #include "ui/guard/answer_button.h"
@@ -74,9 +75,7 @@ void ApprovalOverlay::build() {
 
 QWidget* ApprovalOverlay::buildMetrics() {
     auto* row = new QWidget(card());
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = bareLayout<QHBoxLayout>(row);
     const auto add = [&](const QString& label, int share) {
         auto* metric = new Metric(label, Metric::Size::regular, false, row);
         metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -98,9 +97,7 @@ QWidget* ApprovalOverlay::buildButtons() {
     auto* launch = new AnswerButton(
         Command::approve, guard_, tr("Launch drone"),
         {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Measure::gap12);
+    auto* layout = bareLayout<QHBoxLayout>(row, Measure::gap12);
     layout->addWidget(ignore, 10);
     layout->addWidget(launch, 16);
     return row;

@@ -2,6 +2,7 @@
 
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/chip.h"
+#include "ui/blocks/layouts.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 
@@ -45,9 +46,7 @@ ApprovalPicture::ApprovalPicture(QWidget* parent)
     onPicture->setContentsMargins(Measure::chipInset, Measure::chipInset, Measure::chipInset,
                                   Measure::chipInset);
     onPicture->addWidget(chip_, 0, Qt::AlignTop | Qt::AlignLeft);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(picture_);
     column->addWidget(bar_);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -21,9 +22,7 @@ CameraCard::CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent)
       cam_(cam),
       picture_(new ArtImage(toQString(cam.snapshot), ArtImage::Mode::fill, Measure::cardRadius, this)) {
     picture_->setRatio(Measure::cameraRatio);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(picture_);
     column->addSpacing(Measure::gap16);
     column->addWidget(buildName());
@@ -49,9 +48,7 @@ QWidget* CameraCard::buildName() {
     row->addWidget(name_, 1);
     row->addWidget(dot_, 0, Qt::AlignVCenter);
     row->addWidget(online_, 0, Qt::AlignVCenter);
-    auto* column = new QVBoxLayout(heading);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(heading);
     column->addLayout(row);
     column->addWidget(alerts_);
     return heading;

@@ -1,6 +1,6 @@
 #include "ui/screens/cameras/cameras_view.h"
 
-#include "ui/blocks/item_layout.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -60,9 +60,7 @@ private:
 CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, parent), grid_(new CardGrid) {
     auto* content = new QWidget(this);
     noCamera_ = new Text({}, Type::emptyTitle, SB::ink, content);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(content);
     column->addWidget(noCamera_);
     column->addLayout(grid_);
     setPage(new Page(

@@ -1,6 +1,7 @@
 #include "ui/screens/cameras/toggle_row.h"
 
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/switch.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -26,9 +27,7 @@ ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString&
     auto* row = new QHBoxLayout;
     row->addLayout(words, 1);
     row->addWidget(switch_, 0, Qt::AlignVCenter);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addLayout(row, 1);
     column->addWidget(new Hairline(this, Hairline::Tone::between));
     connect(switch_, &Switch::turned, this, &ToggleRow::turned);

@@ -4,6 +4,7 @@
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/headline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/menu_button.h"
 #include "ui/blocks/overlay_scroll_bar.h"
@@ -81,9 +82,7 @@ QWidget* HistoryList::buildFilters() {
     menus->addWidget(demo_);
     menus->addStretch(1);
     menus->addWidget(count_);
-    auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap12);
+    auto* column = bareLayout<QVBoxLayout>(block, Measure::gap12);
     column->addWidget(search_);
     column->addWidget(flight_);
     column->addLayout(menus);
@@ -129,9 +128,7 @@ QWidget* HistoryList::buildRecords() {
 
 QWidget* HistoryList::buildNothing() {
     auto* block = new QWidget(this);
-    auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap20);
+    auto* column = bareLayout<QVBoxLayout>(block, Measure::gap20);
     column->addWidget(new Hairline(block));
     column->addWidget(
         new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
@@ -168,9 +165,7 @@ QWidget* HistoryList::buildFoot() {
     row->addWidget(clearDemo_, 0, Qt::AlignLeft);
     row->addStrut(Measure::buttonHeight);
     row->addWidget(undoLine_, 1);
-    auto* column = new QVBoxLayout(foot);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(foot);
     auto* above = new QHBoxLayout;
     above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
     above->addWidget(new Hairline(foot));

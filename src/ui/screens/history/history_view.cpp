@@ -1,5 +1,6 @@
 #include "ui/screens/history/history_view.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -47,9 +48,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
       empty_(buildEmpty()) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    auto* row = bareLayout<QHBoxLayout>(this);
     row->addWidget(list_);
     row->addWidget(detail_, 1);
     row->addWidget(empty_, 1);

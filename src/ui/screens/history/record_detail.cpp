@@ -4,6 +4,7 @@
 #include "ui/blocks/chip.h"
 #include "ui/blocks/headline.h"
 #include "ui/blocks/icon_button.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/scroll_area.h"
 #include "ui/blocks/text.h"
@@ -59,8 +60,7 @@ RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     auto* area = new ScrollArea(this);
     area->setWidget(content);
     area->setFade(Measure::logFade);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
+    auto* all = bareLayout<QVBoxLayout>(this);
     all->addWidget(area);
     connect(player_, &ReplayPlayer::changed, this, &RecordDetail::showMoment);
     connect(facts_, &RecordFacts::momentRequested, this, [this](double seconds) {
@@ -80,9 +80,7 @@ QWidget* RecordDetail::buildHeading(QWidget* parent) {
     words->setSpacing(Measure::gap4);
     words->addWidget(eyebrow_);
     words->addWidget(title_);
-    auto* row = new QHBoxLayout(heading);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap8);
+    auto* row = bareLayout<QHBoxLayout>(heading, Measure::gap8);
     row->addLayout(words, 1);
     row->addWidget(export_, 0, Qt::AlignBottom);
     row->addWidget(remove, 0, Qt::AlignBottom);

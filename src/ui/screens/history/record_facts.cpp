@@ -3,6 +3,7 @@
 #include "model/mission_evidence.h"
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -74,9 +75,7 @@ RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
     row->setSpacing(Measure::gap24);
     row->addLayout(words, 1);
     row->addWidget(buildAside(), 0, Qt::AlignTop);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap20);
+    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap20);
     column->addWidget(buildMetrics());
     column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addLayout(row);
@@ -86,9 +85,7 @@ RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
 
 QWidget* RecordFacts::buildMetrics() {
     auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = bareLayout<QHBoxLayout>(row);
     const auto add = [&](const QString& label) {
         auto* metric = new Metric(label, Metric::Size::regular, false, row);
         metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -109,9 +106,7 @@ QWidget* RecordFacts::buildAside() {
     picture_->setFixedSize(Measure::alertPicture);
     identity_ = new Text({}, Type::label2, SB::muted, aside);
     times_ = new Text({}, Type::label2, SB::muted, aside);
-    auto* column = new QVBoxLayout(aside);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap4);
+    auto* column = bareLayout<QVBoxLayout>(aside, Measure::gap4);
     column->addWidget(picture_);
     column->addWidget(identity_);
     column->addWidget(times_);

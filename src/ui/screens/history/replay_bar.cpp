@@ -2,6 +2,7 @@
 
 #include "ui/blocks/choice.h"
 #include "ui/blocks/icon_button.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -32,9 +33,7 @@ ReplayBar::ReplayBar(ReplayPlayer& player, QWidget* parent)
     for (const double speed : speeds)
         names.append(tr("%1×").arg(speed));
     speed_ = new SegmentedChoice(tr("Replay speed"), names, false, this);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap12);
+    auto* row = bareLayout<QHBoxLayout>(this, Measure::gap12);
     row->addWidget(play_);
     row->addWidget(slider_, 1);
     row->addWidget(time_, 0, Qt::AlignVCenter);

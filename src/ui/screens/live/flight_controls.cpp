@@ -1,5 +1,6 @@
 #include "ui/screens/live/flight_controls.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -10,9 +11,7 @@
 namespace velmora {
 
 FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap8);
+    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap8);
     column->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
     column->addSpacing(Measure::gap4);
     explanation_ = new Text({}, Type::controlsNote, SB::muted, this);

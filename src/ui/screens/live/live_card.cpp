@@ -1,6 +1,7 @@
 #include "ui/screens/live/live_card.h"
 
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -26,9 +27,7 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
     note->addWidget(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this), 0,
                     0, Qt::AlignVCenter);
     note->addWidget(new Hairline(this, Hairline::Tone::dark), 1, 0);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(map_, 1);
     column->addLayout(note);
     column->addWidget(telemetry_);

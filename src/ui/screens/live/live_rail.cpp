@@ -1,6 +1,7 @@
 #include "ui/screens/live/live_rail.h"
 
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/scroll_area.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -28,9 +29,7 @@ LiveRail::LiveRail(AppStore& store, QWidget* parent)
       timeline_(new PhaseTimeline(this)),
       controls_(new FlightControls(store, this)) {
     visitorBlock_ = buildVisitor();
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap16);
+    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap16);
     column->addWidget(timeline_);
     column->addWidget(new Hairline(this, Hairline::Tone::between));
     column->addWidget(controls_);
@@ -44,9 +43,7 @@ LiveRail::LiveRail(AppStore& store, QWidget* parent)
 QWidget* LiveRail::buildVisitor() {
     auto* block = new QWidget(this);
     visitor_ = new VisitorCard(block);
-    auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap16);
+    auto* column = bareLayout<QVBoxLayout>(block, Measure::gap16);
     column->addWidget(new Hairline(block, Hairline::Tone::between));
     column->addWidget(visitor_);
     return block;
@@ -72,9 +69,7 @@ QWidget* LiveRail::buildLog() {
 
     auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);
     heading->setMaximumLines(1); // so that the block's height does not hang on its width, and may give way
-    auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap8);
+    auto* column = bareLayout<QVBoxLayout>(block, Measure::gap8);
     column->addWidget(heading);
     column->addWidget(area, 1);
     return block;

@@ -1,6 +1,7 @@
 #include "ui/screens/live/live_view.h"
 
 #include "ui/blocks/fold.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
@@ -54,9 +55,7 @@ LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent) {
     stale_ = new Fold(new StaleBanner(store, content), Measure::gap16, Motion::banner, content);
     card_ = new LiveCard(store, content);
     rail_ = new LiveRail(store, content);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(content);
     column->addWidget(stale_);
     column->addLayout(new MapBesideRail(card_, rail_, Measure::railMinimum), 1);
     setPage(new Page({.eyebrow = tr("Live flight"),

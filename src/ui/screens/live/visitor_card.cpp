@@ -1,6 +1,7 @@
 #include "ui/screens/live/visitor_card.h"
 
 #include "ui/blocks/art_image.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -22,9 +23,7 @@ VisitorCard::VisitorCard(QWidget* parent) : QWidget(parent) {
     words->setSpacing(0);
     for (Text* text : {label_, camera_, certainty_})
         words->addWidget(text);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::visitorGap);
+    auto* row = bareLayout<QHBoxLayout>(this, Measure::visitorGap);
     row->addWidget(picture_, 0, Qt::AlignVCenter);
     row->addLayout(words, 1);
 }

@@ -3,6 +3,7 @@
 #include "ui/blocks/enter_presses.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
@@ -84,9 +85,7 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     heading->addWidget(all, 0, Qt::AlignVCenter);
     nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
                         Type::body, SB::body, this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addLayout(heading);
     column->addSpacing(Measure::gap4);
     column->addWidget(nothing_);

@@ -1,5 +1,6 @@
 #include "ui/screens/overview/overview_parts.h"
 
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
@@ -91,9 +92,7 @@ VisitOffers::VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent)
       heading_(new Text(tr("Simulate a visitor"), Type::groupHeading, SB::ink, this)),
       launch_(new AnswerButton(Command::approve, guard, tr("Launch (approve)"),
                                {.kind = SBButtonKind::primary, .wide = true}, this)) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Measure::gap8);
+    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap8);
     column->addWidget(heading_);
     column->addSpacing(Measure::gap4);
     for (const auto& [scenario, id] : rawValuesOf<Scenario>) {

@@ -1,6 +1,7 @@
 #include "ui/screens/overview/overview_view.h"
 
 #include "ui/blocks/fold.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
@@ -62,9 +63,7 @@ public:
           activity_(new ActivityList(store, this)),
           offers_(new VisitOffers(store, guard, this)) {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
-        auto* column = new QVBoxLayout(this);
-        column->setContentsMargins(0, 0, 0, 0);
-        column->setSpacing(0);
+        auto* column = bareLayout<QVBoxLayout>(this);
         column->addWidget(activity_);
         column->addSpacing(Measure::gap28);
         column->addWidget(offers_);
@@ -102,9 +101,7 @@ OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
     active_ = new Fold(activeBanner_, Measure::gap16, Motion::banner, content);
     auto* mapAndRail = new MapBesideRail(map_, rail_, Measure::overviewRailMinimum);
     mapAndRail->setContentsMargins(0, 0, 0, Measure::gap16);
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(content);
     column->addWidget(stale_);
     column->addWidget(active_);
     column->addLayout(mapAndRail, 1);

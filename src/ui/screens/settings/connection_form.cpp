@@ -2,6 +2,7 @@
 
 #include "ui/blocks/choice.h"
 #include "ui/blocks/fold.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/blocks/text_field.h"
@@ -35,9 +36,7 @@ ConnectionForm::ConnectionForm(AppStore& store, QWidget* parent)
       demo_(new RadioChoice(tr("Demo mode (built-in simulation)"), this)),
       server_(new RadioChoice(tr("velmora on my network"), this)) {
     serverFold_ = new Fold(buildServer(), 0, Motion::formFold, this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(demo_);
     column->addWidget(server_);
     column->addWidget(serverFold_);

@@ -1,6 +1,7 @@
 #include "ui/screens/settings/settings_view.h"
 
 #include "ui/blocks/choice.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/sb_row.h"
@@ -48,9 +49,7 @@ QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
     line->setFixedHeight(Measure::formLine);
     auto* name = new Text(label, Type::body, SB::ink, line);
     name->setFixedWidth(Measure::sliderLabel);
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap20);
+    auto* row = bareLayout<QHBoxLayout>(line, Measure::gap20);
     row->addWidget(name, 0, Qt::AlignVCenter);
     row->addWidget(control, 0, Qt::AlignVCenter);
     row->addStretch(1);
@@ -88,9 +87,7 @@ QWidget* SettingsView::buildForm() {
 
 QWidget* SettingsView::block() {
     auto* widget = new QWidget(this);
-    auto* column = new QVBoxLayout(widget);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    bareLayout<QVBoxLayout>(widget);
     return widget;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/screens/settings/slider_line.h"
 
 #include "model/truncated.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/slider.h"
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
@@ -22,9 +23,7 @@ SliderLine::SliderLine(const QString& label, const Range& range, QWidget* parent
     name->setFixedWidth(Measure::sliderLabel);
     value_->setFixedWidth(Measure::sliderValue);
     value_->setAlignment(Qt::AlignRight);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap20);
+    auto* row = bareLayout<QHBoxLayout>(this, Measure::gap20);
     row->addWidget(name, 0, Qt::AlignVCenter);
     row->addWidget(slider_, 1, Qt::AlignVCenter);
     row->addWidget(value_, 0, Qt::AlignVCenter);

@@ -2,6 +2,8 @@
 
 #include "ui/blocks/badge.h"
 #include "ui/blocks/headline.h"
+#include "ui/blocks/layouts.h"
+#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/blocks/wordmark.h"
@@ -41,10 +43,8 @@ WelcomeView::WelcomeView(AppStore& store, QWidget* parent)
 
 QWidget* WelcomeView::buildColumn() {
     auto* column = new QWidget(this);
-    auto* rows = new QVBoxLayout(column);
     column->setFixedWidth(Measure::welcomeColumn);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
+    auto* rows = bareLayout<QVBoxLayout>(column);
     rows->addWidget(buildTitle());
     rows->addSpacing(Measure::gap8);
     rows->addWidget(new Headline({tr("A second pair of eyes over "), tr("your grounds"), tr(".")},
@@ -76,9 +76,7 @@ QWidget* WelcomeView::buildColumn() {
 
 QWidget* WelcomeView::buildTitle() {
     auto* title = new QWidget(this);
-    auto* row = new QHBoxLayout(title);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::wordmarkGap);
+    auto* row = bareLayout<QHBoxLayout>(title, Measure::wordmarkGap);
     row->addWidget(new Shield(title));
     row->addWidget(new Text(tr("Welcome to Velmora"), Type::groupHeading, SB::ink, title), 1);
     return title;
@@ -91,9 +89,7 @@ QWidget* WelcomeView::buildStep(int number, const QString& title, const QString&
     words->setSpacing(0);
     words->addWidget(new Text(title, Type::groupHeading, SB::ink, step));
     words->addWidget(new Text(text, Type::stepText, SB::body, step));
-    auto* row = new QHBoxLayout(step);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap16);
+    auto* row = bareLayout<QHBoxLayout>(step, Measure::gap16);
     row->addWidget(new NumberBadge(number, step), 0, Qt::AlignTop);
     row->addLayout(words, 1);
     return step;
@@ -105,9 +101,7 @@ QWidget* WelcomeView::buildButtons() {
         new SBButton(tr("Explore in demo mode"), {.kind = SBButtonKind::primary, .large = true}, buttons);
     auto* network =
         new SBButton(tr("Connect to velmora"), {.kind = SBButtonKind::secondary, .large = true}, buttons);
-    auto* row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Measure::gap12);
+    auto* row = bareLayout<QHBoxLayout>(buttons, Measure::gap12);
     row->addWidget(explore);
     row->addWidget(network);
     row->addStretch(1);

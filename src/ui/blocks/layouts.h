@@ -4,6 +4,15 @@
 
 namespace velmora {
 
+/// A layout of a widget, without margins; `spacing` in pixels.
+template <class Layout>
+Layout* bareLayout(QWidget* parent, int spacing = 0) {
+    auto* layout = new Layout(parent);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    return layout;
+}
+
 /// The items of a layout without margins of its own. A subclass says where they lie.
 class ItemLayout : public QLayout {
 public:
