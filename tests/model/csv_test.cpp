@@ -20,8 +20,8 @@ MissionRecord visit() {
     return record;
 }
 
-/// The line of a record whose label is this.
-std::string lineLabelled(const std::string& label) {
+/// The field of a record with this label.
+std::string labelField(const std::string& label) {
     MissionRecord record = visit();
     record.label = label;
     const std::string csv = recordsCsv({record});
@@ -32,7 +32,7 @@ std::string lineLabelled(const std::string& label) {
 
 } // namespace
 
-TEST(Csv, ARecordIsOneLineUnderTheHeading) {
+TEST(Csv, ARecordIsOneLineAfterTheHeader) {
     MissionRecord demo = visit();
     demo.demo = true;
     demo.outcome = Outcome::lowBattery;
@@ -46,23 +46,23 @@ TEST(Csv, ARecordIsOneLineUnderTheHeading) {
               "id,start,end,camera,label,outcome,confidence,battery used,furthest out,demo\r\n");
 }
 
-TEST(Csv, FieldsAreQuotedWhereTheyMustBe) {
-    EXPECT_EQ(lineLabelled("plain; text"), "plain; text");
-    EXPECT_EQ(lineLabelled("one, two"), "\"one, two\"");
-    EXPECT_EQ(lineLabelled("a \"friend\""), "\"a \"\"friend\"\"\"");
-    EXPECT_EQ(lineLabelled("two\nlines"), "\"two\nlines\"");
-    EXPECT_EQ(lineLabelled("carriage\rreturn"), "\"carriage\rreturn\"");
-    EXPECT_EQ(lineLabelled(""), "");
+TEST(Csv, QuotesOnlyFieldsThatNeedIt) {
+    EXPECT_EQ(labelField("plain; text"), "plain; text");
+    EXPECT_EQ(labelField("one, two"), "\"one, two\"");
+    EXPECT_EQ(labelField("a \"friend\""), "\"a \"\"friend\"\"\"");
+    EXPECT_EQ(labelField("two\nlines"), "\"two\nlines\"");
+    EXPECT_EQ(labelField("carriage\rreturn"), "\"carriage\rreturn\"");
+    EXPECT_EQ(labelField(""), "");
 }
 
-TEST(Csv, NoTextOfAServerIsAFormulaInASpreadsheet) {
+TEST(Csv, SpreadsheetsReadNoTextAsAFormula) {
     for (const std::string start : {"=", "+", "-", "@", "\t"})
-        EXPECT_EQ(lineLabelled(start + "1").substr(0, 2), "'" + start);
-    EXPECT_EQ(lineLabelled("=A1,\"x\""), "\"'=A1,\"\"x\"\"\"");
-    EXPECT_EQ(lineLabelled("1=1"), "1=1");
+        EXPECT_EQ(labelField(start + "1").substr(0, 2), "'" + start);
+    EXPECT_EQ(labelField("=A1,\"x\""), "\"'=A1,\"\"x\"\"\"");
+    EXPECT_EQ(labelField("1=1"), "1=1");
 }
 
-TEST(Csv, PathsAndNoticesTellTheirSecondsSinceTheStart) {
+TEST(Csv, PathsAndNoticesHaveSecondsSinceTheStart) {
     MissionRecord record = visit();
     record.visitorPath = {{14, 88}, {14.25, -87.5}};
     record.dronePath = {{74, 70.75}, {75, 70}, {76, 69}};

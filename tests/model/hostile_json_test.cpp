@@ -14,7 +14,7 @@ bool isRead(std::string_view json) {
 
 } // namespace
 
-TEST(HostileJson, EveryTruncationOfAGoodDocumentIsAnError) {
+TEST(HostileJson, EveryTruncationOfAValidDocumentIsAnError) {
     for (const std::string_view document : {settingsDocument, busyServerDocument, historyDocument}) {
         ASSERT_TRUE(isRead(document));
         for (std::size_t size = 0; size < document.size(); ++size)
@@ -22,7 +22,7 @@ TEST(HostileJson, EveryTruncationOfAGoodDocumentIsAnError) {
     }
 }
 
-TEST(HostileJson, DepthAndSizeAreNeverFatal) {
+TEST(HostileJson, DeepOrHugeDocumentsDoNotCrash) {
     const std::string open(200'000, '['), close(200'000, ']');
     for (const std::string& deep : {open, open + close, R"({"x":1,"y":2,"z":)" + open + close + '}'})
         EXPECT_FALSE(isRead(deep));
@@ -33,7 +33,7 @@ TEST(HostileJson, DepthAndSizeAreNeverFatal) {
     EXPECT_TRUE(settings && settings->host == huge);
 }
 
-TEST(HostileJson, WhatIsNotOneJsonDocumentInUtf8IsAnError) {
+TEST(HostileJson, AnythingButOneUtf8JsonDocumentIsAnError) {
     const std::string good = R"({"x":1,"y":2})";
     ASSERT_TRUE(isRead(' ' + good + '\n'));
     for (const std::string& bytes :

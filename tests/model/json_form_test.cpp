@@ -20,11 +20,11 @@ T decoded(std::string_view json, KeyStyle keys = KeyStyle::fieldNames) {
 
 } // namespace
 
-TEST(JsonForm, ADocumentHasEveryKeyInFieldOrderAndSurvivesByteForByte) {
+TEST(JsonForm, DocumentsHaveTheirKeysInFieldOrderAndRoundTripExactly) {
     Settings fresh;
     fresh.host = "velmora.local";
     EXPECT_EQ(encode(fresh), settingsDocument);
-    EXPECT_EQ(encode(LiveState::initial()), quietDocument) << "absent optional fields leave no key";
+    EXPECT_EQ(encode(LiveState::initial()), quietDocument) << "absent optional fields have no key";
     EXPECT_EQ(decoded<Settings>(settingsDocument), fresh);
     EXPECT_EQ(decoded<LiveState>(quietDocument), LiveState::initial());
     EXPECT_EQ(encode(decoded<LiveState>(busyServerDocument, server), server), busyServerDocument);
@@ -32,9 +32,9 @@ TEST(JsonForm, ADocumentHasEveryKeyInFieldOrderAndSurvivesByteForByte) {
     EXPECT_EQ(encode(Missions{}), "[]");
 }
 
-TEST(JsonForm, KeysOfTheServerLoseTheirInnerUnderscores) {
+TEST(JsonForm, ServerKeysAreConvertedFromSnakeCase) {
     const auto state = decoded<LiveState>(busyServerDocument, server);
-    EXPECT_EQ(state.phase, Phase::awaitingApproval) << "raw values are no keys";
+    EXPECT_EQ(state.phase, Phase::awaitingApproval) << "raw values are not converted";
     EXPECT_EQ(secondsSince1970(state.missionStart.value()), 1748786592);
     EXPECT_EQ(state.visitor.value().cameraId, "front");
     EXPECT_EQ(state.site.planImage, "plan-base");
@@ -59,10 +59,11 @@ TEST(JsonForm, NullsOrderUnknownKeysAndSpaceDoNotMatter) {
     Settings switched;
     switched.alertUnknownFaces = {{"front", false}, {"côté", true}};
     switched.alertPeople = {{"", true}, {"alert_people", false}};
-    EXPECT_EQ(decoded<Settings>(*encode(switched, server), server), switched) << "camera ids are no keys";
+    EXPECT_EQ(decoded<Settings>(*encode(switched, server), server), switched)
+        << "camera ids are not converted";
 }
 
-TEST(JsonForm, DoublesSurviveToTheLastBit) {
+TEST(JsonForm, DoublesRoundTripExactly) {
     std::mt19937_64 bits(1);
     std::vector<double> numbers{0.1, -0.0, 1e-300, 5e-324, 1.7976931348623157e308, 1e23, 1748786592.1234567};
     while (numbers.size() < 20'000)
@@ -74,7 +75,7 @@ TEST(JsonForm, DoublesSurviveToTheLastBit) {
     }
 }
 
-TEST(JsonForm, WhatTheFormCannotHoldIsNotWritten) {
+TEST(JsonForm, ValuesThatTheFormatCannotHoldAreNotWritten) {
     const auto writes = [](double wind, const std::string& name, double start) {
         LiveState state = LiveState::initial();
         state.windKmh = wind;

@@ -7,7 +7,7 @@ namespace velmora {
 
 namespace {
 
-/// A document, and what reading a changed copy of it says; empty when it is read.
+/// A document, and the error from reading a changed copy of it; empty if it was read.
 struct Sample {
     std::string_view document;
     std::function<std::string(std::string_view)> error;
@@ -35,7 +35,7 @@ TEST(JsonStrictness, EveryKeyIsRequiredExceptTheFourOfALiveState) {
         }
 }
 
-TEST(JsonStrictness, AWrongValueIsRefusedWithItsPlace) {
+TEST(JsonStrictness, AWrongValueIsAnErrorWithItsPath) {
     const std::string date = "expected a date such as 2025-06-01T14:03:12Z";
     struct Case {
         const Sample& sample;

@@ -22,8 +22,7 @@ std::vector<P> path(std::size_t points) {
     return line;
 }
 
-/// A flown mission of ten seconds whose visitor was seen for the first two and whose drone flew the last
-/// four.
+/// A flown mission of ten seconds. The visitor was seen for the first two, the drone flew for the last four.
 MissionRecord flight() {
     MissionRecord record;
     record.start = start;
@@ -58,7 +57,7 @@ std::pair<std::size_t, std::size_t> pointsAt(const MissionRecord& record, double
 
 } // namespace
 
-TEST(MissionEvidence, TheTimelineTellsEachStepThatANoticeTellsOf) {
+TEST(MissionEvidence, TheTimelineHasEachStepThatANoticeReports) {
     using enum ResponseStep;
     const std::pair seenFirst{seen, 0.0}, endedLast{ended, 10.0};
     MissionRecord record = flight();
@@ -72,19 +71,19 @@ TEST(MissionEvidence, TheTimelineTellsEachStepThatANoticeTellsOf) {
     record.notices.erase(record.notices.begin() + 2);
     EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, std::pair{answered, 3.0}, std::pair{onStation, 6.0},
                                              std::pair{comingHome, 8.0}, endedLast))
-        << "a step is told once, and one that nobody told of is left out";
+        << "each step once, and none without a notice";
 
     record.notices.clear();
     EXPECT_THAT(stepsOf(record), ElementsAre(seenFirst, endedLast));
 }
 
-TEST(MissionEvidence, TheBoundaryEvidenceCountsTheTimeNearerThanTheBuffer) {
+TEST(MissionEvidence, BoundaryEvidenceCountsTheTimeInsideTheBuffer) {
     MissionRecord record = flight();
     record.dronePath = {{50, 50}, {95, 50}, {97, 50}, {98.5, 50}, {50, 50}};
     const auto evidence = boundaryEvidence(record, square(), 5);
     ASSERT_TRUE(evidence);
     EXPECT_DOUBLE_EQ(evidence->leastDistance, 1.5);
-    EXPECT_DOUBLE_EQ(evidence->secondsInBuffer, 1) << "a point on the buffer's edge is not nearer than it";
+    EXPECT_DOUBLE_EQ(evidence->secondsInBuffer, 1) << "a point on the buffer's edge is not inside it";
 
     record.dronePath[3] = {50, -2};
     EXPECT_DOUBLE_EQ(boundaryEvidence(record, square(), 5)->leastDistance, -2);
@@ -98,11 +97,11 @@ TEST(MissionEvidence, TheBoundaryEvidenceCountsTheTimeNearerThanTheBuffer) {
 
 TEST(MissionEvidence, ProgressCountsThePointsTakenAtOrBeforeTheMoment) {
     const MissionRecord record = flight();
-    EXPECT_EQ(pointsAt(record, 0), std::pair(1ul, 0ul)) << "the visitor from the start";
+    EXPECT_EQ(pointsAt(record, 0), std::pair(1ul, 0ul)) << "visitor points count from the start";
     EXPECT_EQ(pointsAt(record, 0.49), std::pair(1ul, 0ul));
     EXPECT_EQ(pointsAt(record, 0.5), std::pair(2ul, 0ul));
     EXPECT_EQ(pointsAt(record, 5.99), std::pair(5ul, 0ul));
-    EXPECT_EQ(pointsAt(record, 6), std::pair(5ul, 1ul)) << "the drone up to the end";
+    EXPECT_EQ(pointsAt(record, 6), std::pair(5ul, 1ul)) << "drone points count back from the end";
     EXPECT_EQ(pointsAt(record, 9.99), std::pair(5ul, 8ul));
     EXPECT_EQ(pointsAt(record, 10), std::pair(5ul, 9ul));
     EXPECT_EQ(pointsAt(record, 1e9), std::pair(5ul, 9ul));
@@ -111,7 +110,7 @@ TEST(MissionEvidence, ProgressCountsThePointsTakenAtOrBeforeTheMoment) {
     EXPECT_TRUE(progressAt(record, 10).ended);
 }
 
-TEST(MissionEvidence, ADroneThatFlewLongerThanTheRecordLastsHasTakenPointsBefore) {
+TEST(MissionEvidence, ADronePathLongerThanTheRecordBeginsBeforeItsStart) {
     MissionRecord record = flight();
     record.end = record.start + Seconds{1};
     EXPECT_EQ(pointsAt(record, 0).second, 7ul);
@@ -122,7 +121,7 @@ TEST(MissionEvidence, ADroneThatFlewLongerThanTheRecordLastsHasTakenPointsBefore
     EXPECT_THAT(gapsOf(record), IsEmpty());
 }
 
-TEST(MissionEvidence, PointsThatEachCameALittleLateReachFromTheStartToTheEnd) {
+TEST(MissionEvidence, SlightlyLatePointsStillReachFromTheStartToTheEnd) {
     MissionRecord record = flight();
     record.visitorPath = path(19); // 0.526 s apart
     record.dronePath.clear();
@@ -142,12 +141,12 @@ TEST(MissionEvidence, AGapIsWhereNeitherPathHasPoints) {
     EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 6);
 
     record.visitorPath = path(12);
-    EXPECT_THAT(gapsOf(record), IsEmpty()) << "two ends half a second apart leave none";
+    EXPECT_THAT(gapsOf(record), IsEmpty()) << "paths whose ends are half a second apart leave no gap";
 
     record.visitorPath = path(5);
     record.dronePath.clear();
     ASSERT_EQ(gapsOf(record).size(), 1u);
-    EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 10) << "up to the end when no drone flew";
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 10) << "to the end if no drone flew";
     record.visitorPath.clear();
     ASSERT_EQ(gapsOf(record).size(), 1u);
     EXPECT_DOUBLE_EQ(gapsOf(record)[0].from, 0);

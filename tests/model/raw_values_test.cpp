@@ -12,7 +12,7 @@ template <class Enum>
 std::vector<std::string_view> rawValues() {
     std::vector<std::string_view> texts;
     for (const auto& [value, text] : rawValuesOf<Enum>) {
-        EXPECT_EQ(static_cast<std::size_t>(value), texts.size()) << text << " is out of the cases' order";
+        EXPECT_EQ(static_cast<std::size_t>(value), texts.size()) << text << " is not in declaration order";
         EXPECT_EQ(fromRawValue<Enum>(rawValue(value)), value);
         texts.push_back(text);
     }
@@ -26,7 +26,7 @@ std::optional<double> secondsOf(std::string_view text) {
 
 } // namespace
 
-TEST(RawValues, OfEnumerationsAreTheTextsOfFilesAndNetworkInCaseOrder) {
+TEST(RawValues, EnumerationsUseTheTextsOfFilesAndNetwork) {
     EXPECT_THAT(rawValues<Phase>(), ElementsAre("docked", "awaiting_approval", "launching", "en_route",
                                                 "following", "holding", "returning", "landing"));
     EXPECT_THAT(rawValues<Outcome>(),
@@ -45,7 +45,7 @@ TEST(RawValues, OfEnumerationsAreTheTextsOfFilesAndNetworkInCaseOrder) {
         EXPECT_EQ(flew(outcome), outcome < Outcome::ignored) << text;
 }
 
-TEST(RawValues, DatesHaveOneFormAndExist) {
+TEST(RawValues, DatesHaveOneFormatAndMustExist) {
     EXPECT_EQ(secondsOf("2025-06-01T14:03:12Z"), 1748786592);
     EXPECT_EQ(secondsOf("1969-12-31T23:59:59Z"), -1);
     EXPECT_EQ(secondsOf("2024-02-29T00:00:00Z"), 1709164800);

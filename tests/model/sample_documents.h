@@ -27,7 +27,7 @@ inline constexpr std::string_view quietDocument =
     R"({"id":"garden","name":"East garden","pos":{"x":86.0,"y":24.0},"heading":10.0,)"
     R"("snapshot":"snapshot-garden","online":true}],"planImage":"plan-base"}})";
 
-/// A live state with every optional field, in the server's spelling of the keys.
+/// A live state with every optional field, keys in the server's spelling.
 inline constexpr std::string_view busyServerDocument =
     R"({"armed":true,"phase":"awaiting_approval","mission_id":"M-42","mission_start":"2025-06-01T14:03:12Z",)"
     R"("approval_deadline":"2025-06-01T14:04:12Z","drone":{"pos":{"x":1.5,"y":2.5},"altitude":3.5,)"

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-TEST(Validation, SettingsHoldNumbersThatFitAnInteger) {
+TEST(Validation, SettingsNumbersMustFitAnInteger) {
     constexpr double twoTo63 = 9223372036854775808.0;
     Settings settings;
     for (const double fit : {-twoTo63, std::nextafter(twoTo63, 0), -0.0}) {
@@ -20,7 +20,7 @@ TEST(Validation, SettingsHoldNumbersThatFitAnInteger) {
     }
 }
 
-TEST(Validation, AStateThatCannotBeDrawnOrWouldStallTheScreensIsRefused) {
+TEST(Validation, RejectsAStateThatCannotBeDrawnOrWouldStallTheScreens) {
     const std::pair<std::function<void(LiveState&)>, std::string> cases[] = {
         {[](LiveState& s) {
              s.site.size = {1, 100'000};
