@@ -12,11 +12,11 @@ const Range jitter{-0.01, 0.01};
 
 } // namespace
 
-TEST_F(SimulatorTest, AGustComesAfterTwentySecondsInTheAirAndKnocksTheDrone) {
+TEST_F(SimulatorTest, AGustHitsTheDroneAfterTwentySecondsInTheAir) {
     random.draws = {{strength, 30.9}, {direction, 0}, {untilGust, 25}};
     visit(Scenario::driveway);
     fly(50);
-    EXPECT_EQ(state.gustKmh, 0) << "the count does not run on the pad";
+    EXPECT_EQ(state.gustKmh, 0) << "the countdown runs only in the air";
     send(Command::approve);
     send(Command::land);
     drone.altitude = 200;
@@ -37,7 +37,7 @@ TEST_F(SimulatorTest, AGustComesAfterTwentySecondsInTheAirAndKnocksTheDrone) {
     EXPECT_THAT(random.asked, testing::ElementsAre(wind, untilGust, strength, direction, jitter));
 }
 
-TEST_F(SimulatorTest, AStepWithoutTimeDrawsButMovesNothing) {
+TEST_F(SimulatorTest, AStepOfZeroSecondsDrawsButMovesNothing) {
     settings.flightHeight = 1000;
     visitApproved(Scenario::driveway);
     random.draws = {{untilGust, 0}, {jitter, -0.01}, {wind, -0.4}};
@@ -47,7 +47,7 @@ TEST_F(SimulatorTest, AStepWithoutTimeDrawsButMovesNothing) {
     drone.pos = pad + P{-40, 30};
     const LiveState before = state;
     step(0);
-    EXPECT_EQ(state.gustKmh, 25) << "a gust that is due comes all the same";
+    EXPECT_EQ(state.gustKmh, 25) << "a due gust still comes";
     EXPECT_DOUBLE_EQ(drone.signal, 0.97 - 50 / 400.0 - 0.01);
     EXPECT_TRUE(drone.pos == before.drone.pos && drone.battery == before.drone.battery);
     EXPECT_TRUE(state.visitor == before.visitor && state.windKmh == before.windKmh);
@@ -58,7 +58,7 @@ TEST_F(SimulatorTest, AStepWithoutTimeDrawsButMovesNothing) {
     EXPECT_EQ(state.windKmh, 26);
 }
 
-TEST_F(SimulatorTest, EveryStageOfTheFlightIsSaid) {
+TEST_F(SimulatorTest, EveryStageOfTheFlightHasANotice) {
     settings.flightHeight = 12.9;
     settings.followDistance = 29.9;
     visitApproved(Scenario::driveway);
@@ -110,10 +110,10 @@ TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
     };
     const P visitor = state.visitor->pos;
     EXPECT_EQ(phaseAt(visitor + P{0, -18.01}), Phase::enRoute);
-    EXPECT_EQ(phaseAt(visitor + P{0, -17.99}), Phase::following) << "within 3 m of the place to follow from";
+    EXPECT_EQ(phaseAt(visitor + P{0, -17.99}), Phase::following) << "within 3 m of the follow position";
     const std::vector<Notice> notices = state.notices;
     step(0);
-    EXPECT_EQ(state.notices, notices) << "said once";
+    EXPECT_EQ(state.notices, notices) << "one notice";
     send(Command::returnHome);
     EXPECT_EQ(phaseAt(pad + P{0.61, 0}), Phase::returning);
     EXPECT_EQ(phaseAt(pad + P{0, 0.59}), Phase::landing);
@@ -122,7 +122,7 @@ TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
     EXPECT_EQ(latest(), "Landed away from the pad — please collect it");
 }
 
-TEST_F(SimulatorTest, TheBoundaryIsSaidOnceWhileItHoldsAndLeftSilently) {
+TEST_F(SimulatorTest, TheBoundaryNoticeAppearsOncePerHold) {
     visitApproved(Scenario::garden, Phase::following);
     const auto noticesWithDroneAt = [&](double below) {
         drone.pos = state.visitor->pos + P{0, below};
@@ -130,7 +130,7 @@ TEST_F(SimulatorTest, TheBoundaryIsSaidOnceWhileItHoldsAndLeftSilently) {
         return std::ranges::count(state.notices, "At your boundary — holding inside the 5 m buffer",
                                   &Notice::text);
     };
-    stand({120, 25});
+    moveVisitor({120, 25});
     EXPECT_EQ(noticesWithDroneAt(-12), 1);
     EXPECT_TRUE(state.atBoundary);
     EXPECT_EQ(noticesWithDroneAt(12), 1);
@@ -138,20 +138,20 @@ TEST_F(SimulatorTest, TheBoundaryIsSaidOnceWhileItHoldsAndLeftSilently) {
     EXPECT_EQ(noticesWithDroneAt(-12), 2);
     send(Command::hold);
     fly(1);
-    EXPECT_TRUE(state.atBoundary) << "only following judges the boundary";
+    EXPECT_TRUE(state.atBoundary) << "only following updates it";
     send(Command::returnHome);
     step(0.05);
     EXPECT_FALSE(state.atBoundary);
 }
 
-TEST_F(SimulatorTest, TheBufferCutsThePositionButNotTheSpeed) {
+TEST_F(SimulatorTest, TheBufferLimitsThePositionButNotTheSpeed) {
     random.draws[strength] = 0;
     visitApproved(Scenario::garden, Phase::following);
     send(Command::returnHome);
     state.site.boundary = {{100, 0}, {200, 0}, {200, 100}, {100, 100}};
     fly(6);
     EXPECT_EQ(drone.pos.x, 105);
-    EXPECT_GT(drone.speed, 8) << "still pushing towards the pad outside the bounds";
+    EXPECT_GT(drone.speed, 8) << "still flies towards the pad outside the bounds";
     state.atBoundary = true;
     drone.altitude = 0;
     send(Command::land);
@@ -174,10 +174,10 @@ TEST_F(SimulatorTest, HoldingBrakesAndKeepsFacingTheVisitor) {
     EXPECT_NEAR(drone.speed, speed - 0.4, 1e-9) << "4 m/s² at most";
     fly(3);
     EXPECT_EQ(drone.speed, 0);
-    stand(drone.pos + P{0, 3});
+    moveVisitor(drone.pos + P{0, 3});
     EXPECT_EQ(drone.heading, 90);
-    stand(drone.pos + P{0, -0.4});
-    EXPECT_EQ(drone.heading, 90) << "too near to face and too slow to look ahead";
+    moveVisitor(drone.pos + P{0, -0.4});
+    EXPECT_EQ(drone.heading, 90) << "too near to turn to the visitor and too slow to turn ahead";
 }
 
 TEST_F(SimulatorTest, WithoutAVisitorTheDroneComesHome) {
@@ -192,27 +192,27 @@ TEST_F(SimulatorTest, WithoutAVisitorTheDroneComesHome) {
     state.phase = Phase::following;
     step(0.05);
     EXPECT_EQ(state.phase, Phase::returning);
-    EXPECT_EQ(latest(), "Following again") << "silently";
+    EXPECT_EQ(latest(), "Following again") << "without a notice";
     flyUntil(Phase::docked);
     EXPECT_EQ(records.at(0).outcome, Outcome::visitorLeft);
     EXPECT_EQ(records[0].label, "Unknown person");
     EXPECT_EQ(records[0].confidence, 0.9);
 }
 
-TEST_F(SimulatorTest, TheVisitorLeavesAfterMoreThanSixSecondsOutsideInOneGo) {
+TEST_F(SimulatorTest, TheVisitorLeavesAfterMoreThanSixSecondsOutsideWithoutABreak) {
     visitApproved(Scenario::front, Phase::following);
     send(Command::hold);
     state.site.cameras[1].pos = state.site.cameras[0].pos;
-    stand({7.4, 6.6});
-    EXPECT_TRUE(state.visitor->inside) << "the edge belongs to the grounds";
+    moveVisitor({7.4, 6.6});
+    EXPECT_TRUE(state.visitor->inside) << "the edge is inside";
     const std::size_t before = state.notices.size();
     for (std::size_t exit = 0; exit < 2; ++exit) {
-        stand({60, 50});
-        stand({-50, 46});
-        EXPECT_EQ(state.visitor->cameraId, "driveway") << "nearest, and first of two";
+        moveVisitor({60, 50});
+        moveVisitor({-50, 46});
+        EXPECT_EQ(state.visitor->cameraId, "driveway") << "the nearest camera, the first of two";
         step(6);
-        ASSERT_TRUE(state.visitor) << "exactly six seconds are still patience, and coming back renews it";
-        EXPECT_EQ(latest(), "Visitor has crossed your boundary") << "said once";
+        ASSERT_TRUE(state.visitor) << "six seconds are not enough, and a return resets the count";
+        EXPECT_EQ(latest(), "Visitor has crossed your boundary") << "one notice per exit";
         EXPECT_EQ(state.notices.size(), before + 1 + exit);
     }
     step(0.01);
@@ -241,15 +241,15 @@ TEST_F(SimulatorTest, TheDroneComesHomeStrictlyBelowTheBatteryLimit) {
     EXPECT_EQ(records.at(0).outcome, Outcome::lowBattery);
     drone.battery = 20;
     step(10);
-    EXPECT_DOUBLE_EQ(drone.battery, 20.4) << "the pad charges";
+    EXPECT_DOUBLE_EQ(drone.battery, 20.4) << "the pad charges the battery";
     step(10'000);
     EXPECT_EQ(drone.battery, 100);
 }
 
-TEST_F(SimulatorTest, SamplesAreTakenWhenHalfASecondHasPassedAndTheClockStartsOver) {
+TEST_F(SimulatorTest, SamplesAreAtLeastHalfASecondApart) {
     visit(Scenario::driveway);
     fly(1.8, 0.3);
-    EXPECT_EQ(state.visitor->trail.size(), 3u) << "every 0.6 s, not every 0.5 s on average";
+    EXPECT_EQ(state.visitor->trail.size(), 3u) << "every 0.6 s, although 0.5 s would fit on average";
     send(Command::approve);
     fly(100, 0.25);
     EXPECT_EQ(drone.trail.size(), 160u) << "80 of 100 seconds";

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-TEST_F(SimulatorTest, AVisitOpensAMissionThatWaitsForApproval) {
+TEST_F(SimulatorTest, AVisitStartsAMissionThatWaitsForApproval) {
     random.draws[{0.82, 0.94}] = 0.913;
     drone.pos = {20, 30};
     drone.trail = {{20, 30}};
@@ -46,19 +46,20 @@ TEST_F(SimulatorTest, ADetectionWhileDisarmedIsOnlyLogged) {
                                                             "snapshot-garden",
                                                             false}));
     EXPECT_EQ(kept[0].text, "East garden camera: someone you don't know");
-    EXPECT_EQ(latest(), "Logged while disarmed") << "live only";
+    EXPECT_EQ(latest(), "Logged while disarmed") << "in the live state only";
     EXPECT_EQ(state.phase, Phase::docked);
     EXPECT_FALSE(state.visitor || state.missionId || state.missionStart || state.approvalDeadline);
 }
 
-TEST_F(SimulatorTest, WindAtTheLimitIsFlownAndAboveItIsNot) {
+TEST_F(SimulatorTest, TheDroneFliesInWindUpToTheLimit) {
     state.site.cameras.clear();
     settings.maxWindKmh = state.windKmh = 20;
     visit(Scenario::driveway);
     EXPECT_EQ(state.phase, Phase::awaitingApproval);
     send(Command::ignore);
     EXPECT_EQ(latest(), "You ignored the alert");
-    EXPECT_TRUE(records.at(0).cameraName == "Camera" && records[0].snapshot.empty()) << "no such camera";
+    EXPECT_TRUE(records.at(0).cameraName == "Camera" && records[0].snapshot.empty())
+        << "the site has no such camera";
     state.windKmh = std::nextafter(20.0, 21.0);
     now = dateFromSeconds(1'700'007'391.99);
     visit(Scenario::driveway);
@@ -66,7 +67,7 @@ TEST_F(SimulatorTest, WindAtTheLimitIsFlownAndAboveItIsNot) {
     EXPECT_EQ(records[1].id, "M-7391");
 }
 
-TEST_F(SimulatorTest, TheAlertExpiresExactlyAtItsDeadlineOrWhenTheVisitorLeaves) {
+TEST_F(SimulatorTest, TheAlertExpiresAtItsDeadlineOrWhenTheVisitorLeaves) {
     visit(Scenario::driveway);
     const Date deadline = now + Seconds{60};
     simulator.step(0, deadline - Seconds{0.001});
@@ -85,7 +86,7 @@ TEST_F(SimulatorTest, TheAlertExpiresExactlyAtItsDeadlineOrWhenTheVisitorLeaves)
     EXPECT_EQ(records[1].notices.back().text, "Visitor has left your grounds");
 }
 
-TEST_F(SimulatorTest, ALandRightAfterApprovalIsRecordedWithTheBatteryOfTheFlight) {
+TEST_F(SimulatorTest, ALandingRightAfterApprovalIsRecordedWithItsBatteryUse) {
     random.draws[{0.82, 0.94}] = 0.83;
     visitApproved(Scenario::driveway);
     EXPECT_FALSE(state.approvalDeadline);
@@ -99,7 +100,7 @@ TEST_F(SimulatorTest, ALandRightAfterApprovalIsRecordedWithTheBatteryOfTheFlight
     EXPECT_FALSE(state.visitor);
 }
 
-TEST_F(SimulatorTest, ADroneLandedAwayStaysThereUntilTheNextVisitStartsAfresh) {
+TEST_F(SimulatorTest, ADroneThatLandedAwayStaysThereUntilTheNextVisit) {
     visitApproved(Scenario::garden, Phase::following);
     send(Command::returnHome);
     send(Command::land);
@@ -116,16 +117,16 @@ TEST_F(SimulatorTest, ADroneLandedAwayStaysThereUntilTheNextVisitStartsAfresh) {
     EXPECT_EQ(drone.pos, pad);
     fly(1);
     const P onTheWay = P{104, 88} + unit({-9, -10}) * 1.45;
-    EXPECT_NEAR(distance(state.visitor->pos, onTheWay), 0, 1e-9) << "off at once to the second point";
+    EXPECT_NEAR(distance(state.visitor->pos, onTheWay), 0, 1e-9) << "walks to the second point at once";
     state.visitor.reset();
     flyUntil(Phase::docked);
-    EXPECT_EQ(records.at(1).outcome, Outcome::visitorLeft) << "nothing is left of the first mission";
+    EXPECT_EQ(records.at(1).outcome, Outcome::visitorLeft) << "no state of the first mission is left";
     EXPECT_EQ(records[1].notices[0].text, "Front lawn camera: someone you don't know");
     EXPECT_EQ(records[1].visitorPath.size(), 2u);
     EXPECT_LT(records[1].maxDistanceFromPad, 2);
 }
 
-TEST_F(SimulatorTest, TheFortyFirstNoticePushesOutTheOldestButTheMissionKeepsItsOwn) {
+TEST_F(SimulatorTest, TheStateKeepsFortyNoticesAndTheRecordAll) {
     visitApproved(Scenario::driveway, Phase::following);
     const std::size_t before = state.notices.size();
     for (int i = 0; i < 25; ++i) {

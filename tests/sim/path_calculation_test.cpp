@@ -12,7 +12,7 @@ using Plane = std::complex<double>;
 constexpr double tick = 0.1;           // seconds, of a rehearsal
 constexpr std::size_t sampleEvery = 5; // ticks
 
-/// The points of each walk: x, y and the seconds that the visitor stands there.
+/// The points of each walk: x, y and the seconds that the visitor waits there.
 const std::map<Scenario, std::vector<double>> walks = {
     {Scenario::driveway, {14, 88, 0, 22, 79, 0, 31,  66, 0, 41,  58, 0, 53,  54, 7,
                           66, 61, 0, 90, 74, 5, 112, 80, 0, 133, 84, 0, 152, 86, 0}},
@@ -20,7 +20,7 @@ const std::map<Scenario, std::vector<double>> walks = {
     {Scenario::front, {104, 88, 0, 95, 78, 0, 82, 63, 6, 61, 73, 0, 43, 84, 3, 38, 99, 0}},
 };
 
-/// How many ticks a count of seconds lasts when it is run down tick by tick.
+/// Number of ticks until a countdown from `seconds` ends, with the rounding of repeated subtraction.
 std::size_t ticksOf(double seconds) {
     std::size_t ticks = 0;
     for (double left = seconds; left > 0; left -= tick)
@@ -28,8 +28,8 @@ std::size_t ticksOf(double seconds) {
     return ticks;
 }
 
-/// Where the visitor is after each tick, in closed form leg by leg, for as long as there is a visitor: up to
-/// the tick in which more than six seconds outside have passed.
+/// The visitor's position after each tick, in closed form for each leg, up to the tick in which the visitor
+/// has been outside for more than six seconds.
 std::vector<Plane> walkOf(Scenario scenario) {
     const double stride = 1.45 * tick;
     const std::vector<double>& points = walks.at(scenario);
@@ -43,13 +43,13 @@ std::vector<Plane> walkOf(Scenario scenario) {
     const auto left = std::ranges::find_if(walk, [](Plane at) {
         return at.real() < 7.4 || at.real() > 142.6 || at.imag() < 6.6 || at.imag() > 90.6;
     });
-    const std::size_t patience = 60; // ticks that are not yet more than six seconds
-    walk.resize(static_cast<std::size_t>(left - walk.begin()) + patience, walk.back());
+    const std::size_t ticksOutside = 60; // six seconds are not enough
+    walk.resize(static_cast<std::size_t>(left - walk.begin()) + ticksOutside, walk.back());
     return walk;
 }
 
-/// Where the drone is after each tick from the approval on, up to the first gust, which is due after 20
-/// seconds in the air.
+/// The drone's position after each tick from the approval to the first gust, which comes after 20 seconds in
+/// the air.
 std::vector<Plane> flightBeforeGust(const std::vector<Plane>& walk, std::size_t approvedAt) {
     const Plane home{74, 70.7};
     const std::size_t launchTicks = 50; // 15 m at 3 m/s
@@ -74,7 +74,7 @@ std::vector<Plane> flightBeforeGust(const std::vector<Plane>& walk, std::size_t 
     return flight;
 }
 
-/// Every half second's point of positions that begin in the given tick.
+/// Every position that falls on a half second. The positions begin with the tick `firstTick`.
 std::vector<Plane> sampled(const std::vector<Plane>& positions, std::size_t firstTick) {
     std::vector<Plane> samples;
     for (std::size_t i = 0; i < positions.size(); ++i)
@@ -99,7 +99,7 @@ class PathCalculation : public testing::TestWithParam<Rehearsed> {};
 
 } // namespace
 
-TEST_P(PathCalculation, TheRehearsedPathsAgreePointForPoint) {
+TEST_P(PathCalculation, RehearsedPathsMatchTheClosedForm) {
     const auto [scenario, approveAfter, returnAfter] = GetParam();
     SeededRandom random(5);
     const auto record = Simulator::rehearse(scenario, approveAfter, returnAfter,

@@ -8,8 +8,8 @@ namespace {
 
 using enum Phase;
 
-/// Whether one step may make the one of the other when no command is given. A drone over the pad turns home
-/// and is there within one step.
+/// Whether one step without a command may change the phase like this. A drone over the pad can return and
+/// begin to land in one step.
 bool mayStep(Phase from, Phase to, bool overThePad) {
     const std::map<Phase, std::set<Phase>> table = {{awaitingApproval, {docked}},
                                                     {launching, {enRoute, returning}},
@@ -22,7 +22,7 @@ bool mayStep(Phase from, Phase to, bool overThePad) {
     return from == to || table.at(from).contains(to) || (airborne(from) && to == landing && overThePad);
 }
 
-/// Missions of a restless owner, one after another on one simulator, watched at every step.
+/// Random missions, one after another in one simulator, checked at every step.
 class RandomMissions : public testing::Test {
 protected:
     RandomMissions() {
@@ -32,16 +32,16 @@ protected:
         };
     }
 
-    double whole(double low, double high) { return std::floor(random.uniform(low, high + 1)); }
+    double integer(double low, double high) { return std::floor(random.uniform(low, high + 1)); }
 
     void startVisit() {
         Settings& settings = simulator.settings;
-        settings.flightHeight = whole(10, 30);
-        settings.followDistance = whole(8, 30);
-        settings.boundaryBuffer = whole(2, 15);
-        settings.returnBattery = whole(20, 50);
-        settings.maxWindKmh = whole(15, 38);
-        settings.approvalSeconds = whole(30, 120);
+        settings.flightHeight = integer(10, 30);
+        settings.followDistance = integer(8, 30);
+        settings.boundaryBuffer = integer(2, 15);
+        settings.returnBattery = integer(20, 50);
+        settings.maxWindKmh = integer(15, 38);
+        settings.approvalSeconds = integer(30, 120);
         state.drone.battery = random.uniform(15, 100);
         state.windKmh = random.uniform(3, 26);
         state.armed = random.chance(0.9);
@@ -102,12 +102,12 @@ TEST_F(RandomMissions, EndInOneRecordEachAndNeverLeaveTheirLimits) {
         const LiveState landed = state;
         for (int i = 0; i < 100; ++i)
             step();
-        EXPECT_EQ(records.size(), mission) << "nothing grows after the end";
+        EXPECT_EQ(records.size(), mission) << "nothing changes after the end";
         EXPECT_TRUE(state.notices == landed.notices && state.drone.trail == landed.drone.trail);
         EXPECT_TRUE(state.drone.pos == landed.drone.pos && !state.visitor);
         ASSERT_FALSE(HasFailure()) << "in mission " << mission;
     }
-    EXPECT_EQ(outcomes.size(), rawValuesOf<Outcome>.size()) << "every ending was met";
+    EXPECT_EQ(outcomes.size(), rawValuesOf<Outcome>.size()) << "every outcome occurred";
 }
 
 } // namespace velmora

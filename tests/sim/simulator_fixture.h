@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// A simulator on the demo site, in calm wind, with a clock that only the test moves.
+/// A simulator of the demo site in constant wind, with a clock that the test controls.
 class SimulatorTest : public testing::Test {
 protected:
     SimulatorTest() {
@@ -21,20 +21,20 @@ protected:
         for (long steps = std::lround(seconds / dt); steps > 0; --steps)
             step(dt);
     }
-    /// Lets at most ten minutes pass until the phase is reached.
+    /// Steps until the phase is reached, for at most ten minutes.
     void flyUntil(Phase phase) {
         for (int i = 0; i < 12'000 && state.phase != phase; ++i)
             step(0.05);
         ASSERT_EQ(state.phase, phase);
     }
-    /// A visit approved at once and followed up to the phase.
+    /// Starts a visit, approves it at once and flies until the phase is reached.
     void visitApproved(Scenario scenario, Phase phase = Phase::launching) {
         visit(scenario);
         send(Command::approve);
         flyUntil(phase);
     }
-    void stand(P visitor) {
-        state.visitor->pos = visitor;
+    void moveVisitor(P to) {
+        state.visitor->pos = to;
         step(0);
     }
 
