@@ -24,7 +24,7 @@ QSet<QString> keysIn(const QJsonValue& value) {
 
 } // namespace
 
-TEST(AppApiDocument, ItsExampleIsAStateWithEveryField) {
+TEST(AppApiDocument, TheExampleIsAStateWithEveryField) {
     const auto example = decode<LiveState>(contentOf(exampleName).toStdString(), KeyStyle::snakeCase);
     ASSERT_TRUE(example) << example.error;
     const LiveState& state = *example.value;
@@ -32,7 +32,7 @@ TEST(AppApiDocument, ItsExampleIsAStateWithEveryField) {
     EXPECT_TRUE(contentOf(documentName).contains("```json\n" + contentOf(exampleName) + "```"));
 }
 
-TEST(AppApiDocument, ItExplainsEveryKeyAndEveryFixedText) {
+TEST(AppApiDocument, EveryKeyAndEveryRawValueIsExplained) {
     const QString text = QString::fromUtf8(contentOf(documentName));
     for (const QString& key : keysIn(QJsonDocument::fromJson(contentOf(exampleName)).object()))
         EXPECT_TRUE(text.contains("| `" + key + "` |")) << key.toStdString();

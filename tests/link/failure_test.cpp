@@ -12,8 +12,8 @@ namespace {
 
 constexpr auto badResponse = "The server sent a bad response";
 constexpr auto timedOut = "The connection timed out";
-/// No resolver is asked for a name beyond 255 characters.
-const std::string longerThanAnyName = [] {
+/// Longer than 255 characters, so that no resolver is asked.
+const std::string tooLongName = [] {
     std::string name = "velmora";
     while (name.size() <= 255)
         name += ".local";
@@ -30,12 +30,12 @@ TEST_F(LinkTest, AnInvalidAddressFailsBeforeTheCallReturns) {
     EXPECT_EQ(std::get<LinkError>(results[0]).text, "The host or port in Settings is not a valid address");
 }
 
-TEST_F(LinkTest, AServerThatIsNotThereIsToldApartFromANetworkThatIsNot) {
+TEST_F(LinkTest, RefusedUnknownAndUnreachableHostsHaveDifferentTexts) {
     server.listener().close();
     EXPECT_EQ(failure(), "The connection was refused");
-    settings.host = longerThanAnyName;
+    settings.host = tooLongName;
     QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 1});
-    EXPECT_EQ(failure(), "The host was not found") << "without a proxy between";
+    EXPECT_EQ(failure(), "The host was not found") << "no proxy is used";
     QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
     settings.host = "127.255.255.255"; // no connection leads to a broadcast address
     EXPECT_EQ(failure(), "The network is unreachable");
@@ -53,7 +53,7 @@ TEST_F(LinkTest, EveryKindOfTransportErrorHasItsText) {
     EXPECT_EQ(text(QNetworkReply::SslHandshakeFailedError), "Qt's text");
 }
 
-TEST_F(LinkTest, OnlyStatus200BringsAState) {
+TEST_F(LinkTest, OnlyStatus200GivesAState) {
     for (const int status : {201, 204, 206, 299, 300, 301, 304, 307, 400, 401, 404, 407, 500, 503, 599, 999})
         EXPECT_EQ(failureOf({ScriptedServer::wellFormed(status, document(), "1")}), badResponse) << status;
 }
@@ -65,36 +65,36 @@ TEST_F(LinkTest, ARedirectIsNotFollowed) {
     EXPECT_EQ(requests.size(), 1u);
 }
 
-TEST_F(LinkTest, AReplyThatIsNotWholeHttpIsABadResponse) {
-    const QByteArray whole = ok(document()).bytes;
+TEST_F(LinkTest, AnIncompleteOrInvalidHttpReplyIsABadResponse) {
+    const QByteArray complete = ok(document()).bytes;
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("SSH-2.0-Server\r\n"), QByteArray("HTTP/1.1 abc\r\n\r\n"),
-          QByteArray(2000, '\0'), whole.left(9), whole.left(whole.indexOf("\r\n\r\n")), whole.chopped(1),
-          QByteArray("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nab")})
+          QByteArray(2000, '\0'), complete.left(9), complete.left(complete.indexOf("\r\n\r\n")),
+          complete.chopped(1), QByteArray("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nab")})
         EXPECT_EQ(failureOf({bytes}), badResponse) << bytes.left(60).toStdString();
 }
 
-TEST_F(LinkTest, AReplyIsCutOffBeyondEightMebibytes) {
+TEST_F(LinkTest, AReplyAboveEightMebibytesIsABadResponse) {
     const QByteArray spaces(7 << 20, ' ');
-    EXPECT_EQ(failureOf(ok(document() + spaces)), "") << "blanks after the document are fine";
+    EXPECT_EQ(failureOf(ok(document() + spaces)), "") << "spaces after the document are allowed";
     EXPECT_EQ(failureOf(ok(document() + spaces + spaces)), badResponse);
     EXPECT_EQ(failureOf({"HTTP/1.1 200 OK\r\n\r\n" + spaces + spaces, false}), badResponse)
-        << "of a body without an end";
+        << "a body without a declared length";
 }
 
-TEST_F(LinkTest, TheWholeExchangeIsTimedAndNotTheSilenceWithin) {
-    impatient();
-    const QByteArray whole = ok(document()).bytes;
-    const QByteArray head = whole.left(whole.indexOf("\r\n\r\n") + 4);
+TEST_F(LinkTest, TheTimeLimitIsThatOfTheCompleteExchange) {
+    useShortTimeLimits();
+    const QByteArray complete = ok(document()).bytes;
+    const QByteArray head = complete.left(complete.indexOf("\r\n\r\n") + 4);
     EXPECT_EQ(failureOf({{}, false}), timedOut) << "silent";
     EXPECT_EQ(failureOf({head, false}), timedOut) << "no body";
-    EXPECT_EQ(failureOf({whole, true, 10min}), timedOut) << "slow";
-    EXPECT_EQ(failureOf({whole, true, 0ms, 5ms}), timedOut) << "dripping";
-    patient();
-    EXPECT_EQ(failureOf({whole}), "") << "a good answer after them";
+    EXPECT_EQ(failureOf({complete, true, 10min}), timedOut) << "slow";
+    EXPECT_EQ(failureOf({complete, true, 0ms, 5ms}), timedOut) << "dripping";
+    useDefaultTimeLimits();
+    EXPECT_EQ(failureOf({complete}), "") << "a valid reply after the failed ones";
 }
 
-TEST_F(LinkTest, ABodyThatIsNotAStateIsToldWithThePlace) {
+TEST_F(LinkTest, AnInvalidStateIsReportedWithItsPath) {
     struct Case {
         QByteArray from, to;
         std::string where;

@@ -11,7 +11,7 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-TEST_F(LinkTest, TheBaseAddressTakesTheHostAsItStands) {
+TEST_F(LinkTest, TheBaseAddressTakesTheHostUnchanged) {
     const auto base = [this](const std::string& host, std::int64_t port) {
         settings.host = host;
         settings.port = port;
@@ -27,7 +27,7 @@ TEST_F(LinkTest, TheBaseAddressTakesTheHostAsItStands) {
         EXPECT_EQ(base("velmora.local", port), "none") << port;
 }
 
-TEST_F(LinkTest, AFetchBringsTheStateAndTheServersVersion) {
+TEST_F(LinkTest, AFetchGivesTheStateAndTheServersVersion) {
     reply = ok(document(), "2.1");
     const FetchResult result = fetch();
     const auto* fetched = std::get_if<FetchedState>(&result);
@@ -39,19 +39,20 @@ TEST_F(LinkTest, AFetchBringsTheStateAndTheServersVersion) {
 }
 
 TEST_F(LinkTest, TheVersionIsAShortTextOnOneLine) {
-    const std::pair<QByteArray, QString> cases[] = {{{}, {}},
-                                                    {" 2.1\t beta ", "2.1 beta"},
-                                                    {"2\x1b[1m.\xE2\x80\xAE"
-                                                     "1",
-                                                     "2[1m.1"}, // neither escapes nor reversed text
-                                                    {QByteArray(5000, 'v'), QString(40, 'v')}};
+    const std::pair<QByteArray, QString> cases[] = {
+        {{}, {}},
+        {" 2.1\t beta ", "2.1 beta"},
+        {"2\x1b[1m.\xE2\x80\xAE"
+         "1",
+         "2[1m.1"}, // neither escape sequences nor a bidi override
+        {QByteArray(5000, 'v'), QString(40, 'v')}};
     for (const auto& [header, version] : cases) {
         reply = ok(document(), header);
         EXPECT_EQ(std::get<FetchedState>(fetch()).version, version) << header.left(20).toStdString();
     }
 }
 
-TEST_F(LinkTest, NothingIsKeptFromOneFetchToTheNext) {
+TEST_F(LinkTest, KeepsNoCookiesOrCachedRepliesBetweenFetches) {
     reply = ok(document(), "1\r\nSet-Cookie: id=7\r\nETag: \"a\"\r\nCache-Control: max-age=3600");
     EXPECT_EQ(failure() + failure(), "");
     ASSERT_EQ(requests.size(), 2u);
@@ -59,17 +60,17 @@ TEST_F(LinkTest, NothingIsKeptFromOneFetchToTheNext) {
     EXPECT_THAT(requests[1].toStdString(), Not(HasSubstr("If-None-Match")));
 }
 
-TEST_F(LinkTest, FetchesThatAreOutTogetherEndEachOnItsOwn) {
+TEST_F(LinkTest, ConcurrentFetchesEndIndependently) {
     reply = ok(document());
     for (int i = 0; i < 20; ++i)
         startFetch();
-    EXPECT_TRUE(results.empty()) << "answers come from the event loop";
+    EXPECT_TRUE(results.empty()) << "callbacks run in the event loop";
     EXPECT_TRUE(waitUntil([this] { return results.size() == 20; }));
     for (const FetchResult& result : results)
         EXPECT_TRUE(std::holds_alternative<FetchedState>(result));
 }
 
-TEST_F(LinkTest, ACommandNamesItselfAndTheMission) {
+TEST_F(LinkTest, ACommandPostsItsNameAndTheMission) {
     struct Case {
         Command command;
         std::optional<std::string> mission;
@@ -93,8 +94,8 @@ TEST_F(LinkTest, ACommandNamesItselfAndTheMission) {
     }
 }
 
-TEST_F(LinkTest, ACommandIsDoneHoweverItsExchangeEnds) {
-    impatient();
+TEST_F(LinkTest, ACommandCallsBackHoweverItsExchangeEnds) {
+    useShortTimeLimits();
     for (const Reply& end : {Reply{ScriptedServer::wellFormed(500, "no", {})}, Reply{"nonsense\r\n\r\n"},
                              Reply{{}, true}, Reply{{}, false}, ok(QByteArray(9 << 20, ' '))}) {
         const int before = sent;
@@ -102,7 +103,7 @@ TEST_F(LinkTest, ACommandIsDoneHoweverItsExchangeEnds) {
         startSend(Command::hold);
         ASSERT_TRUE(waitUntil([&] { return sent > before; })) << end.bytes.left(40).toStdString();
         EXPECT_EQ(lastFailure.empty(), end.bytes.startsWith("HTTP"))
-            << "only a reply counts, whatever it says";
+            << "any reply is a success, whatever it says";
     }
     server.listener().close();
     startSend(Command::hold);
@@ -115,7 +116,7 @@ TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
         return std::ranges::count_if(requests, [](const QByteArray& one) { return one.startsWith("POST"); });
     };
     for (const bool kept : {false, true}) {
-        patient();
+        useDefaultTimeLimits();
         requests.clear();
         if (kept) {
             reply = {ScriptedServer::wellFormed(200, document(), {}), false};
@@ -131,8 +132,8 @@ TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
     }
 }
 
-TEST_F(LinkTest, AReplyThatAPauseOfTheProgramDelaysHasTimedOut) {
-    impatient();
+TEST_F(LinkTest, AReplyDelayedByAPauseOfTheProgramTimesOut) {
+    useShortTimeLimits();
     reply = ok(document());
     int paused = 0;
     for (std::size_t i = 1; i <= 10; ++i) {
@@ -150,7 +151,7 @@ TEST_F(LinkTest, AReplyThatAPauseOfTheProgramDelaysHasTimedOut) {
     EXPECT_GT(paused, 0);
 }
 
-TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {
+TEST_F(LinkTest, ACommandToAnInvalidAddressNeverCallsBack) {
     settings.host.clear();
     startSend(Command::approve);
     settings.host = "127.0.0.1";
@@ -161,7 +162,7 @@ TEST_F(LinkTest, ACommandToAnInvalidAddressIsNeverDone) {
     EXPECT_EQ(requests.size(), 1u);
 }
 
-TEST_F(LinkTest, NothingIsHeardOnceTheLinkIsGone) {
+TEST_F(LinkTest, ADestroyedLinkNeverCallsBack) {
     reply = {{}, false};
     startFetch();
     startSend(Command::approve);
@@ -173,17 +174,17 @@ TEST_F(LinkTest, NothingIsHeardOnceTheLinkIsGone) {
     EXPECT_EQ(sent, 0);
 }
 
-TEST_F(LinkTest, WhoeverIsToldMayDestroyTheLink) {
+TEST_F(LinkTest, ACallbackMayDestroyTheLink) {
     reply = ok(document());
-    int told = 0;
+    int calls = 0;
     for (int i = 0; i < 3; ++i)
         link->fetchState(settings, [&](const FetchResult&) {
-            ++told;
+            ++calls;
             link.reset();
         });
-    EXPECT_TRUE(waitUntil([&] { return told > 0; }));
+    EXPECT_TRUE(waitUntil([&] { return calls > 0; }));
     EXPECT_TRUE(waitUntil([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }));
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(calls, 1);
 }
 
 } // namespace velmora

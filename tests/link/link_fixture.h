@@ -43,8 +43,8 @@ protected:
         return {ScriptedServer::wellFormed(200, body, version)};
     }
 
-    void patient() { link = std::make_unique<HttpLink>(); }
-    void impatient() { link = std::make_unique<HttpLink>(HttpLink::Limits{100ms, 100ms, 8 << 20}); }
+    void useDefaultTimeLimits() { link = std::make_unique<HttpLink>(); }
+    void useShortTimeLimits() { link = std::make_unique<HttpLink>(HttpLink::Limits{100ms, 100ms, 8 << 20}); }
 
     void startFetch() {
         link->fetchState(settings, [this](const FetchResult& result) { results.push_back(result); });
@@ -62,7 +62,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return results.size() > before; }));
         return results.size() > before ? results.back() : LinkError{"no answer"};
     }
-    /// Why the fetch failed, or "" when it gave a state.
+    /// The error of a fetch; "" if it gave a state.
     std::string failure() {
         const FetchResult result = fetch();
         const auto* error = std::get_if<LinkError>(&result);
@@ -79,7 +79,7 @@ protected:
     Settings settings;
     std::unique_ptr<HttpLink> link = std::make_unique<HttpLink>();
     std::vector<FetchResult> results;
-    int sent = 0;
+    int sent = 0;            ///< commands that have ended
     std::string lastFailure; ///< of the last command that ended; "" when a reply came
 };
 

@@ -9,7 +9,7 @@ namespace velmora {
 
 using namespace standin;
 
-/// The link and the stand-in server, with a clock that only the test moves.
+/// A link to the stand-in server, with a clock that the test controls.
 class StandinTest : public LinkTest {
 protected:
     void serve(Options options) {
@@ -36,7 +36,7 @@ protected:
     std::unique_ptr<StandinServer> standin;
 };
 
-TEST_F(StandinTest, AnAlertThatIsApprovedFliesThere) {
+TEST_F(StandinTest, AnApprovedAlertFliesTheDrone) {
     serve({});
     EXPECT_EQ(fetched().phase, Phase::docked);
     pass(4);
@@ -59,7 +59,7 @@ TEST_F(StandinTest, AnAlertThatIsApprovedFliesThere) {
     EXPECT_EQ(fetched().phase, Phase::awaitingApproval) << "the next visit";
 }
 
-TEST_F(StandinTest, WhatIsNotACommandIsRefused) {
+TEST_F(StandinTest, RejectsInvalidCommands) {
     for (const QByteArray body :
          {"", "x", "[]", R"({"command":"fly","mission_id":""})", R"({"command":"land"})",
           R"({"command":"land","mission_id":null})", R"({"command":["land"],"mission_id":""})"})
@@ -67,7 +67,7 @@ TEST_F(StandinTest, WhatIsNotACommandIsRefused) {
     EXPECT_EQ(api.command(R"({"command":"land","mission_id":""})").status, 200);
 }
 
-TEST_F(StandinTest, ItAnswersAsBadlyAsItIsAsked) {
+TEST_F(StandinTest, ReproducesTheFaultsOfItsOptions) {
     const auto failureWith = [this](auto change) {
         Options options;
         change(options);
@@ -79,13 +79,13 @@ TEST_F(StandinTest, ItAnswersAsBadlyAsItIsAsked) {
     EXPECT_EQ(failureWith([](Options& o) { o.status = 503; }), badResponse);
     EXPECT_EQ(failureWith([](Options& o) { o.truncateAfter = 20; }), badResponse);
     EXPECT_EQ(failureWith([](Options& o) { o.delay = 1ms; }), "");
-    impatient();
+    useShortTimeLimits();
     EXPECT_EQ(failureWith([](Options& o) { o.drip = true; }), timedOut);
     EXPECT_EQ(failureWith([](Options& o) { o.silent = true; }), timedOut);
     EXPECT_EQ(failureWith([](Options& o) { o.delay = 10min; }), timedOut);
 }
 
-TEST_F(StandinTest, APortInUseIsSaidSo) {
+TEST_F(StandinTest, APortInUseIsAnError) {
     serve({});
     Options options;
     options.port = standin->port();
@@ -105,7 +105,7 @@ TEST(StandinOptions, AreReadFromTheCommandLine) {
     EXPECT_EQ(options.version, "2.1");
     EXPECT_EQ(options.delay, 5ms);
     EXPECT_EQ(options.status, 404);
-    EXPECT_TRUE(std::get<Options>(read("")).host.isLoopback()) << "nobody else can reach it unasked";
+    EXPECT_TRUE(std::get<Options>(read("")).host.isLoopback()) << "other machines cannot reach it by default";
     EXPECT_TRUE(std::get<OptionsText>(read("--help")).text.contains("--visitor"));
     for (const char* line : {"--port 0", "--port 65536", "--port x", "--host nowhere", "--visitor postman",
                              "--every -1", "--status 99", "--truncate", "--nonsense", "argument"}) {
