@@ -4,7 +4,7 @@ namespace velmora {
 
 namespace {
 
-/// Alerts of a server, and answers to what the owner saw of them.
+/// A server's alerts, and answers to what the owner saw.
 class AnswerTest : public StoreTest {
 protected:
     void serve(const LiveState& state) {
@@ -23,7 +23,7 @@ protected:
     }
 };
 
-TEST_F(AnswerTest, TheCommandCarriesTheMissionOfTheAlertThatWasSeen) {
+TEST_F(AnswerTest, TheCommandCarriesTheMissionOfTheSeenAlert) {
     EXPECT_TRUE(store().answer(Command::approve, alert("M-1")));
     EXPECT_TRUE(store().answer(Command::ignore, alert(std::nullopt)));
     ASSERT_EQ(link.posts.size(), 2U);
@@ -32,22 +32,22 @@ TEST_F(AnswerTest, TheCommandCarriesTheMissionOfTheAlertThatWasSeen) {
     EXPECT_EQ(link.posts[1].mission, std::nullopt);
 }
 
-TEST_F(AnswerTest, AnAnswerToAnotherAlertOrToOneThatIsOverIsDropped) {
+TEST_F(AnswerTest, DropsAnAnswerToAnotherOrAnEndedAlert) {
     const AlertId first = alert("M-1");
     alert("M-2");
     EXPECT_FALSE(store().answer(Command::approve, first));
-    const AlertId nameless = alert(std::nullopt, 9);
+    const AlertId withoutId = alert(std::nullopt, 9);
     alert(std::nullopt, 2);
-    EXPECT_FALSE(store().answer(Command::approve, nameless));
+    EXPECT_FALSE(store().answer(Command::approve, withoutId));
     const AlertId last = alert("M-3");
     serve(LiveState::initial());
     EXPECT_FALSE(store().answer(Command::approve, last));
     EXPECT_TRUE(link.posts.empty());
 }
 
-TEST_F(AnswerTest, NothingIsAnsweredOverALinkThatIsNotLive) {
+TEST_F(AnswerTest, DropsAnAnswerWhileTheLinkIsNotLive) {
     const AlertId seen = alert("M-1");
-    now += Seconds{65}; // the program was stopped: no tick has noticed yet
+    now += Seconds{65}; // the program was stopped and has not ticked yet
     EXPECT_FALSE(store().answer(Command::approve, seen));
     EXPECT_EQ(store().freshness(), Freshness::stale);
     alert("M-1");
@@ -58,7 +58,7 @@ TEST_F(AnswerTest, NothingIsAnsweredOverALinkThatIsNotLive) {
     EXPECT_TRUE(link.posts.empty());
 }
 
-TEST_F(AnswerTest, TheDemosAlertExpiresBeforeALateAnswer) {
+TEST_F(AnswerTest, ADemoAlertExpiresBeforeALateAnswer) {
     store().simulate(Scenario::driveway);
     const AlertId seen = store().waitingAlert().value();
     now += Seconds{65};
@@ -66,7 +66,7 @@ TEST_F(AnswerTest, TheDemosAlertExpiresBeforeALateAnswer) {
     EXPECT_EQ(store().history().front().record.outcome, Outcome::expired);
 }
 
-TEST_F(AnswerTest, OnlyAnswersAnswerAndOnlyFlightCommandsAreSent) {
+TEST_F(AnswerTest, AnswerTakesOnlyAnswersAndSendOnlyFlightCommands) {
     const AlertId seen = alert("M-1");
     EXPECT_FALSE(store().answer(Command::land, seen));
     store().send(Command::approve);
@@ -74,19 +74,19 @@ TEST_F(AnswerTest, OnlyAnswersAnswerAndOnlyFlightCommandsAreSent) {
     EXPECT_TRUE(link.posts.empty());
     pass(9);
     store().send(Command::returnHome);
-    EXPECT_EQ(link.posts.size(), 1U) << "a flight command is always tried";
+    EXPECT_EQ(link.posts.size(), 1U) << "flight commands are always sent";
 }
 
-TEST_F(AnswerTest, AFailedCommandIsTold) {
-    std::vector<std::pair<Command, QString>> told;
+TEST_F(AnswerTest, ReportsAFailedCommand) {
+    std::vector<std::pair<Command, QString>> failures;
     QObject::connect(&store(), &AppStore::commandFailed,
-                     [&](Command command, const QString& reason) { told.emplace_back(command, reason); });
+                     [&](Command command, const QString& reason) { failures.emplace_back(command, reason); });
     alert("M-1");
     store().send(Command::hold);
     store().send(Command::land);
     link.posts.at(0).done({});
     link.posts.at(1).done(LinkError{"The connection timed out"});
-    EXPECT_EQ(told, (std::vector{std::pair{Command::land, QString("The connection timed out")}}));
+    EXPECT_EQ(failures, (std::vector{std::pair{Command::land, QString("The connection timed out")}}));
 }
 
 } // namespace

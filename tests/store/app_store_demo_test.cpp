@@ -28,9 +28,9 @@ TEST_F(StoreTest, AFreshStartSeedsThreeDemoMissionsAndShowsTheWelcome) {
     EXPECT_FALSE(QFile::exists(path("settings.json"))) << "defaults are not written back";
 }
 
-TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
+TEST_F(StoreTest, AnApprovedVisitFliesLandsAndIsSaved) {
     store().simulate(Scenario::driveway);
-    EXPECT_EQ(phase(), Phase::awaitingApproval) << "shown at once, before the next tick";
+    EXPECT_EQ(phase(), Phase::awaitingApproval) << "visible at once, before the next tick";
     QSignalSpy attention(&store(), &AppStore::attentionRequested);
     pass(2);
     EXPECT_EQ(attention.count(), 1);
@@ -41,7 +41,7 @@ TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
 
     respond(Command::approve);
     EXPECT_EQ(phase(), Phase::launching);
-    EXPECT_EQ(store().section(), Section::overview) << "the section follows with the tick";
+    EXPECT_EQ(store().section(), Section::overview) << "the section changes with the next tick";
     pass(0.05);
     EXPECT_EQ(store().section(), Section::live);
     EXPECT_EQ(notifier.withdrawals, 1);
@@ -56,7 +56,7 @@ TEST_F(StoreTest, AVisitApprovedFliesLandsAndIsOnFile) {
     EXPECT_EQ(recordsIn(content("history.json"))[0].id, "M-42");
 }
 
-TEST_F(StoreTest, AClosedSwitchPostsNoNotificationButStillAsksForAttention) {
+TEST_F(StoreTest, WithNotificationsOffAnAlertStillRequestsAttention) {
     Settings settings = store().settings();
     settings.notifyMac = false;
     store().setSettings(settings);
@@ -67,7 +67,7 @@ TEST_F(StoreTest, AClosedSwitchPostsNoNotificationButStillAsksForAttention) {
     EXPECT_EQ(attention.count(), 1);
 }
 
-TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndAtThePresent) {
+TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndNow) {
     store().simulate(Scenario::driveway);
     tickAfter(12);
     const P start{14, 88};
@@ -79,7 +79,7 @@ TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndAtThePresent) {
     EXPECT_EQ(phase(), Phase::docked) << "a clock that jumps back moves nothing";
 }
 
-TEST_F(StoreTest, ArmingIsToldInTheNoticesAndADisarmedDetectionIsOnlyLogged) {
+TEST_F(StoreTest, ArmingAddsANoticeAndADisarmedDetectionIsOnlyLogged) {
     store().setArmed(false);
     EXPECT_FALSE(live().armed);
     EXPECT_EQ(live().notices[0].text, "System disarmed — detections will be logged only");
@@ -92,7 +92,7 @@ TEST_F(StoreTest, ArmingIsToldInTheNoticesAndADisarmedDetectionIsOnlyLogged) {
     EXPECT_EQ(live().notices.size(), 40u);
 }
 
-TEST_F(StoreTest, SettingsAreSavedAndFlownWithOnlyWhenTheyChange) {
+TEST_F(StoreTest, OnlyChangedSettingsAreSavedAndApplied) {
     Settings settings = store().settings();
     store().setSettings(settings);
     EXPECT_FALSE(QFile::exists(path("settings.json")));
@@ -107,7 +107,7 @@ TEST_F(StoreTest, SettingsAreSavedAndFlownWithOnlyWhenTheyChange) {
     EXPECT_FALSE(store().showWelcome());
 }
 
-TEST_F(StoreTest, AssigningTheSameValueNotifiesNobody) {
+TEST_F(StoreTest, SettingTheSameValueEmitsNoSignal) {
     QSignalSpy section(&store(), &AppStore::sectionChanged),
         record(&store(), &AppStore::selectedRecordChanged), welcome(&store(), &AppStore::showWelcomeChanged),
         state(&store(), &AppStore::stateChanged), history(&store(), &AppStore::historyChanged);
@@ -120,10 +120,10 @@ TEST_F(StoreTest, AssigningTheSameValueNotifiesNobody) {
     EXPECT_EQ(record.count(), 1);
     store().clearDemoHistory();
     store().clearDemoHistory();
-    EXPECT_EQ(history.count(), 2) << "history tells of every assignment";
+    EXPECT_EQ(history.count(), 2) << "historyChanged is emitted for every call";
 }
 
-TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAndTheNextStartLeavesThem) {
+TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAfterARestart) {
     store().simulate(Scenario::driveway);
     respond(Command::ignore);
     store().clearDemoHistory();

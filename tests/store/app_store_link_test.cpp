@@ -2,7 +2,7 @@
 
 namespace velmora {
 
-TEST_F(StoreTest, LinkModePollsOnEveryTenthTickAndDropsWhatFallsDueMeanwhile) {
+TEST_F(StoreTest, LinkModePollsEveryTenthTickAndSkipsPollsMeanwhile) {
     linked();
     pass(0.45);
     EXPECT_EQ(link.fetches.size(), 0u);
@@ -16,7 +16,7 @@ TEST_F(StoreTest, LinkModePollsOnEveryTenthTickAndDropsWhatFallsDueMeanwhile) {
     EXPECT_EQ(link.fetches.size(), 2u);
 }
 
-TEST_F(StoreTest, AnAnswerIsShownAndItsPhaseChangeFollowsWithTheNextTick) {
+TEST_F(StoreTest, AReplySetsTheStateAndTheNextTickActsOnItsPhase) {
     linked();
     pass(0.55);
     LiveState state = LiveState::initial();
@@ -32,19 +32,19 @@ TEST_F(StoreTest, AnAnswerIsShownAndItsPhaseChangeFollowsWithTheNextTick) {
     EXPECT_EQ(notifier.posted[0].title, "Someone you don't know is at the a camera");
 }
 
-TEST_F(StoreTest, ACommandGoesToTheServerAndIsFollowedByAPollAtOnce) {
+TEST_F(StoreTest, ACommandIsPostedAndFollowedByAPoll) {
     linked();
     store().send(Command::hold);
     ASSERT_EQ(link.posts.size(), 1u);
     EXPECT_EQ(link.posts[0].mission, std::nullopt);
-    EXPECT_EQ(phase(), Phase::docked) << "nothing is assumed locally";
+    EXPECT_EQ(phase(), Phase::docked) << "the local state does not change";
     link.posts[0].done({});
     EXPECT_EQ(link.fetches.size(), 1u);
     link.posts[0].done({});
-    EXPECT_EQ(link.fetches.size(), 1u) << "none on top of one that is out";
+    EXPECT_EQ(link.fetches.size(), 1u) << "no second poll while one is outstanding";
 }
 
-TEST_F(StoreTest, LinkModeLeavesTheSimulatorWhereItWas) {
+TEST_F(StoreTest, TheSimulatorPausesInLinkMode) {
     store().simulate(Scenario::driveway);
     const P before = live().visitor->pos;
     store().applyLinkMode(true);
@@ -59,7 +59,7 @@ TEST_F(StoreTest, LinkModeLeavesTheSimulatorWhereItWas) {
     EXPECT_TRUE(live().armed);
 }
 
-TEST_F(StoreTest, AnswersThatComeAfterTheStoreIsGoneAreIgnored) {
+TEST_F(StoreTest, IgnoresRepliesAfterTheStoreIsDestroyed) {
     linked();
     pass(0.55);
     store().send(Command::hold);

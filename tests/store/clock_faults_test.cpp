@@ -29,8 +29,9 @@ protected:
 
 } // namespace
 
-TEST_F(ClockFaultsTest, TheWallClockJudgesTheDeadlineHoweverItGotThere) {
-    constexpr double summerBegins = 1743296400, winterBegins = 1761440400; // 2025, where the tests are
+TEST_F(ClockFaultsTest, AnAlertExpiresByTheWallClockAfterAnyJump) {
+    constexpr double summerBegins = 1743296400,
+                     winterBegins = 1761440400; // 2025, in the time zone of the tests
     for (const auto& [start, jump] :
          {std::pair(summerBegins, 0.05), {winterBegins, 0.05}, {0.0, 5.0}, {0.0, hour}, {0.0, night}}) {
         now = dateFromSeconds(std::max(start - 30, secondsSince1970(now)));
@@ -47,7 +48,7 @@ TEST_F(ClockFaultsTest, TheWallClockJudgesTheDeadlineHoweverItGotThere) {
     }
 }
 
-TEST_F(ClockFaultsTest, NoAlertIsStuckWhenTheClockIsSetBack) {
+TEST_F(ClockFaultsTest, AnAlertStillEndsAfterTheClockIsSetBack) {
     alert();
     tickAfter(-hour);
     respond(Command::approve);
@@ -57,11 +58,11 @@ TEST_F(ClockFaultsTest, NoAlertIsStuckWhenTheClockIsSetBack) {
     alert();
     tickAfter(-hour);
     pass(180);
-    EXPECT_EQ(phase(), Phase::docked) << "the visitor leaves in time, whatever the clock says";
+    EXPECT_EQ(phase(), Phase::docked) << "the visitor leaves in time, whatever the clock shows";
     EXPECT_EQ(newest().outcome, Outcome::expired);
 }
 
-TEST_F(ClockFaultsTest, AFlightGoesOnAfterANightsSuspendAndThroughStalls) {
+TEST_F(ClockFaultsTest, AFlightContinuesAfterASuspendAndStalls) {
     alert();
     respond(Command::approve);
     pass(20);
@@ -74,7 +75,7 @@ TEST_F(ClockFaultsTest, AFlightGoesOnAfterANightsSuspendAndThroughStalls) {
     EXPECT_EQ(store().history().size(), missions + 1);
 }
 
-TEST_F(ClockFaultsTest, AServerIsAskedOnAndItsPictureAgesThroughEveryJump) {
+TEST_F(ClockFaultsTest, PollsContinueAndTheStateAgesAfterEveryClockJump) {
     linked();
     pass(0.55);
     for (const double jump : {-hour, hour, -night, night, -0.2}) {
@@ -85,7 +86,7 @@ TEST_F(ClockFaultsTest, AServerIsAskedOnAndItsPictureAgesThroughEveryJump) {
         pass(3);
         EXPECT_EQ(store().freshness(), Freshness::stale) << jump;
         pass(2.6);
-        EXPECT_EQ(link.fetches.size(), asked + 1) << "not silenced by " << jump;
+        EXPECT_EQ(link.fetches.size(), asked + 1) << "polls must not stop after " << jump;
     }
 }
 

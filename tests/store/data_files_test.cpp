@@ -24,16 +24,16 @@ unsigned modeOf(const QString& path) {
 
 using DataFilesTest = StoreTest;
 
-TEST_F(DataFilesTest, FilesAndFolderAreForTheOwnersEyesOnly) {
+TEST_F(DataFilesTest, OnlyTheOwnerMayReadFilesAndDirectory) {
     store().setShowWelcome(false);
     EXPECT_EQ(modeOf(directory()), 0700u);
     EXPECT_EQ(modeOf(path("history.json")), 0600u);
     ASSERT_TRUE(QDir(directory()).removeRecursively());
     store().clearDemoHistory();
-    EXPECT_EQ(content("history.json"), "[]") << "the folder is made again";
+    EXPECT_EQ(content("history.json"), "[]") << "the directory is created again";
 }
 
-TEST_F(DataFilesTest, TheFileHoldsTheNewestTwoHundredAndMemoryAll) {
+TEST_F(DataFilesTest, TheFileKeepsTwoHundredRecordsAndMemoryAll) {
     put("history.json", QByteArray::fromStdString(*encode(records(250))));
     store().clearDemoHistory();
     EXPECT_EQ(store().history().size(), 250u);
@@ -42,7 +42,7 @@ TEST_F(DataFilesTest, TheFileHoldsTheNewestTwoHundredAndMemoryAll) {
     EXPECT_EQ(store().history().back().record.id, "M-199");
 }
 
-TEST_F(DataFilesTest, AnUnreadableFileIsKeptBesideBeforeItIsWrittenOver) {
+TEST_F(DataFilesTest, AnUnreadableFileIsCopiedBeforeItIsOverwritten) {
     put("history.json", "[{\"id\": \"from a newer version\"}]");
     put("history.json.unreadable", "an earlier one");
     put("settings.json", "{\"port\": 8765.5}");
@@ -50,7 +50,7 @@ TEST_F(DataFilesTest, AnUnreadableFileIsKeptBesideBeforeItIsWrittenOver) {
     EXPECT_EQ(content("history.json.unreadable"), "an earlier one");
     EXPECT_EQ(content("history.json.unreadable.2"), "[{\"id\": \"from a newer version\"}]");
     EXPECT_EQ(store().settings(), Settings{});
-    EXPECT_FALSE(QFile::exists(path("settings.json.unreadable"))) << "nothing was written over it yet";
+    EXPECT_FALSE(QFile::exists(path("settings.json.unreadable"))) << "the file was not overwritten yet";
     linked();
     EXPECT_EQ(content("settings.json.unreadable"), "{\"port\": 8765.5}");
     EXPECT_TRUE(store().settings().linkMode);
@@ -60,7 +60,7 @@ TEST_F(DataFilesTest, AnUnreadableFileIsKeptBesideBeforeItIsWrittenOver) {
     EXPECT_FALSE(QFile::exists(path("settings.json.unreadable.2")));
 }
 
-TEST_F(DataFilesTest, SettingsWithANumberThatNoTextCanShowAreUnreadable) {
+TEST_F(DataFilesTest, SettingsWithANumberOutOfRangeAreUnreadable) {
     Settings settings;
     settings.boundaryBuffer = 1e19;
     settings.onboarded = true;
@@ -74,7 +74,7 @@ TEST_F(DataFilesTest, AnEmptyHistoryIsSeededAgain) {
     EXPECT_FALSE(QFile::exists(path("history.json.unreadable")));
 }
 
-TEST_F(DataFilesTest, WithNowhereToWriteTheRunGoesOn) {
+TEST_F(DataFilesTest, RunsWithoutAWritableDirectory) {
     QFile(home.path() + "/data").open(QIODevice::WriteOnly);
     EXPECT_EQ(store().history().size(), 3u);
     linked();

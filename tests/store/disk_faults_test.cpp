@@ -21,13 +21,13 @@ protected:
             umount2(directory().toUtf8().constData(), MNT_DETACH);
     }
 
-    /// A file system of its own under the data directory; false where that is not permitted.
+    /// Mounts a file system over the data directory; false if that is not permitted.
     bool mounted(const char* source, unsigned long flags, const char* options = "") {
         QDir().mkpath(directory());
         mounted_ = mount(source, directory().toUtf8().constData(), "tmpfs", flags, options) == 0;
         return mounted_;
     }
-    /// A setting changes and a mission ends.
+    /// Changes a setting and ends a mission.
     void changeBoth() {
         Settings settings = store().settings();
         ++settings.port;
@@ -36,7 +36,7 @@ protected:
         store().simulate(Scenario::driveway);
         respond(Command::ignore);
     }
-    /// Settings and history as another start would read them.
+    /// Settings and history as the next start would read them.
     auto onFile() const {
         DataFiles files{QDir(directory())};
         return std::pair(files.loadSettings(), files.loadHistory());
@@ -54,9 +54,9 @@ private:
 
 } // namespace
 
-TEST_F(DiskFaultsTest, AFullDiskKeepsTheOldFilesWhole) {
+TEST_F(DiskFaultsTest, AFullDiskKeepsTheOldFiles) {
     if (!mounted("tmpfs", 0, "size=512k"))
-        GTEST_SKIP() << "no file system may be mounted here";
+        GTEST_SKIP() << "mounting is not permitted here";
     changeBoth();
     ASSERT_TRUE(isSaved());
     const auto before = onFile();
@@ -69,24 +69,24 @@ TEST_F(DiskFaultsTest, AFullDiskKeepsTheOldFilesWhole) {
     EXPECT_EQ(onFile(), before);
     ballast.close();
     ASSERT_TRUE(QFile::remove(path("ballast")));
-    EXPECT_EQ(names(), files) << "nothing half written is left";
+    EXPECT_EQ(names(), files) << "no partial file is left";
     changeBoth();
     EXPECT_TRUE(isSaved()) << "the next change tries again";
 }
 
-TEST_F(DiskFaultsTest, ADirectoryThatOnlyReadsKeepsItsFilesAndTheRunGoesOn) {
+TEST_F(DiskFaultsTest, AReadOnlyDirectoryKeepsItsFilesAndTheStoreGoesOn) {
     changeBoth();
     const auto before = onFile();
     const QByteArray itself = directory().toUtf8();
     if (!mounted(itself.constData(), MS_BIND) ||
         mount(nullptr, itself.constData(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) != 0)
-        GTEST_SKIP() << "no file system may be mounted here";
+        GTEST_SKIP() << "mounting is not permitted here";
     changeBoth();
     EXPECT_EQ(onFile(), before);
     EXPECT_NE(recorded(), before.second);
 }
 
-TEST_F(DiskFaultsTest, ADirectoryThatGoesAwayIsMadeAgainAndOneInTheFilesPlaceIsLeftAlone) {
+TEST_F(DiskFaultsTest, ARemovedDirectoryIsCreatedAgainAndADirectoryNamedLikeAFileIsKept) {
     changeBoth();
     ASSERT_TRUE(QDir(directory()).removeRecursively());
     changeBoth();
@@ -99,7 +99,7 @@ TEST_F(DiskFaultsTest, ADirectoryThatGoesAwayIsMadeAgainAndOneInTheFilesPlaceIsL
     EXPECT_TRUE(QDir(path("settings.json/kept")).exists() && QDir(path("history.json/kept")).exists());
 }
 
-TEST_F(DiskFaultsTest, LinksStayLinksAndWhatTheyNameIsWritten) {
+TEST_F(DiskFaultsTest, SymlinksStayAndTheirTargetsAreWritten) {
     const QString elsewhere = home.path() + "/elsewhere";
     QDir().mkpath(directory());
     QDir().mkpath(elsewhere);
@@ -117,12 +117,12 @@ TEST_F(DiskFaultsTest, LinksStayLinksAndWhatTheyNameIsWritten) {
     }
 }
 
-TEST_F(DiskFaultsTest, AHistoryOfAnotherVersionIsReadOrKeptWhole) {
+TEST_F(DiskFaultsTest, AHistoryOfAnotherVersionIsReadOrCopiedUnchanged) {
     changeBoth();
     QByteArray newer = content("history.json");
     restart();
     put("history.json", newer.replace("{\"id\"", "{\"rotors\":[4,{}],\"id\""));
-    EXPECT_EQ(store().history().size(), 4u) << "keys of another version are passed over";
+    EXPECT_EQ(store().history().size(), 4u) << "unknown keys are ignored";
     changeBoth();
     EXPECT_EQ(onFile().second.value().size(), 5u);
     restart();
@@ -133,8 +133,8 @@ TEST_F(DiskFaultsTest, AHistoryOfAnotherVersionIsReadOrKeptWhole) {
     EXPECT_EQ(content("history.json.unreadable"), newer);
 }
 
-/// The run dies two hundred times while it saves; each goes on with what the one before left.
-TEST_F(DiskFaultsTest, AKillAtAnyMomentLeavesTheOldContentOrTheNew) {
+/// Kills a saving child process two hundred times. Each one starts with the files of the one before.
+TEST_F(DiskFaultsTest, AKillAtAnyMomentLeavesTheOldOrTheNewContent) {
     std::mt19937 chance(1);
     std::uniform_int_distribution<int> moment(0, 6000); // microseconds after the first save
     changeBoth();

@@ -9,7 +9,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A history of visits with different ids, in a directory of its own.
+/// A history in a temporary directory, and visits with different ids.
 class RecordsTest : public testing::Test {
 protected:
     static MissionRecord visit(const std::string& id, double begun, bool demo = false) {
@@ -36,7 +36,7 @@ protected:
     History history{files};
 };
 
-TEST_F(RecordsTest, EveryChangeIsOnFileAtOnce) {
+TEST_F(RecordsTest, EveryChangeIsSavedAtOnce) {
     history.add({visit("b", 20, true), visit("a", 10)});
     history.add({visit("c", 30)});
     EXPECT_THAT(idsOnFile(), ElementsAre("c", "b", "a"));
@@ -46,7 +46,7 @@ TEST_F(RecordsTest, EveryChangeIsOnFileAtOnce) {
     EXPECT_THAT(idsOnFile(), ElementsAre("a"));
 }
 
-TEST_F(RecordsTest, AKeyNamesItsRecordThroughEveryChange) {
+TEST_F(RecordsTest, AKeyIdentifiesItsRecordAfterEveryChange) {
     history.add({visit("same", 20), visit("same", 10)});
     const RecordKey older = keyOf(1);
     auto removed = history.remove(older);
@@ -56,7 +56,7 @@ TEST_F(RecordsTest, AKeyNamesItsRecordThroughEveryChange) {
     history.add({visit("new", 30)});
     EXPECT_NE(keyOf(0), older);
     history.restore(std::move(*removed));
-    EXPECT_EQ(keyOf(2), older) << "below the newer ones";
+    EXPECT_EQ(keyOf(2), older) << "after the newer ones";
     EXPECT_EQ(history.find(older)->record.start, dateFromSeconds(10));
 }
 

@@ -7,7 +7,7 @@ namespace velmora {
 
 namespace {
 
-/// A conversation whose time and answers only the test makes.
+/// A session whose clock and replies the test controls.
 class LinkSessionTest : public testing::Test {
 protected:
     LinkSessionTest() {
@@ -19,7 +19,7 @@ protected:
         for (int i = 0; i < std::lround(seconds / 0.05); ++i)
             session->advance(now += Seconds{0.05}, 0.05);
     }
-    /// Answers the oldest poll that is out.
+    /// Replies to the oldest outstanding poll.
     void answer(const FetchResult& result) {
         ASSERT_FALSE(link.fetches.empty());
         const auto done = link.fetches.front();
@@ -34,7 +34,7 @@ protected:
     std::unique_ptr<LinkSession> session;
 };
 
-TEST_F(LinkSessionTest, PollsTwiceASecondAndNeverHasTwoPollsOut) {
+TEST_F(LinkSessionTest, PollsTwiceASecondOneRequestAtATime) {
     pass(5);
     EXPECT_EQ(link.fetches.size(), 1U);
     int answers = 0;
@@ -57,7 +57,7 @@ TEST_F(LinkSessionTest, FreshnessFollowsTheAgeOfTheLastGoodAnswer) {
     pass(2.5);
     EXPECT_EQ(session->freshness(), Freshness::live) << "a poll may take two seconds";
     answer(LinkError{"timed out"});
-    EXPECT_EQ(session->freshness(), Freshness::stale) << "after an error two seconds are enough";
+    EXPECT_EQ(session->freshness(), Freshness::stale) << "after an error two seconds suffice";
     pass(0.5);
     answerWell();
     EXPECT_EQ(session->freshness(), Freshness::live);
@@ -65,7 +65,7 @@ TEST_F(LinkSessionTest, FreshnessFollowsTheAgeOfTheLastGoodAnswer) {
     EXPECT_EQ(session->freshness(), Freshness::stale);
 }
 
-TEST_F(LinkSessionTest, ALateAnswerBelongsToNoOtherConversation) {
+TEST_F(LinkSessionTest, IgnoresALateReplyOfAnotherServerOrMode) {
     pass(0.5);
     const QSignalSpy states(session.get(), &LinkSession::received);
     settings.port += 1;
@@ -86,7 +86,7 @@ TEST_F(LinkSessionTest, ALateAnswerBelongsToNoOtherConversation) {
     EXPECT_TRUE(link.fetches.empty()) << "nothing is polled in demo mode";
 }
 
-TEST_F(LinkSessionTest, ASettingOfAnotherKindKeepsTheConversation) {
+TEST_F(LinkSessionTest, OtherSettingsDoNotResetTheSession) {
     pass(0.5);
     answerWell();
     settings.flightHeight = 20;

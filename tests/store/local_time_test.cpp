@@ -9,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-/// The time zone of the process for the length of a test.
+/// Sets the time zone of the process for one test.
 class LocalTimeTest : public testing::Test {
 protected:
     void in(const char* zone) const {

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// Keeps what was asked; answers when the test says so.
+/// Records the requests; the test calls their callbacks.
 class FakeLink final : public Link {
 public:
     struct Posted {
@@ -49,11 +49,11 @@ public:
     bool refuses = false;
 };
 
-/// A store with a clock that only the test moves, in a data directory of its own.
+/// A store in a temporary data directory, with a clock that the test controls.
 class StoreTest : public testing::Test,
                   protected StoreWorld<ScriptedRandom, FakeLink, FakeNotifier, FakeLoginItem> {
 protected:
-    /// The live picture, which must be known.
+    /// The live state, which must be known.
     const LiveState& live() { return *store().knownState(); }
     /// Copies of the finished missions, newest first.
     std::vector<MissionRecord> recorded() {
@@ -63,7 +63,7 @@ protected:
         return records;
     }
 
-    /// Lets the time pass in ticks of 0.05 s.
+    /// Advances the clock in ticks of 0.05 s.
     void pass(double seconds) {
         for (int i = 0; i < std::lround(seconds / 0.05); ++i)
             tickAfter(0.05);
