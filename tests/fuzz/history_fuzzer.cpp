@@ -7,22 +7,23 @@ using namespace velmora;
 
 namespace {
 
-/// All that the history screen works out of a record.
+/// Everything that the history screen computes from a record.
 void inspect(const MissionRecord& record) {
-    require(durationOf(record) >= 0, "no mission is shorter than nothing");
-    require(responseTimeline(record).back().step == ResponseStep::ended, "every response ends");
+    require(durationOf(record) >= 0, "no duration is negative");
+    require(responseTimeline(record).back().step == ResponseStep::ended, "every timeline ends with the end");
     boundaryEvidence(record, LiveState::initial().site, 5);
     for (const TimeSpan& gap : gapsOf(record))
-        require(gap.from <= gap.to, "a gap runs forwards");
+        require(gap.from <= gap.to, "no gap ends before it begins");
     for (const double seconds : {-1.0, 30.0, durationOf(record)})
-        require(progressAt(record, seconds).dronePoints <= record.dronePath.size(), "no point is made up");
+        require(progressAt(record, seconds).dronePoints <= record.dronePath.size(),
+                "no progress counts more points than the path has");
     pathsCsv(record);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto history = readAndReturn<std::vector<MissionRecord>>(data, size, KeyStyle::fieldNames);
+    const auto history = roundTrip<std::vector<MissionRecord>>(data, size, KeyStyle::fieldNames);
     if (!history)
         return 0;
     for (const MissionRecord& record : *history)

@@ -31,7 +31,7 @@ void addMissions(const std::filesystem::path& corpus, Date at, Random& random) {
     add(corpus, all);
 }
 
-/// The site at a few moments of a visit, as a server would tell of it.
+/// Server states at a few moments of a visit.
 void addStates(const std::filesystem::path& corpus, Date at, Random& random) {
     Simulator simulator(LiveState::initial(), Settings{}, random);
     add(corpus, simulator.state, KeyStyle::snakeCase);
@@ -46,7 +46,8 @@ void addStates(const std::filesystem::path& corpus, Date at, Random& random) {
 
 } // namespace
 
-/// Writes the good documents that fuzzing starts from below the folder given, one folder for each reader.
+/// Writes the valid documents that fuzzing starts from, in one subdirectory of the given directory for each
+/// reader.
 int main(int argc, char* argv[]) {
     const std::filesystem::path root(argc > 1 ? argv[1] : "seeds");
     SystemRandom random;

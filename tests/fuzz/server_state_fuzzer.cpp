@@ -5,7 +5,7 @@
 using namespace velmora;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto state = readAndReturn<LiveState>(data, size, KeyStyle::snakeCase);
+    const auto state = roundTrip<LiveState>(data, size, KeyStyle::snakeCase);
     if (!state || !firstProblem(*state).empty())
         return 0;
     const Bounds bounds = boundsOf(state->site);
