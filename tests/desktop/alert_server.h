@@ -14,7 +14,7 @@
 
 namespace velmora {
 
-/// A server whose alerts the test raises. It records commands and carries out none.
+/// A server whose alerts the test raises. It records commands and executes none.
 class AlertServer {
 public:
     struct Post {
@@ -50,7 +50,7 @@ public:
         return sent == firstSent_.end() ? -1 : sent->second.elapsed();
     }
 
-    /// Leaves answers to the current alert out of the count, for example if the attack on it came too late.
+    /// Excludes answers to the current alert from the count, for example if the attack on it came too late.
     void excuseAlert() { excused_.insert(mission()); }
     int approvals() const {
         return static_cast<int>(std::ranges::count_if(posts, [this](const Post& post) {

@@ -40,9 +40,9 @@ TEST_F(AutostartTest, AnEntryIsOnUnlessItIsHiddenOrDisabled) {
     }
 }
 
-TEST_F(AutostartTest, ItIsSwitchedOnAndOff) {
+TEST_F(AutostartTest, CanBeSwitchedOnAndOff) {
     put("[Desktop Entry]\nHidden=true\n");
-    EXPECT_TRUE(autostart.setOn(true) && autostart.isOn()) << "in place of a disabled entry";
+    EXPECT_TRUE(autostart.setOn(true) && autostart.isOn()) << "replaces a disabled entry";
     EXPECT_TRUE(content().contains("\nExec=velmora --hidden\n"));
     for (int again = 0; again < 2; ++again) {
         EXPECT_TRUE(autostart.setOn(false));
@@ -52,7 +52,7 @@ TEST_F(AutostartTest, ItIsSwitchedOnAndOff) {
     EXPECT_TRUE(inNewDirectory.setOn(true) && inNewDirectory.isOn());
 }
 
-TEST_F(AutostartTest, ItStaysOffWhereNothingCanBeWritten) {
+TEST_F(AutostartTest, StaysOffIfTheEntryCannotBeWritten) {
     put({});
     Autostart belowAFile(path + "/autostart");
     EXPECT_FALSE(belowAFile.setOn(true) || belowAFile.isOn());

@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// The reply to a call, invalid when there is none. A call that blocks in an event loop of its own would miss
-/// a reply that comes before the loop begins.
+/// Sends the call and returns the reply; an invalid message if there is none. It polls for the reply, because
+/// a blocking call would miss one that comes before its event loop starts.
 inline QDBusMessage replyTo(const QDBusMessage& call, const QDBusConnection& bus) {
     const QDBusPendingCall pending = bus.asyncCall(call);
     waitUntil([&] { return pending.isFinished(); });

@@ -12,49 +12,50 @@ using namespace standin;
 
 namespace {
 
-/// The program with all its calls about files and the network on record.
+/// Runs the program under strace and records its file and network calls.
 class ConfinementTest : public ProgramTest {
 protected:
-    /// `pictures` is where the self-check run leaves its own; without it there is no such run.
-    std::unique_ptr<QProcess> startOnRecord(const QString& pictures = {}) {
+    /// `pictures` is the directory of the self-check run; empty for an ordinary run.
+    std::unique_ptr<QProcess> startTraced(const QString& pictures = {}) {
         EXPECT_TRUE(QDir().mkpath(log_.path()) && QDir().mkpath(home("data")));
-        Surroundings surroundings{
+        Variables variables{
             {"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}, {"XDG_RUNTIME_DIR", home({})}};
         if (!pictures.isEmpty())
-            surroundings.push_back({"VL_SNAPSHOT_DIR", pictures});
+            variables.push_back({"VL_SNAPSHOT_DIR", pictures});
         return run("strace",
                    {"-ff", "-qq", "-s", "4096", "-e", "trace=%file,%network", "-o", log_.filePath("calls"),
                     VELMORA_PROGRAM},
-                   surroundings);
+                   variables);
     }
-    /// Everything written lies in one of the places, and all that was called is on loopback at the port.
-    void expectConfined(const QStringList& places, quint16 port) const {
+    /// Expects that the program wrote only below the allowed paths and connected only to this port on
+    /// loopback.
+    void expectConfined(const QStringList& allowed, quint16 port) const {
         int calls = 0;
         for (const QString& name : log_.entryList(QDir::Files)) {
             QFile file(log_.filePath(name));
             ASSERT_TRUE(file.open(QIODevice::ReadOnly));
             for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
                 ++calls;
-                EXPECT_FALSE(callsElsewhere(line, port)) << line.toStdString();
+                EXPECT_FALSE(connectsElsewhere(line, port)) << line.toStdString();
                 for (const QString& path : writtenBy(line))
-                    EXPECT_TRUE(std::ranges::any_of(places, [&](const QString& place) {
-                        return path.startsWith(place);
+                    EXPECT_TRUE(std::ranges::any_of(allowed, [&](const QString& prefix) {
+                        return path.startsWith(prefix);
                     })) << line.toStdString();
             }
         }
         EXPECT_GT(calls, 1000);
-        EXPECT_FALSE(QFile::exists(home("config"))) << "no autostart entry unasked";
+        EXPECT_FALSE(QFile::exists(home("config"))) << "no autostart entry without a request";
     }
 
     VirtualDisplay display;
 
 private:
-    static bool callsElsewhere(const QString& line, quint16 port) {
+    static bool connectsElsewhere(const QString& line, quint16 port) {
         static const QRegularExpression call(R"(^(connect|bind|sendto|sendmsg)\(.*sa_family=AF_INET)");
         return call.match(line).hasMatch() &&
                !line.contains(QString("sin_port=htons(%1), sin_addr=inet_addr(\"127.0.0.1\")").arg(port));
     }
-    /// The files that a call has made or changed.
+    /// The paths that a traced call created or changed.
     static QStringList writtenBy(const QString& line) {
         static const QRegularExpression opened(R"(^(open|openat|creat)\(.*O_(WRONLY|RDWR|CREAT))"),
             changed(R"(^(mkdir|rename|unlink|link|symlink|truncate|f?chmod|f?chown|utimensat|mknod)\w*\()"),
@@ -69,7 +70,7 @@ private:
     QDir log_{home("log")};
 };
 
-TEST_F(ConfinementTest, ALinkedRunWritesItsDataAndCallsItsServer) {
+TEST_F(ConfinementTest, ALinkedRunWritesOnlyItsDataAndCallsOnlyItsServer) {
     int polls = 0;
     ScriptedServer server([&](const QByteArray&) {
         ++polls;
@@ -78,7 +79,7 @@ TEST_F(ConfinementTest, ALinkedRunWritesItsDataAndCallsItsServer) {
     });
     ASSERT_TRUE(server.listener().listen(QHostAddress::LocalHost));
     linkTo(server.listener().serverPort());
-    const auto program = startOnRecord();
+    const auto program = startTraced();
     ASSERT_TRUE(waitUntil([&] { return polls >= 3; }));
     ::kill(static_cast<pid_t>(QDBusConnection::sessionBus().interface()->servicePid("org.velmora.Velmora")),
            SIGTERM);
@@ -86,9 +87,9 @@ TEST_F(ConfinementTest, ALinkedRunWritesItsDataAndCallsItsServer) {
     expectConfined({home("data") + "/Velmora/", "/dev/null"}, server.listener().serverPort());
 }
 
-TEST_F(ConfinementTest, TheSelfCheckRunTakesItsPicturesAndCallsNobody) {
+TEST_F(ConfinementTest, TheSelfCheckRunWritesItsPicturesAndCallsNoServer) {
     const QString pictures = home("pictures");
-    const auto program = startOnRecord(pictures);
+    const auto program = startTraced(pictures);
     EXPECT_EQ(exitCodeOf(*program, 110'000), 0);
     for (const char* name : {"00-welcome", "01-overview", "02-live", "03-history", "04-cameras",
                              "05-settings", "06-approval", "07-overview-flying", "08-live-returning"})

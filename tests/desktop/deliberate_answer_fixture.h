@@ -26,19 +26,19 @@ protected:
         ASSERT_TRUE(waitUntil([this] { return windowManager_->bytesAvailable() > 0; }));
     }
 
-    void start(const Surroundings& extra = {}) {
-        Surroundings surroundings{{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}};
-        surroundings.insert(surroundings.end(), extra.begin(), extra.end());
+    void start(const Variables& extra = {}) {
+        Variables variables{{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}};
+        variables.insert(variables.end(), extra.begin(), extra.end());
         program_.reset();
-        program_.reset(run(VELMORA_PROGRAM, {}, surroundings).release());
+        program_.reset(run(VELMORA_PROGRAM, {}, variables).release());
         ASSERT_TRUE(waitUntil([this] { return isActive(); }));
     }
     void startWithScreenReader() {
         start({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}});
         reader.attach(program_->processId());
     }
-    /// Starts the program and returns where its "Launch drone" is. It finds that in an earlier run: under a
-    /// screen reader Qt handles keys in another way.
+    /// Starts the program and returns the position of its "Launch drone" button. Looks it up in an earlier
+    /// run, because Qt handles keys differently under a screen reader.
     QPoint startAndLocateLaunch() {
         startWithScreenReader();
         server.alert();
@@ -51,7 +51,7 @@ protected:
     void stop() const { ::kill(static_cast<pid_t>(program_->processId()), SIGSTOP); }
     void resume() const { ::kill(static_cast<pid_t>(program_->processId()), SIGCONT); }
 
-    /// What xdotool prints. The server answers meanwhile.
+    /// Returns the output of xdotool. Meanwhile the server answers requests.
     QString xdotool(const QStringList& arguments) {
         const RunningProgram tool = display.run("xdotool", arguments);
         waitUntil([&] { return tool->state() == QProcess::NotRunning; });
@@ -70,7 +70,7 @@ protected:
         xdotool({"keydown", keys});
     }
     bool isActive() { return activeWindow() == "Velmora"; }
-    /// Another program's window, in front and with the focus.
+    /// Opens a window of another program, in front and with the focus.
     RunningProgram openAnotherWindow() {
         RunningProgram other = display.run("xev", {"-event", "keyboard"});
         EXPECT_TRUE(waitUntil([this] { return activeWindow() == "Event Tester"; }));
@@ -79,8 +79,8 @@ protected:
     /// The program's visible windows: its own, and an open menu.
     qsizetype windows() { return xdotool({"search", "--onlyvisible", "--class", "velmora"}).count('\n') + 1; }
 
-    /// Waits until the program has polled the current state so often. It polls twice a second, and the card
-    /// opens after the first poll; a press after the fourth is past the guard even on a slow machine.
+    /// Waits until the program has polled the current state this many times. It polls twice a second, and the
+    /// card opens after the first poll; a press after the fourth is past the guard even on a slow machine.
     bool polled(int times) {
         return waitUntil([&] { return server.sent() >= times; });
     }

@@ -123,13 +123,13 @@ TEST_F(DeliberateAnswerTest, AKeyThatOpenedAMenuIsNotTakenForHeld) {
     const QPoint menu = reader.centerOf("All cameras");
     start();
     key("ctrl+3");
-    click(menu); // gives it the focus, too
+    click(menu); // also gives it the focus
     ASSERT_TRUE(waitUntil([this] { return windows() == 2; }));
     key("Escape");
     ASSERT_TRUE(waitUntil([this] { return windows() == 1; }));
     xdotool({"keydown", "Return"});
     ASSERT_TRUE(waitUntil([this] { return windows() == 2; }));
-    xdotool({"keyup", "Return"}); // which the menu's window gets
+    xdotool({"keyup", "Return"}); // the release goes to the menu's window
     ASSERT_TRUE(raiseAlert(false) && polled(3));
     EXPECT_EQ(windows(), 1);
     expectApproved([this] { key("ctrl+Return"); });

@@ -7,8 +7,8 @@ using namespace standin;
 
 namespace {
 
-/// The program linked to grounds whose time only the test moves, among the desktop's real parts.
-class RoadTest : public ProgramTest {
+/// The program linked to a simulated site whose clock the test controls, with dunst and a tray.
+class EndToEndTest : public ProgramTest {
 protected:
     void pass(int seconds) {
         for (int i = 0; i < seconds; ++i)
@@ -24,7 +24,7 @@ protected:
     AppApi api{site, [this] { return now; }};
 };
 
-TEST_F(RoadTest, FromTheVisitToTheWayHomeWithoutTheWindow) {
+TEST_F(EndToEndTest, TrayAndNotificationCarryAMissionWithoutTheWindow) {
     Options options;
     options.port = 0;
     StandinServer server(options, api);
@@ -42,7 +42,7 @@ TEST_F(RoadTest, FromTheVisitToTheWayHomeWithoutTheWindow) {
     pass(3);
     ASSERT_TRUE(trayShows("Launch drone"));
     EXPECT_TRUE(waitUntil([&] { return dunst.shown() == 1; }));
-    tray.press("Launch drone"); // in a menu that was opened before the alert, if at all
+    tray.press("Launch drone"); // the menu was not opened for this alert
     tray.open();
     tray.press("Ignore");
     ASSERT_TRUE(reaches(Phase::docked));

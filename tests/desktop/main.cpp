@@ -6,7 +6,7 @@
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    const velmora::PrivateBus bus; // before the application: Qt asks for the address once
+    const velmora::PrivateBus bus; // before the application, because Qt reads the address once
     if (!bus.isRunning())
         qFatal("dbus-daemon does not run.");
     const QGuiApplication application(argc, argv);

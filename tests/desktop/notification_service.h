@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// Plays the desktop's notification service on a connection of its own.
+/// A fake notification service on its own bus connection.
 class NotificationService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
@@ -50,7 +50,7 @@ public:
     std::vector<Shown> shown;
     std::vector<uint> closed;
     bool refuses = false; ///< answers Notify with an error
-    bool hangs = false;   ///< answers Notify when it is told to
+    bool hangs = false;   ///< answers Notify only in answerHeld()
     std::vector<QDBusMessage> held;
 
 public slots:
@@ -78,7 +78,7 @@ public slots:
     Q_SCRIPTABLE void CloseNotification(uint id) { closed.push_back(id); }
 
 public:
-    int asked = 0; ///< how often the capabilities were asked for
+    int asked = 0; ///< number of calls of GetCapabilities
 
 private:
     static QString path() { return QStringLiteral("/org/freedesktop/Notifications"); }

@@ -11,7 +11,7 @@ NotificationPicture pictureOf(const QString& name) {
     return name.isEmpty() ? NotificationPicture{} : NotificationPicture{1, 1, 4, QByteArray("\1\2\3\4", 4)};
 }
 
-/// A notifier on the bus of the tests, with what it said.
+/// A notifier on the bus of the tests, and the signals that it emitted.
 class NotifierTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -30,8 +30,8 @@ protected:
         }
         return *service_;
     }
-    /// Lets every message that is under way arrive. The bus keeps the order, so a reply to a call of the
-    /// notifier's own connection comes after the replies to its earlier calls.
+    /// Waits until every pending message has arrived. The bus keeps the order, so the reply to this call
+    /// comes after the replies to earlier calls of the same connection.
     static void settle() {
         const QString name = QStringLiteral("org.freedesktop.Notifications");
         const QDBusMessage call = QDBusMessage::createMethodCall(
@@ -54,7 +54,7 @@ protected:
     std::unique_ptr<NotificationService> service_;
 };
 
-TEST_F(NotifierTest, TheNotificationSaysAllThatTheDesktopCanShow) {
+TEST_F(NotifierTest, ANotificationHasActionsHintsAndAPicture) {
     const auto shown = post("M-1", QString::fromUtf8("Someone at the <gate>\n&\a"));
     EXPECT_EQ(shown.summary, "Someone at the <gate>&");
     EXPECT_EQ(shown.body, "Body");
@@ -75,13 +75,13 @@ TEST_F(NotifierTest, AServiceWithoutActionsGetsNone) {
     EXPECT_TRUE(post().actions.isEmpty());
 }
 
-TEST_F(NotifierTest, TheSameMissionReplacesItsOwn) {
+TEST_F(NotifierTest, ANotificationReplacesTheOneOfTheSameMission) {
     const uint first = post("M-1").id;
     EXPECT_EQ(post("M-1").replaces, first);
     EXPECT_EQ(post("det").replaces, 0U);
 }
 
-TEST_F(NotifierTest, AnotherAlertOfTheSameNameGetsANotificationOfItsOwn) {
+TEST_F(NotifierTest, AnotherAlertWithTheSameIdentifierGetsANewNotification) {
     const AlertId atTheGate{{}, {}, {}, "gate"}, inTheGarden{{}, {}, {}, "garden"};
     std::vector<AlertId> answered;
     QObject::connect(&notifier, &DesktopNotifier::answered,
@@ -110,14 +110,14 @@ TEST_F(NotifierTest, LaunchAnswersOnceAndOnlyForItsOwnNotification) {
     EXPECT_EQ(tokens.back(), "token");
 }
 
-TEST_F(NotifierTest, AClickOnTheBodyOnlyAsksForTheWindow) {
+TEST_F(NotifierTest, AClickOnTheBodyOnlyShowsTheWindow) {
     service().invoke(post().id, "default");
     ASSERT_TRUE(waitUntil([&] { return !tokens.isEmpty(); }));
     settle();
     EXPECT_TRUE(answers.empty());
 }
 
-TEST_F(NotifierTest, WhoeverDismissesAnAlertUnansweredIsShownTheWindow) {
+TEST_F(NotifierTest, DismissingAnUnansweredAlertShowsTheWindow) {
     const uint answered = post("M-1").id, expired = post("M-2").id, dismissed = post("M-3").id;
     service().invoke(answered, "IGNORE");
     service().dismiss(answered, 2);
@@ -142,24 +142,24 @@ TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
     EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 2; }));
 }
 
-TEST_F(NotifierTest, ARefusingOrRestartedServiceIsSurvived) {
+TEST_F(NotifierTest, WorksAfterAServiceThatRefusedOrRestarted) {
     service().refuses = true;
     notifier.post({"M-1", "Title", "Body", {}, {}});
     settle();
     service().refuses = false;
     const uint id = post().id;
     service_.reset();
-    notifier.post({"M-2", "Title", "Body", {}, {}}); // while there is none
+    notifier.post({"M-2", "Title", "Body", {}, {}}); // while no service runs
     notifier.withdrawAll();
     service({"body"});
-    service().invoke(id, "LAUNCH"); // of the service that is gone
+    service().invoke(id, "LAUNCH"); // an id of the old service
     settle();
     EXPECT_TRUE(answers.empty());
     EXPECT_EQ(post().replaces, 0U);
-    EXPECT_TRUE(service().shown.back().actions.isEmpty()) << "what it can do was asked for again";
+    EXPECT_TRUE(service().shown.back().actions.isEmpty()) << "the capabilities were queried again";
 }
 
-TEST_F(NotifierTest, AServiceThatHangsIsNotWaitedFor) {
+TEST_F(NotifierTest, DoesNotWaitForAHangingService) {
     service().hangs = true;
     notifier.post({"M-1", "Title", "Body", {}, {}});
     ASSERT_TRUE(waitUntil([&] { return service().held.size() == 1; }));
@@ -167,11 +167,11 @@ TEST_F(NotifierTest, AServiceThatHangsIsNotWaitedFor) {
     notifier.withdrawAll();
     service().hangs = false;
     service().answerHeld();
-    EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 1; })) << "late, but not left standing";
+    EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 1; })) << "closed after the late reply";
     EXPECT_EQ(post().replaces, 0U);
 }
 
-TEST_F(NotifierTest, WithoutABusItIsSilent) {
+TEST_F(NotifierTest, DoesNothingWithoutABus) {
     DesktopNotifier alone(QDBusConnection(QStringLiteral("nowhere")), pictureOf);
     alone.post({"M-1", "Title", "Body", {}, {}});
     alone.withdrawAll();
@@ -189,7 +189,7 @@ TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
     EXPECT_EQ(answers, std::vector{Command::approve});
 }
 
-/// With a service that people run, on a virtual display.
+/// Runs the real notification service dunst on a virtual display.
 class RealServiceTest : public NotifierTest {
 protected:
     void expectBothAnswers(Dunst& real) {
@@ -207,20 +207,20 @@ protected:
     VirtualDisplay display;
 };
 
-TEST_F(RealServiceTest, DunstAnswersAndMayDieWithANotificationUp) {
+TEST_F(RealServiceTest, DunstReportsAnswersAndMayDieWithANotificationShown) {
     auto dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
     notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 1; }));
     dunst.reset();
-    EXPECT_TRUE(waitUntil([] { return !Dunst::isThere(); }));
+    EXPECT_TRUE(waitUntil([] { return !Dunst::isRunning(); }));
     notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
     dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 0; }));
 }
 
-/// The whole road of an answer given outside the window.
+/// An answer in a notification, up to the simulator.
 class NotifiedStoreTest : public StoreTest {};
 
 TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {

@@ -5,8 +5,7 @@
 
 namespace velmora {
 
-/// A session bus of the tests' own, so that nothing of the desktop they run on is heard or disturbed, and
-/// that starts no service by itself.
+/// A session bus of the tests, separate from the desktop's. It starts no services.
 class PrivateBus {
 public:
     PrivateBus() {

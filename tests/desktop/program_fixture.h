@@ -9,38 +9,38 @@
 
 namespace velmora {
 
-/// The program itself, with a home of its own.
+/// Runs the program with its own home directory.
 class ProgramTest : public testing::Test {
 protected:
-    using Surroundings = std::vector<std::pair<QString, QString>>;
+    using Variables = std::vector<std::pair<QString, QString>>;
 
-    /// Starts it without a display, on the bus of the tests or on none.
+    /// Starts the program without a display, on the bus of the tests or on none.
     std::unique_ptr<QProcess> start(const QStringList& arguments, bool bus = true) {
         return run(VELMORA_PROGRAM, arguments,
-                   bus ? Surroundings{} : Surroundings{{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
+                   bus ? Variables{} : Variables{{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
     }
     std::unique_ptr<QProcess> startOn(const VirtualDisplay& display, const QStringList& arguments) {
         return run(VELMORA_PROGRAM, arguments, {{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}});
     }
     std::unique_ptr<QProcess> run(const QString& program, const QStringList& arguments,
-                                  const Surroundings& surroundings) {
+                                  const Variables& variables) {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* kind : {"DATA", "CONFIG", "CACHE"})
             environment.insert(QString("XDG_%1_HOME").arg(kind), home(QString(kind).toLower()));
-        for (const auto& [name, value] : surroundings)
+        for (const auto& [name, value] : variables)
             environment.insert(name, value);
         process->setProcessEnvironment(environment);
         process->start(program, arguments);
         EXPECT_TRUE(process->waitForStarted());
         return process;
     }
-    static int exitCodeOf(QProcess& process, int patience = 20'000) {
-        EXPECT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished(patience));
+    static int exitCodeOf(QProcess& process, int timeout = 20'000) {
+        EXPECT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished(timeout));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return process.exitCode();
     }
-    /// Waits until the program owns its name, and so answers.
+    /// Waits until the program owns its bus name, from when on it answers calls.
     static void waitForName() { ASSERT_TRUE(waitUntil(owned)); }
     static bool owned() {
         return QDBusConnection::sessionBus().interface()->isServiceRegistered("org.velmora.Velmora");
@@ -52,10 +52,10 @@ protected:
         return QDBusConnection::sessionBus().call(message);
     }
 
-    /// Where the program keeps its "data", "config" or "cache".
+    /// The program's directory for "data", "config" or "cache".
     QString home(const QString& kind) const { return home_.path() + '/' + kind; }
     QString lockPath() const { return home("data") + "/Velmora/lock"; }
-    /// Lets the program find itself linked to a server on loopback.
+    /// Writes settings that link the program to a server on loopback.
     void linkTo(quint16 port) const {
         Settings settings;
         settings.onboarded = settings.linkMode = true;

@@ -6,7 +6,7 @@ namespace velmora {
 
 namespace {
 
-TEST_F(ProgramTest, OptionsAnswerWithoutStarting) {
+TEST_F(ProgramTest, HelpVersionAndErrorsExitWithoutStarting) {
     const auto help = start({"--help"}), version = start({"--version"}), wrong = start({"--launch"}),
                stray = start({"file"});
     EXPECT_EQ(exitCodeOf(*help), 0);
@@ -46,7 +46,7 @@ TEST_F(ProgramTest, TwoStartsAtOnceLeaveOne) {
     EXPECT_EQ(exitCodeOf(left), 0);
 }
 
-TEST_F(ProgramTest, WithoutABusTheSecondWriterIsKeptOut) {
+TEST_F(ProgramTest, WithoutABusASecondStartIsRefused) {
     const auto first = start({"--hidden"}, false);
     ASSERT_TRUE(waitUntil([&] { return QFile::exists(lockPath()); }));
     const auto second = start({"--hidden"}, false);
@@ -56,7 +56,7 @@ TEST_F(ProgramTest, WithoutABusTheSecondWriterIsKeptOut) {
     EXPECT_EQ(exitCodeOf(*first), 0);
 }
 
-TEST_F(ProgramTest, ALateTrayGetsTheIconAndItsMenuWorks) {
+TEST_F(ProgramTest, ATrayThatAppearsLateGetsTheIconAndItsMenuWorks) {
     const VirtualDisplay display;
     const auto program = startOn(display, {"--hidden"});
     waitForName();

@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/// Finds and presses a program's buttons over AT-SPI, as a screen reader does. The tests' bus is the
-/// accessibility bus, too; there is no registry.
+/// Finds and presses a program's buttons over AT-SPI, as a screen reader does. The tests' bus also is the
+/// accessibility bus; there is no registry.
 class ScreenReader : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.a11y.Bus")
@@ -29,7 +29,7 @@ public:
         process_ = static_cast<uint>(processId);
         service_.clear();
     }
-    /// The path of the visible button with this name; waits for it, and is empty if it does not come.
+    /// Waits for the visible button with this name and returns its path; empty if it does not appear.
     QString button(const QString& name) {
         QString path;
         waitUntil([&] {
@@ -45,7 +45,7 @@ public:
         return qdbus_cast<QRect>(call(button(name), "org.a11y.atspi.Component", "GetExtents", {0U}).value(0))
             .center();
     }
-    /// Asks for the button's first action, which is "Press".
+    /// Invokes the button's first action, which is "Press".
     bool press(const QString& path) const {
         return call(path, "org.a11y.atspi.Action", "DoAction", {0}).value(0).toBool();
     }
@@ -57,7 +57,7 @@ private:
     static constexpr const char* accessible = "org.a11y.atspi.Accessible";
     static QString root() { return QStringLiteral("/org/a11y/atspi/accessible/root"); }
 
-    /// Accessible objects have a connection of their own: the one of the process that knows the root object.
+    /// Accessible objects are on a separate connection of the process: the one that has the root object.
     void findService() {
         const QDBusConnectionInterface& names = *bus_.interface();
         for (const QString& name : names.registeredServiceNames().value()) {
@@ -69,7 +69,7 @@ private:
             service_.clear();
         }
     }
-    /// Sends the calls of a whole level at once, because a loaded machine takes long for each reply.
+    /// Calls a complete level of the tree at once, because each reply takes long on a loaded machine.
     QString search(const QString& name) const {
         for (QStringList level{root()}; !level.isEmpty();) {
             const auto names = callAll(level, "org.freedesktop.DBus.Properties", "Get", {accessible, "Name"});
@@ -105,7 +105,7 @@ private:
                (states.value(0) & showing) != 0;
     }
 
-    /// What the call returns; nothing if it fails.
+    /// The result of the call; empty if it fails.
     QVariantList call(const QString& path, const char* interface, const char* method,
                       const QVariantList& arguments) const {
         return callAll({path}, interface, method, arguments).front();

@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// Plays the desktop's tray: takes the icons that register, and reads and presses their menus.
+/// A fake tray: accepts the icons that register, and reads and clicks their menus.
 class TrayHost : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -63,9 +63,9 @@ public:
             texts.append(entry.label);
         return texts;
     }
-    /// Tells that the menu is about to be seen.
+    /// Announces that the menu is about to be shown.
     void open() const { call(QStringLiteral("AboutToShow"), {0}); }
-    /// Presses the line with this label.
+    /// Clicks the line with this label.
     void press(const QString& label) const {
         for (const Entry& entry : menu())
             if (entry.label == label)

@@ -21,10 +21,10 @@ struct Kill {
         delete process;
     }
 };
-/// A program that ends with its owner.
+/// A process that is killed when the pointer is destroyed.
 using RunningProgram = std::unique_ptr<QProcess, Kill>;
 
-/// An X server without a screen, and the programs that run on it, in a home of their own.
+/// An X server without a screen, and programs that run on it with their own home directory.
 class VirtualDisplay {
 public:
     VirtualDisplay() {
@@ -34,7 +34,7 @@ public:
             name_ = ':' + QString::fromLatin1(server_->readLine().trimmed());
     }
 
-    /// Such as ":99"; empty when there is none.
+    /// The display's name, such as ":99"; empty if the server did not start.
     const QString& name() const { return name_; }
     QString home() const { return home_.path(); }
     qint64 processId() const { return server_->processId(); }
@@ -42,8 +42,8 @@ public:
     RunningProgram run(const QString& program, const QStringList& arguments = {}) const {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("DISPLAY", name_);
-        for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-            environment.insert(place, home());
+        for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+            environment.insert(variable, home());
         environment.insert("NO_AT_BRIDGE", "1");
         RunningProgram process(new QProcess);
         process->setProcessEnvironment(environment);
@@ -57,7 +57,7 @@ private:
     RunningProgram server_{new QProcess};
 };
 
-/// A notification service as people run it, whose menu of actions is a script of the test's.
+/// The notification service dunst. The test replaces its menu of actions with a script.
 class Dunst {
 public:
     explicit Dunst(const VirtualDisplay& display) : picker_(display.home() + QStringLiteral("/pick")) {
@@ -67,9 +67,9 @@ public:
         waitUntilReady();
     }
 
-    static bool isThere() { return QDBusConnection::sessionBus().interface()->isServiceRegistered(name()); }
+    static bool isRunning() { return QDBusConnection::sessionBus().interface()->isServiceRegistered(name()); }
 
-    /// Presses the action, once the notification is there.
+    /// Waits for a notification and chooses the action.
     bool choose(const QString& action) {
         write(picker_, "#!/bin/sh\nexec grep -m1 '" + action + "'\n");
         QFile::setPermissions(picker_, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
@@ -91,9 +91,9 @@ private:
         message.setArguments(arguments);
         return replyTo(message, QDBusConnection::sessionBus());
     }
-    /// Until whoever listens on this process' connection knows what the service can do.
+    /// Waits until this process has received the capabilities of the service.
     static void waitUntilReady() {
-        if (!waitUntil(isThere))
+        if (!waitUntil(isRunning))
             return;
         QCoreApplication::processEvents();
         call(name(), QStringLiteral("GetCapabilities"), {});
