@@ -1,4 +1,4 @@
-# How every target of the project is compiled, and the two ways to add one.
+# Compiler options of all targets, and functions that add a layer or its tests.
 include_guard()
 
 set(CMAKE_CXX_STANDARD 20)
@@ -29,15 +29,15 @@ if(VELMORA_FUZZERS)
         -fsanitize=fuzzer-no-link -fsanitize-ignorelist=${CMAKE_SOURCE_DIR}/tests/fuzz/libraries.ignorelist)
 endif()
 
-# velmora_precompile(TARGET): reads the headers that nearly every file about widgets includes once for the whole target.
-# Only a preset that enables precompiled headers does so; the others see that every file includes what it uses.
+# velmora_precompile(TARGET): precompiles the headers that nearly every widget source includes. Takes effect only in
+# presets that enable precompiled headers; the others check that every file includes what it uses.
 function(velmora_precompile target)
     target_precompile_headers(${target} PRIVATE
         <QPainter> <QTimer> <QVBoxLayout> <QWidget> <algorithm> <chrono> <functional> <optional> <vector>)
 endfunction()
 
-# velmora_layer(NAME [QT] SOURCES ... DEPENDS ...): one folder of src/ as a static library `velmora_NAME`;
-# QT for a folder whose classes have signals or slots.
+# velmora_layer(NAME [QT] SOURCES ... DEPENDS ...): adds one folder of src/ as the static library `velmora_NAME`. QT
+# runs moc, for classes with signals or slots.
 function(velmora_layer name)
     cmake_parse_arguments(LAYER "QT" "" "SOURCES;DEPENDS" ${ARGN})
     add_library(velmora_${name} STATIC ${LAYER_SOURCES})
@@ -46,7 +46,8 @@ function(velmora_layer name)
     target_include_directories(velmora_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
 endfunction()
 
-# velmora_tests(NAME SOURCES ... DEPENDS ...): the tests of one layer as `velmora_NAME_tests`, each known to ctest.
+# velmora_tests(NAME SOURCES ... DEPENDS ...): adds the tests of one layer as `velmora_NAME_tests` and registers each of
+# them with ctest.
 function(velmora_tests name)
     cmake_parse_arguments(TESTS "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(velmora_${name}_tests ${TESTS_SOURCES})
