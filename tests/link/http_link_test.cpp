@@ -103,7 +103,7 @@ TEST_F(LinkTest, ACommandCallsBackHoweverItsExchangeEnds) {
         startSend(Command::hold);
         ASSERT_TRUE(waitUntil([&] { return sent > before; })) << end.bytes.left(40).toStdString();
         EXPECT_EQ(lastFailure.empty(), end.bytes.startsWith("HTTP"))
-            << "any reply is a success, whatever it says";
+            << "any reply is a success, whatever its content";
     }
     server.listener().close();
     startSend(Command::hold);

@@ -13,11 +13,11 @@ protected:
             tickAfter(0.05);
         std::exchange(link.fetches, {}).front()(FetchedState{state, "2.1"});
     }
-    AlertId alert(const std::optional<std::string>& id, double begun = 0) {
+    AlertId alert(const std::optional<std::string>& id, double secondsAgo = 0) {
         LiveState state = LiveState::initial();
         state.phase = Phase::awaitingApproval;
         state.missionId = id;
-        state.missionStart = now - Seconds{begun};
+        state.missionStart = now - Seconds{secondsAgo};
         serve(state);
         return store().waitingAlert().value_or(AlertId{});
     }

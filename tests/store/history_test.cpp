@@ -12,10 +12,10 @@ using testing::ElementsAre;
 /// A history in a temporary directory, and visits with different ids.
 class RecordsTest : public testing::Test {
 protected:
-    static MissionRecord visit(const std::string& id, double begun, bool demo = false) {
+    static MissionRecord visit(const std::string& id, double seconds, bool demo = false) {
         MissionRecord record;
         record.id = id;
-        record.start = record.end = dateFromSeconds(begun);
+        record.start = record.end = dateFromSeconds(seconds);
         record.demo = demo;
         return record;
     }

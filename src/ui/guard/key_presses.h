@@ -7,8 +7,9 @@
 
 namespace velmora {
 
-/// Tells new key presses from repeats of a held key. Qt's auto-repeat flag is not enough: on X11 it misses
-/// repeats under load. A repeat has the time stamp of the release just before it; a new press never has.
+/// Distinguishes new key presses from repeats of a held key. Qt's auto-repeat flag is not enough: on X11 it
+/// misses repeats under load. A repeat has the time stamp of the release just before it; a new press never
+/// has.
 class KeyPresses {
 public:
     /// Whether the key, a Qt::Key, presses buttons or gives answers: Return, Enter, Space, Select or Escape.
