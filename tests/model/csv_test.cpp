@@ -20,7 +20,7 @@ MissionRecord visit() {
     return record;
 }
 
-/// The field of a record with this label.
+/// The label field of a record with this label.
 std::string labelField(const std::string& label) {
     MissionRecord record = visit();
     record.label = label;

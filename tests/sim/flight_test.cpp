@@ -122,7 +122,7 @@ TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
     EXPECT_EQ(latest(), "Landed away from the pad — please collect it");
 }
 
-TEST_F(SimulatorTest, TheBoundaryNoticeAppearsOncePerHold) {
+TEST_F(SimulatorTest, EachArrivalAtTheBoundaryHasOneNotice) {
     visitApproved(Scenario::garden, Phase::following);
     const auto noticesWithDroneAt = [&](double below) {
         drone.pos = state.visitor->pos + P{0, below};
