@@ -17,7 +17,7 @@ RadioChoice::RadioChoice(const QString& text, QWidget* parent) : QRadioButton(te
     setAccessibleName(text);
     setFixedHeight(Measure::radioRow);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    FocusRing::setLook(this, {Measure::thumbnailRadius});
+    FocusRing::setRingStyle(this, {Measure::thumbnailRadius});
 }
 
 QSize RadioChoice::sizeHint() const {
@@ -50,7 +50,7 @@ public:
         setCheckable(true);
         setAutoExclusive(true);
         setFocusPolicy(Qt::StrongFocus);
-        FocusRing::setLook(this, {.radius = Measure::buttonRadius, .roundParent = true});
+        FocusRing::setRingStyle(this, {.radius = Measure::buttonRadius, .roundParent = true});
     }
 
     QSize sizeHint() const override {

@@ -48,7 +48,7 @@ void ConfirmationCard::setBody(const QString& body) {
 }
 
 /// Its ring is shown whatever opened the card: what Enter would do must be plain to see.
-void ConfirmationCard::takeFirstFocus() {
+void ConfirmationCard::focusFirst() {
     keep_->setFocus(Qt::TabFocusReason);
 }
 

@@ -29,7 +29,7 @@ signals:
     void confirmed();
 
 protected:
-    void takeFirstFocus() override;
+    void focusFirst() override;
 
 private:
     void addAct(const QString& text, QHBoxLayout* buttons);

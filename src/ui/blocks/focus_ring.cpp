@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* lookProperty = "velmoraFocusLook";
+constexpr const char* styleProperty = "velmoraFocusLook";
 constexpr double haloOpacity = 0.22;
 constexpr int outset = static_cast<int>(Measure::focusGap + Measure::focusRing);
 
@@ -28,13 +28,13 @@ bool moves(QEvent::Type type) {
 
 } // namespace
 
-void FocusRing::setLook(QWidget* widget, const Look& look) {
-    widget->setProperty(lookProperty, QVariant::fromValue(look));
+void FocusRing::setRingStyle(QWidget* widget, const RingStyle& style) {
+    widget->setProperty(styleProperty, QVariant::fromValue(style));
 }
 
-std::optional<FocusRing::Look> FocusRing::lookOf(const QWidget* widget) {
-    const QVariant look = widget->property(lookProperty);
-    return look.isValid() ? std::optional(look.value<Look>()) : std::nullopt;
+std::optional<FocusRing::RingStyle> FocusRing::ringStyleOf(const QWidget* widget) {
+    const QVariant style = widget->property(styleProperty);
+    return style.isValid() ? std::optional(style.value<RingStyle>()) : std::nullopt;
 }
 
 FocusRing::FocusRing(QWidget* window) : QWidget(window) {
@@ -50,9 +50,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress)
         jumps_ = false; // what the focus does now is the owner's doing
     if (event->type() == QEvent::FocusIn && widget->window() == window()) {
-        const auto look = lookOf(widget);
-        if (look && (look->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !jumps_)))
-            follow(widget, *look);
+        const auto style = ringStyleOf(widget);
+        if (style && (style->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !jumps_)))
+            follow(widget, *style);
         else
             unfollow();
     } else if (event->type() == QEvent::FocusOut) {
@@ -65,9 +65,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-void FocusRing::follow(QWidget* widget, const Look& look) {
-    target_ = look.roundParent ? widget->parentWidget() : widget;
-    look_ = look;
+void FocusRing::follow(QWidget* widget, const RingStyle& style) {
+    target_ = style.roundParent ? widget->parentWidget() : widget;
+    style_ = style;
     for (QWidget* one = widget->parentWidget(); one; one = one->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(one))
             area->ensureWidgetVisible(target_, 0, Measure::gap28); // clear of a fade at the end
@@ -106,13 +106,13 @@ void FocusRing::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setClipRect(clip_.translated(-pos()));
     painter.setRenderHint(QPainter::Antialiasing);
-    const double gap = look_.field ? outset - Measure::fieldHalo : 0;
-    const double width = look_.field ? Measure::fieldHalo : Measure::focusRing;
-    const QColor color = look_.field  ? SB::faded(SB::blue, haloOpacity)
-                         : look_.dark ? SB::softBlue
-                                      : SB::blue;
+    const double gap = style_.field ? outset - Measure::fieldHalo : 0;
+    const double width = style_.field ? Measure::fieldHalo : Measure::focusRing;
+    const QColor color = style_.field  ? SB::faded(SB::blue, haloOpacity)
+                         : style_.dark ? SB::softBlue
+                                       : SB::blue;
     const double inset = gap + width / 2;
-    const double radius = look_.radius + outset - inset;
+    const double radius = style_.radius + outset - inset;
     painter.setPen(QPen(color, width));
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

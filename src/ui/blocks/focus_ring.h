@@ -14,15 +14,15 @@ class FocusRing : public QWidget {
 
 public:
     /// How the ring fits a widget.
-    struct Look {
+    struct RingStyle {
         double radius = 0;
         bool dark = false;        ///< on a navy surface
         bool field = false;       ///< a text field: a halo at its border, whatever moved the focus
         bool roundParent = false; ///< one part of a control that is ringed as a whole
     };
 
-    /// A widget without a look gets no ring.
-    static void setLook(QWidget* widget, const Look& look);
+    /// A widget without a style gets no ring.
+    static void setRingStyle(QWidget* widget, const RingStyle& style);
 
     explicit FocusRing(QWidget* window);
 
@@ -31,13 +31,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    static std::optional<Look> lookOf(const QWidget* widget);
-    void follow(QWidget* widget, const Look& look);
+    static std::optional<RingStyle> ringStyleOf(const QWidget* widget);
+    void follow(QWidget* widget, const RingStyle& style);
     void unfollow();
     void place();
 
     QPointer<QWidget> target_;
-    Look look_;
+    RingStyle style_;
     QList<QPointer<QWidget>> watched_; ///< the target and what it lies in: when they move, the ring does
     bool jumps_ = false;               ///< what had the focus was hidden, so Qt moves it on
     QRect clip_;                       ///< what scroll areas leave to be seen

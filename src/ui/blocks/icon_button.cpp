@@ -1,6 +1,6 @@
 #include "ui/blocks/icon_button.h"
 
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
@@ -13,8 +13,8 @@ IconButton::IconButton(Icon icon, const QString& name, QWidget* parent)
     setFixedSize(Measure::buttonHeight, Measure::buttonHeight);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
-    letEnterPress(this);
-    FocusRing::setLook(this, {Measure::buttonRadius});
+    clickOnEnter(this);
+    FocusRing::setRingStyle(this, {Measure::buttonRadius});
     setIcon(icon, name);
 }
 

@@ -1,6 +1,6 @@
 #include "ui/blocks/link_button.h"
 
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
@@ -17,8 +17,8 @@ LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(p
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
-    letEnterPress(this);
-    FocusRing::setLook(this, {Measure::badgeRadius});
+    clickOnEnter(this);
+    FocusRing::setRingStyle(this, {Measure::badgeRadius});
 }
 
 QSize LinkButton::sizeHint() const {

@@ -18,7 +18,7 @@ MenuButton::MenuButton(const QString& name, QWidget* parent) : QAbstractButton(p
     setAccessibleDescription(name);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    FocusRing::setLook(this, {Measure::badgeRadius});
+    FocusRing::setRingStyle(this, {Measure::badgeRadius});
     connect(this, &QAbstractButton::clicked, this, &MenuButton::open);
 }
 

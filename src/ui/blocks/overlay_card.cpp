@@ -101,10 +101,10 @@ void OverlayCard::settled() {
         return;
     }
     card_->show();
-    takeFirstFocus();
+    focusFirst();
 }
 
-void OverlayCard::takeFirstFocus() {}
+void OverlayCard::focusFirst() {}
 
 void OverlayCard::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier)

@@ -32,7 +32,7 @@ protected:
     QWidget* card() const { return card_; }
     /// What has the focus when the card opens: the card itself, so that no key can press a button by
     /// accident.
-    virtual void takeFirstFocus();
+    virtual void focusFirst();
 
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

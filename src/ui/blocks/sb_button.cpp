@@ -24,24 +24,24 @@ const TextStyle& textStyleOf(const SBButtonStyle& style) {
 
 } // namespace
 
-SBButtonLook SBButton::lookOf(SBButtonKind kind, Look look) {
+SBButtonColors SBButton::colorsOf(SBButtonKind kind, State state) {
     using SB::faded;
     using SB::none;
-    const auto choose = [look](SBButtonLook normal, SBButtonLook hover, SBButtonLook pressed,
-                               SBButtonLook disabled) {
-        switch (look) {
-        case Look::hover:
+    const auto choose = [state](SBButtonColors normal, SBButtonColors hover, SBButtonColors pressed,
+                                SBButtonColors disabled) {
+        switch (state) {
+        case State::hover:
             return hover;
-        case Look::pressed:
+        case State::pressed:
             return pressed;
-        case Look::disabled:
+        case State::disabled:
             return disabled;
-        case Look::normal:
+        case State::normal:
             break;
         }
         return normal;
     };
-    const SBButtonLook outlineOff{SB::page, SB::rule2, faded(SB::muted, 0.6)};
+    const SBButtonColors outlineOff{SB::page, SB::rule2, faded(SB::muted, 0.6)};
     switch (kind) {
     case SBButtonKind::primary:
         return choose({SB::ink, none, SB::page}, {SB::mixed(SB::page, SB::ink, 0.88), none, SB::page},
@@ -71,23 +71,23 @@ SBButton::SBButton(const QString& text, const SBButtonStyle& style, QWidget* par
     setAccessibleName(text);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(style.wide ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
-    FocusRing::setLook(this, {Measure::buttonRadius, style.kind == SBButtonKind::onDark});
-    shown_ = target_ = lookOf(style_.kind, wantedLook());
+    FocusRing::setRingStyle(this, {Measure::buttonRadius, style.kind == SBButtonKind::onDark});
+    shown_ = target_ = colorsOf(style_.kind, wantedState());
     connect(&fade_, &Transition::changed, this, [this] {
         const double share = fade_.value();
         shown_ = {SB::mixed(from_.fill, target_.fill, share), SB::mixed(from_.border, target_.border, share),
                   SB::mixed(from_.text, target_.text, share)};
         update();
     });
-    connect(this, &SBButton::pressed, this, &SBButton::fadeToWantedLook);
-    connect(this, &SBButton::released, this, &SBButton::fadeToWantedLook);
+    connect(this, &SBButton::pressed, this, &SBButton::fadeToState);
+    connect(this, &SBButton::released, this, &SBButton::fadeToState);
 }
 
 void SBButton::setPale(bool pale) {
     if (pale == pale_)
         return;
     pale_ = pale;
-    fadeToWantedLook();
+    fadeToState();
     update();
 }
 
@@ -102,16 +102,16 @@ QSize SBButton::sizeHint() const {
             style_.large ? Measure::buttonHeightLarge : Measure::buttonHeight};
 }
 
-SBButton::Look SBButton::wantedLook() const {
+SBButton::State SBButton::wantedState() const {
     if (!isEnabled())
-        return Look::disabled;
+        return State::disabled;
     if (isDown())
-        return Look::pressed;
-    return underMouse() && !pale_ ? Look::hover : Look::normal;
+        return State::pressed;
+    return underMouse() && !pale_ ? State::hover : State::normal;
 }
 
-void SBButton::fadeToWantedLook() {
-    const SBButtonLook wanted = lookOf(style_.kind, wantedLook());
+void SBButton::fadeToState() {
+    const SBButtonColors wanted = colorsOf(style_.kind, wantedState());
     if (wanted == target_)
         return;
     from_ = shown_;
@@ -126,7 +126,7 @@ bool SBButton::event(QEvent* event) {
     case QEvent::EnabledChange:
     case QEvent::Show: {
         const bool handled = QAbstractButton::event(event);
-        fadeToWantedLook();
+        fadeToState();
         return handled;
     }
     default:

@@ -20,12 +20,12 @@ struct SBButtonStyle {
 };
 
 /// What a button is painted with.
-struct SBButtonLook {
+struct SBButtonColors {
     QColor fill;
     QColor border;
     QColor text;
 
-    bool operator==(const SBButtonLook&) const = default;
+    bool operator==(const SBButtonColors&) const = default;
 };
 
 /// A push button. Space and Enter press it.
@@ -47,14 +47,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    enum class Look { normal, hover, pressed, disabled };
+    enum class State { normal, hover, pressed, disabled };
 
-    static SBButtonLook lookOf(SBButtonKind kind, Look look);
-    Look wantedLook() const;
-    void fadeToWantedLook();
+    static SBButtonColors colorsOf(SBButtonKind kind, State state);
+    State wantedState() const;
+    void fadeToState();
 
     SBButtonStyle style_;
-    SBButtonLook from_, shown_, target_;
+    SBButtonColors from_, shown_, target_;
     Transition fade_;
     bool pale_ = false;
 };

@@ -56,8 +56,8 @@ ScrollArea::ScrollArea(QWidget* parent) : QScrollArea(parent) {
     viewport()->setAutoFillBackground(false);
 }
 
-void ScrollArea::letKeysScroll() {
-    FocusRing::setLook(this, {Measure::badgeRadius});
+void ScrollArea::enableKeyboardScrolling() {
+    FocusRing::setRingStyle(this, {Measure::badgeRadius});
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
             [this](int, int end) { setFocusPolicy(end > 0 ? Qt::TabFocus : Qt::NoFocus); });
 }

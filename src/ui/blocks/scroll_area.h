@@ -16,7 +16,7 @@ public:
     /// Height over which the end fades into the page while more follows, pixels; 0 for none.
     void setFade(int pixels);
     /// While there is more than fits, the tab key stops here and the arrows scroll.
-    void letKeysScroll();
+    void enableKeyboardScrolling();
 
 private:
     class Fade;

@@ -19,7 +19,7 @@ Slider::Slider(const QString& name, int lower, int upper, QWidget* parent) : QSl
     setPageStep(5);
     setFixedHeight(Measure::sliderThumb + 2);
     setFocusPolicy(Qt::StrongFocus);
-    FocusRing::setLook(this, {.radius = Measure::buttonRadius});
+    FocusRing::setRingStyle(this, {.radius = Measure::buttonRadius});
     connect(this, &QSlider::valueChanged, this, &Slider::moved);
 }
 

@@ -15,28 +15,29 @@ constexpr double pulseFrom = 8, pulseTo = 20; // diameters
 
 } // namespace
 
-void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look) {
-    const QColor halo = look.dark ? SB::faded(look.color, darkHalo) : SB::dotBg;
-    if (look.pulse >= 0) {
-        const double grown = QEasingCurve(QEasingCurve::OutCubic).valueForProgress(look.pulse);
-        fillDisc(painter, center, pulseFrom + (pulseTo - pulseFrom) * grown, SB::faded(halo, 1 - look.pulse));
-    } else if (look.halo) {
+void paintStatusDot(QPainter& painter, QPointF center, const DotStyle& style) {
+    const QColor halo = style.dark ? SB::faded(style.color, darkHalo) : SB::dotBg;
+    if (style.pulse >= 0) {
+        const double grown = QEasingCurve(QEasingCurve::OutCubic).valueForProgress(style.pulse);
+        fillDisc(painter, center, pulseFrom + (pulseTo - pulseFrom) * grown,
+                 SB::faded(halo, 1 - style.pulse));
+    } else if (style.halo) {
         fillDisc(painter, center, Measure::statusHalo, halo);
     }
-    fillDisc(painter, center, look.diameter, look.color);
+    fillDisc(painter, center, style.diameter, style.color);
 }
 
-StatusDot::StatusDot(const DotLook& look, QWidget* parent)
-    : QWidget(parent), look_(look), frames_(Motion::frame) {
-    const int side = static_cast<int>(look.halo ? pulseTo : look.diameter);
+StatusDot::StatusDot(const DotStyle& style, QWidget* parent)
+    : QWidget(parent), style_(style), frames_(Motion::frame) {
+    const int side = static_cast<int>(style.halo ? pulseTo : style.diameter);
     setFixedSize(side, side);
     connect(&frames_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
 }
 
-void StatusDot::setLook(const DotLook& look) {
-    if (look == look_)
+void StatusDot::setDotStyle(const DotStyle& style) {
+    if (style == style_)
         return;
-    look_ = look;
+    style_ = style;
     update();
 }
 
@@ -64,10 +65,10 @@ void StatusDot::hideEvent(QHideEvent*) {
 
 void StatusDot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    DotLook look = look_;
+    DotStyle style = style_;
     if (frames_.isActive())
-        look.pulse = Motion::pulseAt(Motion::seconds());
-    paintStatusDot(painter, QRectF(rect()).center(), look);
+        style.pulse = Motion::pulseAt(Motion::seconds());
+    paintStatusDot(painter, QRectF(rect()).center(), style);
 }
 
 } // namespace velmora

@@ -9,26 +9,26 @@
 namespace velmora {
 
 /// How a dot looks: plain for a steady fact, with a halo for something live.
-struct DotLook {
+struct DotStyle {
     QColor color;
     bool halo = false;
     bool dark = false; ///< on a navy surface
     double pulse = -1; ///< 0 to 1 through the pulse; negative: still
     double diameter = Measure::statusDot;
 
-    bool operator==(const DotLook&) const = default;
+    bool operator==(const DotStyle&) const = default;
 };
 
-void paintStatusDot(QPainter& painter, QPointF center, const DotLook& look);
+void paintStatusDot(QPainter& painter, QPointF center, const DotStyle& style);
 
 /// A dot whose halo pulses while a mission is under way.
 class StatusDot : public QWidget {
     Q_OBJECT
 
 public:
-    StatusDot(const DotLook& look, QWidget* parent);
+    StatusDot(const DotStyle& style, QWidget* parent);
 
-    void setLook(const DotLook& look);
+    void setDotStyle(const DotStyle& style);
     void setPulsing(bool pulsing);
 
 protected:
@@ -39,7 +39,7 @@ protected:
 private:
     void runOrRest();
 
-    DotLook look_;
+    DotStyle style_;
     bool pulsing_ = false;
     bool onScreen_ = false; ///< false also while the window is minimised
     UiTimer frames_;

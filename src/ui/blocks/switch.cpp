@@ -1,6 +1,6 @@
 #include "ui/blocks/switch.h"
 
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
@@ -17,8 +17,8 @@ Switch::Switch(const QString& name, QWidget* parent)
     setAccessibleName(name);
     setFixedSize(Measure::switchSize);
     setFocusPolicy(Qt::StrongFocus);
-    letEnterPress(this);
-    FocusRing::setLook(this, {Measure::switchSize.height() / 2.0});
+    clickOnEnter(this);
+    FocusRing::setRingStyle(this, {Measure::switchSize.height() / 2.0});
     connect(&position_, &Transition::changed, this, qOverload<>(&QWidget::update));
     connect(this, &QAbstractButton::toggled, this, &Switch::slide);
     connect(this, &QAbstractButton::toggled, this, &Switch::turned);

@@ -21,7 +21,7 @@ TextField::TextField(const QString& name, const QString& placeholder, QWidget* p
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::transparent);
     setPalette(colors);
-    FocusRing::setLook(this, {.radius = Measure::thumbnailRadius, .field = true});
+    FocusRing::setRingStyle(this, {.radius = Measure::thumbnailRadius, .field = true});
 }
 
 void TextField::setText(const QString& text) {

@@ -1,7 +1,7 @@
 #include "ui/screens/log_list.h"
 
 #include "ui/blocks/accessibility.h"
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
@@ -40,14 +40,14 @@ QColor colorOf(Notice::Level level) {
 /// it.
 class LogRow : public QAbstractButton {
 public:
-    LogRow(LogList::Rows kind, QWidget* parent)
+    LogRow(LogList::Interaction interaction, QWidget* parent)
         : QAbstractButton(parent), text_(new Text({}, Type::log, SB::body, this)) {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         text_->setMaximumLines(mostLines);
-        if (kind == LogList::Rows::pressed)
-            bePressed();
+        if (interaction == LogList::Interaction::clickable)
+            makeClickable();
         else
-            beTold();
+            makeReadOnly();
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(Measure::logTextX, 0, 0, 0);
         column->addWidget(text_);
@@ -78,13 +78,13 @@ protected:
     void leaveEvent(QEvent*) override { text_->setColor(SB::body); }
 
 private:
-    void bePressed() {
+    void makeClickable() {
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
-        letEnterPress(this);
-        FocusRing::setLook(this, {Measure::badgeRadius});
+        clickOnEnter(this);
+        FocusRing::setRingStyle(this, {Measure::badgeRadius});
     }
-    void beTold() {
+    void makeReadOnly() {
         setFocusPolicy(Qt::NoFocus);
         declareRole(this, QAccessible::Grouping);
     }
@@ -94,7 +94,8 @@ private:
     QColor color_;
 };
 
-LogList::LogList(Rows rows, QWidget* parent) : QWidget(parent), kind_(rows), column_(new QVBoxLayout(this)) {
+LogList::LogList(Interaction interaction, QWidget* parent)
+    : QWidget(parent), interaction_(interaction), column_(new QVBoxLayout(this)) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(Measure::gap8);
 }
@@ -117,7 +118,7 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
 
 void LogList::addRow() {
     const std::size_t index = rows_.size();
-    auto* row = new LogRow(kind_, this);
+    auto* row = new LogRow(interaction_, this);
     connect(row, &QAbstractButton::clicked, this, [this, index] { emit activated(notices_[index]); });
     rows_.push_back(row);
     column_->insertWidget(static_cast<int>(index), row);

@@ -17,9 +17,9 @@ class LogList : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Rows { told, pressed };
+    enum class Interaction { readOnly, clickable };
 
-    LogList(Rows rows, QWidget* parent);
+    LogList(Interaction interaction, QWidget* parent);
 
     void setNotices(const std::vector<Notice>& notices);
 
@@ -30,7 +30,7 @@ signals:
 private:
     void addRow();
 
-    Rows kind_;
+    Interaction interaction_;
     QVBoxLayout* column_;
     std::vector<LogRow*> rows_;
     std::vector<Notice> notices_;

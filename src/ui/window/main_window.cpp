@@ -44,7 +44,7 @@ MainWindow::MainWindow(AppStore& store)
     setMinimumSize(Measure::windowMinimum);
     resize(Measure::windowDefault.boundedTo(screen()->availableSize()));
     buildSections();
-    layOut();
+    buildLayout();
 
     approval_ = new ApprovalOverlay(store_, *guard_, this);
     landing_ = new LandConfirmation(store_, this);
@@ -67,7 +67,7 @@ MainWindow::MainWindow(AppStore& store)
             [this](Command command) { guard_->answer(command, guard_->admit()); });
     connect(clearing_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
-        history_->takeFocus();
+        history_->focusRecords();
     });
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
@@ -110,17 +110,17 @@ void MainWindow::buildSections() {
         stack_->addSection(screen);
 }
 
-void MainWindow::layOut() {
+void MainWindow::buildLayout() {
     strip_ = new TitleStrip(menus_, this);
-    house_ = new QWidget(this);
-    auto* row = bareLayout<QHBoxLayout>(house_);
-    row->addWidget(new Sidebar(store_, house_));
+    content_ = new QWidget(this);
+    auto* row = bareLayout<QHBoxLayout>(content_);
+    row->addWidget(new Sidebar(store_, content_));
     row->addWidget(stack_, 1);
     welcome_ = new WelcomeView(store_, this);
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
     column->addWidget(strip_);
-    column->addWidget(house_, 1);
+    column->addWidget(content_, 1);
     column->addWidget(welcome_, 1);
     layers_ = bareLayout<QGridLayout>(this);
     layers_->addLayout(column, 0, 0);
@@ -140,7 +140,7 @@ void MainWindow::addShortcuts() {
         add(QKeySequence(Qt::CTRL | Qt::Key(key++)), [this, shown = section] { store_.setSection(shown); });
     add(QKeySequence::Find, [this] {
         if (history_->isVisible())
-            history_->takeSearch();
+            history_->focusSearch();
     });
     connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, [this] {
         if (!isCovered())
@@ -198,7 +198,7 @@ void MainWindow::showWelcome() {
     const bool welcome = store_.showWelcome();
     setFocus();
     welcome_->setVisible(welcome);
-    house_->setVisible(!welcome);
+    content_->setVisible(!welcome);
     strip_->setOverSidebar(!welcome);
 }
 

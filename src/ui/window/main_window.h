@@ -36,7 +36,7 @@ protected:
 
 private:
     void buildSections();
-    void layOut();
+    void buildLayout();
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
     void addToast();
@@ -52,7 +52,7 @@ private:
     CommandMenus* menus_;
     QGridLayout* layers_; ///< content, cards, resize bands and toast, one above the other
     TitleStrip* strip_;
-    QWidget* house_; ///< sidebar and section
+    QWidget* content_; ///< sidebar and section
     WelcomeView* welcome_;
     SectionStack* stack_;
     std::map<Section, QWidget*> sections_;

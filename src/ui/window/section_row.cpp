@@ -1,6 +1,6 @@
 #include "ui/window/section_row.h"
 
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/look/measures.h"
@@ -18,8 +18,8 @@ SectionRow::SectionRow(Icon icon, const QString& title, QWidget* parent)
     setAutoExclusive(true);
     setFixedHeight(Measure::sectionRow);
     setFocusPolicy(Qt::TabFocus);
-    letEnterPress(this);
-    FocusRing::setLook(this, {Measure::buttonRadius});
+    clickOnEnter(this);
+    FocusRing::setRingStyle(this, {Measure::buttonRadius});
 }
 
 void SectionRow::setMark(std::optional<SectionMark> mark) {

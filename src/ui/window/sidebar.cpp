@@ -22,7 +22,7 @@ Sidebar::Sidebar(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
     column->addSpacing(Measure::gap20 - Measure::gap4);
     addSections();
     column->addStretch(1);
-    column->addLayout(foot());
+    column->addLayout(buildFooter());
 
     connect(&store_, &AppStore::sectionChanged, this, &Sidebar::showSection);
     connect(&store_, &AppStore::stateChanged, this, &Sidebar::showFlight);
@@ -31,7 +31,7 @@ Sidebar::Sidebar(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
     showFlight();
 }
 
-QVBoxLayout* Sidebar::foot() {
+QVBoxLayout* Sidebar::buildFooter() {
     auto* column = new QVBoxLayout;
     column->setContentsMargins(Measure::sectionPadding, 0, Measure::sectionPadding, 0);
     column->setSpacing(0);

@@ -26,7 +26,7 @@ protected:
 
 private:
     void addSections();
-    QVBoxLayout* foot();
+    QVBoxLayout* buildFooter();
     void showSection();
     void showFlight();
 

@@ -101,7 +101,7 @@ LinkBadge::LinkBadge(AppStore& store, QWidget* parent)
 void LinkBadge::refresh() {
     text_->setText(store_.linkStatus().text());
     demo_->setVisible(store_.linkStatus().kind == LinkStatus::Case::demo);
-    dot_->setLook({.color = linkColor(store_.linkStatus())});
+    dot_->setDotStyle({.color = linkColor(store_.linkStatus())});
 }
 
 } // namespace velmora

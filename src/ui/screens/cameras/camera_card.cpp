@@ -78,7 +78,7 @@ void CameraCard::refresh(const CameraInfo& cam) {
     picture_->setName(toQString(cam.snapshot));
     picture_->setFaint(!cam.online);
     name_->setText(toQString(cam.name));
-    dot_->setLook(
+    dot_->setDotStyle(
         {.color = cam.online ? SB::dot : SB::alert, .halo = cam.online, .diameter = Measure::cameraDot});
     online_->setText(cam.online ? tr("Online") : tr("Offline"));
     const auto raised = std::ranges::count(store_.history(), cam.id,

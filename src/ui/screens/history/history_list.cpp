@@ -36,7 +36,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     nothing_ = buildNothing();
     noMatch_ = buildNoMatch();
     auto* records = buildRecords();
-    foot_ = buildFoot();
+    footer_ = buildFooter();
     auto* above = new QVBoxLayout; // the records reach a little further to both sides
     above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
     above->setSpacing(0);
@@ -53,7 +53,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addWidget(noMatch_);
     column->addWidget(records, 1);
     column->addStretch();
-    column->addWidget(foot_);
+    column->addWidget(footer_);
     connect(model_, &QAbstractItemModel::modelReset, this, [this] {
         showCount();
         showSelection();
@@ -114,7 +114,7 @@ QWidget* HistoryList::buildRecords() {
     records_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     records_->installEventFilter(this);
-    FocusRing::setLook(records_, {Measure::buttonRadius});
+    FocusRing::setRingStyle(records_, {Measure::buttonRadius});
     auto* onRecords = new QHBoxLayout(records_);
     onRecords->setContentsMargins(0, 0, Measure::scrollBarEdge, 0);
     onRecords->addWidget(new OverlayScrollBar(records_->verticalScrollBar(), records_), 0, Qt::AlignRight);
@@ -150,7 +150,7 @@ QWidget* HistoryList::buildNoMatch() {
     return block;
 }
 
-QWidget* HistoryList::buildFoot() {
+QWidget* HistoryList::buildFooter() {
     auto* foot = new QWidget(this);
     clearDemo_ = new SBButton(tr("Clear demo history"), {.kind = SBButtonKind::quiet}, foot);
     undoLine_ = new QWidget(foot);
@@ -223,7 +223,7 @@ void HistoryList::refresh() {
     const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
     clearDemo_->setVisible(demo && !deleted_);
     undoLine_->setVisible(deleted_.has_value());
-    foot_->setVisible(demo || deleted_);
+    footer_->setVisible(demo || deleted_);
 }
 
 void HistoryList::showSelection() {
@@ -242,11 +242,11 @@ void HistoryList::scrollTo(const QModelIndex& index) {
     records_->scrollTo(index);
 }
 
-void HistoryList::takeSearch() {
+void HistoryList::focusSearch() {
     search_->setFocus(Qt::ShortcutFocusReason);
 }
 
-void HistoryList::takeFocus() {
+void HistoryList::focusRecords() {
     records_->setFocus(Qt::OtherFocusReason);
 }
 

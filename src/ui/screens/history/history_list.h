@@ -30,9 +30,9 @@ public:
     /// Marks the record that the store has selected.
     void showSelection();
     /// Gives the search field the keyboard.
-    void takeSearch();
+    void focusSearch();
     /// Gives the records the keyboard.
-    void takeFocus();
+    void focusRecords();
     /// Keeps a deleted record for a while, so that it can be put back.
     void offerUndo(HistoryEntry entry);
 
@@ -53,7 +53,7 @@ private:
     QWidget* buildRecords();
     QWidget* buildNothing();
     QWidget* buildNoMatch();
-    QWidget* buildFoot();
+    QWidget* buildFooter();
     void applyFilter();
     void clearFilters();
     void showFilters();
@@ -73,7 +73,7 @@ private:
     QWidget* nothing_;
     QWidget* noMatch_;
     QListView* records_;
-    QWidget* foot_;
+    QWidget* footer_;
     SBButton* clearDemo_;
     QWidget* undoLine_;
     UiTimer undoTime_{std::chrono::seconds(10), UiTimer::Mode::singleShot};

@@ -54,7 +54,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     row->addWidget(empty_, 1);
     connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
-    connect(list_, &HistoryList::opened, detail_, &RecordDetail::takeFocus);
+    connect(list_, &HistoryList::opened, detail_, &RecordDetail::focusReplay);
     connect(list_, &HistoryList::clearDemoRequested, this, &HistoryView::clearDemoRequested);
     connect(detail_, &RecordDetail::exportRequested, this, &HistoryView::offerExports);
     connect(detail_, &RecordDetail::deleteRequested, this, [this] {
@@ -67,12 +67,12 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&everyMinute_, &UiTimer::timeout, list_, &HistoryList::refresh);
 }
 
-void HistoryView::takeFocus() {
-    list_->takeFocus();
+void HistoryView::focusRecords() {
+    list_->focusRecords();
 }
 
-void HistoryView::takeSearch() {
-    list_->takeSearch();
+void HistoryView::focusSearch() {
+    list_->focusSearch();
 }
 
 QWidget* HistoryView::buildEmpty() {
@@ -188,7 +188,7 @@ void HistoryView::resizeEvent(QResizeEvent*) {
 void HistoryView::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
     everyMinute_.start();
-    list_->takeFocus();
+    list_->focusRecords();
 }
 
 void HistoryView::hideEvent(QHideEvent*) {

@@ -19,9 +19,9 @@ public:
     HistoryView(AppStore& store, QWidget* parent);
 
     /// Gives the search field the keyboard.
-    void takeSearch();
+    void focusSearch();
     /// Gives the records the keyboard.
-    void takeFocus();
+    void focusRecords();
 
 signals:
     /// "Clear demo history" was pressed; nothing goes before the owner confirms.

@@ -109,8 +109,8 @@ void RecordDetail::showMoment() {
                     store_.settings());
 }
 
-void RecordDetail::takeFocus() {
-    bar_->takeFocus();
+void RecordDetail::focusReplay() {
+    bar_->focusSlider();
 }
 
 void RecordDetail::pause() {

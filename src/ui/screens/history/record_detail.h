@@ -28,7 +28,7 @@ public:
     /// Never null.
     const std::shared_ptr<const MissionRecord>& record() const { return record_; }
     /// Gives the replay the keyboard.
-    void takeFocus();
+    void focusReplay();
     void pause();
     /// The map with its replay as it stands, at twice its size.
     QPixmap mapPicture() const;

@@ -63,7 +63,7 @@ Text* addSection(QVBoxLayout* column, const QString& heading, QWidget* parent) {
 RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
     auto* words = new QVBoxLayout;
     words->setSpacing(0);
-    log_ = new LogList(LogList::Rows::pressed, this);
+    log_ = new LogList(LogList::Interaction::clickable, this);
     words->addWidget(new Text(tr("What happened"), Type::groupHeading, SB::ink, this));
     words->addSpacing(Measure::gap8);
     words->addWidget(log_);

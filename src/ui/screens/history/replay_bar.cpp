@@ -53,7 +53,7 @@ void ReplayBar::setRecord(const MissionRecord& record) {
     player_.load(durationOf(record));
 }
 
-void ReplayBar::takeFocus() {
+void ReplayBar::focusSlider() {
     slider_->setFocus(Qt::TabFocusReason);
 }
 

@@ -22,7 +22,7 @@ public:
 
     void setRecord(const MissionRecord& record);
     /// Gives the slider the keyboard.
-    void takeFocus();
+    void focusSlider();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

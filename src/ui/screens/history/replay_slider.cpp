@@ -21,7 +21,7 @@ ReplaySlider::ReplaySlider(QWidget* parent) : QAbstractSlider(parent) {
     setAccessibleName(tr("Replay time"));
     setSingleStep(1);
     setPageStep(10);
-    FocusRing::setLook(this, {Measure::buttonRadius});
+    FocusRing::setRingStyle(this, {Measure::buttonRadius});
     connect(this, &QAbstractSlider::valueChanged, this,
             [this](int steps) { emit moved(std::min(steps * pathInterval, length_)); });
 }

@@ -55,7 +55,7 @@ QWidget* LiveRail::buildLog() {
     auto* content = new QWidget(area);
     nothingLogged_ = new Text(tr("Nothing logged yet. Notices from the next flight appear here."),
                               Type::label2, SB::muted, content);
-    log_ = new LogList(LogList::Rows::told, content);
+    log_ = new LogList(LogList::Interaction::readOnly, content);
     auto* entries = new QVBoxLayout(content);
     entries->setContentsMargins(0, 0, 0, 0);
     entries->addWidget(nothingLogged_);
@@ -64,7 +64,7 @@ QWidget* LiveRail::buildLog() {
     area->setWidget(content);
     area->setFade(Measure::logFade);
     area->setAccessibleName(tr("Flight log"));
-    area->letKeysScroll();
+    area->enableKeyboardScrolling();
     area->setMinimumHeight(static_cast<int>(Type::log.line));
 
     auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);

@@ -1,6 +1,6 @@
 #include "ui/screens/overview/activity_list.h"
 
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
@@ -28,8 +28,8 @@ public:
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
         setAttribute(Qt::WA_Hover);
-        letEnterPress(this);
-        FocusRing::setLook(this, {Measure::badgeRadius});
+        clickOnEnter(this);
+        FocusRing::setRingStyle(this, {Measure::badgeRadius});
     }
 
     RecordKey key() const { return key_; }

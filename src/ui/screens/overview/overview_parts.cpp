@@ -40,7 +40,7 @@ ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
 void ArmSwitch::refresh() {
     const LiveState* state = store_.knownState();
     const bool armed = state && state->armed;
-    dot_->setLook({.color = armed ? SB::dot : SB::rule, .halo = armed});
+    dot_->setDotStyle({.color = armed ? SB::dot : SB::rule, .halo = armed});
     word_->setText(!state ? tr("Not known yet") : armed ? tr("Armed") : tr("Disarmed"));
     disarm_->setVisible(armed);
     arm_->setVisible(!armed);

@@ -124,7 +124,7 @@ void ConnectionForm::refresh() {
     host_->setText(toQString(settings.host));
     if (!port_->hasFocus())
         showPort();
-    dot_->setLook({.color = linkColor(store_.linkStatus()), .diameter = Measure::statusDotInRow});
+    dot_->setDotStyle({.color = linkColor(store_.linkStatus()), .diameter = Measure::statusDotInRow});
     status_->setText(store_.linkStatus().text());
 }
 

@@ -1,4 +1,4 @@
-#include "ui/blocks/enter_presses.h"
+#include "ui/blocks/click_on_enter.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>
@@ -7,7 +7,7 @@ namespace velmora {
 
 namespace {
 
-class EnterPresses : public QObject {
+class ClickOnEnter : public QObject {
 public:
     using QObject::QObject;
 
@@ -25,8 +25,8 @@ protected:
 
 } // namespace
 
-void letEnterPress(QAbstractButton* button) {
-    button->installEventFilter(new EnterPresses(button));
+void clickOnEnter(QAbstractButton* button) {
+    button->installEventFilter(new ClickOnEnter(button));
 }
 
 } // namespace velmora

@@ -5,6 +5,6 @@ class QAbstractButton;
 namespace velmora {
 
 /// Lets Enter press a button as Space does.
-void letEnterPress(QAbstractButton* button);
+void clickOnEnter(QAbstractButton* button);
 
 } // namespace velmora
