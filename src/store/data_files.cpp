@@ -19,7 +19,7 @@ constexpr auto ownerDirectory = ownerFile | QFileDevice::ExeOwner;
 
 } // namespace
 
-DataFiles::DataFiles(QDir directory) : directory_(std::move(directory)) {}
+DataFiles::DataFiles(const QDir& directory) : directory_(directory) {}
 
 QDir DataFiles::defaultDirectory() {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

@@ -13,7 +13,7 @@ namespace velmora {
 class DataFiles {
 public:
     /// Each write creates the directory (mode 0700) and its parents if they are missing.
-    explicit DataFiles(QDir directory);
+    explicit DataFiles(const QDir& directory);
 
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();

@@ -11,8 +11,8 @@ namespace velmora {
 /// The user interface's clock while it exists, moved by the test alone. Events happen when they are sent.
 class ManualClock final : public UiClock {
 public:
-    ManualClock() { install(this); }
-    ~ManualClock() override { install(nullptr); }
+    ManualClock() : before_(install(*this)) {}
+    ~ManualClock() override { install(before_); }
 
     std::chrono::milliseconds now() const override { return now_; }
     std::uint64_t stampOf(const QInputEvent&) const override {
@@ -44,6 +44,7 @@ private:
     }
 
     using milliseconds = std::chrono::milliseconds;
+    UiClock& before_;
     milliseconds now_ = std::chrono::hours(24);
     std::map<UiTimer*, milliseconds> due_; ///< of the running timers
 };

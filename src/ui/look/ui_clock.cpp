@@ -13,17 +13,20 @@ namespace {
 /// Shorter timers are precise; Qt fires coarse ones up to 5 % early or late.
 constexpr std::chrono::milliseconds shortestCoarse{1000};
 
-UiClock* installed = nullptr;
+UiClock*& currentClock() {
+    static UiClock system;
+    static UiClock* clock = &system;
+    return clock;
+}
 
 } // namespace
 
 UiClock& UiClock::current() {
-    static UiClock systemClock;
-    return installed ? *installed : systemClock;
+    return *currentClock();
 }
 
-void UiClock::install(UiClock* clock) {
-    installed = clock;
+UiClock& UiClock::install(UiClock& clock) {
+    return *std::exchange(currentClock(), &clock);
 }
 
 std::chrono::milliseconds UiClock::now() const {

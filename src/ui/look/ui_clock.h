@@ -21,10 +21,10 @@ public:
     UiClock(const UiClock&) = delete;
     UiClock& operator=(const UiClock&) = delete;
 
-    /// The installed clock; the system's clock if none is.
+    /// The system's clock, unless another one is installed.
     static UiClock& current();
-    /// Makes this the current clock; null restores the system's.
-    static void install(UiClock* clock);
+    /// Makes this the current clock. Returns the one that was.
+    static UiClock& install(UiClock& clock);
 
     /// Time since boot, including suspend.
     virtual std::chrono::milliseconds now() const;

@@ -150,7 +150,7 @@ QString dayAndTime(Date date, Date now) {
     constexpr qint64 daysInWeek = 7;
     const QDateTime then = localTime(date);
     const qint64 days = then.date().daysTo(localTime(now).date());
-    const QString time = then.toString(QStringLiteral("HH:mm"));
+    QString time = then.toString(QStringLiteral("HH:mm"));
     if (days == 0)
         return time;
     if (days == 1)

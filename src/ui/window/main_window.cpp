@@ -45,7 +45,29 @@ MainWindow::MainWindow(AppStore& store)
     resize(Measure::windowDefault.boundedTo(screen()->availableSize()));
     buildSections();
     buildLayout();
+    buildCards();
+    new FocusRing(this);
+    bands_ = new ResizeBands(this);
+    layers_->addLayout(bands_, 0, 0);
+    addToast();
+    addShortcuts();
+    connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
+    connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
+    connect(menus_, &CommandMenus::answered, this,
+            [this](Command command) { guard_->answer(command, guard_->admit()); });
+    connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
+    connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
+    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
+        toast_->setMessage(failureText(command, reason));
+    });
+    connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
+    approval_->followPhase();
+    showSection();
+    showWelcome();
+    showCover();
+}
 
+void MainWindow::buildCards() {
     approval_ = new ApprovalOverlay(store_, *guard_, this);
     landing_ = new LandConfirmation(store_, this);
     clearing_ = new ConfirmationCard(
@@ -55,31 +77,11 @@ MainWindow::MainWindow(AppStore& store)
     for (OverlayCard* overlay :
          std::initializer_list<OverlayCard*>{approval_, landing_, clearing_, notSaved_, about_})
         addOverlay(overlay);
-    new FocusRing(this);
-    bands_ = new ResizeBands(this);
-    layers_->addLayout(bands_, 0, 0);
-    addToast();
-    addShortcuts();
-
-    connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
-    connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
-    connect(menus_, &CommandMenus::answered, this,
-            [this](Command command) { guard_->answer(command, guard_->admit()); });
     connect(clearing_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
         history_->focusRecords();
     });
-    connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
-    connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
-    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        toast_->setMessage(failureText(command, reason));
-    });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::makeWayForAlert);
-    connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
-    approval_->followPhase();
-    showSection();
-    showWelcome();
-    showCover();
 }
 
 /// Closes whatever would lie over the alert or take its first click: every menu and dialog of the program,

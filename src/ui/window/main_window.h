@@ -37,6 +37,7 @@ protected:
 private:
     void buildSections();
     void buildLayout();
+    void buildCards();
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
     void addToast();

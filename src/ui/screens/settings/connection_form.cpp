@@ -100,12 +100,12 @@ void ConnectionForm::storeHost(const QString& host) {
 }
 
 /// While a port is typed it passes through others; one that ends refused leaves the one from before.
-void ConnectionForm::storePort(const QString& text) {
-    const auto port = portFrom(text);
-    port_->setRefused(!port);
-    refusal_->setVisible(!port);
+void ConnectionForm::storePort(const QString& port) {
+    const auto valid = portFrom(port);
+    port_->setRefused(!valid);
+    refusal_->setVisible(!valid);
     Settings settings = store_.settings();
-    settings.port = port.value_or(portBefore_);
+    settings.port = valid.value_or(portBefore_);
     store_.setSettings(settings);
 }
 
