@@ -6,7 +6,8 @@ class QWidget;
 
 namespace velmora {
 
-/// Tells assistive technology what a widget is that paints itself. Its name is QWidget::accessibleName.
+/// Sets the role that assistive technology reports for a self-painted widget. The name it reads is
+/// QWidget::accessibleName.
 void declareRole(QWidget* widget, QAccessible::Role role);
 
 } // namespace velmora

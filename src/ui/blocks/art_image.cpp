@@ -59,7 +59,7 @@ void ArtImage::load() {
 void ArtImage::paintEvent(QPaintEvent*) {
     load();
     QPainter painter(this);
-    const double below = squareBottom_ ? radius_ : 0; // these corners fall outside the widget
+    const double below = squareBottom_ ? radius_ : 0; // moves the bottom corners outside the widget
     if (picture_.isNull()) {
         fillRounded(painter, QRectF(rect()).adjusted(0, 0, 0, below), radius_, SB::panel);
         paintIcon(painter, QRectF(rect()).center(), Measure::missingPictureIcon, Icon::cameras, SB::rule);

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// A named picture in round corners; a quiet panel with a camera where there is none.
+/// A named picture with rounded corners. Without such a picture it shows a plain panel with a camera icon.
 class ArtImage : public QWidget {
     Q_OBJECT
 
@@ -15,11 +15,11 @@ public:
     ArtImage(const QString& name, Mode mode, double radius, QWidget* parent);
 
     void setName(const QString& name);
-    /// Lets layouts derive the height from the width: width / height.
+    /// Sets width / height, so that layouts derive the height from the width.
     void setRatio(double ratio) { ratio_ = ratio; }
-    /// Round corners at the top only: something follows below without a gap.
+    /// Rounds only the top corners, for content that follows below without a gap.
     void setSquareBottom(bool square);
-    /// A faint picture on navy: the camera is offline.
+    /// Draws the picture faintly on navy, for an offline camera.
     void setFaint(bool faint);
 
     bool hasHeightForWidth() const override { return ratio_ > 0; }
@@ -34,10 +34,10 @@ private:
     QString name_;
     Mode mode_;
     double radius_;
-    double ratio_ = 0; ///< 0: any
+    double ratio_ = 0; ///< width / height; 0 for any
     bool squareBottom_ = false;
     bool faint_ = false;
-    QPixmap picture_;        ///< at the size and scale that it was last shown in
+    QPixmap picture_;        ///< scaled to the size in `loadedFor_`
     QSize loadedFor_{-1, 0}; ///< device pixels
 };
 

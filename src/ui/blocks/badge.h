@@ -7,10 +7,10 @@ class QPainter;
 
 namespace velmora {
 
-/// Draws a badge that ends at the right and is centred on y; returns its width.
+/// Draws a badge with its right edge at `right`, vertically centred on `y`. Returns its width in pixels.
 double paintBadge(QPainter& painter, double right, double y, const QString& text);
 
-/// A word in a frame.
+/// A short text in a frame.
 class Badge : public QWidget {
     Q_OBJECT
 

@@ -4,14 +4,14 @@
 
 namespace velmora {
 
-/// A caption with a dot on a dark plate, laid over a picture.
+/// A caption with a dot on a dark plate, for use on top of a picture.
 class Chip : public QWidget {
     Q_OBJECT
 
 public:
     explicit Chip(QWidget* parent);
 
-    /// The chip is as wide as its text.
+    /// Also resizes the chip to fit the text.
     void setText(const QString& text);
 
 protected:

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// One of several options, with its text beside it. Siblings exclude each other.
+/// A radio button with its text. Sibling radio buttons exclude each other.
 class RadioChoice : public QRadioButton {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ protected:
     bool hitButton(const QPoint& position) const override;
 };
 
-/// A row of options of which one is chosen. Left and right arrows move the choice.
+/// A row of options, exactly one of them chosen. The left and right arrow keys move the choice.
 class SegmentedChoice : public QWidget {
     Q_OBJECT
 
@@ -29,11 +29,11 @@ public:
     SegmentedChoice(const QString& name, const QStringList& options, bool wide, QWidget* parent);
 
     int currentIndex() const { return currentIndex_; }
-    /// Emits nothing.
+    /// Does not emit `activated`.
     void setCurrentIndex(int index);
 
 signals:
-    /// The owner chose, by mouse, key or an accessible action.
+    /// The owner chose an option by mouse, key or accessible action.
     void activated(int index);
 
 protected:

@@ -4,7 +4,7 @@ class QAbstractButton;
 
 namespace velmora {
 
-/// Lets Enter press a button as Space does.
+/// Makes Enter click the button, as Space does.
 void clickOnEnter(QAbstractButton* button);
 
 } // namespace velmora

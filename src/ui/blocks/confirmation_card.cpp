@@ -9,20 +9,20 @@
 
 namespace velmora {
 
-ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
+ConfirmationCard::ConfirmationCard(const Texts& texts, QWidget* window)
     : OverlayCard(Measure::confirmationCard, window),
-      body_(new Text(words.body, Type::confirmationBody, SB::body, card())),
-      keep_(new SBButton(words.keep, {.kind = SBButtonKind::secondary}, card())) {
-    setAccessibleName(words.title);
+      body_(new Text(texts.body, Type::confirmationBody, SB::body, card())),
+      keep_(new SBButton(texts.keep, {.kind = SBButtonKind::secondary}, card())) {
+    setAccessibleName(texts.title);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(Measure::gap12);
     buttons->addStretch(1);
     buttons->addWidget(keep_);
-    if (!words.act.isEmpty())
-        addAct(words.act, buttons);
+    if (!texts.confirm.isEmpty())
+        addConfirmButton(texts.confirm, buttons);
 
     column()->setContentsMargins(Measure::confirmationMargins);
-    column()->addWidget(new Text(words.title, Type::confirmationTitle, SB::ink, card()));
+    column()->addWidget(new Text(texts.title, Type::confirmationTitle, SB::ink, card()));
     column()->addSpacing(Measure::gap8);
     column()->addWidget(body_);
     column()->addSpacing(Measure::gap24);
@@ -32,10 +32,10 @@ ConfirmationCard::ConfirmationCard(const Words& words, QWidget* window)
     connect(this, &OverlayCard::dismissed, this, &OverlayCard::close);
 }
 
-void ConfirmationCard::addAct(const QString& text, QHBoxLayout* buttons) {
-    auto* act = new SBButton(text, {.kind = SBButtonKind::danger}, card());
-    buttons->addWidget(act);
-    connect(act, &SBButton::clicked, this, [this] {
+void ConfirmationCard::addConfirmButton(const QString& text, QHBoxLayout* buttons) {
+    auto* confirm = new SBButton(text, {.kind = SBButtonKind::danger}, card());
+    buttons->addWidget(confirm);
+    connect(confirm, &SBButton::clicked, this, [this] {
         if (!isOpen())
             return;
         close();
@@ -47,7 +47,7 @@ void ConfirmationCard::setBody(const QString& body) {
     body_->setText(body);
 }
 
-/// Its ring is shown whatever opened the card: what Enter would do must be plain to see.
+/// Shows the focus ring even if the mouse opened the card, so that the owner sees what Enter would do.
 void ConfirmationCard::focusFirst() {
     keep_->setFocus(Qt::TabFocusReason);
 }

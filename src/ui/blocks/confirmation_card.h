@@ -9,19 +9,19 @@ namespace velmora {
 class SBButton;
 class Text;
 
-/// Asks before something that cannot be taken back. Dismissing it changes nothing.
+/// Asks for confirmation of an action that cannot be undone. Dismissing the card changes nothing.
 class ConfirmationCard : public OverlayCard {
     Q_OBJECT
 
 public:
-    struct Words {
+    struct Texts {
         QString title;
         QString body;
-        QString keep; ///< the button that changes nothing
-        QString act;  ///< the button that does it; without one the card only tells
+        QString keep;    ///< the button that changes nothing
+        QString confirm; ///< the button that carries out the action; empty for a card that only informs
     };
 
-    ConfirmationCard(const Words& words, QWidget* window);
+    ConfirmationCard(const Texts& texts, QWidget* window);
 
     void setBody(const QString& body);
 
@@ -32,7 +32,7 @@ protected:
     void focusFirst() override;
 
 private:
-    void addAct(const QString& text, QHBoxLayout* buttons);
+    void addConfirmButton(const QString& text, QHBoxLayout* buttons);
 
     Text* body_;
     SBButton* keep_;

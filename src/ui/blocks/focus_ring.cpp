@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* styleProperty = "velmoraFocusLook";
+constexpr const char* styleProperty = "velmoraFocusStyle";
 constexpr double haloOpacity = 0.22;
 constexpr int outset = static_cast<int>(Measure::focusGap + Measure::focusRing);
 
@@ -48,42 +48,43 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     if (!widget || widget == this)
         return false;
     if (event->type() == QEvent::KeyPress)
-        jumps_ = false; // what the focus does now is the owner's doing
+        focusHidden_ = false; // the owner's key moves the focus from here on
     if (event->type() == QEvent::FocusIn && widget->window() == window()) {
         const auto style = ringStyleOf(widget);
-        if (style && (style->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !jumps_)))
-            follow(widget, *style);
+        if (style &&
+            (style->field || (isKeyboard(static_cast<QFocusEvent*>(event)->reason()) && !focusHidden_)))
+            attach(widget, *style);
         else
-            unfollow();
+            detach();
     } else if (event->type() == QEvent::FocusOut) {
-        jumps_ = !widget->isVisible();
+        focusHidden_ = !widget->isVisible();
         if (watched_.contains(widget))
-            unfollow();
+            detach();
     } else if (target_ && moves(event->type()) && watched_.contains(widget)) {
-        place();
+        updatePosition();
     }
     return false;
 }
 
-void FocusRing::follow(QWidget* widget, const RingStyle& style) {
+void FocusRing::attach(QWidget* widget, const RingStyle& style) {
     target_ = style.roundParent ? widget->parentWidget() : widget;
     style_ = style;
     for (QWidget* one = widget->parentWidget(); one; one = one->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(one))
-            area->ensureWidgetVisible(target_, 0, Measure::gap28); // clear of a fade at the end
+            area->ensureWidgetVisible(target_, 0, Measure::gap28); // keep clear of the fade at the bottom
     watched_.clear();
     for (QWidget* one = widget; one && one != window(); one = one->parentWidget())
         watched_.append(one);
-    place();
+    updatePosition();
 }
 
-void FocusRing::unfollow() {
+void FocusRing::detach() {
     target_ = nullptr;
     watched_.clear();
     hide();
 }
 
-void FocusRing::place() {
+void FocusRing::updatePosition() {
     if (!target_ || !target_->isVisible()) {
         hide();
         return;

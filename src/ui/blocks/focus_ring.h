@@ -7,8 +7,8 @@
 
 namespace velmora {
 
-/// The ring around what has the keyboard's focus in a window. It shows when the keyboard moved the focus, not
-/// when the mouse did, and lies above everything else in the window.
+/// The ring around the focused widget of a window, above everything else in it. It appears when the keyboard
+/// moves the focus, not when the mouse does.
 class FocusRing : public QWidget {
     Q_OBJECT
 
@@ -17,8 +17,8 @@ public:
     struct RingStyle {
         double radius = 0;
         bool dark = false;        ///< on a navy surface
-        bool field = false;       ///< a text field: a halo at its border, whatever moved the focus
-        bool roundParent = false; ///< one part of a control that is ringed as a whole
+        bool field = false;       ///< a text field: a halo at its border, also after a click
+        bool roundParent = false; ///< ring the parent, for one part of a larger control
     };
 
     /// A widget without a style gets no ring.
@@ -32,15 +32,15 @@ protected:
 
 private:
     static std::optional<RingStyle> ringStyleOf(const QWidget* widget);
-    void follow(QWidget* widget, const RingStyle& style);
-    void unfollow();
-    void place();
+    void attach(QWidget* widget, const RingStyle& style);
+    void detach();
+    void updatePosition();
 
     QPointer<QWidget> target_;
     RingStyle style_;
-    QList<QPointer<QWidget>> watched_; ///< the target and what it lies in: when they move, the ring does
-    bool jumps_ = false;               ///< what had the focus was hidden, so Qt moves it on
-    QRect clip_;                       ///< what scroll areas leave to be seen
+    QList<QPointer<QWidget>> watched_; ///< the focused widget and its ancestors; the ring moves with them
+    bool focusHidden_ = false;         ///< the focused widget was hidden, so Qt moves the focus to another
+    QRect clip_;                       ///< the part of the window that scroll areas leave visible
 };
 
 } // namespace velmora

@@ -9,7 +9,7 @@ namespace velmora {
 Fold::Fold(QWidget* block, int gap, std::chrono::milliseconds duration, QWidget* parent)
     : QWidget(parent), block_(block), gap_(gap), share_(*this, duration, QEasingCurve::OutCubic) {
     block_->setParent(this);
-    connect(&share_, &Transition::changed, this, &Fold::follow);
+    connect(&share_, &Transition::changed, this, &Fold::applyHeight);
     connect(&share_, &Transition::finished, this, [this] { setVisible(open_); });
     setFixedHeight(0);
     hide();
@@ -30,7 +30,7 @@ int Fold::fullHeight() const {
     return height + gap_;
 }
 
-void Fold::follow() {
+void Fold::applyHeight() {
     const int full = fullHeight();
     const int shown = static_cast<int>(std::lround(full * share_.value()));
     block_->setGeometry(0, shown - full, width(), full - gap_);
@@ -38,12 +38,12 @@ void Fold::follow() {
 }
 
 void Fold::resizeEvent(QResizeEvent*) {
-    follow();
+    applyHeight();
 }
 
 bool Fold::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest)
-        follow();
+        applyHeight();
     return QWidget::event(event);
 }
 

@@ -6,12 +6,12 @@
 
 namespace velmora {
 
-/// Opens and closes a block over its height, moving what lies below.
+/// Opens and closes a block by animating its height; the layout below moves with it.
 class Fold : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes the block over. `gap` is room below it while open, pixels.
+    /// Becomes the parent of `block`. `gap` is the space below it while open, in pixels.
     Fold(QWidget* block, int gap, std::chrono::milliseconds duration, QWidget* parent);
 
     void setOpen(bool open);
@@ -23,11 +23,11 @@ protected:
 
 private:
     int fullHeight() const;
-    void follow();
+    void applyHeight();
 
     QWidget* block_;
     int gap_;
-    Transition share_; ///< of the full height: 0 closed, 1 open
+    Transition share_; ///< visible share of the height: 0 closed, 1 open
     bool open_ = false;
 };
 

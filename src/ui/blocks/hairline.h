@@ -9,10 +9,10 @@ namespace velmora {
 class Hairline : public QWidget {
 public:
     enum class Tone {
-        first,
-        between,
-        dark
-    }; ///< the first line of a block, one between its rows, one on navy
+        first,   ///< above the first row of a block
+        between, ///< between two rows
+        dark     ///< on navy
+    };
 
     explicit Hairline(QWidget* parent, Tone tone = Tone::first);
 

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// Words with the space or line break that follows them, so that their widths add up to the text's.
+/// Splits after each space or line break, so that the widths of the words add up to the width of the text.
 QStringList wordsOf(const QString& text) {
     QStringList words;
     QString word;
@@ -67,8 +67,8 @@ int Headline::heightForWidth(int width) const {
     return static_cast<int>(lines * style_.line);
 }
 
-/// The words of all three runs. What no space parts stays together on a line, such as a full stop and its
-/// word.
+/// The words of all three runs. Words without a space between them stay on one line, such as a word and the
+/// full stop after it.
 std::vector<Headline::Piece> Headline::words() const {
     std::vector<Piece> all;
     for (const auto& [text, emphasised] :

@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-/// A sentence in three runs; the middle one carries the gradient. A line break in it is kept.
+/// A sentence in three runs; the middle one is drawn with the gradient. Line breaks are kept.
 struct Sentence {
     QString lead;
     QString emphasis;
@@ -17,7 +17,7 @@ struct Sentence {
     bool operator==(const Sentence&) const = default;
 };
 
-/// A headline, broken to its width.
+/// A headline, wrapped to the widget's width.
 class Headline : public QWidget {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// A stretch of one run that stands on one line.
+    /// A part of one run that fits on one line.
     struct Piece {
         QString text;
         bool emphasised = false;

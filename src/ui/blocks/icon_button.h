@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// A small square button that shows only an icon; its name is told by a tooltip.
+/// A small square button that shows only an icon. Its tooltip shows its name.
 class IconButton : public QAbstractButton {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// A layout of a widget, without margins; `spacing` in pixels.
+/// Creates a layout for the widget, which owns it, without margins. `spacing` is in pixels.
 template <class Layout>
 Layout* bareLayout(QWidget* parent, int spacing = 0) {
     auto* layout = new Layout(parent);
@@ -13,7 +13,7 @@ Layout* bareLayout(QWidget* parent, int spacing = 0) {
     return layout;
 }
 
-/// The items of a layout without margins of its own. A subclass says where they lie.
+/// Base of custom layouts: owns the items and has no margins. Subclasses position the items.
 class ItemLayout : public QLayout {
 public:
     ItemLayout() { setContentsMargins(0, 0, 0, 0); }

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// A link in running text: underlined under the pointer. Space and Enter follow it.
+/// A link in running text, underlined while the pointer is over it. Space and Enter click it.
 class LinkButton : public QAbstractButton {
     Q_OBJECT
 

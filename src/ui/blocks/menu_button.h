@@ -4,14 +4,14 @@
 
 namespace velmora {
 
-/// A choice from a menu: the chosen text with a chevron. Space, Enter and the down key open it.
+/// A drop-down choice: the chosen text and a chevron. Space, Enter and the down arrow open the menu.
 class MenuButton : public QAbstractButton {
     Q_OBJECT
 
 public:
     MenuButton(const QString& name, QWidget* parent);
 
-    /// The options and which of them is chosen; -1 for one that is none of them.
+    /// `chosen` is an index into `options`, or -1 if none of them is chosen.
     void setOptions(const QStringList& options, int chosen);
 
     QSize sizeHint() const override;

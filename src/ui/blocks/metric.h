@@ -19,9 +19,9 @@ public:
     Metric(const QString& label, Size size, bool dark, QWidget* parent);
 
     void setValue(const QString& value, const QString& unit);
-    /// Colours value and unit together.
+    /// Colours value and unit; nullopt restores the default colours.
     void setTint(const std::optional<QColor>& tint);
-    /// The value in the label's colour: it may be old.
+    /// Draws the value in the label's colour, for values that may be out of date.
     void setDimmed(bool dimmed);
 
     QSize sizeHint() const override;

@@ -16,9 +16,9 @@ namespace velmora {
 namespace {
 
 constexpr double veil = 0.55;
-constexpr double smallest = 0.98; // of the card's size when it begins to appear
+constexpr double initialScale = 0.98; // of the card when it starts to open
 
-/// One soft shadow: offset and blur in pixels, drawn as nested outlines that add up.
+/// Draws a soft shadow from nested translucent rectangles. `offset` and `blur` are in pixels.
 void paintShadow(QPainter& painter, const QRectF& card, double offset, double blur, double opacity) {
     constexpr int steps = 16;
     const QColor share = SB::faded(SB::navy, 1 - std::pow(1 - opacity, 1.0 / steps));
@@ -30,7 +30,7 @@ void paintShadow(QPainter& painter, const QRectF& card, double offset, double bl
     }
 }
 
-/// The card's surface; its children stay inside its round corners.
+/// The card's background with rounded corners.
 class Surface : public QWidget {
 public:
     explicit Surface(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::NoFocus); }
@@ -53,12 +53,12 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     setFocusPolicy(Qt::StrongFocus);
     card_->setFixedWidth(cardWidth);
     QSizePolicy policy = card_->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // for the shadow and the picture while the card moves
+    policy.setRetainSizeWhenHidden(true); // for the shadow and the picture during a transition
     card_->setSizePolicy(policy);
     auto* middle = bareLayout<QGridLayout>(this);
     middle->addWidget(card_, 0, 0, Qt::AlignCenter);
     connect(&appearance_, &Transition::changed, this, qOverload<>(&QWidget::update));
-    connect(&appearance_, &Transition::finished, this, &OverlayCard::settled);
+    connect(&appearance_, &Transition::finished, this, &OverlayCard::finishTransition);
     hide();
 }
 
@@ -69,7 +69,7 @@ void OverlayCard::open() {
     focusBefore_ = QApplication::focusWidget();
     picture_ = card_->grab();
     card_->hide();
-    raise(); // before the window, told by the show event, raises what belongs above every card
+    raise(); // before show(): on the show event the window raises the widgets that belong above all cards
     show();
     setFocus(Qt::OtherFocusReason);
     appearance_.setDuration(Motion::cardIn);
@@ -94,7 +94,7 @@ void OverlayCard::close() {
         focus->clearFocus();
 }
 
-void OverlayCard::settled() {
+void OverlayCard::finishTransition() {
     picture_ = {};
     if (!open_) {
         hide();
@@ -119,7 +119,7 @@ QList<QWidget*> OverlayCard::focusable() const {
     return found;
 }
 
-/// Round and round among the card's own controls, in their reading order.
+/// Cycles through the card's own controls in reading order.
 bool OverlayCard::focusNextPrevChild(bool next) {
     if (!open_)
         return QWidget::focusNextPrevChild(next);
@@ -142,7 +142,7 @@ void OverlayCard::paintEvent(QPaintEvent*) {
     painter.setOpacity(shown);
     if (moving) {
         const QPointF center = QRectF(card_->geometry()).center();
-        const double scale = smallest + (1 - smallest) * shown;
+        const double scale = initialScale + (1 - initialScale) * shown;
         painter.translate(center + QPointF(0, (1 - shown) * Measure::overlayRise));
         painter.scale(scale, scale);
         painter.translate(-center);

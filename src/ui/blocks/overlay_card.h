@@ -10,8 +10,8 @@ class QVBoxLayout;
 
 namespace velmora {
 
-/// A card over the whole window on a veil: nothing behind it can be pressed, and the keyboard's focus stays
-/// inside. The window's layout gives it its size.
+/// A modal card on a veil over the whole window: it blocks clicks on everything behind it and keeps the
+/// keyboard focus inside. The window's layout sets its size.
 class OverlayCard : public QWidget {
     Q_OBJECT
 
@@ -23,15 +23,15 @@ public:
     bool isOpen() const { return open_; }
 
 signals:
-    /// Escape was pressed.
+    /// The owner pressed Escape.
     void dismissed();
 
 protected:
-    /// The column that the card's content goes into.
+    /// Layout for the card's content.
     QVBoxLayout* column() const { return column_; }
     QWidget* card() const { return card_; }
-    /// What has the focus when the card opens: the card itself, so that no key can press a button by
-    /// accident.
+    /// Focuses a control when the card has opened. By default none: the card itself keeps the focus, so that
+    /// no key triggers a button by accident.
     virtual void focusFirst();
 
     void paintEvent(QPaintEvent* event) override;
@@ -39,13 +39,13 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void settled();
+    void finishTransition();
     QList<QWidget*> focusable() const;
 
     QWidget* card_;
     QVBoxLayout* column_;
-    Transition appearance_; ///< 0: away; 1: there
-    QPixmap picture_;       ///< the card while it moves
+    Transition appearance_; ///< 0 closed, 1 open
+    QPixmap picture_;       ///< of the card, drawn during the transition
     QPointer<QWidget> focusBefore_;
     bool open_ = false;
 };

@@ -13,17 +13,17 @@ namespace velmora {
 
 namespace {
 
-constexpr std::chrono::milliseconds shownFor{900}; // after the last movement
-constexpr double shortestThumb = 32;
+constexpr std::chrono::milliseconds visibleTime{900}; // after the last movement
+constexpr double minimumThumb = 32;
 
 } // namespace
 
 OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent)
-    : QWidget(parent), model_(model), rest_(shownFor, UiTimer::Mode::singleShot) {
+    : QWidget(parent), model_(model), visibleTimer_(visibleTime, UiTimer::Mode::singleShot) {
     setFixedWidth(Measure::scrollBar);
-    connect(&rest_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
+    connect(&visibleTimer_, &UiTimer::timeout, this, qOverload<>(&QWidget::update));
     connect(model, &QScrollBar::valueChanged, this, [this] {
-        rest_.start();
+        visibleTimer_.start();
         update();
     });
     connect(model, &QScrollBar::rangeChanged, this, [this] { setVisible(model_->maximum() > 0); });
@@ -31,8 +31,8 @@ OverlayScrollBar::OverlayScrollBar(QScrollBar* model, QWidget* parent)
 }
 
 QRectF OverlayScrollBar::thumb() const {
-    const double whole = model_->maximum() + model_->pageStep();
-    const double length = std::max(shortestThumb, height() * model_->pageStep() / whole);
+    const double total = model_->maximum() + model_->pageStep();
+    const double length = std::max(minimumThumb, height() * model_->pageStep() / total);
     const double top = (height() - length) * model_->value() / std::max(model_->maximum(), 1);
     return {0, top, static_cast<double>(Measure::scrollBar), length};
 }
@@ -43,7 +43,7 @@ void OverlayScrollBar::scrollTo(double top) {
 }
 
 void OverlayScrollBar::paintEvent(QPaintEvent*) {
-    if (!rest_.isActive() && !underMouse() && !held_)
+    if (!visibleTimer_.isActive() && !underMouse() && !dragging_)
         return;
     QPainter painter(this);
     fillRounded(painter, thumb(), Measure::scrollBar / 2.0, SB::rule);
@@ -58,20 +58,20 @@ void OverlayScrollBar::leaveEvent(QEvent*) {
 }
 
 void OverlayScrollBar::mousePressEvent(QMouseEvent* event) {
-    held_ = true;
+    dragging_ = true;
     const double y = event->position().y();
     if (y < thumb().top() || y > thumb().bottom())
         scrollTo(y - thumb().height() / 2);
-    grip_ = y - thumb().top();
+    dragOffset_ = y - thumb().top();
 }
 
 void OverlayScrollBar::mouseMoveEvent(QMouseEvent* event) {
-    if (held_)
-        scrollTo(event->position().y() - grip_);
+    if (dragging_)
+        scrollTo(event->position().y() - dragOffset_);
 }
 
 void OverlayScrollBar::mouseReleaseEvent(QMouseEvent*) {
-    held_ = false;
+    dragging_ = false;
     update();
 }
 

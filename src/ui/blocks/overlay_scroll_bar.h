@@ -8,12 +8,12 @@ class QScrollBar;
 
 namespace velmora {
 
-/// A slim bar over the right edge of what it scrolls, shown while it scrolls or the pointer is over it.
+/// A slim scroll bar over the right edge of the content, visible during scrolling and under the pointer.
 class OverlayScrollBar : public QWidget {
     Q_OBJECT
 
 public:
-    /// Moves the model, which itself may be hidden.
+    /// Drives `model`, which must outlive the bar and may be hidden.
     OverlayScrollBar(QScrollBar* model, QWidget* parent);
 
 protected:
@@ -29,9 +29,9 @@ private:
     void scrollTo(double top);
 
     QScrollBar* model_;
-    UiTimer rest_;
-    double grip_ = 0; ///< where the thumb is held, from its top
-    bool held_ = false;
+    UiTimer visibleTimer_;  ///< runs for a moment after each movement
+    double dragOffset_ = 0; ///< pixels from the thumb's top to the pointer
+    bool dragging_ = false;
 };
 
 } // namespace velmora

@@ -21,7 +21,7 @@ Page::Page(const Parts& parts, QWidget* parent)
     column->addWidget(parts.content, parts.fills ? 1 : 0);
     if (!parts.fills)
         column->addStretch(1);
-    const int width = parts.width > 0 ? parts.width : Measure::pageWidth; // the rest is room at the right
+    const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
     frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
     area_ = new ScrollArea(this);
     area_->setWidget(frame);
@@ -43,16 +43,16 @@ QWidget* Page::buildHeading(const Parts& parts) {
     }
     row->addLayout(words, 1);
     if (parts.trailing) {
-        auto* beside = new QVBoxLayout;
-        beside->addSpacing(Measure::gap12);
-        beside->addWidget(parts.trailing);
-        beside->addStretch(1);
-        row->addLayout(beside);
+        auto* right = new QVBoxLayout;
+        right->addSpacing(Measure::gap12);
+        right->addWidget(parts.trailing);
+        right->addStretch(1);
+        row->addLayout(right);
     }
     return heading;
 }
 
-void Page::showTop() {
+void Page::scrollToTop() {
     area_->verticalScrollBar()->setValue(0);
 }
 

@@ -9,20 +9,20 @@ namespace velmora {
 class ScrollArea;
 class Text;
 
-/// The frame of a section's screen: eyebrow, headline, optional lede, something beside the heading, then the
-/// content. It scrolls where the window is too low for it.
+/// The frame of a section's screen: eyebrow, headline, optional lede, an optional widget to the right of the
+/// heading, and the content. It scrolls if the window is too small.
 class Page : public QWidget {
     Q_OBJECT
 
 public:
-    /// What a page is made with; `trailing` may be null.
+    /// Parts of a page, which takes ownership of the widgets. `trailing` may be null.
     struct Parts {
         QString eyebrow;
         Sentence headline;
         std::optional<QString> lede = std::nullopt;
-        int ledeWidth = 0;  ///< at most, pixels; 0 for the usual
-        bool fills = false; ///< the content takes the whole height, where there is enough
-        int width = 0;      ///< of heading and content at most, pixels; 0 for the usual
+        int ledeWidth = 0;  ///< maximum in pixels; 0 for the default
+        bool fills = false; ///< the content takes all the height available
+        int width = 0;      ///< maximum for heading and content, in pixels; 0 for the default
         int contentGap = 0; ///< between heading and content, pixels
         QWidget* trailing = nullptr;
         QWidget* content = nullptr;
@@ -30,7 +30,7 @@ public:
 
     Page(const Parts& parts, QWidget* parent);
 
-    void showTop();
+    void scrollToTop();
     void setHeadline(const Sentence& headline);
     void setLede(const QString& lede);
 

@@ -11,7 +11,7 @@ namespace velmora {
 
 enum class SBButtonKind { primary, secondary, quiet, danger, onDark };
 
-/// The one button style.
+/// Appearance of an SBButton.
 struct SBButtonStyle {
     SBButtonKind kind = SBButtonKind::secondary;
     bool wide = false; ///< fills the column
@@ -19,7 +19,7 @@ struct SBButtonStyle {
     std::optional<Icon> icon = std::nullopt;
 };
 
-/// What a button is painted with.
+/// Colours of a button in one state.
 struct SBButtonColors {
     QColor fill;
     QColor border;
@@ -28,14 +28,14 @@ struct SBButtonColors {
     bool operator==(const SBButtonColors&) const = default;
 };
 
-/// A push button. Space and Enter press it.
+/// A push button. Space and Enter click it.
 class SBButton : public QAbstractButton {
     Q_OBJECT
 
 public:
     SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent);
 
-    /// A pale button looks as if it took no press.
+    /// Draws the button as if it were disabled; it can still be clicked.
     void setPale(bool pale);
 
     QSize sizeHint() const override;

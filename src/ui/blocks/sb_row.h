@@ -9,8 +9,8 @@ class SBRow : public QWidget {
     Q_OBJECT
 
 public:
-    /// `first` draws the hairline a little stronger. `lead` moves the label down so that its middle and that
-    /// of the content's first line agree, pixels.
+    /// `first` draws the hairline a little stronger. `lead` moves the label down, in pixels, to align it with
+    /// the first line of the content.
     SBRow(const QString& label, bool dark, QWidget* content, bool first, int lead, QWidget* parent);
 };
 

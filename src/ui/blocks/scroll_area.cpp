@@ -11,7 +11,7 @@
 
 namespace velmora {
 
-/// The end of the content, fading into the page.
+/// Fades the bottom of the content into the page.
 class ScrollArea::Fade : public QWidget {
 public:
     Fade(QScrollBar* model, QWidget* parent) : QWidget(parent) {

@@ -5,17 +5,17 @@
 
 namespace velmora {
 
-/// A vertical scroll area without a frame, whose slim bar lies over the content and shows while it scrolls or
-/// the pointer is over it. Content that goes on below can fade into the page.
+/// A frameless vertical scroll area with an OverlayScrollBar. Content that continues below can fade into the
+/// page.
 class ScrollArea : public QScrollArea {
     Q_OBJECT
 
 public:
     explicit ScrollArea(QWidget* parent);
 
-    /// Height over which the end fades into the page while more follows, pixels; 0 for none.
+    /// Height of the fade at the bottom while more content follows, in pixels; 0 for none.
     void setFade(int pixels);
-    /// While there is more than fits, the tab key stops here and the arrows scroll.
+    /// Makes the area focusable with Tab, and scrollable with the arrow keys, while its content does not fit.
     void enableKeyboardScrolling();
 
 private:

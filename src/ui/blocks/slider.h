@@ -4,19 +4,19 @@
 
 namespace velmora {
 
-/// A slider in steps of 1: arrows move one step, Page keys five. The wheel moves it only while it has the
-/// focus, so that scrolling a page never changes a value.
+/// A slider in steps of 1: arrow keys move it by one, page keys by five. The wheel moves it only while it has
+/// the focus, so that scrolling a page never changes a value.
 class Slider : public QSlider {
     Q_OBJECT
 
 public:
     Slider(const QString& name, int lower, int upper, QWidget* parent);
 
-    /// Cuts the value to the bounds and emits nothing.
+    /// Clamps the value to the bounds. Does not emit `moved`.
     void setValue(int value);
 
 signals:
-    /// The owner moved it, by mouse, key, wheel or an accessible action.
+    /// The owner moved it by mouse, key, wheel or accessible action.
     void moved(int value);
 
 protected:

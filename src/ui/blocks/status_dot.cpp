@@ -11,7 +11,7 @@ namespace velmora {
 namespace {
 
 constexpr double darkHalo = 0.22;
-constexpr double pulseFrom = 8, pulseTo = 20; // diameters
+constexpr double pulseFrom = 8, pulseTo = 20; // diameters in pixels
 
 } // namespace
 
@@ -45,22 +45,22 @@ void StatusDot::setPulsing(bool pulsing) {
     if (pulsing == pulsing_)
         return;
     pulsing_ = pulsing;
-    runOrRest();
+    updateAnimation();
 }
 
-void StatusDot::runOrRest() {
+void StatusDot::updateAnimation() {
     frames_.setActive(pulsing_ && onScreen_ && !Motion::reduced());
     update();
 }
 
 void StatusDot::showEvent(QShowEvent*) {
     onScreen_ = true;
-    runOrRest();
+    updateAnimation();
 }
 
 void StatusDot::hideEvent(QHideEvent*) {
     onScreen_ = false;
-    runOrRest();
+    updateAnimation();
 }
 
 void StatusDot::paintEvent(QPaintEvent*) {

@@ -8,20 +8,20 @@
 
 namespace velmora {
 
-/// How a dot looks: plain for a steady fact, with a halo for something live.
+/// Appearance of a dot. A halo marks something live.
 struct DotStyle {
     QColor color;
     bool halo = false;
-    bool dark = false; ///< on a navy surface
-    double pulse = -1; ///< 0 to 1 through the pulse; negative: still
-    double diameter = Measure::statusDot;
+    bool dark = false;                    ///< on a navy surface
+    double pulse = -1;                    ///< progress of the pulse, 0 to 1; negative for none
+    double diameter = Measure::statusDot; ///< pixels
 
     bool operator==(const DotStyle&) const = default;
 };
 
 void paintStatusDot(QPainter& painter, QPointF center, const DotStyle& style);
 
-/// A dot whose halo pulses while a mission is under way.
+/// A dot whose halo can pulse. The animation stops while the dot is not visible.
 class StatusDot : public QWidget {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void runOrRest();
+    void updateAnimation();
 
     DotStyle style_;
     bool pulsing_ = false;

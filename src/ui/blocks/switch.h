@@ -6,18 +6,18 @@
 
 namespace velmora {
 
-/// A switch that is on or off. Space turns it.
+/// An on/off switch. Space toggles it.
 class Switch : public QAbstractButton {
     Q_OBJECT
 
 public:
     Switch(const QString& name, QWidget* parent);
 
-    /// Emits nothing.
+    /// Does not emit `turned`.
     void setChecked(bool on);
 
 signals:
-    /// The owner turned it, by mouse, key or an accessible action.
+    /// The owner turned it on or off by mouse, key or accessible action.
     void turned(bool on);
 
 protected:
@@ -26,7 +26,7 @@ protected:
 private:
     void slide(bool on);
 
-    Transition position_; ///< of the thumb: 0 off, 1 on
+    Transition position_; ///< position of the thumb: 0 off, 1 on
 };
 
 } // namespace velmora

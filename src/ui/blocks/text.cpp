@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-/// A tooltip takes a text that looks like mark-up for such; what a server sends is shown as it was written.
+/// QToolTip renders text that looks like mark-up, so escape it: text from a server must appear literally.
 QString plainToolTip(const QString& text) {
     return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
 }
@@ -35,7 +35,7 @@ void Text::setText(const QString& text) {
     text_ = text;
     linesWidth_ = -1;
     setAccessibleName(text);
-    tellWhatIsCut();
+    updateToolTip();
     updateGeometry();
     update();
 }
@@ -85,20 +85,20 @@ const QStringList& Text::lines(int width) const {
     return lines_;
 }
 
-void Text::tellWhatIsCut() {
+void Text::updateToolTip() {
     if (maximumLines_ > 0)
         setToolTip(lines(width()).join(' ').endsWith(QChar(0x2026)) ? plainToolTip(text_) : QString());
 }
 
 void Text::resizeEvent(QResizeEvent*) {
-    tellWhatIsCut();
+    updateToolTip();
 }
 
 void Text::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QRectF line(0, 0, width(), style_.line);
     TextStyle style = style_;
-    style.upperCase = false; // the lines are in capitals already
+    style.upperCase = false; // lines() already returns upper case
     for (const QString& shown : lines(width())) {
         drawText(painter, line, shown, style, color_, alignment_);
         line.translate(0, style_.line);

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// A paragraph in one style, broken to its width.
+/// A paragraph in one style, wrapped to the widget's width.
 class Text : public QWidget {
     Q_OBJECT
 
@@ -18,9 +18,9 @@ public:
     void setText(const QString& text);
     void setColor(const QColor& color);
     void setAlignment(Qt::Alignment alignment);
-    /// What does not fit into so many lines ends in an ellipsis and is told by a tooltip. 0: any number.
+    /// Cuts longer text with an ellipsis and shows it in full in a tooltip; 0 for any number of lines.
     void setMaximumLines(int lines);
-    /// Breaks lines earlier than at the widget's own width, pixels; 0 for no such limit.
+    /// Maximum width of a line in pixels; 0 for the widget's width.
     void setWrapWidth(int width);
 
     QSize sizeHint() const override;
@@ -34,7 +34,7 @@ protected:
 
 private:
     const QStringList& lines(int width) const;
-    void tellWhatIsCut();
+    void updateToolTip();
 
     QString text_;
     TextStyle style_;
@@ -42,8 +42,8 @@ private:
     Qt::Alignment alignment_ = Qt::AlignLeft;
     int maximumLines_ = 0;
     int wrapWidth_ = 0;
-    mutable QStringList lines_;   ///< as broken last
-    mutable int linesWidth_ = -1; ///< that they were broken to; -1 for none
+    mutable QStringList lines_;   ///< cached result of lines()
+    mutable int linesWidth_ = -1; ///< width of the cached lines; -1 if they are out of date
 };
 
 /// The small upper-case label above a headline.

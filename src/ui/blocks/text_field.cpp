@@ -17,7 +17,7 @@ TextField::TextField(const QString& name, const QString& placeholder, QWidget* p
     setFont(fontOf(Type::body));
     setFrame(false);
     setTextMargins(Measure::fieldPadding - 2, 0, Measure::fieldPadding - 2,
-                   0); // Qt adds two pixels of its own
+                   0); // Qt adds two pixels
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::transparent);
     setPalette(colors);
@@ -31,10 +31,10 @@ void TextField::setText(const QString& text) {
     QLineEdit::setText(text);
 }
 
-void TextField::setRefused(bool refused) {
-    if (refused == refused_)
+void TextField::setInvalid(bool invalid) {
+    if (invalid == invalid_)
         return;
-    refused_ = refused;
+    invalid_ = invalid;
     update();
 }
 
@@ -42,7 +42,7 @@ void TextField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         fillRounded(painter, rect(), Measure::thumbnailRadius, isEnabled() ? SB::page : SB::panel,
-                    refused_     ? SB::alert
+                    invalid_     ? SB::alert
                     : hasFocus() ? SB::blue
                                  : SB::rule);
     }

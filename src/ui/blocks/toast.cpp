@@ -19,10 +19,10 @@ constexpr double textLeft = padding + dot + Measure::gap8;
 
 } // namespace
 
-Toast::Toast(QWidget* window) : QWidget(window), time_(messageTime, UiTimer::Mode::singleShot) {
+Toast::Toast(QWidget* window) : QWidget(window), hideTimer_(messageTime, UiTimer::Mode::singleShot) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     declareRole(this, QAccessible::AlertMessage);
-    connect(&time_, &UiTimer::timeout, this, &QWidget::hide);
+    connect(&hideTimer_, &UiTimer::timeout, this, &QWidget::hide);
     hide();
 }
 
@@ -33,7 +33,7 @@ void Toast::setMessage(const QString& message) {
     show();
     raise();
     update();
-    time_.start();
+    hideTimer_.start();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/// An urgent message of one line, shown for ten seconds. It fits into the title strip, where it covers
-/// nothing.
+/// An urgent one-line message, shown for ten seconds. It fits into the title strip, so that it covers no
+/// controls.
 class Toast : public QWidget {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ protected:
 
 private:
     QString message_;
-    UiTimer time_;
+    UiTimer hideTimer_;
 };
 
 } // namespace velmora

@@ -13,7 +13,7 @@ void paintShield(QPainter& painter, const QRectF& rect) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(rect.topLeft());
-    painter.scale(rect.width() / 20, rect.height() / 20); // drawn on a grid of 20 units
+    painter.scale(rect.width() / 20, rect.height() / 20); // the path uses a 20 x 20 grid
     QPainterPath shield;
     shield.moveTo(10, 1);
     shield.cubicTo(12.4, 2.9, 15.2, 3.7, 18, 3.9);

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// The shield with its chevron, fitted into the rectangle.
+/// Draws the shield with its chevron, scaled to the rectangle.
 void paintShield(QPainter& painter, const QRectF& rect);
 
 /// The shield and the name.

@@ -23,9 +23,9 @@ namespace {
 constexpr int lowestPort = 1, highestPort = 65535;
 
 std::optional<int> portFrom(const QString& text) {
-    bool whole = false;
-    const int port = text.toInt(&whole);
-    return whole && port >= lowestPort && port <= highestPort ? std::optional(port) : std::nullopt;
+    bool isNumber = false;
+    const int port = text.toInt(&isNumber);
+    return isNumber && port >= lowestPort && port <= highestPort ? std::optional(port) : std::nullopt;
 }
 
 } // namespace
@@ -75,7 +75,7 @@ QWidget* ConnectionForm::buildServer() {
     fields->addWidget(port_);
     fields->addStretch(1);
 
-    refusal_ =
+    portError_ =
         new Text(tr("Not stored: a port is a whole number from 1 to 65535."), Type::label2, SB::alert, block);
     dot_ = new StatusDot({.color = SB::dot, .diameter = Measure::statusDotInRow}, block);
     status_ = new Text({}, Type::connection, SB::ink, block);
@@ -88,7 +88,7 @@ QWidget* ConnectionForm::buildServer() {
     column->setContentsMargins(Measure::radioIndent, Measure::gap12, 0, Measure::gap4);
     column->setSpacing(Measure::gap8);
     column->addLayout(fields);
-    column->addWidget(refusal_);
+    column->addWidget(portError_);
     column->addLayout(statusLine);
     return block;
 }
@@ -99,22 +99,22 @@ void ConnectionForm::storeHost(const QString& host) {
     store_.setSettings(settings);
 }
 
-/// While a port is typed it passes through others; one that ends refused leaves the one from before.
+/// Typing passes through other valid ports; if the text is invalid, the previously stored port is restored.
 void ConnectionForm::storePort(const QString& port) {
     const auto valid = portFrom(port);
-    port_->setRefused(!valid);
-    refusal_->setVisible(!valid);
+    port_->setInvalid(!valid);
+    portError_->setVisible(!valid);
     Settings settings = store_.settings();
-    settings.port = valid.value_or(portBefore_);
+    settings.port = valid.value_or(storedPort_);
     store_.setSettings(settings);
 }
 
-/// What is stored, in place of what was refused.
+/// Replaces an invalid text by the stored port.
 void ConnectionForm::showPort() {
-    portBefore_ = store_.settings().port;
-    port_->setText(QString::number(portBefore_));
-    port_->setRefused(false);
-    refusal_->setVisible(false);
+    storedPort_ = store_.settings().port;
+    port_->setText(QString::number(storedPort_));
+    port_->setInvalid(false);
+    portError_->setVisible(false);
 }
 
 void ConnectionForm::refresh() {

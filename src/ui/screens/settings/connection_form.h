@@ -12,7 +12,7 @@ class StatusDot;
 class Text;
 class TextField;
 
-/// Demo mode or a server, and the server's address.
+/// The choice between demo mode and a server, and the server's address.
 class ConnectionForm : public QWidget {
     Q_OBJECT
 
@@ -33,8 +33,8 @@ private:
     Fold* serverFold_;
     TextField* host_;
     TextField* port_;
-    std::int64_t portBefore_ = 0; ///< that was stored when typing began
-    Text* refusal_;
+    std::int64_t storedPort_ = 0; ///< stored when typing began
+    Text* portError_;
     StatusDot* dot_;
     Text* status_;
 };

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// One of the fixed rules, behind a bullet.
+/// One of the fixed rules, with a bullet.
 class RuleLine : public QWidget {
     Q_OBJECT
 

@@ -43,7 +43,7 @@ QString trackingNote(TrackingMode mode) {
                      "Mini 4 Pro.");
 }
 
-/// A control beside its label, as wide as those of the sliders.
+/// A line with a label, as wide as the labels of the sliders, and a control.
 QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
     auto* line = new QWidget(parent);
     line->setFixedHeight(Measure::formLine);
@@ -96,7 +96,7 @@ void SettingsView::addRow(const QString& label, QWidget* content, int lead) {
     form_->layout()->addWidget(new SBRow(label, false, content, first, lead, form_));
 }
 
-/// Every change goes through a copy of the whole settings, so that the store sees what is new and saves it.
+/// Applies `edit` to a copy of the settings; the store compares and saves it.
 template <class Edit>
 void SettingsView::change(Edit edit) {
     Settings settings = store_.settings();
@@ -230,10 +230,10 @@ void SettingsView::refresh() {
     startAtLogin_->setChecked(store_.startsAtLogin());
 }
 
-/// Whoever is sent here for the connection finds it at the top.
+/// Scrolls to the connection settings, which are at the top.
 void SettingsView::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
-    page().showTop();
+    page().scrollToTop();
 }
 
 } // namespace velmora

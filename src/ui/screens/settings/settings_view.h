@@ -13,7 +13,7 @@ class Switch;
 class Text;
 class TextField;
 
-/// Settings: where the state comes from, and the limits that the drone keeps. Every control stores at once.
+/// Settings: the connection, the limits of the drone and the alerts. Every control stores its change at once.
 class SettingsView : public Screen {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    /// A limit and the line that shows it.
+    /// A setting and the slider that edits it.
     struct Limit {
         double Settings::*field;
         SliderLine* line;

@@ -7,7 +7,7 @@ namespace velmora {
 class Slider;
 class Text;
 
-/// A limit: its label, a slider, and its value cut to a whole number with the unit.
+/// A limit: label, slider, and the value truncated to an integer with its unit.
 class SliderLine : public QWidget {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
 
     SliderLine(const QString& label, const Range& range, QWidget* parent);
 
-    /// Shows the value as it is, also outside the range. Emits nothing.
+    /// Shows the value even if it is outside the range. Does not emit `moved`.
     void setValue(double value);
 
 signals:
