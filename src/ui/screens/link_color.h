@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// The dot that stands for a link status everywhere.
+/// Colour of the dot that shows the link status.
 inline QColor linkColor(const LinkStatus& status) {
     switch (status.kind) {
     case LinkStatus::Case::connecting:

@@ -18,7 +18,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int mostLines = 6; // of one notice
+constexpr int maximumLines = 6; // per notice
 
 QColor colorOf(Notice::Level level) {
     switch (level) {
@@ -36,14 +36,13 @@ QColor colorOf(Notice::Level level) {
 
 } // namespace
 
-/// One notice. Its text is a child, so that assistive technology reads it; time and dot are painted beside
-/// it.
+/// One notice. The text is a child widget, so that assistive technology reads it; time and dot are painted.
 class LogRow : public QAbstractButton {
 public:
     LogRow(LogList::Interaction interaction, QWidget* parent)
         : QAbstractButton(parent), text_(new Text({}, Type::log, SB::body, this)) {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-        text_->setMaximumLines(mostLines);
+        text_->setMaximumLines(maximumLines);
         if (interaction == LogList::Interaction::clickable)
             makeClickable();
         else
@@ -104,7 +103,7 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
     if (notices == notices_)
         return;
     notices_ = notices;
-    column_->setEnabled(false); // or every row that comes lays out all of them
+    column_->setEnabled(false); // avoids a layout of all rows for each new row
     while (rows_.size() < notices.size())
         addRow();
     for (std::size_t i = 0; i < rows_.size(); ++i) {

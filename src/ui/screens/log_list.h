@@ -12,7 +12,7 @@ namespace velmora {
 
 class LogRow;
 
-/// Notices in a column: time, dot, text. Where they lead somewhere, each is pressed like a button.
+/// A column of notices (time, dot, text), optionally clickable.
 class LogList : public QWidget {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
     void setNotices(const std::vector<Notice>& notices);
 
 signals:
-    /// The owner pressed a notice.
+    /// The owner clicked a notice.
     void activated(const velmora::Notice& notice);
 
 private:

@@ -7,13 +7,13 @@
 
 namespace velmora {
 
-/// The dot that stands for an outcome everywhere: flown, too windy, or docked otherwise.
+/// Colour of an outcome's dot: flown, too windy, or docked for another reason.
 QColor outcomeColor(Outcome outcome);
 
-/// The outcome in words.
+/// The outcome as a short text.
 QString outcomeText(Outcome outcome);
 
-/// The outcome as a headline with its last words emphasised.
+/// The outcome as a headline with its last two words emphasised.
 Sentence outcomeSentence(Outcome outcome);
 
 } // namespace velmora

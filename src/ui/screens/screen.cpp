@@ -11,7 +11,7 @@ Screen::Screen(AppStore& store, QWidget* parent) : QWidget(parent), store_(store
 
 void Screen::refreshOn(std::initializer_list<Change> changes) {
     for (const Change change : changes)
-        connect(&store_, change, this, &Screen::refreshIfSeen);
+        connect(&store_, change, this, &Screen::refreshIfVisible);
 }
 
 void Screen::setPage(Page* page) {
@@ -20,14 +20,14 @@ void Screen::setPage(Page* page) {
     column->addWidget(page_);
 }
 
-/// The widgets of a minimised window stay visible.
-void Screen::refreshIfSeen() {
+/// In a minimised window isVisible() stays true.
+void Screen::refreshIfVisible() {
     if (isVisible() && !window()->isMinimized())
         refresh();
 }
 
 void Screen::showEvent(QShowEvent*) {
-    refreshIfSeen();
+    refreshIfVisible();
 }
 
 } // namespace velmora

@@ -10,8 +10,8 @@ namespace velmora {
 
 class Page;
 
-/// A section of the window. It refreshes only while somebody can see it, rests while it is hidden or the
-/// window is minimised, and catches up when it is shown.
+/// A section of the window. It refreshes only while it is visible and the window is not minimised, and once
+/// when it is shown.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -21,13 +21,13 @@ public:
 protected:
     using Change = void (AppStore::*)();
 
-    /// Refreshes after these signals of the store.
+    /// Calls refresh() after these signals of the store while the screen can be seen.
     void refreshOn(std::initializer_list<Change> changes);
-    /// The page fills the screen, which becomes its parent.
+    /// Takes ownership of the page, which fills the screen.
     void setPage(Page* page);
     Page& page() { return *page_; }
 
-    /// Shows what the store knows now. Called only while the screen can be seen.
+    /// Updates the widgets from the store. Called only while the screen can be seen.
     virtual void refresh() = 0;
 
     void showEvent(QShowEvent* event) override;
@@ -35,7 +35,7 @@ protected:
     AppStore& store_;
 
 private:
-    void refreshIfSeen();
+    void refreshIfVisible();
 
     Page* page_ = nullptr;
 };

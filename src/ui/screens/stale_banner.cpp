@@ -19,14 +19,14 @@ StaleBanner::StaleBanner(AppStore& store, QWidget* parent)
       detail_(new Text({}, Type::body, SB::body, this)) {
     declareRole(this, QAccessible::AlertMessage);
     auto* settings = new SBButton(tr("Connection settings"), {.kind = SBButtonKind::quiet}, this);
-    auto* words = new QVBoxLayout;
-    words->setSpacing(0);
-    words->addWidget(title_);
-    words->addWidget(detail_);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(title_);
+    texts->addWidget(detail_);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(Measure::staleMargins + QMargins(Measure::gap20 + Measure::gap16, 0, 0, 0));
     row->setSpacing(Measure::gap16);
-    row->addLayout(words, 1);
+    row->addLayout(texts, 1);
     row->addWidget(settings, 0, Qt::AlignVCenter);
     connect(settings, &SBButton::clicked, this, [this] { store_.setSection(Section::settings); });
     connect(&store_, &AppStore::linkStatusChanged, this, &StaleBanner::refresh);

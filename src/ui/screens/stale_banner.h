@@ -9,16 +9,17 @@ namespace velmora {
 
 class Text;
 
-/// Says that the picture is old, or that none has come yet: why, how old it is, and where to look.
+/// Warns that the state is out of date or not received yet, with its age, the reason and a link to the
+/// settings.
 class StaleBanner : public QWidget {
     Q_OBJECT
 
 public:
     StaleBanner(AppStore& store, QWidget* parent);
 
-    /// Whether there is something to say; a server that is only being connected to may still answer.
+    /// Whether to show the banner; false while the first connection attempt is pending.
     static bool isDue(const AppStore& store);
-    /// "Picture 42 s old".
+    /// Returns a text such as "Picture 42 s old".
     static QString pictureAge(const AppStore& store);
 
 protected:

@@ -61,7 +61,7 @@ MainWindow::MainWindow(AppStore& store)
         toast_->setMessage(failureText(command, reason));
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
-    approval_->followPhase();
+    approval_->updateAlert();
     showSection();
     showWelcome();
     showCover();

@@ -20,13 +20,13 @@ namespace velmora {
 
 namespace {
 
-constexpr double patienceWithAnswers = 5; // seconds; a command may take three
-constexpr double longestCountdown = 3600; // seconds; a deadline further away is one of a clock that is off
+constexpr double answerTimeout = 5;       // seconds; a command request may take three
+constexpr double maximumCountdown = 3600; // seconds; a later deadline means that a clock is wrong
 
 QString titleFor(const CameraInfo* camera) {
-    const QString place = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
-                                 : ApprovalOverlay::tr("grounds");
-    return ApprovalOverlay::tr("Someone you don't know is at the %1.").arg(place);
+    const QString location = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
+                                    : ApprovalOverlay::tr("grounds");
+    return ApprovalOverlay::tr("Someone you don't know is at the %1.").arg(location);
 }
 
 QString bodyFor(const Settings& settings) {
@@ -44,8 +44,8 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* w
     build();
     connect(&countdown_, &UiTimer::timeout, this, &ApprovalOverlay::countDown);
     connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
-    connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::followPhase);
-    connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::followPhase);
+    connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::updateAlert);
+    connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::updateAlert);
 }
 
 void ApprovalOverlay::build() {
@@ -103,20 +103,20 @@ QWidget* ApprovalOverlay::buildButtons() {
     return row;
 }
 
-/// A server that goes on asking after an answer must not keep the owner from the rest of the window.
-void ApprovalOverlay::followPhase() {
+/// Closes the card if the server keeps asking after an answer, so that it does not block the window.
+void ApprovalOverlay::updateAlert() {
     const auto alert = store_.waitingAlert();
     if (!alert) {
         countdown_.stop();
         answeredAt_.reset();
-        unheeded_.reset();
+        ineffective_.reset();
         close();
         return;
     }
     refresh();
-    if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > patienceWithAnswers)
-        unheeded_ = asked_;
-    if (alert == unheeded_) { // the overview still offers the launch
+    if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > answerTimeout)
+        ineffective_ = asked_;
+    if (alert == ineffective_) { // the overview still offers the launch
         countdown_.stop();
         close();
         return;
@@ -126,7 +126,7 @@ void ApprovalOverlay::followPhase() {
     asked_ = alert;
     answeredAt_.reset();
     const auto deadline = store_.knownState()->approvalDeadline;
-    wholeTime_ = deadline ? (*deadline - store_.now()).count() : 0;
+    initialTimeLeft_ = deadline ? (*deadline - store_.now()).count() : 0;
     countDown();
     countdown_.start();
     if (isOpen())
@@ -138,10 +138,10 @@ void ApprovalOverlay::followPhase() {
 void ApprovalOverlay::refresh() {
     const LiveState& state = *store_.knownState();
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
-    const QString place = camera ? isolated(toQString(camera->name)) : tr("Grounds");
+    const QString location = camera ? isolated(toQString(camera->name)) : tr("Grounds");
     const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
     picture_->setAlert(camera ? toQString(camera->snapshot) : QString(),
-                       time.isEmpty() ? place : place + QStringLiteral(" · ") + time);
+                       time.isEmpty() ? location : location + QStringLiteral(" · ") + time);
     title_->setText(titleFor(camera));
     setAccessibleName(title_->text());
     body_->setText(bodyFor(store_.settings()));
@@ -153,10 +153,10 @@ void ApprovalOverlay::refresh() {
 void ApprovalOverlay::countDown() {
     const auto deadline = store_.knownState()->approvalDeadline;
     const double left = deadline ? (*deadline - store_.now()).count() : 0;
-    const bool plausible = left > 0 && left <= longestCountdown;
+    const bool plausible = left > 0 && left <= maximumCountdown;
     expires_->setValue(plausible ? QString::number(truncated(std::ceil(left))) : QStringLiteral("—"),
                        plausible ? tr("s") : QString());
-    picture_->setTimeLeft(plausible && wholeTime_ > 0 ? std::min(left / wholeTime_, 1.0) : 0);
+    picture_->setTimeLeft(plausible && initialTimeLeft_ > 0 ? std::min(left / initialTimeLeft_, 1.0) : 0);
 }
 
 void ApprovalOverlay::paintEvent(QPaintEvent* event) {

@@ -9,18 +9,19 @@ class ApprovalPicture;
 class Metric;
 class Text;
 
-/// Asks the owner whether the drone may launch, over every section.
+/// The card that asks the owner whether the drone may launch. It covers every section.
 class ApprovalOverlay : public OverlayCard {
     Q_OBJECT
 
 public:
     ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* window);
 
-    /// Opens or closes the card for the store's alert; the window calls it once, when the card is laid out.
-    void followPhase();
+    /// Opens or closes the card for the store's alert. The window calls it once, after adding the card to its
+    /// layout; later changes are detected here.
+    void updateAlert();
 
 signals:
-    /// The card comes up, or asks about another alert.
+    /// The card opened, or switched to another alert.
     void asked();
 
 protected:
@@ -43,10 +44,10 @@ private:
     Metric* wind_;
     Metric* expires_;
     UiTimer countdown_{std::chrono::milliseconds(250)};
-    std::optional<AlertId> asked_;    ///< the alert that the card asks about
-    std::optional<Date> answeredAt_;  ///< when the owner last answered it
-    std::optional<AlertId> unheeded_; ///< an alert whose answer had no effect
-    double wholeTime_ = 0;            ///< seconds that were left when the alert came
+    std::optional<AlertId> asked_;       ///< the alert shown on the card
+    std::optional<Date> answeredAt_;     ///< when the owner last answered it
+    std::optional<AlertId> ineffective_; ///< an alert whose answer the server did not act on
+    double initialTimeLeft_ = 0;         ///< seconds until the deadline when the alert arrived
 };
 
 } // namespace velmora

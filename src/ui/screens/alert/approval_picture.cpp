@@ -11,7 +11,7 @@
 
 namespace velmora {
 
-/// The time that is left, shrinking to the left.
+/// The countdown bar; its right end moves left.
 class ApprovalPicture::Bar : public QWidget {
 public:
     using QWidget::QWidget;

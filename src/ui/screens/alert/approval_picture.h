@@ -9,7 +9,7 @@ namespace velmora {
 class ArtImage;
 class Chip;
 
-/// The top of the approval card: what the camera sees, which camera and when, and the time that is left.
+/// The top of the approval card: the camera picture, a caption with camera and time, and a countdown bar.
 class ApprovalPicture : public QWidget {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ public:
     explicit ApprovalPicture(QWidget* parent);
 
     void setAlert(const QString& picture, const QString& chip);
-    /// Share of the time that is left, 0 to 1.
+    /// Sets the remaining share of the time, 0 to 1.
     void setTimeLeft(double share);
 
 private:

@@ -60,17 +60,17 @@ ToggleRow* CameraCard::toggleRow(const QString& title, const QString& detail, Sw
     return row;
 }
 
-/// Only the entry that the owner turned is written.
+/// Writes only the entry of this switch; cameras without an entry keep the default.
 void CameraCard::turn(Switches which, bool on) {
     Settings settings = store_.settings();
     (settings.*which)[cam_.id] = on;
     store_.setSettings(settings);
 }
 
-bool CameraCard::reading(Switches which, bool without) const {
+bool CameraCard::isOn(Switches which, bool defaultValue) const {
     const auto& switches = store_.settings().*which;
     const auto entry = switches.find(cam_.id);
-    return entry == switches.end() ? without : entry->second;
+    return entry == switches.end() ? defaultValue : entry->second;
 }
 
 void CameraCard::refresh(const CameraInfo& cam) {
@@ -86,8 +86,8 @@ void CameraCard::refresh(const CameraInfo& cam) {
     alerts_->setText(raised == 0   ? tr("No alerts in the history")
                      : raised == 1 ? tr("1 alert in the history")
                                    : tr("%1 alerts in the history").arg(raised));
-    faces_->setChecked(reading(&Settings::alertUnknownFaces, true));
-    people_->setChecked(reading(&Settings::alertPeople, false));
+    faces_->setChecked(isOn(&Settings::alertUnknownFaces, true));
+    people_->setChecked(isOn(&Settings::alertPeople, false));
 }
 
 } // namespace velmora

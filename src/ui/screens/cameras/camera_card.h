@@ -12,7 +12,7 @@ class Switch;
 class Text;
 class ToggleRow;
 
-/// One camera: what it sees, whether it is online, and what sets off an alert there.
+/// One camera: its picture, whether it is online, and the switches for what triggers an alert there.
 class CameraCard : public QWidget {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private:
     QWidget* buildName();
     ToggleRow* toggleRow(const QString& title, const QString& detail, Switches which);
     void turn(Switches which, bool on);
-    bool reading(Switches which, bool without) const;
+    bool isOn(Switches which, bool defaultValue) const;
 
     AppStore& store_;
     CameraInfo cam_;

@@ -20,7 +20,7 @@ bool sameCameras(const std::vector<CameraInfo>& cameras, const std::vector<Camer
     return std::ranges::equal(cameras, cards, {}, &CameraInfo::id, &CameraCard::id);
 }
 
-/// Cards of the same size in as many equal columns as fit.
+/// A grid of equal cards in as many equal columns as fit.
 class CardGrid : public ItemLayout {
 public:
     QSize sizeHint() const override { return minimumSize(); }
@@ -48,7 +48,7 @@ private:
     static double cardWidth(int width) {
         return (width - (columns(width) - 1.0) * Measure::gap24) / columns(width);
     }
-    /// From one row's top to the next.
+    /// Distance between the tops of two rows, in pixels.
     int rowStep(int width) const {
         const int card = isEmpty() ? 0 : itemAt(0)->heightForWidth(static_cast<int>(cardWidth(width)));
         return card + Measure::cameraRowGap;

@@ -11,7 +11,7 @@ namespace velmora {
 class CameraCard;
 class Text;
 
-/// Cameras: what sets off an alert, camera by camera.
+/// Cameras: what triggers an alert at each camera.
 class CamerasView : public Screen {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ protected:
 private:
     void setCameras(const std::vector<CameraInfo>& cameras);
 
-    Text* noCamera_; ///< says why there are no cards
+    Text* noCamera_; ///< shown instead of the cards if there are none
     QLayout* grid_;
     std::vector<CameraCard*> cards_;
 };

@@ -6,15 +6,15 @@ namespace velmora {
 
 class Switch;
 
-/// A switch with its title and a detail beside it. A click on the words turns it too.
+/// A switch with a title and a detail text. Clicking the text also turns the switch.
 class ToggleRow : public QWidget {
     Q_OBJECT
 
 public:
-    /// `where` tells switches of the same title apart for assistive technology.
+    /// `where` is added to the accessible description, to distinguish switches with the same title.
     ToggleRow(const QString& title, const QString& detail, const QString& where, QWidget* parent);
 
-    /// Emits nothing.
+    /// Does not emit `turned`.
     void setChecked(bool on);
 
 signals:

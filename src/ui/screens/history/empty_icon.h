@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// The icon over an empty history.
+/// The icon of an empty history.
 class EmptyIcon : public QWidget {
 public:
     explicit EmptyIcon(QWidget* parent) : QWidget(parent) {

@@ -6,14 +6,14 @@
 
 namespace velmora {
 
-/// Which records the list shows.
+/// Selects the records that the list shows.
 struct HistoryFilter {
     enum class Flight { all, flown, stayedDocked };
     enum class Demo { with, without, only };
 
-    QString text; ///< found in camera, label, outcome, notices or id, whatever its case
+    QString text; ///< searched in camera, label, outcome, notices and id, ignoring case
     Flight flight = Flight::all;
-    QString camera; ///< its name; empty for all
+    QString camera; ///< camera name; empty for all
     Demo demo = Demo::with;
 
     bool operator==(const HistoryFilter&) const = default;

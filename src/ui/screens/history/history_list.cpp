@@ -28,8 +28,6 @@
 
 namespace velmora {
 
-namespace {} // namespace
-
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
     : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
     filters_ = buildFilters();
@@ -37,7 +35,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     noMatch_ = buildNoMatch();
     auto* records = buildRecords();
     footer_ = buildFooter();
-    auto* above = new QVBoxLayout; // the records reach a little further to both sides
+    auto* above = new QVBoxLayout; // the records extend a little further on both sides
     above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
     above->setSpacing(0);
     above->addWidget(new Eyebrow(tr("History"), false, this));
@@ -198,7 +196,7 @@ void HistoryList::showFilters() {
     demo_->setOptions({tr("With demo"), tr("No demo"), tr("Only demo")}, static_cast<int>(filter.demo));
 }
 
-/// How many of how many, and which of the pane's parts there is reason to show.
+/// Updates the count, and shows the parts of the pane that apply to it.
 void HistoryList::showCount() {
     const std::size_t all = store_.history().size(), shown = model_->shown().size();
     count_->setText(shown < all ? tr("%1 of %2").arg(shown).arg(all)
@@ -217,7 +215,7 @@ void HistoryList::refresh() {
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
-    model_->followDay();
+    model_->updateDayNames();
     showFilters();
     showCount();
     const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
@@ -234,7 +232,7 @@ void HistoryList::showSelection() {
         scrollTo(index);
 }
 
-/// The first record of a day is shown with the day above it.
+/// Also reveals the day's caption when scrolling to the first record of a day.
 void HistoryList::scrollTo(const QModelIndex& index) {
     const QModelIndex above = index.siblingAtRow(index.row() - 1);
     if (above.isValid() && !model_->keyAt(above))
@@ -278,7 +276,7 @@ bool HistoryList::handleListKey(int key) {
     case Qt::Key_Enter:
         emit opened();
         return true;
-    case Qt::Key_Home: // the first row is a day's caption
+    case Qt::Key_Home: // row 0 is a day's caption
         records_->setCurrentIndex(model_->index(std::min(1, last)));
         records_->scrollToTop();
         return true;

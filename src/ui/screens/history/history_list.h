@@ -16,8 +16,8 @@ class SegmentedChoice;
 class Text;
 class TextField;
 
-/// The left pane of the history: headline, search and filters, the records, and what can be done with all of
-/// them.
+/// The left pane of the history: headline, search, filters, the records, and a footer with undo and "Clear
+/// demo history".
 class HistoryList : public QWidget {
     Q_OBJECT
 
@@ -27,19 +27,19 @@ public:
     /// The records shown, in order.
     const std::vector<RecordKey>& shown() const { return model_->shown(); }
     void refresh();
-    /// Marks the record that the store has selected.
+    /// Highlights the selected record of the store.
     void showSelection();
-    /// Gives the search field the keyboard.
+    /// Moves the keyboard focus to the search field.
     void focusSearch();
-    /// Gives the records the keyboard.
+    /// Moves the keyboard focus to the records.
     void focusRecords();
-    /// Keeps a deleted record for a while, so that it can be put back.
+    /// Offers for ten seconds to restore the deleted record.
     void offerUndo(HistoryEntry entry);
 
 signals:
     void selected(velmora::RecordKey key);
     void deleteRequested(velmora::RecordKey key);
-    /// Enter on a record.
+    /// The owner pressed Enter on a record.
     void opened();
     void clearDemoRequested();
 
@@ -78,7 +78,7 @@ private:
     QWidget* undoLine_;
     UiTimer undoTime_{std::chrono::seconds(10), UiTimer::Mode::singleShot};
     std::optional<HistoryEntry> deleted_;
-    QStringList cameras_; ///< names to choose from
+    QStringList cameras_; ///< names in the camera filter
 };
 
 } // namespace velmora

@@ -20,7 +20,7 @@ void HistoryModel::setFilter(const HistoryFilter& filter) {
     rebuild();
 }
 
-void HistoryModel::followDay() {
+void HistoryModel::updateDayNames() {
     if (dayName(namedAt_, store_.now()) != dayName(store_.now(), store_.now()))
         rebuild();
 }

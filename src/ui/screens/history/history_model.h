@@ -10,13 +10,13 @@
 
 namespace velmora {
 
-/// The history as the list shows it: records newest first under a caption for each day, as far as the filter
-/// lets them.
+/// The rows of the history list: the records that match the filter, newest first, with a caption for each
+/// day.
 class HistoryModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { captionRole = Qt::UserRole }; ///< the day's name on a caption, nothing on a record
+    enum Role { captionRole = Qt::UserRole }; ///< the name of the day; empty for a record
 
     HistoryModel(AppStore& store, QObject* parent);
 
@@ -27,22 +27,22 @@ public:
     const HistoryFilter& filter() const { return filter_; }
     void setFilter(const HistoryFilter& filter);
 
-    /// Names the days anew when another one has begun.
-    void followDay();
+    /// Renames the captions ("Today" …) if the date has changed.
+    void updateDayNames();
 
     /// The records shown, in order.
     const std::vector<RecordKey>& shown() const { return shown_; }
-    /// Absent for a caption.
+    /// Returns nullopt for a caption.
     std::optional<RecordKey> keyAt(const QModelIndex& index) const;
-    /// Invalid for a record that is not shown.
+    /// Returns an invalid index if the record is not shown.
     QModelIndex indexOf(RecordKey key) const;
-    /// The record in a row; null for a caption.
+    /// Returns null for a caption. The pointer is valid until the history changes.
     const MissionRecord* recordAt(const QModelIndex& index) const;
 
 private:
     struct Row {
         QString caption;
-        std::size_t entry = 0; ///< index in the store's history, which every change of it rebuilds
+        std::size_t entry = 0; ///< index in the store's history; rows are rebuilt whenever it changes
     };
 
     void rebuild();
@@ -50,7 +50,7 @@ private:
 
     AppStore& store_;
     HistoryFilter filter_;
-    Date namedAt_; ///< when the days were named
+    Date namedAt_; ///< when the captions were last named
     std::vector<Row> rows_;
     std::vector<RecordKey> shown_;
 };

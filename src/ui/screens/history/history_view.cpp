@@ -24,7 +24,7 @@ namespace velmora {
 
 namespace {
 
-/// A name that every file system takes.
+/// A file name that is valid on every file system.
 QString fileNameFor(const MissionRecord& record) {
     QString name = QStringLiteral("velmora-") + toQString(record.id);
     for (QChar& character : name)
@@ -123,7 +123,7 @@ void HistoryView::showSelection() {
     list_->showSelection();
 }
 
-/// The record to turn to when this one is removed: the next in the list, or the one before it.
+/// The record to select when this one is removed: the next in the list, or the previous if it is the last.
 std::optional<RecordKey> HistoryView::neighbour(RecordKey key) const {
     std::vector<RecordKey> keys = list_->shown();
     auto found = std::ranges::find(keys, key);
@@ -165,7 +165,7 @@ void HistoryView::offerExports(QPoint below) {
     menu->popup(below);
 }
 
-/// `write` is given the path that the owner chooses, and returns why nothing was written, if so.
+/// Asks for a path and calls `write` with it, which returns an error text, or an empty string on success.
 void HistoryView::saveAs(const QString& title, const QString& name, const QString& filter,
                          std::function<QString(const QString& path)> write) {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);

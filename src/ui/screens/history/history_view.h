@@ -11,22 +11,22 @@ class HistoryList;
 class RecordDetail;
 class SBButton;
 
-/// History: every visit on record, and one of them in detail.
+/// History: the list of recorded visits and the selected one in detail.
 class HistoryView : public Screen {
     Q_OBJECT
 
 public:
     HistoryView(AppStore& store, QWidget* parent);
 
-    /// Gives the search field the keyboard.
+    /// Moves the keyboard focus to the search field.
     void focusSearch();
-    /// Gives the records the keyboard.
+    /// Moves the keyboard focus to the records.
     void focusRecords();
 
 signals:
-    /// "Clear demo history" was pressed; nothing goes before the owner confirms.
+    /// The owner clicked "Clear demo history". Ask for confirmation before removing anything.
     void clearDemoRequested();
-    /// An export was not written; a sentence that says which file and why.
+    /// An export failed; `why` is a sentence that names the file and the reason.
     void exportFailed(const QString& why);
 
 protected:
@@ -48,7 +48,7 @@ private:
     RecordDetail* detail_;
     SBButton* simulate_ = nullptr;
     QWidget* empty_;
-    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< while shown: another day may have begun
+    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown, to notice a new day
 };
 
 } // namespace velmora

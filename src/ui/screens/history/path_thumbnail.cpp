@@ -10,14 +10,14 @@ namespace velmora {
 
 namespace {
 
-constexpr double inset = 4;         // pixels
-constexpr double smallestSpan = 20; // metres: a short path does not fill the picture
-constexpr std::size_t mostPoints = 80;
+constexpr double inset = 4;        // pixels
+constexpr double minimumSpan = 20; // metres; shorter paths do not fill the thumbnail
+constexpr std::size_t maximumPoints = 80;
 
-/// At most so many points of the path, evenly chosen: more cannot be told apart.
+/// Every n-th point of the path; more than `maximumPoints` would not be visible at this size.
 QPolygonF thinned(const std::vector<P>& path) {
     QPolygonF line;
-    const std::size_t step = std::max<std::size_t>(path.size() / mostPoints, 1);
+    const std::size_t step = std::max<std::size_t>(path.size() / maximumPoints, 1);
     for (std::size_t i = 0; i < path.size(); i += step)
         line.append({path[i].x, path[i].y});
     return line;
@@ -30,7 +30,7 @@ void paintPathThumbnail(QPainter& painter, const QRectF& rect, const MissionReco
     const QPolygonF visitor = thinned(record.visitorPath), drone = thinned(record.dronePath);
     const QRectF covered = visitor.boundingRect() | drone.boundingRect();
     const double span =
-        std::max({covered.width() / rect.width() * rect.height(), covered.height(), smallestSpan});
+        std::max({covered.width() / rect.width() * rect.height(), covered.height(), minimumSpan});
     const double scale = (rect.height() - 2 * inset) / span;
     QTransform view;
     view.translate(rect.center().x(), rect.center().y());

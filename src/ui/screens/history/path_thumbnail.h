@@ -8,7 +8,7 @@ class QPainter;
 
 namespace velmora {
 
-/// The record's two paths, small, fitted into the rectangle by what they cover.
+/// Draws the record's two paths, scaled to fit the rectangle.
 void paintPathThumbnail(QPainter& painter, const QRectF& rect, const MissionRecord& record);
 
 } // namespace velmora

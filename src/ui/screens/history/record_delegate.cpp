@@ -36,8 +36,9 @@ void paintSelection(QPainter& painter, const QRectF& row) {
     fillRounded(painter, bar, Measure::selectionBar / 2.0, gradient);
 }
 
-/// The paths at the right, below the badge of a demo visit; returns the width that they take.
-double paintAside(QPainter& painter, const QRectF& inner, const MissionRecord& record) {
+/// Paints the path thumbnail at the right, and above it the badge of a demo visit. Returns the width used, in
+/// pixels.
+double paintThumbnail(QPainter& painter, const QRectF& inner, const MissionRecord& record) {
     QRectF thumbnail({}, QSizeF(Measure::thumbnail));
     thumbnail.moveCenter(inner.center());
     thumbnail.moveRight(inner.right());
@@ -56,14 +57,14 @@ void paintRecord(QPainter& painter, const QRectF& row, const MissionRecord& reco
     if (selected)
         paintSelection(painter, row);
     const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
-    const double beside = paintAside(painter, inner, record);
-    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, -beside - Measure::gap8, 0);
-    QRectF title(words.left(), row.top() + Measure::recordTitleTop, words.width(), Type::rowTitle.line);
+    const double thumbnailWidth = paintThumbnail(painter, inner, record);
+    const QRectF textArea = inner.adjusted(Measure::activityTitleX, 0, -thumbnailWidth - Measure::gap8, 0);
+    QRectF title(textArea.left(), row.top() + Measure::recordTitleTop, textArea.width(), Type::rowTitle.line);
     paintStatusDot(painter, {inner.left() + Measure::activityDotX, title.center().y()},
                    {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
     drawText(painter, title, outcomeText(record.outcome), Type::rowTitle, SB::ink, Qt::AlignVCenter);
 
-    const QRectF facts(words.left(), title.bottom(), words.width(), Type::label2.line);
+    const QRectF facts(textArea.left(), title.bottom(), textArea.width(), Type::label2.line);
     drawText(painter, facts, factsOf(record), Type::label2, SB::muted, Qt::AlignVCenter);
 }
 

@@ -6,8 +6,7 @@ namespace velmora {
 
 class HistoryModel;
 
-/// Paints the list's rows: day captions, and records with their outcome, their facts and a thumbnail of the
-/// paths.
+/// Paints the rows of the history list: day captions, and records with outcome, facts and a path thumbnail.
 class RecordDelegate : public QAbstractItemDelegate {
     Q_OBJECT
 

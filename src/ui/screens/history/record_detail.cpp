@@ -25,7 +25,7 @@ namespace velmora {
 
 namespace {
 
-/// The grounds to draw a record on: the present ones, or the demo's while nothing is known.
+/// The state whose site is drawn under a record: the current one, or the demo's if none is known.
 const LiveState& groundsFor(const AppStore& store) {
     static const LiveState demo = LiveState::initial();
     return store.knownState() ? *store.knownState() : demo;
@@ -122,7 +122,7 @@ QPixmap RecordDetail::mapPicture() const {
     return map_->picture(scale);
 }
 
-/// As wide as the pane, as long as it leaves room for the log below.
+/// Makes the map as wide as the pane, but leaves room for the log below.
 void RecordDetail::fitMap() {
     const int width = this->width() - Measure::detailLeft - Measure::detailRight;
     const int heading = Measure::pageMargins.top() + Measure::gap20 +

@@ -17,7 +17,7 @@ class SBButton;
 class SiteMap;
 class Text;
 
-/// The right pane of the history: one record, replayed on the map and told below it.
+/// The right pane of the history: one record with its replay on the map and its facts below.
 class RecordDetail : public QWidget {
     Q_OBJECT
 
@@ -25,12 +25,12 @@ public:
     RecordDetail(AppStore& store, QWidget* parent);
 
     void setEntry(const HistoryEntry& entry);
-    /// Never null.
+    /// The record shown; never null, empty before the first setEntry().
     const std::shared_ptr<const MissionRecord>& record() const { return record_; }
-    /// Gives the replay the keyboard.
+    /// Moves the keyboard focus to the replay.
     void focusReplay();
     void pause();
-    /// The map with its replay as it stands, at twice its size.
+    /// The map at the current replay position, at twice its size.
     QPixmap mapPicture() const;
 
 signals:

@@ -61,20 +61,20 @@ Text* addSection(QVBoxLayout* column, const QString& heading, QWidget* parent) {
 } // namespace
 
 RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
-    auto* words = new QVBoxLayout;
-    words->setSpacing(0);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
     log_ = new LogList(LogList::Interaction::clickable, this);
-    words->addWidget(new Text(tr("What happened"), Type::groupHeading, SB::ink, this));
-    words->addSpacing(Measure::gap8);
-    words->addWidget(log_);
-    words->addSpacing(Measure::gap24);
-    response_ = addSection(words, tr("Response"), this);
-    boundary_ = addSection(words, tr("Boundary"), this);
-    words->addStretch(1);
+    texts->addWidget(new Text(tr("What happened"), Type::groupHeading, SB::ink, this));
+    texts->addSpacing(Measure::gap8);
+    texts->addWidget(log_);
+    texts->addSpacing(Measure::gap24);
+    response_ = addSection(texts, tr("Response"), this);
+    boundary_ = addSection(texts, tr("Boundary"), this);
+    texts->addStretch(1);
     auto* row = new QHBoxLayout;
     row->setSpacing(Measure::gap24);
-    row->addLayout(words, 1);
-    row->addWidget(buildAside(), 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+    row->addWidget(buildVisitor(), 0, Qt::AlignTop);
     auto* column = bareLayout<QVBoxLayout>(this, Measure::gap20);
     column->addWidget(buildMetrics());
     column->addWidget(new Hairline(this, Hairline::Tone::between));
@@ -99,18 +99,18 @@ QWidget* RecordFacts::buildMetrics() {
     return row;
 }
 
-QWidget* RecordFacts::buildAside() {
-    auto* aside = new QWidget(this);
-    aside->setFixedWidth(Measure::alertPicture.width());
-    picture_ = new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, aside);
+QWidget* RecordFacts::buildVisitor() {
+    auto* visitor = new QWidget(this);
+    visitor->setFixedWidth(Measure::alertPicture.width());
+    picture_ = new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, visitor);
     picture_->setFixedSize(Measure::alertPicture);
-    identity_ = new Text({}, Type::label2, SB::muted, aside);
-    times_ = new Text({}, Type::label2, SB::muted, aside);
-    auto* column = bareLayout<QVBoxLayout>(aside, Measure::gap4);
+    identity_ = new Text({}, Type::label2, SB::muted, visitor);
+    times_ = new Text({}, Type::label2, SB::muted, visitor);
+    auto* column = bareLayout<QVBoxLayout>(visitor, Measure::gap4);
     column->addWidget(picture_);
     column->addWidget(identity_);
     column->addWidget(times_);
-    return aside;
+    return visitor;
 }
 
 void RecordFacts::setRecord(const MissionRecord& record, const Site& site, const Settings& settings) {
@@ -119,7 +119,7 @@ void RecordFacts::setRecord(const MissionRecord& record, const Site& site, const
     log_->setNotices(record.notices);
     response_->setText(responseText(record));
     showBoundary(record, site, settings);
-    showAside(record);
+    showVisitor(record);
 }
 
 void RecordFacts::showMetrics(const MissionRecord& record) {
@@ -151,7 +151,7 @@ void RecordFacts::showBoundary(const MissionRecord& record, const Site& site, co
                       .arg(duration(Seconds{evidence->secondsInBuffer}), rounded(settings.boundaryBuffer)));
 }
 
-void RecordFacts::showAside(const MissionRecord& record) {
+void RecordFacts::showVisitor(const MissionRecord& record) {
     picture_->setName(toQString(record.snapshot));
     const QString label = record.label.empty() ? tr("Unknown person") : toQString(record.label);
     identity_->setText(label + QStringLiteral(" · ") + toQString(record.id));

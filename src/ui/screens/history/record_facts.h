@@ -11,8 +11,8 @@ class LogList;
 class Metric;
 class Text;
 
-/// What a record says in figures and words: its four facts, the response step by step, how the drone kept to
-/// the boundary, and the notices. A click on a notice asks for its moment of the replay.
+/// The facts of a record: four metrics, the response times, the distance kept from the boundary, the notices,
+/// and the visitor. Clicking a notice moves the replay to its time.
 class RecordFacts : public QWidget {
     Q_OBJECT
 
@@ -22,15 +22,15 @@ public:
     void setRecord(const MissionRecord& record, const Site& site, const Settings& settings);
 
 signals:
-    /// Seconds after the record's start.
+    /// The owner clicked a notice; `seconds` counts from the start of the record.
     void momentRequested(double seconds);
 
 private:
     QWidget* buildMetrics();
-    QWidget* buildAside();
+    QWidget* buildVisitor();
     void showMetrics(const MissionRecord& record);
     void showBoundary(const MissionRecord& record, const Site& site, const Settings& settings);
-    void showAside(const MissionRecord& record);
+    void showVisitor(const MissionRecord& record);
 
     Metric* duration_;
     Metric* furthest_;

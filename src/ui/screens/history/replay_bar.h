@@ -12,8 +12,8 @@ class ReplaySlider;
 class SegmentedChoice;
 class Text;
 
-/// Plays a mission: button, time slider with marks and gaps, and the speed. Space plays and pauses, arrows
-/// step.
+/// Controls of the replay: play button, time slider with marks and gaps, and speed. Space plays and pauses;
+/// the arrow keys step.
 class ReplayBar : public QWidget {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     ReplayBar(ReplayPlayer& player, QWidget* parent);
 
     void setRecord(const MissionRecord& record);
-    /// Gives the slider the keyboard.
+    /// Moves the keyboard focus to the slider.
     void focusSlider();
 
 protected:

@@ -5,27 +5,27 @@
 
 namespace velmora {
 
-/// The clock of a replay: a position between 0 and the mission's length that play moves on.
+/// The clock of a replay: a position in seconds, from 0 to the mission's length, that advances while playing.
 class ReplayPlayer : public QObject {
     Q_OBJECT
 
 public:
     explicit ReplayPlayer(QObject* parent);
 
-    /// A new mission of so many seconds: paused at its end, which is the whole picture.
+    /// Loads a mission of `length` seconds, paused at its end, where the map shows the complete paths.
     void load(double length);
     double length() const { return length_; }
     double position() const { return position_; }
     bool isPlaying() const { return frames_.isActive(); }
 
-    /// From the end it begins anew.
+    /// Restarts from the beginning if the position is at the end.
     void play();
     void pause();
     void setPosition(double seconds);
     void setSpeed(double speed) { speed_ = speed; }
 
 signals:
-    /// The position changed, or play began or paused.
+    /// The position changed, or playing started or paused.
     void changed();
 
 private:

@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// The replay's time from start to end, in steps of half a second, with a mark for each notice and a gap
-/// where the record has no points.
+/// The time slider of a replay, in steps of half a second. It shows a mark for each notice and a gap where
+/// the record has no points.
 class ReplaySlider : public QAbstractSlider {
     Q_OBJECT
 
@@ -17,11 +17,11 @@ public:
     explicit ReplaySlider(QWidget* parent);
 
     void setRecord(const MissionRecord& record);
-    /// Seconds. Emits nothing.
+    /// Sets the position in seconds. Does not emit `moved`.
     void setPosition(double seconds);
 
 signals:
-    /// The owner moved it. Seconds.
+    /// The owner moved the slider to this position.
     void moved(double seconds);
 
 protected:

@@ -15,11 +15,11 @@ FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(paren
     column->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
     column->addSpacing(Measure::gap4);
     explanation_ = new Text({}, Type::controlsNote, SB::muted, this);
-    explained_ = new QWidget(this);
-    auto* above = new QVBoxLayout(explained_);
+    explanationBlock_ = new QWidget(this);
+    auto* above = new QVBoxLayout(explanationBlock_);
     above->setContentsMargins(0, 0, 0, Measure::gap4);
     above->addWidget(explanation_);
-    column->addWidget(explained_);
+    column->addWidget(explanationBlock_);
 
     const auto add = [&](const QString& text, SBButtonStyle style) {
         auto* button = new SBButton(text, style, this);
@@ -48,10 +48,10 @@ void FlightControls::refresh() {
         phase == Phase::awaitingApproval
             ? tr("Approve or ignore the alert to continue.")
             : tr("Nothing to control — the drone launches only after you approve an alert."));
-    explained_->setVisible(!flying);
+    explanationBlock_->setVisible(!flying);
     const auto offer = [this](SBButton* button, bool offered) {
         if (!offered && button->hasFocus())
-            setFocus(Qt::OtherFocusReason); // or it passes on to the next button, which is another command
+            setFocus(Qt::OtherFocusReason); // otherwise hiding the button moves the focus to another command
         button->setVisible(offered);
     };
     offer(hold_, flying && phase != Phase::holding);

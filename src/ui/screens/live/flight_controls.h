@@ -9,7 +9,7 @@ namespace velmora {
 class SBButton;
 class Text;
 
-/// What the owner may ask of the drone in the phase at hand.
+/// The commands available to the owner in the current phase.
 class FlightControls : public QWidget {
     Q_OBJECT
 
@@ -19,13 +19,13 @@ public:
     void refresh();
 
 signals:
-    /// "Land now": sends nothing before the owner confirms.
+    /// The owner clicked "Land now". Ask for confirmation before sending anything.
     void landRequested();
 
 private:
     AppStore& store_;
     Text* explanation_;
-    QWidget* explained_; ///< the explanation with the room below it
+    QWidget* explanationBlock_; ///< the explanation and the space below it
     SBButton* hold_;
     SBButton* resume_;
     SBButton* returnHome_;

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// Asks before the drone comes down on the spot.
+/// Asks for confirmation before the drone lands where it is.
 class LandConfirmation : public ConfirmationCard {
     Q_OBJECT
 

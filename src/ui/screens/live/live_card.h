@@ -8,7 +8,7 @@ namespace velmora {
 
 class Telemetry;
 
-/// The dark card of the live screen: the map, a note under it, the drone's figures.
+/// The dark card of the live screen: the map, a note below it, and the drone's telemetry.
 class LiveCard : public MapPanel {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     LiveCard(AppStore& store, QWidget* parent);
 
     void refresh();
-    /// Puts the figures into two rows where the card gets narrow.
+    /// Arranges the telemetry in two rows if the card is narrow.
     QSize fitted(QSize room) override;
 
 protected:
@@ -28,7 +28,7 @@ private:
     AppStore& store_;
     QString pictureAge_; ///< empty while the picture is fresh
     Telemetry* telemetry_;
-    UiTimer everySecond_{std::chrono::seconds(1)}; ///< counts the age of an old picture
+    UiTimer everySecond_{std::chrono::seconds(1)}; ///< updates the age of an old picture
 };
 
 } // namespace velmora

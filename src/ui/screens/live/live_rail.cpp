@@ -19,7 +19,7 @@ namespace velmora {
 
 namespace {
 
-constexpr std::ptrdiff_t mostNotices = 100; // a server may send many more than anyone reads during a flight
+constexpr std::ptrdiff_t maximumNotices = 100; // a server may send many more
 
 } // namespace
 
@@ -68,7 +68,7 @@ QWidget* LiveRail::buildLog() {
     area->setMinimumHeight(static_cast<int>(Type::log.line));
 
     auto* heading = new Text(tr("Flight log"), Type::groupHeading, SB::ink, block);
-    heading->setMaximumLines(1); // so that the block's height does not hang on its width, and may give way
+    heading->setMaximumLines(1); // a height that depends on the width could not shrink
     auto* column = bareLayout<QVBoxLayout>(block, Measure::gap8);
     column->addWidget(heading);
     column->addWidget(area, 1);
@@ -87,7 +87,7 @@ void LiveRail::refresh() {
     log_->setVisible(logged);
     if (!logged)
         return;
-    const auto shown = std::min(std::ssize(state->notices), mostNotices);
+    const auto shown = std::min(std::ssize(state->notices), maximumNotices);
     log_->setNotices({state->notices.begin(), state->notices.begin() + shown});
 }
 

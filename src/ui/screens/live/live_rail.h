@@ -12,7 +12,7 @@ class PhaseTimeline;
 class Text;
 class VisitorCard;
 
-/// The column beside the live card: the mission's steps, the controls, the visitor, the flight log.
+/// The column to the right of the live card: mission steps, controls, visitor and flight log.
 class LiveRail : public QWidget {
     Q_OBJECT
 

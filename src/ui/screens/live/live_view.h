@@ -8,7 +8,7 @@ class Fold;
 class LiveCard;
 class LiveRail;
 
-/// Live flight: where the owner watches and steers a flight.
+/// Live flight: shows the flight and offers its controls.
 class LiveView : public Screen {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     LiveView(AppStore& store, QWidget* parent);
 
 signals:
-    /// "Land now" was pressed; nothing is sent before the owner confirms.
+    /// The owner clicked "Land now". Ask for confirmation before sending anything.
     void landRequested();
 
 protected:

@@ -8,13 +8,13 @@
 
 namespace velmora {
 
-/// One step of a mission and the phases that belong to it.
+/// One step of a mission and its phases.
 struct TimelineStep {
     QString title;
     std::vector<Phase> phases;
 };
 
-/// The six steps of a mission: those done, the current one, those to come.
+/// The six steps of a mission, each drawn as done, current or upcoming.
 class PhaseTimeline : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     explicit PhaseTimeline(QWidget* parent);
 
     void setPhase(Phase phase);
-    /// Index of the step that contains the phase; absent while docked.
+    /// Index of the step for the current phase; nullopt while docked.
     std::optional<std::size_t> currentStep() const;
 
 protected:

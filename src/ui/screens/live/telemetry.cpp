@@ -86,7 +86,7 @@ int Telemetry::heightFor(bool narrow) {
     return narrow ? Measure::telemetryNarrow : Measure::telemetry;
 }
 
-/// Equal columns, so that a number that grows shifts nothing.
+/// Uses equal columns, so that a longer number does not move the others.
 void Telemetry::arrange() {
     const QMargins margins = narrow_ ? Measure::telemetryNarrowMargins : Measure::telemetryMargins;
     grid_->setContentsMargins(margins);

@@ -13,20 +13,20 @@ namespace velmora {
 
 class Metric;
 
-/// The drone's figures, in one row of eight or two rows of four.
+/// The drone's telemetry: eight metrics in one row or in two rows of four.
 class Telemetry : public QWidget {
     Q_OBJECT
 
 public:
     explicit Telemetry(QWidget* parent);
 
-    /// `known` is null while nothing is known; `now` is the moment that it shows.
+    /// `known` is null while no state is known; `now` is used for the flight time.
     void setState(const LiveState* known, const Settings& settings, Date now);
-    /// Old figures are dimmer.
+    /// Dims the values, for a state that may be out of date.
     void setDimmed(bool dimmed);
-    /// Narrow: two rows of four.
+    /// Switches between one row (false) and two rows of four (true).
     void setNarrow(bool narrow);
-    /// Height that it takes in the given form, pixels.
+    /// Height of one row or, if `narrow`, two rows, in pixels.
     static int heightFor(bool narrow);
 
 private:

@@ -9,7 +9,7 @@ namespace velmora {
 class ArtImage;
 class Text;
 
-/// Who is being watched: the camera's picture, the label, the camera and how sure the system is.
+/// The visitor: camera picture, label, camera name and match confidence.
 class VisitorCard : public QWidget {
     Q_OBJECT
 

@@ -62,11 +62,12 @@ protected:
     }
 
 private:
-    /// What the texts come from; working out a time takes long, and days end on a minute.
+    /// Inputs of the texts, which are expensive to format. Relative days can change only from minute to
+    /// minute.
     struct Shown {
         Date start;
         Outcome outcome = Outcome::visitorLeft;
-        double minute = -1; ///< of the present
+        double minute = -1; ///< current time in minutes
 
         bool operator==(const Shown&) const = default;
     };

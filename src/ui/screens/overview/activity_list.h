@@ -11,7 +11,7 @@ namespace velmora {
 class ActivityRow;
 class Text;
 
-/// "Recent activity": the newest records, one line each; a click opens the record in the history.
+/// "Recent activity": the newest records, one line each. Clicking one opens it in the history.
 class ActivityList : public QWidget {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     ActivityList(AppStore& store, QWidget* parent);
 
     void refresh();
-    /// Shows at most so many rows.
+    /// Sets the maximum number of rows.
     void setRows(int rows);
 
 private:

@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-/// Draws one key at x and returns where the next one begins.
+/// Draws one legend entry at `x` and returns the x of the next one.
 double paintKey(QPainter& painter, const QRectF& row, double x, const QString& name, const QColor& color,
                 bool dashed) {
     constexpr double stroke = 2;

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// "Your grounds, live": the map under its title, a legend below it.
+/// "Your grounds, live": title, map and legend.
 class MapCard : public MapPanel {
     Q_OBJECT
 

@@ -13,8 +13,6 @@
 
 namespace velmora {
 
-namespace {} // namespace
-
 ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
     : QWidget(parent),
       store_(store),
@@ -36,7 +34,7 @@ ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
     refresh();
 }
 
-/// A server decides for itself whether it is armed, so the buttons rest in link mode.
+/// Disables the buttons in link mode, where only the server arms and disarms.
 void ArmSwitch::refresh() {
     const LiveState* state = store_.knownState();
     const bool armed = state && state->armed;

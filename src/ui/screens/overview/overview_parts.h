@@ -14,7 +14,7 @@ class SBButton;
 class StatusDot;
 class Text;
 
-/// Whether the system is armed, and the button that changes it.
+/// Shows whether the system is armed, with the buttons to arm and disarm it.
 class ArmSwitch : public QWidget {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private:
     SBButton* arm_;
 };
 
-/// The dark line that says what the mission under way is doing, and leads to it.
+/// A dark banner with the phase of the current mission and a link to the live screen.
 class ActiveBanner : public QWidget {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ private:
     Text* phase_;
 };
 
-/// What may be started from the overview: a demo visit, or the launch while an alert waits.
+/// The buttons for demo visits, or the launch button while an alert waits.
 class VisitOffers : public QWidget {
     Q_OBJECT
 

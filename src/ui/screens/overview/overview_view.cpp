@@ -55,7 +55,7 @@ QString ledeFor(const AppStore& store) {
 
 } // namespace
 
-/// The latest visits, as many as fit, and below them what may be started.
+/// The latest visits, as many as fit, and the visit offers below them.
 class OverviewView::Rail : public QWidget {
 public:
     Rail(AppStore& store, AnswerGuard& guard, QWidget* parent)

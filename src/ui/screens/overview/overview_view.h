@@ -11,7 +11,7 @@ class Fold;
 class MapCard;
 class StatusStrip;
 
-/// Overview: a calm summary of the grounds.
+/// Overview: a summary of the site.
 class OverviewView : public Screen {
     Q_OBJECT
 

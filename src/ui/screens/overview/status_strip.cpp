@@ -16,7 +16,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double shares[] = {1.15, 0.85, 0.95, 1.05}; // of the width, one for each cell
+constexpr double shares[] = {1.15, 0.85, 0.95, 1.05}; // of the width, per cell
 constexpr double sumOfShares = 4;
 constexpr double valueTop = 16, linesTop = 40; // pixels
 
@@ -29,7 +29,7 @@ QString destination(const Settings& settings) {
 
 } // namespace
 
-/// A caption, a value, and below it lines of text or one dot for each camera.
+/// A caption and a value, with lines of text or one dot per camera below.
 class StatusStrip::Cell : public QWidget {
 public:
     Cell(const QString& caption, QWidget* parent) : QWidget(parent), caption_(caption) {

@@ -10,7 +10,7 @@ namespace velmora {
 
 class ArtImage;
 
-/// The overview's last line: the drone, the cameras, the wind and where alerts go.
+/// The bottom row of the overview: drone, cameras, wind and alert destinations.
 class StatusStrip : public QWidget {
     Q_OBJECT
 

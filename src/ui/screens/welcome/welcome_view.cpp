@@ -3,7 +3,6 @@
 #include "ui/blocks/badge.h"
 #include "ui/blocks/headline.h"
 #include "ui/blocks/layouts.h"
-#include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
 #include "ui/blocks/wordmark.h"
@@ -18,7 +17,7 @@ namespace velmora {
 
 namespace {
 
-/// The shield beside the title.
+/// The shield next to the title.
 class Shield : public QWidget {
 public:
     explicit Shield(QWidget* parent) : QWidget(parent) {
@@ -110,7 +109,7 @@ QWidget* WelcomeView::buildButtons() {
     return buttons;
 }
 
-/// Choosing to connect leads to the server's address; it does not leave demo mode by itself.
+/// "Connect" opens the settings with the server's address; it does not leave demo mode.
 void WelcomeView::finish(bool link) {
     Settings settings = store_.settings();
     settings.onboarded = true;
@@ -120,7 +119,7 @@ void WelcomeView::finish(bool link) {
         store_.setSection(Section::settings);
 }
 
-/// Cropped to the room above the column, about the picture's middle.
+/// Scales the picture to the area above the column and crops it around its centre.
 void WelcomeView::loadHero() {
     const QSize pixels = QSize(width(), column_->y()) * devicePixelRatioF();
     if (hero_.size() == pixels)

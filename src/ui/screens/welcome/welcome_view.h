@@ -9,7 +9,7 @@ namespace velmora {
 
 class SBButton;
 
-/// Welcome: introduces the system at the first start and whenever the owner asks. It covers the sections.
+/// The welcome screen, shown over the sections at the first start and on request.
 class WelcomeView : public QWidget {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
 
     AppStore& store_;
     QWidget* column_;
-    QPixmap hero_; ///< at the size and scale last shown
+    QPixmap hero_; ///< scaled to the area above the column
 };
 
 } // namespace velmora
