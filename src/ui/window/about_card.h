@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// What this program is.
+/// Shows the name, the version and a description of the program.
 class AboutCard : public OverlayCard {
     Q_OBJECT
 

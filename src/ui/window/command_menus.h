@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// The window's menus "Velmora", "Demo" and "Drone", enabled by what the live state allows.
+/// The menus "Velmora", "Demo" and "Drone". Their actions are enabled according to the live state.
 class CommandMenus : public QMenuBar {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
 signals:
     void aboutRequested();
     void quitRequested();
-    /// "Launch (approve)" or "Ignore alert" was chosen.
+    /// The owner chose "Launch (approve)" or "Ignore alert".
     void answered(velmora::Command answer);
 
 private:

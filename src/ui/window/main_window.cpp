@@ -64,29 +64,29 @@ MainWindow::MainWindow(AppStore& store)
     approval_->updateAlert();
     showSection();
     showWelcome();
-    showCover();
+    updateLayers();
 }
 
 void MainWindow::buildCards() {
     approval_ = new ApprovalOverlay(store_, *guard_, this);
     landing_ = new LandConfirmation(store_, this);
-    clearing_ = new ConfirmationCard(
+    clearDemo_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
-    notSaved_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
+    exportFailed_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
     about_ = new AboutCard(this);
     for (OverlayCard* overlay :
-         std::initializer_list<OverlayCard*>{approval_, landing_, clearing_, notSaved_, about_})
+         std::initializer_list<OverlayCard*>{approval_, landing_, clearDemo_, exportFailed_, about_})
         addOverlay(overlay);
-    connect(clearing_, &ConfirmationCard::confirmed, this, [this] {
+    connect(clearDemo_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
         history_->focusRecords();
     });
-    connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::makeWayForAlert);
+    connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::closePopupsAndDialogs);
 }
 
-/// Closes whatever would lie over the alert or take its first click: every menu and dialog of the program,
-/// also the tray's.
-void MainWindow::makeWayForAlert() {
+/// Closes every menu and dialog of the program, including the tray's, because they would cover the alert or
+/// take the first click on it.
+void MainWindow::closePopupsAndDialogs() {
     while (QWidget* popup = QApplication::activePopupWidget())
         popup->close();
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -102,8 +102,8 @@ void MainWindow::buildSections() {
     history_ = new HistoryView(store_, stack_);
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
     connect(history_, &HistoryView::exportFailed, this, [this](const QString& why) {
-        notSaved_->setBody(why + ' ' + tr("Choose another folder and export it again."));
-        notSaved_->open();
+        exportFailed_->setBody(why + ' ' + tr("Choose another folder and export it again."));
+        exportFailed_->open();
     });
     sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
@@ -128,8 +128,8 @@ void MainWindow::buildLayout() {
     layers_->addLayout(column, 0, 0);
 }
 
-/// The sections by number, the history's search, closing the window, and the menus for those without a mouse.
-/// What lies under a card cannot be reached by keys either.
+/// Shortcuts for the sections, the history's search, the menus and closing the window. Those that reach
+/// content under a card are ignored while a card is open.
 void MainWindow::addShortcuts() {
     const auto add = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, action] {
@@ -158,7 +158,7 @@ void MainWindow::addOverlay(OverlayCard* overlay) {
     overlay->installEventFilter(this);
 }
 
-/// In the middle of the title strip, above cards and their veil.
+/// Adds the toast in the middle of the title strip, above the cards and their veil.
 void MainWindow::addToast() {
     toast_ = new Toast(this);
     auto* strip = new QVBoxLayout;
@@ -169,7 +169,7 @@ void MainWindow::addToast() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
-        showCover();
+        updateLayers();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -177,8 +177,8 @@ bool MainWindow::isCovered() const {
     return std::ranges::any_of(overlays_, [](const OverlayCard* overlay) { return overlay->isOpen(); });
 }
 
-/// Maps under a card rest; the edges resize the window all the same, and the alert lies over any other card.
-void MainWindow::showCover() {
+/// Pauses maps that a card covers. Keeps the alert above other cards and the resize handles above everything.
+void MainWindow::updateLayers() {
     for (SiteMap* map : findChildren<SiteMap*>())
         map->setCovered(isCovered());
     if (approval_->isOpen())
@@ -189,13 +189,14 @@ void MainWindow::showCover() {
 
 void MainWindow::askToClearDemo() {
     const auto demo = std::ranges::count_if(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
-    clearing_->setBody(demo == 1
-                           ? tr("One rehearsed visit goes. Visits that were really flown stay.")
-                           : tr("%1 rehearsed visits go. Visits that were really flown stay.").arg(demo));
-    clearing_->open();
+    clearDemo_->setBody(demo == 1
+                            ? tr("One rehearsed visit goes. Visits that were really flown stay.")
+                            : tr("%1 rehearsed visits go. Visits that were really flown stay.").arg(demo));
+    clearDemo_->open();
 }
 
-/// What is hidden would pass its focus on to another control, which the next key would press.
+/// Hiding the focused widget moves focus to another control, which the next key press would trigger, so this
+/// focuses the window first.
 void MainWindow::showWelcome() {
     const bool welcome = store_.showWelcome();
     setFocus();
@@ -204,14 +205,14 @@ void MainWindow::showWelcome() {
     strip_->setOverSidebar(!welcome);
 }
 
-/// As with the welcome; the tab key goes on with the new section.
+/// Takes the same precaution as showWelcome(). Tab then continues inside the new section.
 void MainWindow::showSection() {
     QWidget* screen = sections_[store_.section()];
-    const bool worksInSection = focusWidget() && stack_->isAncestorOf(focusWidget());
-    if (worksInSection)
+    const bool focusInSection = focusWidget() && stack_->isAncestorOf(focusWidget());
+    if (focusInSection)
         setFocus();
     stack_->showSection(screen);
-    if (worksInSection && focusWidget() == this)
+    if (focusInSection && focusWidget() == this)
         screen->setFocus(Qt::OtherFocusReason);
 }
 

@@ -24,7 +24,7 @@ class TitleStrip;
 class Toast;
 class WelcomeView;
 
-/// The app's one window: title strip, sidebar, the selected section, and the cards that lie over all of it.
+/// The main window: title strip, sidebar, selected section, and the cards on top.
 class MainWindow : public QWidget {
     Q_OBJECT
 
@@ -41,17 +41,17 @@ private:
     void addShortcuts();
     void addOverlay(OverlayCard* overlay);
     void addToast();
-    void makeWayForAlert();
+    void closePopupsAndDialogs();
     void showSection();
     void showWelcome();
     void askToClearDemo();
-    void showCover();
+    void updateLayers();
     bool isCovered() const;
 
     AppStore& store_;
     AnswerGuard* guard_;
     CommandMenus* menus_;
-    QGridLayout* layers_; ///< content, cards, resize bands and toast, one above the other
+    QGridLayout* layers_; ///< content, cards, resize bands and toast, stacked in one cell
     TitleStrip* strip_;
     QWidget* content_; ///< sidebar and section
     WelcomeView* welcome_;
@@ -60,8 +60,8 @@ private:
     HistoryView* history_;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
-    ConfirmationCard* clearing_; ///< the demo history
-    ConfirmationCard* notSaved_; ///< an export
+    ConfirmationCard* clearDemo_;    ///< asks before the demo history is cleared
+    ConfirmationCard* exportFailed_; ///< explains why an export failed
     AboutCard* about_;
     QList<OverlayCard*> overlays_;
     ResizeBands* bands_;

@@ -19,7 +19,7 @@ Qt::CursorShape cursorFor(Qt::Edges edges) {
     return edges & (Qt::LeftEdge | Qt::RightEdge) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
 }
 
-/// One edge or corner.
+/// The handle for one edge or corner.
 class Band : public QWidget {
 public:
     Band(Qt::Edges edges, QWidget* window) : QWidget(window), edges_(edges) { setCursor(cursorFor(edges)); }

@@ -6,15 +6,15 @@ class QWidget;
 
 namespace velmora {
 
-/// Lets a window without a native frame be resized at its edges and corners, which the bands of this layout
-/// cover. They are away while the window is maximised or fills the screen.
+/// Resize handles for a window without a native frame: a layout of bands along its edges and corners. They
+/// are hidden while the window is maximised or full screen.
 class ResizeBands : public QGridLayout {
     Q_OBJECT
 
 public:
     explicit ResizeBands(QWidget* window);
 
-    /// Keeps the bands over widgets that were shown since.
+    /// Raises the bands above widgets that were shown later.
     void raise();
 
 protected:

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// What a section row tells at its right end.
+/// The dot at the right end of a section row.
 struct SectionMark {
     QColor color;
     bool halo = false;
@@ -17,7 +17,7 @@ struct SectionMark {
     bool operator==(const SectionMark&) const = default;
 };
 
-/// One section in the sidebar: its icon and title, marked while it is the one shown.
+/// One section in the sidebar: icon and title, highlighted while the section is shown.
 class SectionRow : public QAbstractButton {
     Q_OBJECT
 

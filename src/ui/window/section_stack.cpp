@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// The picture of the last section while it fades away.
+/// A picture of the previous section that fades out.
 class SectionStack::Fading : public QWidget {
 public:
     explicit Fading(QWidget* parent) : QWidget(parent), opacity_(*this, Motion::sectionChange) {

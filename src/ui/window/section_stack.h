@@ -6,7 +6,7 @@ class QStackedLayout;
 
 namespace velmora {
 
-/// The screens of the sections, one at a time; the next one fades in over the last.
+/// Shows one section at a time, with a cross-fade between two.
 class SectionStack : public QWidget {
     Q_OBJECT
 

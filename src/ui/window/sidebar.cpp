@@ -64,7 +64,7 @@ void Sidebar::addSections() {
 }
 
 void Sidebar::showSection() {
-    // The tab key stops at the current one, the arrows go on from there.
+    // Tab reaches only the current row; the arrow keys move between rows.
     for (const auto& [section, row] : rows_)
         row->setFocusPolicy(section == store_.section() ? Qt::TabFocus : Qt::NoFocus);
     SectionRow* current = rows_[store_.section()];

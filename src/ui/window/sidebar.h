@@ -14,7 +14,7 @@ class DroneBadge;
 class LinkBadge;
 class SectionRow;
 
-/// The five sections, and at the foot how the drone and the link are.
+/// The sidebar: the five sections, and the status of drone and link in the footer.
 class Sidebar : public QWidget {
     Q_OBJECT
 

@@ -10,7 +10,7 @@ class Badge;
 class StatusDot;
 class Text;
 
-/// The drone in the sidebar: its phase in a word and its battery.
+/// The drone's status in the sidebar: phase and battery.
 class DroneBadge : public QWidget {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
     bool low_ = false;
 };
 
-/// The link in the sidebar: a dot and its status text, and the demo's badge.
+/// The link's status in the sidebar: dot, text, and a badge in demo mode.
 class LinkBadge : public QWidget {
     Q_OBJECT
 

@@ -8,7 +8,7 @@ class QMenuBar;
 
 namespace velmora {
 
-/// Minimise, maximise or close.
+/// A button that minimises, maximises or closes the window.
 class WindowButton : public QAbstractButton {
     Q_OBJECT
 
@@ -26,15 +26,15 @@ private:
     Icon icon_;
 };
 
-/// The slim strip in place of a native title bar: the menus over the sidebar's surface, an area that drags
-/// the window, and the window's buttons.
+/// Replaces the native title bar: the menus at the left, an area for dragging the window, and the window
+/// buttons.
 class TitleStrip : public QWidget {
     Q_OBJECT
 
 public:
     TitleStrip(QMenuBar* menus, QWidget* parent);
 
-    /// Whether the strip's left end continues the sidebar below it.
+    /// Sets whether the left end is drawn as a continuation of the sidebar.
     void setOverSidebar(bool over);
 
 protected:
