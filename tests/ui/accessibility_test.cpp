@@ -12,7 +12,7 @@ namespace {
 
 class AccessibilityTest : public ServedTest {
 protected:
-    /// Everything that the keyboard can reach here has a role and a name.
+    /// Expects a role and a name on every widget that the keyboard can reach in `inside`.
     void expectAllNamed(QWidget& inside, const std::string& where) {
         int reached = 0;
         for (QWidget* widget : inside.findChildren<QWidget*>()) {
@@ -111,7 +111,7 @@ TEST_F(AccessibilityTest, AccessibleActionsDoWhatTheMouseDoes) {
     EXPECT_TRUE(store().settings().alertPeople.contains("driveway"));
 }
 
-TEST_F(AccessibilityTest, WhatIsPaintedIsToldInWords) {
+TEST_F(AccessibilityTest, PaintedWidgetsHaveNamesAndRoles) {
     store().setSection(Section::live);
     LiveState state = mission(Phase::following);
     state.drone.altitude = 15.2;
@@ -119,18 +119,19 @@ TEST_F(AccessibilityTest, WhatIsPaintedIsToldInWords) {
     const QString map =
         "Map of your grounds. The drone is at 15 m height, 13 m from its pad and 8 m from the boundary. "
         "Unknown person is 5 m from the drone, 4 m inside the boundary.";
-    const std::pair<QString, QAccessible::Role> told[] = {{"Height, 15 m", QAccessible::StaticText},
-                                                          {"Following at 5 m", QAccessible::Heading},
-                                                          {"Step 4 of 6: Following", QAccessible::StaticText},
-                                                          {map, QAccessible::Graphic}};
-    for (const auto& [name, role] : told) {
+    const std::pair<QString, QAccessible::Role> painted[] = {
+        {"Height, 15 m", QAccessible::StaticText},
+        {"Following at 5 m", QAccessible::Heading},
+        {"Step 4 of 6: Following", QAccessible::StaticText},
+        {map, QAccessible::Graphic}};
+    for (const auto& [name, role] : painted) {
         QWidget* widget = find(name);
         ASSERT_NE(widget, nullptr) << name.toStdString();
         EXPECT_EQ(QAccessible::queryAccessibleInterface(widget)->role(), role) << name.toStdString();
     }
 }
 
-/// Of a group of choices Tab reaches only one.
+/// In a group of choices, Tab reaches only one.
 TEST_F(AccessibilityTest, TabReachesEverythingInEverySection) {
     for (const auto& [section, id] : rawValuesOf<Section>) {
         store().setSection(section);

@@ -14,7 +14,7 @@ namespace {
 const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("Ignore"),
               offer = QStringLiteral("Launch (approve)");
 
-/// Alerts of a server that come and give way to others, and hands that are too quick or too slow for them.
+/// Alerts of a server that replace each other while input is in progress.
 class ApprovalGuardTest : public ServedTest {
 protected:
     void alert(const std::string& id) {
@@ -26,7 +26,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return shows(name); })) << name.toStdString();
         return *find<QAbstractButton>(name);
     }
-    /// Holds the mouse on a button as soon as a press counts.
+    /// Waits until the guard is open, then presses and holds the mouse on the button.
     QAbstractButton& hold(const QString& name) {
         QAbstractButton& held = button(name);
         outwaitGuard();
@@ -34,7 +34,7 @@ protected:
         EXPECT_TRUE(held.isDown());
         return held;
     }
-    /// Moves the held mouse off the button, back onto it, and lets go.
+    /// Drags the held mouse off the button and back, then releases it.
     void dragBackAndRelease(QAbstractButton& pressed) {
         mouse(QEvent::MouseMove, pressed, true);
         mouse(QEvent::MouseMove, pressed);
@@ -51,7 +51,7 @@ protected:
     using Missions = std::vector<std::string>;
 };
 
-TEST_F(ApprovalGuardTest, AClickBegunForOneAlertDoesNotAnswerTheNext) {
+TEST_F(ApprovalGuardTest, AClickStartedForOneAlertDoesNotAnswerTheNext) {
     window();
     alert("M-1");
     QAbstractButton& pressed = hold(launch);
@@ -63,7 +63,7 @@ TEST_F(ApprovalGuardTest, AClickBegunForOneAlertDoesNotAnswerTheNext) {
     EXPECT_EQ(launches(), Missions({"M-2"}));
 }
 
-TEST_F(ApprovalGuardTest, AlertsOfAServerThatNamesNoMissionAreToldApart) {
+TEST_F(ApprovalGuardTest, DistinguishesAlertsWithoutAMissionId) {
     window();
     LiveState state = mission(Phase::awaitingApproval);
     state.missionId.reset();
@@ -99,7 +99,7 @@ TEST_F(ApprovalGuardTest, AKeyHeldForOneAlertDoesNotAnswerTheNext) {
     EXPECT_EQ(launches(), Missions({"M-2"}));
 }
 
-TEST_F(ApprovalGuardTest, AMouseHeldWhileTheAlertEndsLeavesTheNextOneToTheKeys) {
+TEST_F(ApprovalGuardTest, AMouseHeldWhenAnAlertEndsDoesNotBlockKeysForTheNext) {
     window();
     alert("M-1");
     QAbstractButton& held = hold(launch);
@@ -124,12 +124,12 @@ TEST_F(ApprovalGuardTest, ADoubleClickLaunchesOnce) {
     EXPECT_EQ(launches(), Missions({"M-1"}));
 }
 
-TEST_F(ApprovalGuardTest, NothingPressedWhileTheCardComesUpCounts) {
+TEST_F(ApprovalGuardTest, IgnoresInputWhileTheCardOpens) {
     window();
     alert("M-1");
     QAbstractButton& underMouse = button(launch);
     serve(mission(Phase::docked));
-    alert("M-2"); // while the first card still goes
+    alert("M-2"); // while the first card is still closing
     QTest::keyPress(window().windowHandle(), Qt::Key_Return, Qt::ControlModifier);
     mouse(QEvent::MouseButtonPress, underMouse);
     pressByAccessibility(offer);
@@ -140,7 +140,7 @@ TEST_F(ApprovalGuardTest, NothingPressedWhileTheCardComesUpCounts) {
     EXPECT_EQ(launches(), Missions());
 }
 
-TEST_F(ApprovalGuardTest, AWindowThatComesToTheFrontIsGuardedAgain) {
+TEST_F(ApprovalGuardTest, ActivatingTheWindowRestartsTheGuard) {
     window();
     alert("M-1");
     outwaitGuard();
@@ -160,7 +160,7 @@ TEST_F(ApprovalGuardTest, AWindowThatComesToTheFrontIsGuardedAgain) {
     EXPECT_EQ(launches(), Missions({"M-1"}));
 }
 
-TEST_F(ApprovalGuardTest, TheCardOfAServerThatHeedsNoAnswerStepsAsideUntilTheNextAlert) {
+TEST_F(ApprovalGuardTest, TheCardClosesUntilTheNextAlertIfTheServerIgnoresTheAnswer) {
     window();
     alert("M-1");
     mouse(QEvent::MouseButtonRelease, hold(launch));
@@ -168,7 +168,7 @@ TEST_F(ApprovalGuardTest, TheCardOfAServerThatHeedsNoAnswerStepsAsideUntilTheNex
         pass(1);
         alert("M-1");
     }
-    EXPECT_TRUE(shows(launch)) << "a command may be slow";
+    EXPECT_TRUE(shows(launch)) << "a command may take a few seconds";
     pass(2);
     alert("M-1");
     EXPECT_TRUE(waitUntil([&] { return !shows(launch); }));
@@ -179,7 +179,7 @@ TEST_F(ApprovalGuardTest, TheCardOfAServerThatHeedsNoAnswerStepsAsideUntilTheNex
     EXPECT_TRUE(waitUntil([&] { return shows(launch); }));
 }
 
-TEST_F(ApprovalGuardTest, NothingIsAnsweredOverASilentLink) {
+TEST_F(ApprovalGuardTest, DoesNotAnswerWhileTheLinkIsSilent) {
     Tray tray(store());
     window();
     alert("M-1");
@@ -193,7 +193,7 @@ TEST_F(ApprovalGuardTest, NothingIsAnsweredOverASilentLink) {
     EXPECT_EQ(launches(), Missions());
 }
 
-TEST_F(ApprovalGuardTest, ATrayMenuAnswersTheAlertThatItWasOpenedFor) {
+TEST_F(ApprovalGuardTest, ATrayMenuAnswersOnlyTheAlertItWasOpenedFor) {
     Tray tray(store());
     const QSignalSpy windowCalls(&tray, &Tray::openRequested);
     QAction* line = nullptr;
@@ -210,7 +210,7 @@ TEST_F(ApprovalGuardTest, ATrayMenuAnswersTheAlertThatItWasOpenedFor) {
     alert("M-2");
     line->trigger();
     EXPECT_EQ(launches(), Missions());
-    EXPECT_EQ(windowCalls.count(), 2) << "the window asks anew";
+    EXPECT_EQ(windowCalls.count(), 2) << "the menu opens the window instead of answering";
     open();
     line->trigger();
     EXPECT_EQ(launches(), Missions({"M-2"}));
@@ -218,10 +218,10 @@ TEST_F(ApprovalGuardTest, ATrayMenuAnswersTheAlertThatItWasOpenedFor) {
 
 TEST_F(ApprovalGuardTest, AnAlertClosesEveryMenuAndDialog) {
     serve(mission(Phase::docked));
-    QMenu ofAnother;
-    ofAnother.addAction("Line");
+    QMenu otherMenu;
+    otherMenu.addAction("Line");
     auto menus = window().findChildren<QMenu*>();
-    menus.append(&ofAnother);
+    menus.append(&otherMenu);
     QDialog dialog;
     for (const char* next : {"M-1", "M-2"}) {
         dialog.show();

@@ -10,7 +10,7 @@ const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("
 
 using ApprovalTest = UiTest;
 
-TEST_F(ApprovalTest, NoAnswerCountsInTheFirstMoment) {
+TEST_F(ApprovalTest, IgnoresAnswersUntilTheGuardOpens) {
     window();
     visit(Scenario::driveway);
     const auto shown = clock.now();
@@ -26,7 +26,7 @@ TEST_F(ApprovalTest, NoAnswerCountsInTheFirstMoment) {
     EXPECT_EQ(store().section(), Section::live);
 }
 
-TEST_F(ApprovalTest, ADeadlineOfAClockThatIsOffIsNotCountedDown) {
+TEST_F(ApprovalTest, DoesNotCountDownToAnImplausibleDeadline) {
     linked();
     window();
     LiveState state = LiveState::initial();
@@ -48,7 +48,7 @@ TEST_F(ApprovalTest, ADeadlineOfAClockThatIsOffIsNotCountedDown) {
         EXPECT_FALSE(countdown(off)) << off;
 }
 
-TEST_F(ApprovalTest, FocusStaysInTheCardAndBeginsNowhere) {
+TEST_F(ApprovalTest, TabStaysInTheCardAndNoButtonHasTheFirstFocus) {
     window();
     visit(Scenario::garden);
     ASSERT_TRUE(waitUntil([&] { return shows(launch); }));

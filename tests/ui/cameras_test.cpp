@@ -15,7 +15,7 @@ protected:
         store().setSection(Section::cameras);
         window();
     }
-    /// A camera's switch; null when it is not there.
+    /// Returns the switch of a camera, or null.
     QAbstractButton* theSwitch(const QString& title, const QString& camera) {
         for (auto* button : window().findChildren<QAbstractButton*>())
             if (button->isVisible() && button->accessibleName() == title &&
@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(CamerasTest, LookingWritesNothingAndReadsTheDefaults) {
+TEST_F(CamerasTest, ShowingTheScreenWritesNothingAndUsesTheDefaults) {
     const QByteArray before = content("settings.json");
     look();
     for (const QString camera : {"Driveway", "Front lawn", "East garden"}) {
@@ -56,10 +56,11 @@ TEST_F(CamerasTest, TurningASwitchWritesOnlyItsEntry) {
     EXPECT_EQ(store().settings().alertUnknownFaces, (Entries{{"driveway", false}}));
     EXPECT_FALSE(theSwitch(faces, "Driveway")->isChecked());
     QTest::keyClick(theSwitch(faces, "Driveway"), Qt::Key_Space);
-    EXPECT_EQ(store().settings().alertUnknownFaces, (Entries{{"driveway", true}})) << "an entry stays";
+    EXPECT_EQ(store().settings().alertUnknownFaces, (Entries{{"driveway", true}}))
+        << "the entry stays in the settings";
 }
 
-TEST_F(CamerasTest, AClickOnTheWordsTurnsTheSwitch) {
+TEST_F(CamerasTest, ClickingTheTextTurnsTheSwitch) {
     look();
     click("More alerts at night");
     EXPECT_EQ(store().settings().alertPeople.size(), 1u);
@@ -67,7 +68,7 @@ TEST_F(CamerasTest, AClickOnTheWordsTurnsTheSwitch) {
     EXPECT_EQ(store().settings().alertPeople.at("driveway"), false);
 }
 
-TEST_F(CamerasTest, EntriesThatAreSetAlreadyAreShown) {
+TEST_F(CamerasTest, ShowsStoredEntriesAndKeepsThoseOfOtherCameras) {
     Settings settings = store().settings();
     settings.alertUnknownFaces = {{"front", false}};
     settings.alertPeople = {{"front", true}, {"long gone", true}};
@@ -79,7 +80,7 @@ TEST_F(CamerasTest, EntriesThatAreSetAlreadyAreShown) {
     EXPECT_TRUE(store().settings().alertPeople.at("long gone")) << "entries of other cameras are kept";
 }
 
-TEST_F(CamerasTest, ACardTellsNameConnectionAndAlerts) {
+TEST_F(CamerasTest, ACardShowsNameConnectionAndAlerts) {
     store().applyLinkMode(true);
     look();
     LiveState state = LiveState::initial();
@@ -93,7 +94,7 @@ TEST_F(CamerasTest, ACardTellsNameConnectionAndAlerts) {
     EXPECT_EQ(count("No alerts in the history"), 3);
 }
 
-TEST_F(CamerasTest, CardsStayWhileTheirStateChangesAndFollowTheSite) {
+TEST_F(CamerasTest, CardsSurviveStateChangesAndFollowTheSite) {
     store().applyLinkMode(true);
     look();
     LiveState state = LiveState::initial();
@@ -101,7 +102,7 @@ TEST_F(CamerasTest, CardsStayWhileTheirStateChangesAndFollowTheSite) {
     QAbstractButton* before = theSwitch(faces, "Driveway");
     state.site.cameras[0].online = false;
     serve(state);
-    EXPECT_EQ(theSwitch(faces, "Driveway"), before) << "a control in use is not taken away";
+    EXPECT_EQ(theSwitch(faces, "Driveway"), before) << "the card is not recreated";
 
     state.site.cameras = {{"gate", "Gate", {10, 10}, 0, "", true}, state.site.cameras[1]};
     serve(state);

@@ -22,13 +22,13 @@ protected:
         return "This picture is " + age + " old, last received at " + timeOfDay(*store().lastAnswerAt()) +
                ". " + trying;
     }
-    /// The banner slides away.
-    bool bannerGoes() {
+    /// Waits until the banner has closed.
+    bool bannerCloses() {
         return waitUntil([&] { return !shows("Connection settings"); });
     }
 };
 
-TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer) {
+TEST_F(FreshnessTest, ShowsNoSimulatedStateBeforeTheFirstAnswer) {
     store().applyLinkMode(false);
     window();
     visit(Scenario::driveway);
@@ -42,7 +42,7 @@ TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer)
     for (const char* simulated : {"Launch (approve)", "Open live flight →", "Armed", "Waiting for you"})
         EXPECT_TRUE(waitUntil([&] { return !shows(simulated); })) << simulated;
     EXPECT_TRUE(shows("Connecting…"));
-    EXPECT_FALSE(shows("No picture received yet. " + trying)) << "it may still answer";
+    EXPECT_FALSE(shows("No picture received yet. " + trying)) << "the first request is pending";
     press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_TRUE(link.posts.empty());
 
@@ -59,7 +59,7 @@ TEST_F(FreshnessTest, NothingOfTheSimulatorLooksLikeTheSiteBeforeTheFirstAnswer)
 TEST_F(FreshnessTest, TheFirstGoodAnswerShowsTheSite) {
     window();
     refuse();
-    EXPECT_EQ(freshness(), Freshness::unknown) << "a refusal tells nothing of the site";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "a refusal contains no state";
     EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
     EXPECT_TRUE(shows("No picture received yet. " + trying));
     LiveState state = LiveState::initial();
@@ -68,22 +68,22 @@ TEST_F(FreshnessTest, TheFirstGoodAnswerShowsTheSite) {
     EXPECT_EQ(freshness(), Freshness::live);
     EXPECT_TRUE(shows("Velmora is disarmed."));
     EXPECT_TRUE(shows("Cameras, 3 of 3 online"));
-    EXPECT_TRUE(bannerGoes());
+    EXPECT_TRUE(bannerCloses());
 }
 
-TEST_F(FreshnessTest, APictureIsOldAfterTwoAndAHalfSecondsOfSilence) {
+TEST_F(FreshnessTest, TheStateIsStaleAfterTwoAndAHalfSecondsOfSilence) {
     window();
     serve(LiveState::initial());
     fly(2.45);
     EXPECT_EQ(freshness(), Freshness::live);
-    EXPECT_TRUE(bannerGoes());
+    EXPECT_TRUE(bannerCloses());
     fly(0.1);
     EXPECT_EQ(freshness(), Freshness::stale);
     EXPECT_TRUE(shows(oldPicture("2 s")));
-    EXPECT_TRUE(shows("Your grounds are watched.")) << "the last picture stays";
+    EXPECT_TRUE(shows("Your grounds are watched.")) << "the last state stays on screen";
 }
 
-TEST_F(FreshnessTest, APictureIsOldAfterTwoSecondsOfRefusals) {
+TEST_F(FreshnessTest, TheStateIsStaleAfterTwoSecondsOfRefusals) {
     window();
     serve(LiveState::initial());
     refuse();
@@ -115,11 +115,11 @@ TEST_F(FreshnessTest, TheBannerCountsTheAgeUntilAGoodAnswerClearsIt) {
     EXPECT_TRUE(waitUntil([&] { return shows(hours); }));
     serve(LiveState::initial());
     EXPECT_EQ(freshness(), Freshness::live);
-    EXPECT_TRUE(bannerGoes());
+    EXPECT_TRUE(bannerCloses());
     EXPECT_EQ(*store().lastAnswerAt(), now);
 }
 
-TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
+TEST_F(FreshnessTest, ChangingTheServerDiscardsTheState) {
     window();
     LiveState first = LiveState::initial();
     serve(first);
@@ -130,7 +130,7 @@ TEST_F(FreshnessTest, AnotherServerIsWaitedForAnew) {
     EXPECT_EQ(freshness(), Freshness::unknown);
     first.armed = false;
     serve(first);
-    EXPECT_EQ(freshness(), Freshness::unknown) << "the request was sent to the other server";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "this reply is from the previous server";
     serve(first);
     EXPECT_EQ(freshness(), Freshness::live);
     Settings settings = store().settings();
@@ -149,9 +149,9 @@ TEST_F(FreshnessTest, DemoModeIsLiveAtOnce) {
     ASSERT_EQ(freshness(), Freshness::stale);
     store().applyLinkMode(false);
     EXPECT_EQ(freshness(), Freshness::live);
-    EXPECT_TRUE(bannerGoes());
+    EXPECT_TRUE(bannerCloses());
     store().applyLinkMode(true);
-    EXPECT_EQ(freshness(), Freshness::unknown) << "what was heard before the break is no picture of now";
+    EXPECT_EQ(freshness(), Freshness::unknown) << "the state from before demo mode is discarded";
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// The history's screen over records that the test makes.
+/// The history screen with records that the test creates.
 class HistoryTest : public LinkedUiTest {
 protected:
     /// Opens the history with these records, newest first.
@@ -24,14 +24,14 @@ protected:
         made.demo = demo;
         return made;
     }
-    /// Two flown and two not, at three cameras, two of them for the demo.
+    /// Two flown visits and two that were not, at three cameras; two are demo visits.
     std::vector<MissionRecord> four() {
         return {visitAt("Driveway", "M-1", Outcome::visitorLeft, true),
                 visitAt("Garden", "M-2", Outcome::ignored, true),
                 visitAt("Front", "M-3", Outcome::lowBattery, false),
                 visitAt("Garden", "M-4", Outcome::expired, false)};
     }
-    /// Ten seconds in which the visitor was seen for the first two and the drone flew the last four.
+    /// A visit of ten seconds: the visitor is seen in the first two, the drone flies in the last four.
     MissionRecord flight() {
         MissionRecord made = visitAt("Driveway", "M-1", Outcome::lowBattery, false);
         made.visitorPath.assign(5, {20, 20});
@@ -52,12 +52,12 @@ protected:
                 return index;
         return {};
     }
-    /// Whether these visits are listed, told by how their rows begin, and as many as the count says.
+    /// Whether the list shows this count and, for each text in `rows`, a row that begins with it.
     bool lists(const QString& count, const QStringList& rows) {
         return shows(count) &&
                std::ranges::all_of(rows, [&](const QString& row) { return rowOf(row).isValid(); });
     }
-    /// The ids of the store's records, which the file holds too.
+    /// Ids of the store's records; expects the same records in the file.
     std::vector<std::string> onFile() {
         std::vector<std::string> ids;
         const auto file = decode<std::vector<MissionRecord>>(content("history.json").toStdString());
@@ -70,7 +70,7 @@ protected:
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(rowOf(outcome)).center());
         settle();
     }
-    /// Presses an entry of the menu that is open.
+    /// Clicks an entry of the open menu.
     void pick(const QString& text) {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
@@ -87,7 +87,8 @@ protected:
         QTest::keyClicks(QApplication::focusWidget(), text);
         settle();
     }
-    /// Exports what the menu's entry offers into the home or another folder; its bytes.
+    /// Exports with this menu entry to `folder`, or to the home folder if empty, and returns the file's
+    /// bytes.
     QByteArray exported(const QString& entry, const QString& proposed, const QString& folder = {}) {
         click("Export…");
         pick(entry);

@@ -7,7 +7,7 @@ namespace {
 const QString deleteVisit = QStringLiteral("Delete this visit"),
               clearDemo = QStringLiteral("Clear demo history");
 
-TEST_F(HistoryTest, FiltersNarrowTheListAndSayHowFar) {
+TEST_F(HistoryTest, FiltersNarrowTheListAndShowTheCount) {
     look(four());
     EXPECT_TRUE(lists("4 visits", {"Visitor left your grounds, Driveway, ", "Alert expired", "You ignored"}));
     EXPECT_TRUE(rowOf("You ignored the alert, Garden").data().toString().endsWith(", demo"));
@@ -35,7 +35,7 @@ TEST_F(HistoryTest, FiltersNarrowTheListAndSayHowFar) {
     EXPECT_FALSE(shows("No visits match."));
 }
 
-TEST_F(HistoryTest, TheSearchReadsCamerasLabelsOutcomesNoticesAndIds) {
+TEST_F(HistoryTest, TheSearchCoversCamerasLabelsOutcomesNoticesAndIds) {
     auto history = four();
     history[1].label = "Delivery person";
     history[2].notices = {{{}, now, "Gust of 41 km/h rode out", Notice::Level::info}};
@@ -52,7 +52,7 @@ TEST_F(HistoryTest, TheSearchReadsCamerasLabelsOutcomesNoticesAndIds) {
     }
 }
 
-TEST_F(HistoryTest, TheChosenVisitStaysMarkedWhileTheFiltersShowIt) {
+TEST_F(HistoryTest, TheSelectedVisitStaysHighlightedWhileItMatchesTheFilters) {
     look(four());
     choose("Came home");
     click("Flown");
@@ -62,7 +62,7 @@ TEST_F(HistoryTest, TheChosenVisitStaysMarkedWhileTheFiltersShowIt) {
     EXPECT_EQ(list().currentIndex(), rowOf("Came home"));
 }
 
-TEST_F(HistoryTest, AnEmptyHistoryHasItsOwnWords) {
+TEST_F(HistoryTest, AnEmptyHistoryShowsAnExplanation) {
     look(four());
     while (!store().history().empty())
         store().removeRecord(store().history()[0].key);
@@ -101,29 +101,29 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     respond(Command::ignore);
     tickAfter(0.05);
     click("Undo");
-    EXPECT_EQ(store().history()[2].record.id, "M-2") << "below a visit that has ended meanwhile";
+    EXPECT_EQ(store().history()[2].record.id, "M-2") << "below a visit that ended after the deletion";
     store().removeRecord(store().history()[0].key);
 
     click("Stayed docked");
     choose("You ignored");
     press(Qt::Key_Delete);
-    EXPECT_TRUE(shows("Alert expired — drone stayed docked")) << "the next that is listed";
+    EXPECT_TRUE(shows("Alert expired — drone stayed docked")) << "selects the next listed visit";
     click("Undo");
     click("All");
 
     choose("Alert expired");
     click(deleteVisit);
-    EXPECT_TRUE(shows("Came home on low battery")) << "the one above the last";
+    EXPECT_TRUE(shows("Came home on low battery")) << "selects the previous visit, as there is no next one";
     click(deleteVisit);
     click(deleteVisit);
     click(deleteVisit);
     EXPECT_EQ(onFile(), std::vector<std::string>{});
     click("Undo");
-    EXPECT_EQ(onFile(), std::vector<std::string>{"M-1"}) << "the last one deleted";
+    EXPECT_EQ(onFile(), std::vector<std::string>{"M-1"}) << "only the last deletion is undone";
     EXPECT_TRUE(shows("Visitor left your grounds"));
 }
 
-TEST_F(HistoryTest, TheDaysAreNamedAnewWhenAnotherHasBegun) {
+TEST_F(HistoryTest, DayCaptionsChangeAtMidnight) {
     look(four());
     EXPECT_TRUE(rowOf("Today").isValid());
     pass(86'400);
@@ -133,7 +133,7 @@ TEST_F(HistoryTest, TheDaysAreNamedAnewWhenAnotherHasBegun) {
     EXPECT_FALSE(rowOf("Today").isValid());
 }
 
-TEST_F(HistoryTest, OfTwoVisitsWithOneIdTheChosenOneIsMeant) {
+TEST_F(HistoryTest, SelectsTheRightOneOfTwoVisitsWithTheSameId) {
     auto history = four();
     for (MissionRecord& one : history)
         one.id = "M-1";
@@ -149,7 +149,7 @@ TEST_F(HistoryTest, OfTwoVisitsWithOneIdTheChosenOneIsMeant) {
     EXPECT_TRUE(shows("Alert expired — drone stayed docked"));
 }
 
-TEST_F(HistoryTest, ClearingTheDemoHistoryAsksFirst) {
+TEST_F(HistoryTest, ClearingTheDemoHistoryAsksForConfirmation) {
     look(four());
     const auto ask = [&] {
         click(clearDemo);
@@ -167,10 +167,10 @@ TEST_F(HistoryTest, ClearingTheDemoHistoryAsksFirst) {
     press(Qt::Key_Return);
     EXPECT_EQ(onFile(), (std::vector<std::string>{"M-3", "M-4"}));
     EXPECT_TRUE(shows("Came home on low battery"));
-    EXPECT_FALSE(find(*list().parentWidget(), clearDemo)) << "there is nothing more to clear";
+    EXPECT_FALSE(find(*list().parentWidget(), clearDemo)) << "no demo visits are left";
 }
 
-TEST_F(HistoryTest, KeysWalkTheVisitsAcrossTheDays) {
+TEST_F(HistoryTest, KeysMoveTheSelectionAcrossDayCaptions) {
     auto history = four();
     history[2].start -= Seconds{86400};
     history[3].start -= Seconds{86400};

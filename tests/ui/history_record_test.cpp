@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-TEST_F(HistoryTest, ARecordTellsItsFiguresAndHowItWent) {
+TEST_F(HistoryTest, ARecordShowsItsFiguresAndFacts) {
     look({flight(), visitAt("Garden", "M-2", Outcome::ignored, false)});
     for (const char* fact :
          {"Duration, 0:10 min", "Furthest out, 42 m", "Battery used, 8 %", "Match, 88 % unknown",
@@ -22,11 +22,11 @@ TEST_F(HistoryTest, ARecordTellsItsFiguresAndHowItWent) {
         EXPECT_TRUE(shows(fact)) << fact;
 }
 
-TEST_F(HistoryTest, TheReplayStepsHalfASecondAndShowsTheMapOfThatMoment) {
+TEST_F(HistoryTest, TheReplayStepsByHalfASecondAndTheMapFollows) {
     look({flight()});
-    const QString whole = "Replay of the visitor's path and of the drone's, at most 42 m from its pad.",
+    const QString fullReplay = "Replay of the visitor's path and of the drone's, at most 42 m from its pad.",
                   before = "Replay of the visitor's path; the drone stayed on its pad.";
-    EXPECT_TRUE(shows("0:10 / 0:10") && shows(whole));
+    EXPECT_TRUE(shows("0:10 / 0:10") && shows(fullReplay));
     slider().setFocus();
     press(Qt::Key_Home);
     EXPECT_TRUE(shows("0:00 / 0:10") && shows(before));
@@ -41,10 +41,10 @@ TEST_F(HistoryTest, TheReplayStepsHalfASecondAndShowsTheMapOfThatMoment) {
     ASSERT_NE(notice, nullptr);
     QTest::mouseClick(notice, Qt::LeftButton);
     settle();
-    EXPECT_TRUE(shows("0:07 / 0:10") && shows(whole)) << "the drone has taken off by then";
+    EXPECT_TRUE(shows("0:07 / 0:10") && shows(fullReplay)) << "the drone has taken off by then";
 }
 
-TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPauses) {
+TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPausesTheReplay) {
     look({flight()});
     slider().setFocus();
     press(Qt::Key_Space);
@@ -54,7 +54,8 @@ TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPauses) {
     EXPECT_TRUE(shows("Play"));
     const int paused = slider().value();
     press(Qt::Key_Space);
-    EXPECT_TRUE(waitUntil([&] { return slider().value() > paused; })) << "it goes on from there";
+    EXPECT_TRUE(waitUntil([&] { return slider().value() > paused; }))
+        << "it continues from the paused position";
     visit(Scenario::garden);
     EXPECT_TRUE(shows("Play"));
     respond(Command::ignore);
@@ -66,10 +67,10 @@ TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPauses) {
     settle();
     store().setSection(Section::history);
     settle();
-    EXPECT_TRUE(shows("Play")) << "it does not run unseen";
+    EXPECT_TRUE(shows("Play")) << "it pauses while hidden";
     click("Play");
     EXPECT_TRUE(waitUntil([&] { return slider().value() == slider().maximum(); }));
-    EXPECT_TRUE(waitUntil([&] { return shows("Play"); })) << "it ends by itself";
+    EXPECT_TRUE(waitUntil([&] { return shows("Play"); })) << "it stops at the end";
 }
 
 TEST_F(HistoryTest, TheSliderHasAGapWhereNothingWasRecorded) {
@@ -88,7 +89,7 @@ TEST_F(HistoryTest, TheSliderHasAGapWhereNothingWasRecorded) {
     EXPECT_TRUE(shows("0:05 / 0:10"));
 }
 
-TEST_F(HistoryTest, ExportsAreWhatTheyPromise) {
+TEST_F(HistoryTest, ExportsWriteTheOfferedFormats) {
     auto history = four();
     history[0] = flight();
     history[0].id = "M/../1";
@@ -103,7 +104,7 @@ TEST_F(HistoryTest, ExportsAreWhatTheyPromise) {
     EXPECT_EQ(QImage::fromData(exported("Map as a picture…", "velmora-M----1.png")).size(), map->size() * 2);
     EXPECT_EQ(exported("Record as JSON…", "velmora-M----1.json", "/sys/"), QByteArray());
     settle();
-    EXPECT_TRUE(shows("The file was not saved")) << "nobody may write there";
+    EXPECT_TRUE(shows("The file was not saved")) << "the folder is not writable";
     click("Close");
     EXPECT_FALSE(shows("The file was not saved"));
 }

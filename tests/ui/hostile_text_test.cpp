@@ -15,7 +15,7 @@ const std::string markUp =
 const std::string tricks =
     "../..//%1 %n &Launch \x1b[2J\x07\x01\t\r\n$(reboot) \u202Egate\u202C \u05E9\u05DC";
 
-/// Texts of a server and of records that would like to be more than text.
+/// Texts from a server and from records that contain mark-up and control characters.
 class HostileTextTest : public ServedTest {
 protected:
     LiveState hostile(Phase phase, const std::string& text) const {
@@ -27,7 +27,7 @@ protected:
         state.notices.assign(3, {Uuid::fromRandomBits(7, 7), now, text, Notice::Level::alert});
         return state;
     }
-    /// No label or tooltip takes a text for mark-up, and no text becomes a key of its own.
+    /// Expects that no label or tooltip renders mark-up and that no text creates a shortcut.
     void expectPlain(const std::string& where) {
         EXPECT_FALSE(window().grab().isNull());
         for (const QLabel* label : window().findChildren<QLabel*>())
@@ -49,10 +49,10 @@ protected:
         }
     }
 
-    std::set<std::string> richToolTips; ///< as the owner reads them
+    std::set<std::string> richToolTips; ///< as displayed
 };
 
-TEST_F(HostileTextTest, NoTextOfAServerOrARecordIsMoreThanText) {
+TEST_F(HostileTextTest, TextFromAServerOrARecordIsShownLiterally) {
     const std::string longest(900, 'W');
     std::vector<MissionRecord> history;
     for (const std::string& text : {markUp, tricks, longest, markUp + longest}) {
@@ -76,7 +76,7 @@ TEST_F(HostileTextTest, NoTextOfAServerOrARecordIsMoreThanText) {
         EXPECT_TRUE(text.find("<b>Gate</b><img") != std::string::npos) << text;
 }
 
-TEST_F(HostileTextTest, AnotherSiteWithEveryPollIsDrawn) {
+TEST_F(HostileTextTest, DrawsASiteThatChangesWithEveryPoll) {
     window();
     for (int i = 0; i < 25; ++i) {
         LiveState state = mission(i % 2 == 0 ? Phase::following : Phase::docked);

@@ -5,10 +5,10 @@
 
 namespace velmora {
 
-/// The window over a server that answers when the test says so, and over a history that the test writes.
+/// The window with a server that answers on request and a history that the test writes.
 class LinkedUiTest : public UiTest {
 protected:
-    /// Answers the next request for the state.
+    /// Waits for the next state request and answers it.
     void answer(const FetchResult& result) {
         while (link.fetches.size() == answered_)
             tickAfter(0.05);
@@ -18,7 +18,7 @@ protected:
     void serve(const LiveState& state) { answer(FetchedState{state, "2.1"}); }
     void refuse() { answer(LinkError{"The connection was refused"}); }
 
-    /// Starts over with these records, newest first. Before the window opens.
+    /// Restarts the store with these records, newest first. Call before window().
     void records(const std::vector<MissionRecord>& history) {
         restart();
         putHistory(history);

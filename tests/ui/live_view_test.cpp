@@ -22,7 +22,7 @@ protected:
         window();
     }
 
-    /// The buttons that the owner is offered, from the top.
+    /// Texts of the visible control buttons, from top to bottom.
     QStringList controls() {
         QStringList offered;
         for (const SBButton* button : window().findChild<FlightControls*>()->findChildren<SBButton*>())
@@ -34,7 +34,7 @@ protected:
         return find(*window().findChild<FlightControls*>(), words) != nullptr;
     }
 
-    /// Whether a figure is painted in a colour.
+    /// Whether the metric contains pixels of this colour.
     bool isPainted(const QString& figure, const QColor& color) {
         QWidget* metric = find(figure);
         EXPECT_NE(metric, nullptr) << figure.toStdString();
@@ -79,7 +79,7 @@ TEST_F(LiveViewTest, HeadlineAndTimelineFollowThePhase) {
     expectShown({"Landing on its pad"});
 }
 
-TEST_F(LiveViewTest, StepsThatAreDoneAreFilledAndTheCurrentOneIsHollow) {
+TEST_F(LiveViewTest, FinishedStepsAreFilledAndTheCurrentOneIsHollow) {
     serve(mission(Phase::enRoute));
     const QImage picture = find("Step 3 of 6: On its way")->grab().toImage();
     const auto marker = [&](int step, int x) { return picture.pixelColor(x, 14 + 28 * step); };
@@ -89,7 +89,7 @@ TEST_F(LiveViewTest, StepsThatAreDoneAreFilledAndTheCurrentOneIsHollow) {
     EXPECT_EQ(marker(2, 7), SB::page);
 }
 
-TEST_F(LiveViewTest, ControlsAreThoseOfThePhase) {
+TEST_F(LiveViewTest, ShowsTheControlsOfThePhase) {
     const QString nothing = "Nothing to control — the drone launches only after you approve an alert.";
     const QString decide = "Approve or ignore the alert to continue.";
     EXPECT_EQ(controls(), QStringList{"Simulate a visitor"});
@@ -114,7 +114,7 @@ TEST_F(LiveViewTest, ControlsAreThoseOfThePhase) {
     EXPECT_TRUE(explains(nothing));
 }
 
-TEST_F(LiveViewTest, TheMapTakesTheProportionsOfASiteThatCameWhileItWasHidden) {
+TEST_F(LiveViewTest, AHiddenMapAdoptsTheProportionsOfANewSite) {
     store().setSection(Section::settings);
     LiveState state = mission(Phase::following);
     state.site.size = {300, 80};
@@ -137,7 +137,7 @@ TEST_F(LiveViewTest, EachControlSendsItsCommand) {
     EXPECT_EQ(link.posts.size(), 3U);
 }
 
-TEST_F(LiveViewTest, TheDemoFliesAsTheControlsSay) {
+TEST_F(LiveViewTest, TheControlsSteerTheDemo) {
     click("Simulate a visitor");
     ASSERT_EQ(live().visitor->cameraId, "driveway");
     approve();
@@ -148,7 +148,7 @@ TEST_F(LiveViewTest, TheDemoFliesAsTheControlsSay) {
     EXPECT_EQ(phase(), Phase::enRoute);
 }
 
-TEST_F(LiveViewTest, LandingIsSentOnlyOnceItIsConfirmed) {
+TEST_F(LiveViewTest, LandingIsSentOnlyAfterConfirmation) {
     serve(mission(Phase::following));
     askToLand();
     clickThrough("Return home");
@@ -164,7 +164,7 @@ TEST_F(LiveViewTest, LandingIsSentOnlyOnceItIsConfirmed) {
     serve(mission(Phase::landing));
     EXPECT_TRUE(shows("Keep flying"));
     serve(mission(Phase::docked));
-    ASSERT_TRUE(waitUntil([&] { return !shows(landCard); })); // the drone is down
+    ASSERT_TRUE(waitUntil([&] { return !shows(landCard); })); // the drone has landed
     EXPECT_TRUE(link.posts.empty());
 
     serve(mission(Phase::following));
@@ -200,7 +200,7 @@ TEST_F(LiveViewTest, FlightTimeCountsInMinutesAndHours) {
     for (const auto& [seconds, shown] : times) {
         LiveState state = mission(Phase::following);
         serve(state);
-        state.missionStart = now + Seconds{0.44 - seconds}; // the next answer comes in 0.45 s
+        state.missionStart = now + Seconds{0.44 - seconds}; // serve() answers 0.45 s later
         serve(state);
         EXPECT_TRUE(shows("Flight time, " + shown)) << seconds;
     }
@@ -223,7 +223,7 @@ TEST_F(LiveViewTest, BatteryAndWindWarnAtTheirLimits) {
     serve(state);
     EXPECT_TRUE(isPainted("Battery, 30 %", SB::caution));
     EXPECT_TRUE(isPainted("Wind, 25 km/h", SB::caution));
-    settings = store().settings(); // which are linked by now
+    settings = store().settings(); // now in link mode
     settings.maxWindKmh = 26;
     store().setSettings(settings);
     settle();

@@ -16,7 +16,7 @@ namespace {
 const QString sentence = QStringLiteral("Someone you don't know is at the driveway camera.");
 constexpr TextStyle spaced{SBFont::Face::semiBold, 20, 24, 12};
 
-/// The columns that hold ink, first and last, of a text in a row of 200.
+/// First and last painted column of a text drawn into a row of 200 pixels.
 std::pair<int, int> inkOf(const QString& text, const TextStyle& style, Qt::Alignment alignment) {
     QImage picture(200, 40, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
@@ -32,7 +32,7 @@ std::pair<int, int> inkOf(const QString& text, const TextStyle& style, Qt::Align
     return {first, last};
 }
 
-TEST(LookTest, OnlyMediumAndTheBoldWeightsHaveFacesOfTheirOwn) {
+TEST(LookTest, OnlyMediumAndTheBoldWeightsHaveSeparateFaces) {
     using SBFont::Face;
     EXPECT_EQ(SBFont::faceFor(QFont::Medium), Face::medium);
     for (const QFont::Weight weight : {QFont::DemiBold, QFont::Bold})
@@ -54,7 +54,7 @@ TEST(LookTest, EveryFaceIsTheBundledOne) {
     EXPECT_EQ(widths.size(), 5U);
 }
 
-TEST(LookTest, OnlyDigitsStandInCellsOfTheirOwn) {
+TEST(LookTest, TabularStyleGivesOnlyDigitsAFixedWidth) {
     TextStyle plain{SBFont::Face::medium, 16, 24}, tabular = plain;
     tabular.tabular = true;
     EXPECT_EQ(textWidth("11:11", tabular), textWidth("00:00", tabular));
@@ -67,7 +67,7 @@ TEST(LookTest, OnlyDigitsStandInCellsOfTheirOwn) {
     }
 }
 
-TEST(LookTest, TrackingStandsBetweenLettersOnly) {
+TEST(LookTest, TrackingAppliesOnlyBetweenLetters) {
     TextStyle plain = spaced;
     plain.tracking = 0;
     EXPECT_NEAR(textWidth("H", spaced), textWidth("H", plain), 0.01);
@@ -78,7 +78,7 @@ TEST(LookTest, TrackingStandsBetweenLettersOnly) {
     EXPECT_NEAR(left, 199 - right, 1);
 }
 
-TEST(LookTest, ChangingDigitsShiftNothing) {
+TEST(LookTest, ChangingDigitsKeepsTheWidth) {
     for (const TextStyle& style : {Type::metric, Type::telemetry, Type::sliderValue, Type::logTime}) {
         for (const QChar digit : QStringLiteral("123456789"))
             EXPECT_DOUBLE_EQ(textWidth(QString(4, digit), style), textWidth("0000", style));
@@ -90,7 +90,7 @@ TEST(LookTest, ChangingDigitsShiftNothing) {
               inkOf("8H", Type::telemetry, Qt::AlignLeft).second);
 }
 
-TEST(LookTest, WhatIsTooLongEndsInAnEllipsisInsideItsWidth) {
+TEST(LookTest, TooLongTextEndsInAnEllipsisInsideItsWidth) {
     for (const TextStyle& style : {Type::body, Type::caption, Type::metric, spaced})
         for (const double width : {40.0, 90.0, 160.0}) {
             const QString cut = elided(sentence, style, width);
@@ -118,9 +118,9 @@ TEST(LookTest, LinesBreakBetweenWordsAndLoseNothing) {
 TEST(LookTest, AHeadlineBreaksToItsWidthAndKeepsItsTailWithTheLastWord) {
     const Headline headline({"All quiet ", "at home", "."}, Type::headline, false, nullptr);
     EXPECT_EQ(headline.accessibleName(), "All quiet at home.");
-    const int whole = static_cast<int>(textWidth("All quiet at home.", Type::headline));
-    EXPECT_EQ(headline.heightForWidth(whole + 2), 44);
-    EXPECT_EQ(headline.heightForWidth(whole - 4), 88);
+    const int fullWidth = static_cast<int>(textWidth("All quiet at home.", Type::headline));
+    EXPECT_EQ(headline.heightForWidth(fullWidth + 2), 44);
+    EXPECT_EQ(headline.heightForWidth(fullWidth - 4), 88);
     const Headline broken({"Every visit,\n", "on record", "."}, Type::headline, false, nullptr);
     EXPECT_EQ(broken.heightForWidth(2000), 88);
     EXPECT_EQ(broken.accessibleName(), "Every visit, on record.");
@@ -134,8 +134,8 @@ TEST(LookTest, ArtIsFoundByNameAndNeverOutsideItsFolder) {
         EXPECT_TRUE(Art::find(name).isNull()) << name;
 }
 
-/// Colours and fonts have one home each; everything else uses what is made there.
-TEST(LookTest, NoScreenMakesAColourOrAFontOfItsOwn) {
+/// Colours and fonts are defined only in ui/look.
+TEST(LookTest, ScreensWindowAndBlocksDefineNoColoursOrFonts) {
     const QRegularExpression made(
         R"(QColor(\s+\w+)?\s*[({]\s*["0-9]|QColor::from|"#[0-9A-Fa-f]{3,8}"|qRgb|)"
         R"(Qt::(white|black|red|green|blue|cyan|magenta|yellow|(dark|light)?gray)\b|)"

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char* argv[]) {
-    const QTemporaryDir config; // for what Qt's file dialog remembers
+    const QTemporaryDir config; // keeps the settings of Qt's file dialog out of the user's
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config.path());
     const auto application = velmora::makeApplication(argc, argv);
     testing::InitGoogleTest(&argc, argv);

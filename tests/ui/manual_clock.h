@@ -8,7 +8,8 @@
 
 namespace velmora {
 
-/// The user interface's clock while it exists, moved by the test alone. Events happen when they are sent.
+/// Replaces the user interface's clock during its lifetime. Only the test advances it; input events carry its
+/// time.
 class ManualClock final : public UiClock {
 public:
     ManualClock() : before_(install(*this)) {}
@@ -19,7 +20,7 @@ public:
         return static_cast<std::uint64_t>(now_.count());
     }
 
-    /// Lets the timers run that are due in this time, in their order, and everything that follows from them.
+    /// Advances the clock by `time`, fires the timers that become due in order, and processes events.
     void advance(std::chrono::milliseconds time) {
         const auto end = now_ + time;
         for (UiTimer* timer = nextBefore(end); timer; timer = nextBefore(end)) {
@@ -46,7 +47,7 @@ private:
     using milliseconds = std::chrono::milliseconds;
     UiClock& before_;
     milliseconds now_ = std::chrono::hours(24);
-    std::map<UiTimer*, milliseconds> due_; ///< of the running timers
+    std::map<UiTimer*, milliseconds> due_; ///< due time of each running timer
 };
 
 } // namespace velmora

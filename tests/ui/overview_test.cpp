@@ -10,7 +10,7 @@ namespace {
 
 class OverviewTest : public LinkedUiTest {
 protected:
-    /// The rows of recent activity that begin with the outcome.
+    /// The rows of "Recent activity" that begin with this outcome.
     QList<QAbstractButton*> rows(Outcome outcome) {
         QList<QAbstractButton*> found;
         for (auto* button : window().findChildren<QAbstractButton*>())
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(OverviewTest, HeadlineAndLedeTellHowTheGroundsStand) {
+TEST_F(OverviewTest, HeadlineAndLedeSummariseTheState) {
     EXPECT_TRUE(find("Your grounds are watched."));
     EXPECT_TRUE(
         shows("3 cameras are looking for people they don't recognise. The drone is on its pad and only "
@@ -90,7 +90,7 @@ TEST_F(OverviewTest, VisitsAreOfferedInDemoModeBetweenMissions) {
     EXPECT_FALSE(shows("Launch (approve)"));
 }
 
-TEST_F(OverviewTest, AServerDecidesAboutVisitsAndArming) {
+TEST_F(OverviewTest, InLinkModeTheServerControlsVisitsAndArming) {
     store().applyLinkMode(true);
     window();
     LiveState state = LiveState::initial();
@@ -106,9 +106,9 @@ TEST_F(OverviewTest, AServerDecidesAboutVisitsAndArming) {
     EXPECT_EQ(link.posts[0].command, Command::approve);
 }
 
-TEST_F(OverviewTest, TheAlertsCellSaysWhereAlertsGo) {
+TEST_F(OverviewTest, TheAlertsCellShowsWhereAlertsGo) {
     window();
-    const auto tellsWith = [&](bool mac, const std::string& topic, const QString& where) {
+    const auto showsDestination = [&](bool mac, const std::string& topic, const QString& where) {
         Settings settings = store().settings();
         settings.notifyMac = mac;
         settings.ntfyTopic = topic;
@@ -116,13 +116,13 @@ TEST_F(OverviewTest, TheAlertsCellSaysWhereAlertsGo) {
         settle();
         return shows("Alerts, " + where + ", Unknown faces trigger an alert, Every launch needs your yes");
     };
-    EXPECT_TRUE(tellsWith(true, "", "This Mac"));
-    EXPECT_TRUE(tellsWith(true, "velmora-home", "This Mac + phone"));
-    EXPECT_TRUE(tellsWith(false, "velmora-home", "Phone"));
-    EXPECT_TRUE(tellsWith(false, "", "This window only"));
+    EXPECT_TRUE(showsDestination(true, "", "This Mac"));
+    EXPECT_TRUE(showsDestination(true, "velmora-home", "This Mac + phone"));
+    EXPECT_TRUE(showsDestination(false, "velmora-home", "Phone"));
+    EXPECT_TRUE(showsDestination(false, "", "This window only"));
 }
 
-TEST_F(OverviewTest, TheStripTellsWindCamerasAndDrone) {
+TEST_F(OverviewTest, TheStripShowsWindCamerasAndDrone) {
     Settings settings = store().settings();
     settings.maxWindKmh = 30.9;
     store().setSettings(settings);
@@ -131,7 +131,7 @@ TEST_F(OverviewTest, TheStripTellsWindCamerasAndDrone) {
     LiveState state = LiveState::initial();
     state.windKmh = 30.9;
     serve(state);
-    EXPECT_TRUE(shows("Wind, 31 km/h, Fine to fly (limit 30 km/h)")) << "at the limit it still flies";
+    EXPECT_TRUE(shows("Wind, 31 km/h, Fine to fly (limit 30 km/h)")) << "the limit itself is still allowed";
     EXPECT_TRUE(shows("Cameras, 3 of 3 online"));
     EXPECT_TRUE(shows("Drone, On its pad, 92% battery · signal 96%"));
 
@@ -168,14 +168,14 @@ TEST_F(OverviewTest, TheNewestFiveVisitsAreListedAndAClickOpensOne) {
     EXPECT_EQ(store().section(), Section::history);
 }
 
-TEST_F(OverviewTest, OfTwoVisitsWithOneIdTheClickedOneOpens) {
+TEST_F(OverviewTest, OpensTheClickedOneOfTwoVisitsWithTheSameId) {
     records({record("M-1", Outcome::visitorLeft, 10), record("M-1", Outcome::lowBattery, 20)});
     QTest::mouseClick(rows(Outcome::lowBattery).at(0), Qt::LeftButton);
     settle();
     EXPECT_TRUE(shows("Came home on low battery"));
 }
 
-TEST_F(OverviewTest, AnEmptyHistorySaysSo) {
+TEST_F(OverviewTest, AnEmptyHistoryShowsAHint) {
     const QString nothing = "Nothing yet. When a camera spots someone you don't know, it appears here.";
     window();
     EXPECT_FALSE(shows(nothing));

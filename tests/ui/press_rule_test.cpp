@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A card and a window, and an event loop that runs or stands still.
+/// A card, a window, and an event loop that runs or stalls.
 class PressRuleTest : public testing::Test {
 protected:
     void run(EventTime time) {
@@ -23,7 +23,7 @@ protected:
     EventTime now = 10s;
 };
 
-TEST_F(PressRuleTest, APressCountsOnceCardAndWindowWereThereForTheGuardTime) {
+TEST_F(PressRuleTest, APressCountsAfterCardAndWindowWereShownForTheGuardTime) {
     rule.windowActivated(now);
     run(5s);
     EXPECT_FALSE(counts()) << "no card yet";
@@ -32,7 +32,7 @@ TEST_F(PressRuleTest, APressCountsOnceCardAndWindowWereThereForTheGuardTime) {
     EXPECT_FALSE(counts());
     run(50ms);
     EXPECT_TRUE(counts());
-    EXPECT_FALSE(rule.counts(now - 1ms)) << "it began earlier, whenever it is handled";
+    EXPECT_FALSE(rule.counts(now - 1ms)) << "the time of the press decides, not of its handling";
     rule.windowDeactivated();
     EXPECT_FALSE(counts());
     rule.windowActivated(now);
@@ -48,7 +48,7 @@ TEST_F(PressRuleTest, APressCountsOnceCardAndWindowWereThereForTheGuardTime) {
     EXPECT_FALSE(counts());
 }
 
-TEST_F(PressRuleTest, AStallBeginsTheGuardTimeAgainWhicheverIsHandledFirst) {
+TEST_F(PressRuleTest, AStallRestartsTheGuardTimeInEitherEventOrder) {
     rule.windowActivated(now);
     for (const bool pressFirst : {true, false}) {
         rule.cardPainted(now);
@@ -65,25 +65,25 @@ TEST_F(PressRuleTest, AStallBeginsTheGuardTimeAgainWhicheverIsHandledFirst) {
     }
 }
 
-TEST(EventClockTest, AnEventHandledLateBeganEarlier) {
+TEST(EventClockTest, ALateEventIsDatedByItsTimeStamp) {
     for (const std::uint64_t zero : {1ull, 77'000ull, 0xFFFF'FF00ull}) { // the last one wraps at 32 bits
         EventClock clock;
         const auto began = [&](std::uint64_t stamp, EventTime now) {
             return clock.began((zero + stamp) & 0xFFFF'FFFF, now).count();
         };
         EXPECT_EQ(began(1000, 5020ms), 5020) << "nothing to compare with";
-        EXPECT_EQ(began(1100, 5110ms), 5110) << "the promptest so far";
+        EXPECT_EQ(began(1100, 5110ms), 5110) << "the shortest delay so far";
         EXPECT_EQ(began(1200, 5500ms), 5210);
         EXPECT_EQ(began(1500, 5512ms), 5510);
         EXPECT_EQ(clock.began(0, 5600ms).count(), 5600) << "no time stamp";
-        EXPECT_EQ(began(70'000, 80'000ms), 80'000) << "clocks drift: after a minute it learns again";
+        EXPECT_EQ(began(70'000, 80'000ms), 80'000) << "recalibrates after a minute, as clocks drift";
     }
 }
 
-/// A keyboard whose events carry time stamps, unless the test takes them away.
+/// A keyboard whose events have time stamps while `stamped` is set.
 class KeyPressesTest : public testing::Test {
 protected:
-    /// Whether the press counts as one of a finger, with no other key down.
+    /// Whether the press counts: not a repeat, and no other answer key is down.
     bool counts(int key, int time, bool flagged = false) {
         const KeyPresses::Press press =
             keys.pressed({codeOf(key), KeyPresses::isAnswerKey(key), stamp(time), EventTime(time), flagged});
@@ -93,7 +93,7 @@ protected:
         keys.released({codeOf(key), KeyPresses::isAnswerKey(key), stamp(arrival > 0 ? 0 : time),
                        EventTime(arrival > 0 ? arrival : time)});
     }
-    /// A no-break space is on the space bar, with another modifier.
+    /// The space bar produces a no-break space with some modifiers.
     static std::uint32_t codeOf(int key) { return key == Qt::Key_nobreakspace ? Qt::Key_Space : key; }
     std::uint64_t stamp(int time) const { return stamped ? static_cast<std::uint64_t>(time) : 0; }
 
@@ -101,7 +101,7 @@ protected:
     bool stamped = true;
 };
 
-TEST_F(KeyPressesTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
+TEST_F(KeyPressesTest, DetectsARepeatWithoutTheToolkitsFlag) {
     EXPECT_TRUE(counts(Qt::Key_Return, 100));
     for (int time = 760; time < 2000; time += 33) {
         release(Qt::Key_Return, time);
@@ -113,16 +113,16 @@ TEST_F(KeyPressesTest, ARepeatIsToldFromTheNextPressWithoutTheToolkitsFlag) {
     EXPECT_TRUE(counts(Qt::Key_Return, 2160));
     EXPECT_FALSE(counts(Qt::Key_Return, 2170)) << "a repeat whose release was not sent";
     release(Qt::Key_Return, 2200);
-    EXPECT_FALSE(counts(Qt::Key_Return, 2300, true)) << "the flag counts where it is set";
+    EXPECT_FALSE(counts(Qt::Key_Return, 2300, true)) << "a set flag marks a repeat";
     keys.forget(); // the window lost the keyboard while the key was down
     release(Qt::Key_Return, 3000);
-    EXPECT_FALSE(counts(Qt::Key_Return, 3000)) << "held since before the window came";
+    EXPECT_FALSE(counts(Qt::Key_Return, 3000)) << "held since before the window got the focus";
     release(Qt::Key_Return, 3100);
     stamped = false;
     EXPECT_TRUE(counts(Qt::Key_Return, 3101)) << "a platform without time stamps";
 }
 
-TEST_F(KeyPressesTest, ARepeatIsToldThoughItsReleaseComesLateAndWithoutATimeStamp) {
+TEST_F(KeyPressesTest, DetectsARepeatWhoseReleaseIsLateAndHasNoTimeStamp) {
     EXPECT_TRUE(counts(Qt::Key_Return, 100));
     release(Qt::Key_Return, 760, 764);
     EXPECT_FALSE(counts(Qt::Key_Return, 760));
@@ -130,13 +130,13 @@ TEST_F(KeyPressesTest, ARepeatIsToldThoughItsReleaseComesLateAndWithoutATimeStam
     EXPECT_TRUE(counts(Qt::Key_Return, 870));
 }
 
-TEST_F(KeyPressesTest, AKeyIsUpThoughItsReleaseHasAnotherName) {
+TEST_F(KeyPressesTest, ReleasesAKeyThatReportsAnotherKeyCode) {
     EXPECT_TRUE(counts(Qt::Key_Space, 100));
     release(Qt::Key_nobreakspace, 180);
     EXPECT_TRUE(counts(Qt::Key_Return, 300));
     release(Qt::Key_Return, 380);
     EXPECT_TRUE(counts(Qt::Key_A, 400));
-    EXPECT_FALSE(counts(Qt::Key_A, 430)) << "other keys repeat, too";
+    EXPECT_FALSE(counts(Qt::Key_A, 430)) << "repeats of other keys are ignored too";
     EXPECT_TRUE(counts(Qt::Key_Space, 450)) << "only answer keys must be up";
 }
 

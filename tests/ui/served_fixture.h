@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// The window of a server in any phase of a mission.
+/// The window with a server that is in any phase of a mission.
 class ServedTest : public LinkedUiTest {
 protected:
     void serve(const LiveState& state) {
@@ -16,7 +16,7 @@ protected:
         settle();
     }
 
-    /// With the drone 5 m from the visitor and 13 m from its pad.
+    /// A state with the drone 5 m from the visitor and 13 m from its pad.
     LiveState mission(Phase phase) const {
         LiveState state = LiveState::initial();
         state.phase = phase;

@@ -11,7 +11,7 @@ namespace {
 
 const QString demoMode = QStringLiteral("Demo mode (built-in simulation)"),
               serverMode = QStringLiteral("velmora on my network"),
-              portRefusal = QStringLiteral("Not stored: a port is a whole number from 1 to 65535.");
+              portError = QStringLiteral("Not stored: a port is a whole number from 1 to 65535.");
 
 class SettingsTest : public LinkedUiTest {
 protected:
@@ -31,8 +31,8 @@ protected:
         found->setFocus();
         return *found;
     }
-    /// The value that stands beside the slider.
-    bool tells(const QString& name, const QString& value) {
+    /// Whether the line of the slider shows this value.
+    bool showsValue(const QString& name, const QString& value) {
         return find<QWidget>(*find<QSlider>(name)->parentWidget(), value) != nullptr;
     }
     void type(const QString& field, const QString& text) {
@@ -54,7 +54,7 @@ protected:
     QString shown(const QString& field) { return find<QLineEdit>(field)->text(); }
 };
 
-TEST_F(SettingsTest, ValuesAreCutNotRoundedAndLookingStoresNothing) {
+TEST_F(SettingsTest, ShowsTruncatedValuesWithoutStoringThem) {
     set([](Settings& s) {
         s.flightHeight = 15.9;
         s.boundaryBuffer = 45;
@@ -64,11 +64,11 @@ TEST_F(SettingsTest, ValuesAreCutNotRoundedAndLookingStoresNothing) {
     const Settings before = store().settings();
     const QByteArray file = content("settings.json");
     look();
-    EXPECT_TRUE(tells("Flight height", "15 m"));
-    EXPECT_TRUE(tells("Stay this far inside", "45 m"));
-    EXPECT_TRUE(tells("Alert expires after", "59 s"));
-    EXPECT_TRUE(tells("Don't launch if wind is over", "-2 km/h"));
-    EXPECT_TRUE(tells("Return when battery is below", "30 %"));
+    EXPECT_TRUE(showsValue("Flight height", "15 m"));
+    EXPECT_TRUE(showsValue("Stay this far inside", "45 m"));
+    EXPECT_TRUE(showsValue("Alert expires after", "59 s"));
+    EXPECT_TRUE(showsValue("Don't launch if wind is over", "-2 km/h"));
+    EXPECT_TRUE(showsValue("Return when battery is below", "30 %"));
     store().setSection(Section::overview);
     settle();
     store().setSection(Section::settings);
@@ -77,8 +77,8 @@ TEST_F(SettingsTest, ValuesAreCutNotRoundedAndLookingStoresNothing) {
     EXPECT_EQ(content("settings.json"), file);
 
     QTest::keyClick(&slider("Stay this far inside"), Qt::Key_Left);
-    EXPECT_EQ(store().settings().boundaryBuffer, 14) << "a value from outside moves from the nearest bound";
-    EXPECT_EQ(store().settings().flightHeight, 15.9) << "the others are left";
+    EXPECT_EQ(store().settings().boundaryBuffer, 14) << "an out-of-range value moves from the nearest bound";
+    EXPECT_EQ(store().settings().flightHeight, 15.9) << "other settings keep their values";
 }
 
 TEST_F(SettingsTest, EverySliderStoresItsOwnLimitBetweenItsBounds) {
@@ -109,11 +109,11 @@ TEST_F(SettingsTest, EverySliderStoresItsOwnLimitBetweenItsBounds) {
         pressing(Qt::Key_End, limit.upper);
         pressing(Qt::Key_Down, limit.upper - 1);
     }
-    EXPECT_TRUE(tells("Alert expires after", "119 s"));
+    EXPECT_TRUE(showsValue("Alert expires after", "119 s"));
     EXPECT_TRUE(content("settings.json").contains(R"("approvalSeconds":119)"));
 }
 
-TEST_F(SettingsTest, TheMouseMovesASliderToWhereItPressesAndDrags) {
+TEST_F(SettingsTest, ClicksAndDragsMoveASlider) {
     look();
     QSlider& height = slider("Flight height");
     const int middle = height.height() / 2;
@@ -157,7 +157,7 @@ TEST_F(SettingsTest, TheConnectionShowsTheServerOnlyInLinkMode) {
     EXPECT_EQ(store().linkStatus(), LinkStatus::demo());
     EXPECT_TRUE(waitUntil([&] { return !shows("Host"); }));
     QTest::keyClick(find(demoMode), Qt::Key_Down);
-    EXPECT_TRUE(store().settings().linkMode) << "by keys too";
+    EXPECT_TRUE(store().settings().linkMode) << "the keyboard changes it too";
 }
 
 TEST_F(SettingsTest, TheHostIsStoredAsItIsTyped) {
@@ -170,30 +170,30 @@ TEST_F(SettingsTest, TheHostIsStoredAsItIsTyped) {
     }
 }
 
-TEST_F(SettingsTest, APortThatIsNoneIsNotStoredAndTheFieldSaysSo) {
+TEST_F(SettingsTest, AnInvalidPortIsNotStoredAndTheFieldShowsTheError) {
     store().applyLinkMode(true);
     look();
     for (const QString refused : {"0", "65536", "99999", ""}) {
         type("Port", refused);
         EXPECT_EQ(shown("Port"), refused);
-        EXPECT_TRUE(shows(portRefusal)) << refused.toStdString();
+        EXPECT_TRUE(shows(portError)) << refused.toStdString();
         EXPECT_NE(QString::number(store().settings().port), refused);
         type("Port", "65535");
-        EXPECT_FALSE(shows(portRefusal));
+        EXPECT_FALSE(shows(portError));
         EXPECT_EQ(store().settings().port, 65535);
         set([](Settings& s) { s.port = 8765; });
     }
     type("Port", "1");
     EXPECT_EQ(store().settings().port, 1);
     type("Port", "x-7.e");
-    EXPECT_EQ(shown("Port"), "7") << "only digits go in";
+    EXPECT_EQ(shown("Port"), "7") << "the field accepts only digits";
     type("Port", "0");
     refuse();
-    EXPECT_EQ(shown("Port"), "0") << "not while someone types";
+    EXPECT_EQ(shown("Port"), "0") << "the text stays while the field has the focus";
     find("Host")->setFocus();
     settle();
-    EXPECT_EQ(shown("Port"), "8765") << "the one from before";
-    EXPECT_FALSE(shows(portRefusal));
+    EXPECT_EQ(shown("Port"), "8765") << "the stored port";
+    EXPECT_FALSE(shows(portError));
 }
 
 TEST_F(SettingsTest, TrackingIsChosenWithItsNote) {
@@ -214,7 +214,7 @@ TEST_F(SettingsTest, TrackingIsChosenWithItsNote) {
     EXPECT_TRUE(shows(own));
 }
 
-TEST_F(SettingsTest, AlertsGoWhereTheOwnerSays) {
+TEST_F(SettingsTest, StoresWhereAlertsGo) {
     look();
     QTest::mouseClick(find<QAbstractButton>("Alert on this Mac"), Qt::LeftButton);
     EXPECT_FALSE(store().settings().notifyMac);
@@ -225,10 +225,10 @@ TEST_F(SettingsTest, AlertsGoWhereTheOwnerSays) {
     EXPECT_EQ(store().settings().ntfyTopic, " my/topic ");
     QTest::keyClick(topic, Qt::Key_Home);
     QTest::keyClicks(topic, "ab");
-    EXPECT_EQ(store().settings().ntfyTopic, "ab my/topic ") << "the cursor stays where one types";
+    EXPECT_EQ(store().settings().ntfyTopic, "ab my/topic ") << "the cursor keeps its position";
 }
 
-TEST_F(SettingsTest, TheSwitchForTheLoginShowsWhatTheDesktopTook) {
+TEST_F(SettingsTest, TheLoginSwitchShowsWhatTheDesktopAccepted) {
     loginItem.on = true;
     look();
     auto* start = find<QAbstractButton>("Start Velmora when I log in");
@@ -240,7 +240,7 @@ TEST_F(SettingsTest, TheSwitchForTheLoginShowsWhatTheDesktopTook) {
     EXPECT_FALSE(loginItem.on || start->isChecked());
 }
 
-TEST_F(SettingsTest, TheWelcomeComesBackWithoutForgettingThatItWasDone) {
+TEST_F(SettingsTest, ReopeningTheWelcomeKeepsTheOnboardedFlag) {
     look();
     const QByteArray file = content("settings.json");
     click("Show welcome again");

@@ -28,7 +28,7 @@ QColor onNavy(const QColor& color, double opacity) {
     return SB::mixed(SB::navy, color, opacity);
 }
 
-/// The demo grounds without their picture and their cameras; shapes only until a test asks for labels.
+/// The demo site without its picture, cameras and labels.
 class MapPicture : public testing::Test {
 protected:
     MapPicture() {
@@ -63,7 +63,7 @@ protected:
     void see(P pos, const std::string& camera) {
         scene.state.visitor = Visitor{pos, "Unknown person", 0.9, camera, true, {}};
     }
-    /// Shows the mission, which lasts one second, as it was after so many.
+    /// Shows the mission, which lasts one second, `seconds` after its start.
     void replay(double seconds = 1) {
         scene.replay = Replay{std::make_shared<MissionRecord>(mission), progressAt(mission, seconds)};
     }
@@ -72,7 +72,7 @@ protected:
     MissionRecord mission;
 };
 
-TEST_F(MapPicture, ThePlanIsFittedWholeAndCentred) {
+TEST_F(MapPicture, ThePlanFitsTheCanvasAndIsCentred) {
     const MapTransform wide({300, 300}, {100, 50});
     EXPECT_DOUBLE_EQ(wide.scale(), 3);
     EXPECT_EQ(wide.plan(), QRectF(0, 75, 300, 150));
@@ -108,9 +108,9 @@ TEST_F(MapPicture, OnlyTheCameraThatSeesTheVisitorIsBrighter) {
     see({130, 20}, "b");
     expectWedges(0.16, 0.3);
     EXPECT_COLOR(at(400, 200), SB::navy);       // behind a camera that looks down
-    EXPECT_COLOR(at(228, 188), SB::navy);       // 45 degrees aside
+    EXPECT_COLOR(at(228, 188), SB::navy);       // 45 degrees off its axis
     EXPECT_COLOR(at(200 + 138, 160), SB::navy); // out of range
-    EXPECT_GT(at(228, 160 + 15).blue(), 60);    // 28 degrees aside, towards +y
+    EXPECT_GT(at(228, 160 + 15).blue(), 60);    // 28 degrees off its axis, towards +y
     EXPECT_GT(at(228, 160 - 15).blue(), 60);
 }
 
@@ -139,7 +139,7 @@ TEST_F(MapPicture, ATrailOfOnePointDrawsNothing) {
     EXPECT_LT(dashes, 75);
 }
 
-TEST_F(MapPicture, ALongTrailIsAsClearWhereItsPiecesMeet) {
+TEST_F(MapPicture, ALongTrailHasNoSeamsBetweenItsSegments) {
     see({130, 20}, "a");
     scene.state.visitor->trail = {{5, 30.125}};
     for (int metres = 6; metres < 120; ++metres)
@@ -163,9 +163,9 @@ TEST_F(MapPicture, AReplayShowsItsPathsInsteadOfTheLiveOnes) {
         EXPECT_COLOR(at(end, 198), SB::lilac) << end;
 }
 
-TEST_F(MapPicture, AVisitorWhoLeftIsLastSeenUntilTheReplayEnds) {
+TEST_F(MapPicture, AVisitorWhoLeftIsLabelledLastSeenUntilTheReplayEnds) {
     scene.showLabels = true;
-    const auto caption = [&](Outcome outcome, double seconds) { // of the visitor's last point
+    const auto caption = [&](Outcome outcome, double seconds) { // at the visitor's last point
         mission.outcome = outcome;
         replay(seconds);
         return draw().copy(168, 190, 80, 20);
@@ -192,12 +192,12 @@ TEST_F(MapPicture, LabelsOffLeavesTheShapesAndNoText) {
     EXPECT_GT(shapes.pixelColor(static_cast<int>(74 * 4 + 2.6 * 4), 282).green(), 120); // the pad's circle
     scene.showLabels = true;
     const QImage labelled = draw();
-    for (const QRect& place : {QRect(37, 33, 90, 11), QRect(450, 154, 80, 12), QRect(160, 140, 80, 11),
+    for (const QRect& label : {QRect(37, 33, 90, 11), QRect(450, 154, 80, 12), QRect(160, 140, 80, 11),
                                QRect(282, 176, 28, 11), QRect(282, 298, 28, 11), QRect(470, 344, 90, 11)})
-        EXPECT_NE(labelled.copy(place), shapes.copy(place)) << place.x() << ' ' << place.y();
+        EXPECT_NE(labelled.copy(label), shapes.copy(label)) << label.x() << ' ' << label.y();
 }
 
-TEST_F(MapPicture, TheBufferIsCutAndTheHeightIsRounded) {
+TEST_F(MapPicture, TheBufferIsTruncatedAndTheHeightIsRounded) {
     scene.showLabels = true;
     const auto buffer = [&](double metres) {
         scene.settings.boundaryBuffer = metres;
@@ -216,7 +216,7 @@ TEST_F(MapPicture, TheBufferIsCutAndTheHeightIsRounded) {
     EXPECT_NE(height(14.4), height(15));
 }
 
-TEST_F(MapPicture, RotorsTurnOnlyInFlightAndTheNoseLeads) {
+TEST_F(MapPicture, RotorsTurnOnlyInFlightAndTheNosePointsForward) {
     const QImage parked = draw();
     EXPECT_EQ(draw(0.05), parked);
     scene.state.phase = Phase::enRoute;
@@ -240,7 +240,7 @@ TEST_F(MapPicture, ThePulseGrowsAndFadesEvery16Tenths) {
     EXPECT_EQ(draw(1.0), draw(2.6));
 }
 
-TEST_F(MapPicture, WhatMovesLiesInsideTheAreaThatEachFrameRepaints) {
+TEST_F(MapPicture, MovingPartsStayInsideTheAreaThatEachFrameRepaints) {
     scene.showLabels = true;
     scene.state.phase = Phase::following;
     scene.state.drone.pos = {40, 30};
@@ -260,7 +260,7 @@ TEST_F(MapPicture, WhatMovesLiesInsideTheAreaThatEachFrameRepaints) {
     EXPECT_EQ(outside, 0);
 }
 
-TEST_F(MapPicture, TheDescriptionTellsWhoIsWhere) {
+TEST_F(MapPicture, TheDescriptionLocatesDroneAndVisitor) {
     EXPECT_EQ(mapDescription(scene),
               "Map of your grounds. The drone is on its pad. Nobody is being watched.");
     scene.state.phase = Phase::following;
@@ -285,7 +285,7 @@ TEST_F(MapPicture, TheDescriptionTellsWhoIsWhere) {
     EXPECT_EQ(mapDescription(scene), "Replay: nobody was tracked.");
 }
 
-/// A map on the screen whose frames are counted against those of another one in flight.
+/// A visible map of a flight that counts its paint events.
 class MapFrames : public MapPicture {
 protected:
     class Counted : public SiteMap {
@@ -310,14 +310,14 @@ protected:
     }
 
     void run(int frames) { clock.advance(frames * Motion::frame); }
-    /// Paints of the map while there is time for five frames.
+    /// Number of paint events in the time of five frames.
     int frames() {
         run(1);
         map.paints = 0;
         run(5);
         return map.paints;
     }
-    /// Paints in the time for four frames, while drone and visitor move on.
+    /// Number of paint events in the time of four frames, while the drone moves.
     int framesOfMovement() {
         run(1);
         map.paints = 0;
@@ -354,7 +354,7 @@ TEST_F(MapFrames, AFlightIsAnimatedAndADockedDroneIsNot) {
     EXPECT_EQ(map.paints, 1);
 }
 
-TEST_F(MapFrames, ACoveredOrHiddenMapRestsAndCatchesUp) {
+TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
     map.hide();
     EXPECT_EQ(framesOfMovement(), 0);
     map.show();
@@ -366,7 +366,7 @@ TEST_F(MapFrames, ACoveredOrHiddenMapRestsAndCatchesUp) {
     EXPECT_EQ(frames(), 5);
 }
 
-TEST_F(MapFrames, AnOldPictureAndAReplayAreStill) {
+TEST_F(MapFrames, StaleStatesAndReplaysAreNotAnimated) {
     map.setState(&scene.state, {}, Freshness::stale);
     EXPECT_EQ(frames(), 0);
     map.setState(nullptr, {}, Freshness::unknown);
@@ -380,7 +380,7 @@ TEST_F(MapFrames, AnOldPictureAndAReplayAreStill) {
     EXPECT_EQ(frames(), 0);
     map.setReplay(*scene.replay, scene.state, {});
     run(3);
-    EXPECT_EQ(map.paints, 0) << "the same moment";
+    EXPECT_EQ(map.paints, 0) << "the position is unchanged";
     scene.replay->progress = progressAt(mission, 0.2);
     map.setReplay(*scene.replay, scene.state, {});
     run(3);

@@ -15,8 +15,7 @@
 
 namespace velmora {
 
-/// The window over a store whose time only the test moves. Widgets are found by what assistive technology
-/// calls them.
+/// The window with a store whose clock only the test advances. Widgets are found by their accessible names.
 class UiTest : public StoreTest {
 protected:
     void SetUp() override {
@@ -26,7 +25,7 @@ protected:
         store().setShowWelcome(false);
     }
 
-    /// Opens the window at its default size.
+    /// Returns the window; the first call opens it at its default size.
     MainWindow& window() {
         if (!window_) {
             window_ = std::make_unique<MainWindow>(store());
@@ -36,11 +35,10 @@ protected:
         return *window_;
     }
 
-    /// Lets everything that is due happen.
+    /// Processes pending events.
     static void settle() { QApplication::processEvents(); }
 
-    /// Moves the user interface's clock until the condition holds; false when it does not within five seconds
-    /// of that clock.
+    /// Advances the user interface's clock until the condition holds; false after five seconds of that clock.
     template <class Condition>
     bool waitUntil(Condition condition) {
         const auto end = clock.now() + std::chrono::seconds(5);
@@ -49,7 +47,7 @@ protected:
         return condition();
     }
 
-    /// The visible widget with this accessible name inside a widget; null when there is none.
+    /// Returns the visible widget with this accessible name inside `inside`, or null.
     template <class Widget = QWidget>
     static Widget* find(QWidget& inside, const QString& name) {
         for (Widget* widget : inside.findChildren<Widget*>())
@@ -69,7 +67,7 @@ protected:
         QTest::mouseClick(widget, Qt::LeftButton);
         settle();
     }
-    /// Clicks where the widget is seen, so that whatever lies over it takes the click.
+    /// Clicks at the position of the widget; a widget that covers it receives the click.
     void clickThrough(const QString& name) {
         QWidget* widget = find(name);
         ASSERT_NE(widget, nullptr) << name.toStdString();
@@ -77,23 +75,23 @@ protected:
         mouse(QEvent::MouseButtonRelease, *widget);
         settle();
     }
-    /// Lets the left button do this in the middle of the widget, or beside its corner, through the window:
-    /// what lies over the widget takes it.
-    void mouse(QEvent::Type type, QWidget& widget, bool beside = false) {
-        const QPoint at = beside ? QPoint(-9, -9) : widget.rect().center();
+    /// Sends an event of the left button to the window, at the centre of the widget or just outside its
+    /// corner. A widget that covers it receives the event.
+    void mouse(QEvent::Type type, QWidget& widget, bool outside = false) {
+        const QPoint at = outside ? QPoint(-9, -9) : widget.rect().center();
         const bool isRelease = type == QEvent::MouseButtonRelease;
         QMouseEvent event(type, widget.mapTo(widget.window(), at), widget.mapToGlobal(at),
                           type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
                           isRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(widget.window()->windowHandle(), &event);
     }
-    /// Presses and lets go of a key, through the window.
+    /// Presses and releases a key in the window.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        clock.advance(std::chrono::milliseconds(1)); // a press at the very moment of a release is a repeat
+        clock.advance(std::chrono::milliseconds(1)); // otherwise the press counts as a repeat
         QTest::keyClick(window().windowHandle(), key, modifiers);
         settle();
     }
-    /// Presses a widget as a screen reader does. A button acts on it a tenth of a second later.
+    /// Triggers the press action of a widget, as a screen reader does. A button clicks 100 ms later.
     void pressByAccessibility(const QString& name) {
         QWidget* widget = find(name);
         ASSERT_NE(widget, nullptr) << name.toStdString();
@@ -103,14 +101,14 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([&] { return !button->isDown(); }));
         settle();
     }
-    /// Waits until the card, or what else answers an alert, takes a press.
+    /// Waits until the guard accepts answers to the alert.
     void outwaitGuard() {
         const auto& guard = *window().findChild<AnswerGuard*>();
         EXPECT_TRUE(waitUntil([&] { return guard.isOpen(); }));
         settle();
     }
 
-    /// Someone appears; the approval card opens.
+    /// Starts a visit, which opens the approval card.
     void visit(Scenario scenario) {
         store().simulate(scenario);
         tickAfter(0.05);

@@ -15,7 +15,7 @@ protected:
     void SetUp() override {}
 };
 
-TEST_F(WelcomeTest, AFirstStartIsWelcomedUntilTheOwnerExplores) {
+TEST_F(WelcomeTest, TheFirstStartShowsTheWelcomeUntilTheOwnerExplores) {
     store().applyLinkMode(true);
     window();
     EXPECT_TRUE(shows("Welcome to Velmora"));
@@ -28,7 +28,7 @@ TEST_F(WelcomeTest, AFirstStartIsWelcomedUntilTheOwnerExplores) {
     EXPECT_TRUE(content("settings.json").contains(R"("onboarded":true)"));
 }
 
-TEST_F(WelcomeTest, ConnectingLeadsToTheSettingsAndLeavesDemoModeOn) {
+TEST_F(WelcomeTest, ConnectingOpensTheSettingsAndKeepsDemoMode) {
     window();
     click(connectTo);
     EXPECT_FALSE(store().showWelcome());
@@ -46,7 +46,7 @@ TEST_F(WelcomeTest, ConnectingLeadsToTheSettingsAndLeavesDemoModeOn) {
     EXPECT_EQ(sections.count(), 0);
 }
 
-TEST_F(WelcomeTest, ItsButtonsWorkByKeys) {
+TEST_F(WelcomeTest, ItsButtonsWorkWithTheKeyboard) {
     window();
     const auto reach = [&](const QString& button) {
         for (int i = 0; i < 12 && QApplication::focusWidget() != find(button); ++i)
@@ -59,7 +59,7 @@ TEST_F(WelcomeTest, ItsButtonsWorkByKeys) {
     EXPECT_EQ(store().section(), Section::settings);
 }
 
-TEST_F(WelcomeTest, WhatItCoversCannotBeReached) {
+TEST_F(WelcomeTest, CoveredSectionsCannotBeReached) {
     window();
     EXPECT_FALSE(shows("Live flight"));
     for (const Qt::Key key : {Qt::Key_2, Qt::Key_3, Qt::Key_5}) {

@@ -36,7 +36,7 @@ protected:
         for (const char* always : {"Show welcome", "Hold position", "Return home", "Quit Velmora"})
             EXPECT_TRUE(offers(always)) << always;
     }
-    /// Tries every key that leads somewhere in the window.
+    /// Presses every shortcut that opens something in the window.
     void tryShortcuts() {
         for (const Qt::Key key : {Qt::Key_1, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_2})
             press(key, Qt::ControlModifier);
@@ -57,7 +57,7 @@ TEST_F(WindowTest, DemoMenusFollowThePhase) {
     expectMenus(true, false);
 }
 
-TEST_F(WindowTest, LinkedMenusStageNothingAndAnswerOnlyWhatTheServerSays) {
+TEST_F(WindowTest, LinkModeMenusStageNothingAndAnswerOnlyServerAlerts) {
     visit(Scenario::driveway);
     store().applyLinkMode(true);
     window();
@@ -89,7 +89,7 @@ TEST_F(WindowTest, ShortcutsSendTheDronesCommands) {
     EXPECT_EQ(link.posts.size(), 2U);
 }
 
-TEST_F(WindowTest, AFailedCommandIsToldInEverySection) {
+TEST_F(WindowTest, AFailedCommandIsReportedInEverySection) {
     window();
     serve(mission(Phase::following));
     for (const auto& [section, id] : rawValuesOf<Section>) {
@@ -107,23 +107,23 @@ TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {
     const QStringList rows{"Overview", "Live flight", "History", "Cameras", "Settings"};
     window();
     for (const auto& [section, id] : rawValuesOf<Section>) {
-        const int place = static_cast<int>(section);
-        press(Qt::Key(Qt::Key_1 + place), Qt::ControlModifier);
+        const int index = static_cast<int>(section);
+        press(Qt::Key(Qt::Key_1 + index), Qt::ControlModifier);
         EXPECT_EQ(store().section(), section);
-        EXPECT_TRUE(find<QAbstractButton>(rows[place])->isChecked()) << id;
-        clickThrough(rows[4 - place]);
-        EXPECT_EQ(static_cast<int>(store().section()), 4 - place);
+        EXPECT_TRUE(find<QAbstractButton>(rows[index])->isChecked()) << id;
+        clickThrough(rows[4 - index]);
+        EXPECT_EQ(static_cast<int>(store().section()), 4 - index);
     }
 }
 
-TEST_F(WindowTest, TheFirstKeyPressesNothingAndTabGoesOnWhereTheOwnerIs) {
+TEST_F(WindowTest, TheFirstKeyTriggersNothingAndTabContinuesInTheSection) {
     window();
     press(Qt::Key_Space);
     EXPECT_TRUE(live().armed);
     press(Qt::Key_3, Qt::ControlModifier);
     press(Qt::Key_1, Qt::ControlModifier);
     press(Qt::Key_Space);
-    EXPECT_TRUE(live().armed) << "the list that had the focus is gone";
+    EXPECT_TRUE(live().armed) << "the focused list was hidden";
     press(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), find("Disarm"));
 }
@@ -140,7 +140,7 @@ TEST_F(WindowTest, CtrlQQuitsAndCtrlWCloses) {
     EXPECT_FALSE(window().isVisible());
 }
 
-TEST_F(WindowTest, NothingBehindTheAlertIsReached) {
+TEST_F(WindowTest, ControlsBehindTheAlertCannotBeReached) {
     window();
     visit(Scenario::driveway);
     clickThrough("Settings");
@@ -159,7 +159,7 @@ TEST_F(WindowTest, NothingBehindTheAlertIsReached) {
     EXPECT_EQ(store().section(), Section::settings);
 }
 
-TEST_F(WindowTest, NothingMovesWhereTheDesktopAsksForNoMovement) {
+TEST_F(WindowTest, NothingMovesIfTheDesktopDisablesAnimations) {
     class StillStyle final : public Style {
         int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                       QStyleHintReturn* returned) const override {
@@ -170,7 +170,7 @@ TEST_F(WindowTest, NothingMovesWhereTheDesktopAsksForNoMovement) {
     QApplication::setStyle(new StillStyle);
     window();
     visit(Scenario::driveway);
-    EXPECT_TRUE(shows("Launch drone")) << "the card is there at once";
+    EXPECT_TRUE(shows("Launch drone")) << "the card appears at once";
     respond(Command::ignore);
     EXPECT_FALSE(shows("Launch drone"));
     store().setSection(Section::live);
@@ -185,7 +185,7 @@ TEST_F(WindowTest, NothingMovesWhereTheDesktopAsksForNoMovement) {
     QApplication::setStyle(new Style);
 }
 
-TEST_F(WindowTest, SearchStaysBehindACard) {
+TEST_F(WindowTest, ACardBlocksTheSearchShortcut) {
     store().setSection(Section::history);
     window();
     visit(Scenario::driveway);
@@ -193,7 +193,7 @@ TEST_F(WindowTest, SearchStaysBehindACard) {
     EXPECT_NE(QApplication::focusWidget(), find("Search the history"));
 }
 
-TEST_F(WindowTest, NothingBehindTheWelcomeIsReached) {
+TEST_F(WindowTest, ControlsBehindTheWelcomeCannotBeReached) {
     window();
     store().setShowWelcome(true);
     settle();
@@ -222,7 +222,7 @@ TEST_F(WindowTest, TheAlertClosesWhenItIsIgnoredAndWhenItExpires) {
     EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
 }
 
-TEST_F(WindowTest, TheAlertSaysWhatWasSeenInWholeNumbers) {
+TEST_F(WindowTest, TheAlertDescribesTheVisitInIntegers) {
     Settings settings = store().settings();
     settings.flightHeight = 15.9;
     settings.followDistance = 12.99;
@@ -246,7 +246,7 @@ TEST_F(WindowTest, TheAlertSaysWhatWasSeenInWholeNumbers) {
     EXPECT_TRUE(shows("Someone you don't know is at the grounds."));
 }
 
-TEST_F(WindowTest, TheAlertLiesOverAnyOtherCardAndGivesTheFocusBack) {
+TEST_F(WindowTest, TheAlertIsAboveOtherCardsAndReturnsTheFocus) {
     window();
     command("About Velmora")->trigger();
     ASSERT_TRUE(waitUntil([&] { return shows("Close") && find("About Velmora")->isVisible(); }));
@@ -263,7 +263,7 @@ TEST_F(WindowTest, TheAlertLiesOverAnyOtherCardAndGivesTheFocusBack) {
     EXPECT_TRUE(waitUntil([&] { return !shows("About Velmora"); }));
 }
 
-TEST_F(WindowTest, TheSidebarTellsPhaseBatteryAndLink) {
+TEST_F(WindowTest, TheSidebarShowsPhaseBatteryAndLink) {
     window();
     EXPECT_TRUE(shows("Docked, battery 92%"));
     EXPECT_TRUE(shows("Demo mode"));
