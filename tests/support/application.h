@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/// The application of tests, benchmarks and the soak, with Velmora's style and typeface. It shows nothing
-/// unless QT_QPA_PLATFORM names a platform.
+/// Creates the application for tests, benchmarks and the soak, with Velmora's style and typeface. It runs
+/// offscreen unless QT_QPA_PLATFORM is set.
 std::unique_ptr<QApplication> makeApplication(int& argc, char* argv[]);
 
 } // namespace velmora

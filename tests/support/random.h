@@ -9,7 +9,8 @@
 
 namespace velmora {
 
-/// Draws what the test has set for a range, by default its middle, so that the wind keeps still.
+/// Returns the value that the test has set for a range, by default its middle, so that the wind stays
+/// constant.
 class ScriptedRandom final : public Random {
 public:
     using Range = std::pair<double, double>;
@@ -17,14 +18,14 @@ public:
     double uniform(double low, double high) override;
     Uuid uuid() override;
 
-    std::map<Range, double> draws; ///< by the range asked for
-    std::vector<Range> asked;      ///< the range of every draw, in order
+    std::map<Range, double> draws; ///< result for each range
+    std::vector<Range> asked;      ///< the ranges requested, in order
 
 private:
     std::uint64_t ids_ = 0;
 };
 
-/// Draws that look random and are the same for the same seed on every machine.
+/// A pseudo-random generator that gives the same values for the same seed on every machine.
 class SeededRandom final : public Random {
 public:
     explicit SeededRandom(std::uint64_t seed = 1) : generator_(seed) {}
@@ -33,7 +34,7 @@ public:
     Uuid uuid() override;
 
     bool chance(double probability) { return uniform(0, 1) < probability; }
-    /// An index: from 0 to `limit` - 1.
+    /// A random index from 0 to `limit` - 1.
     std::size_t below(std::size_t limit) { return generator_() % limit; }
     template <RawValued Enum>
     Enum anyOf() {

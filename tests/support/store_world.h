@@ -19,7 +19,7 @@ public:
     void send(Command, const std::optional<std::string>&, const Settings&, CommandDone) override {}
 };
 
-/// A store over a temporary data directory, with a clock that only `tickAfter` moves until `run` is called.
+/// A store in a temporary data directory. Only `tickAfter` advances its clock, until `run` is called.
 template <class RandomType, class LinkType = MuteLink, class NotifierType = SilentNotifier,
           class LoginItemType = NoLoginItem>
 class StoreWorld {
@@ -27,7 +27,7 @@ public:
     explicit StoreWorld(RandomType draws = RandomType(), LinkType server = LinkType())
         : random(std::move(draws)), link(std::move(server)) {}
 
-    /// The store, which reads its files at the first call.
+    /// Returns the store. The first call creates it, which reads its files.
     AppStore& store() {
         if (!store_)
             store_ = std::make_unique<AppStore>(AppStore::Environment{
@@ -56,19 +56,19 @@ public:
         now += Seconds{seconds};
         store().tick();
     }
-    /// From now on the store ticks in real time.
+    /// Makes the store tick in real time from now on.
     void run() {
         runningSince_ = std::chrono::steady_clock::now();
         store().start();
     }
-    /// Answers the waiting alert, if there is one.
+    /// Answers the alert that waits, if any.
     void respond(Command command) {
         if (const auto alert = store().waitingAlert())
             store().answer(command, *alert);
     }
 
     QTemporaryDir home;
-    Date now = dateFromSeconds(1'700'000'042); ///< when `run` was called, from then on
+    Date now = dateFromSeconds(1'700'000'042); ///< the current time; after `run`, the time when it was called
     RandomType random;
     NotifierType notifier;
     LoginItemType loginItem;

@@ -6,10 +6,10 @@
 
 namespace velmora {
 
-/// Processes events until the condition holds; false if it does not hold after twenty seconds.
+/// Processes events until the condition holds. Returns false if it does not hold after twenty seconds.
 template <class Condition>
 bool waitUntil(Condition condition) {
-    QTimer wake; // QTest::qWaitFor sleeps 10 ms at every check
+    QTimer wake; // unlike QTest::qWaitFor, which sleeps 10 ms between checks
     wake.start(20);
     QDeadlineTimer deadline(20'000);
     while (!condition() && !deadline.hasExpired()) {
