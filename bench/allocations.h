@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// Number of allocations by `operator new` since the program began.
+/// Number of `operator new` calls since the program started.
 std::size_t allocations();
 
 } // namespace velmora

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// The history screen on the screen, with so many records.
+/// A visible history screen with this number of records.
 class ShownHistory {
 public:
     explicit ShownHistory(std::size_t records) : world_(records), view_(world_.store(), nullptr) {
@@ -27,7 +27,7 @@ public:
         bar->setValue(bar->value() + stride > bar->maximum() ? 0 : bar->value() + stride);
         QApplication::processEvents();
     }
-    /// One more letter of a word that every record holds, or all letters gone again.
+    /// Types the next letter of a word that every record contains, or clears the complete word.
     void type() {
         auto* search = view_.findChild<QLineEdit*>();
         constexpr char word[] = "approved";
@@ -39,7 +39,7 @@ public:
     }
 
 private:
-    World world_;
+    BenchWorld world_;
     HistoryView view_;
 };
 
@@ -68,7 +68,7 @@ BENCHMARK(keystroke)
     ->Unit(benchmark::kMillisecond);
 
 void open(benchmark::State& run) {
-    World world(static_cast<std::size_t>(run.range(0)));
+    BenchWorld world(static_cast<std::size_t>(run.range(0)));
     AppStore& store = world.store();
     for ([[maybe_unused]] auto iteration : run) {
         HistoryView view(store, nullptr);

@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-/// From the reply's bytes to a state that has passed every check.
+/// Decodes the bytes of a reply into a validated state.
 void readState(benchmark::State& run, const LiveState& state) {
     const std::string body = *encode(state, KeyStyle::snakeCase);
     for ([[maybe_unused]] auto iteration : run) {

@@ -6,7 +6,8 @@
 
 namespace {
 
-/// `--sample-data DIRECTORY`: a data directory with a full history, for measurements of the whole program.
+/// Implements `--sample-data DIRECTORY`: writes a data directory with a full history, for measuring the
+/// program.
 void writeSample(const QString& directory) {
     velmora::DataFiles files{QDir(directory)};
     files.saveSettings(velmora::samples::onboarded());

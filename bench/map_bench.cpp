@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize mapSize(900, 600);
 
-/// A map on the screen that shows the state.
+/// A visible map that shows the state.
 class ShownMap {
 public:
     explicit ShownMap(const LiveState& state) : map_(nullptr), state_(state) {
@@ -23,20 +23,20 @@ public:
         map_.repaint();
     }
 
-    /// What a frame's timer does, and the painting that follows.
+    /// Fires the frame timer and paints.
     void frame() {
         QTimerEvent due(0);
         QCoreApplication::sendEvent(&map_, &due);
         QCoreApplication::sendPostedEvents(&map_, QEvent::UpdateRequest);
     }
-    void whole() { map_.repaint(); }
-    /// The ways anew: the drone has come to another place.
+    void repaintAll() { map_.repaint(); }
+    /// Moves the drone, so that the paths are redrawn.
     void paths() {
         std::ranges::rotate(state_.drone.trail, state_.drone.trail.begin() + 1);
         map_.setState(&state_, Settings{}, Freshness::live);
         map_.repaint();
     }
-    /// The grounds anew: another camera sees the visitor.
+    /// Lets another camera see the visitor, so that the grounds are redrawn.
     void grounds() {
         auto& seen = state_.visitor->cameraId;
         seen = seen == "front" ? "driveway" : "front";
@@ -56,19 +56,19 @@ void mapFrame(benchmark::State& run) {
 }
 BENCHMARK(mapFrame)->Name("map frame")->Unit(benchmark::kMicrosecond);
 
-void wholeMap(benchmark::State& run) {
+void repaintedMap(benchmark::State& run) {
     ShownMap map(samples::followingState());
     for ([[maybe_unused]] auto iteration : run)
-        map.whole();
+        map.repaintAll();
 }
-BENCHMARK(wholeMap)->Name("map frame, every pixel")->Unit(benchmark::kMicrosecond);
+BENCHMARK(repaintedMap)->Name("map frame, every pixel")->Unit(benchmark::kMicrosecond);
 
 void grounds(benchmark::State& run) {
     ShownMap map(samples::followingState());
     for ([[maybe_unused]] auto iteration : run)
         map.grounds();
 }
-BENCHMARK(grounds)->Name("map, grounds anew")->Unit(benchmark::kMillisecond);
+BENCHMARK(grounds)->Name("map, grounds redrawn")->Unit(benchmark::kMillisecond);
 
 void longTrails(benchmark::State& run) {
     ShownMap map(samples::withTrails(samples::followingState(), static_cast<std::size_t>(run.range(0))));
@@ -76,7 +76,7 @@ void longTrails(benchmark::State& run) {
         map.paths();
 }
 BENCHMARK(longTrails)
-    ->Name("map, ways anew, trail points")
+    ->Name("map, paths redrawn, trail points")
     ->Arg(160)
     ->Arg(1000)
     ->Arg(10'000)

@@ -26,7 +26,7 @@ void readHistory(benchmark::State& run) {
 }
 BENCHMARK(readHistory)->Name("history, bytes to records")->Arg(200)->Arg(5000)->Unit(benchmark::kMillisecond);
 
-/// The parser alone: the floor of reading.
+/// The JSON parser alone: the lower bound for reading.
 void parseHistory(benchmark::State& run) {
     const std::string& text = document(200);
     for ([[maybe_unused]] auto iteration : run) {

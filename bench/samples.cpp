@@ -14,7 +14,7 @@ namespace {
 constexpr double dayBetween = 24.0 * 3600; // seconds
 constexpr std::size_t differentMissions = 40;
 
-/// The longest walk, and a height from which the drone takes long to come down.
+/// A long mission: the longest visitor path and a flight height with a long descent.
 MissionRecord flown(std::size_t number, Random& random) {
     Settings settings;
     settings.flightHeight = 120;

@@ -6,18 +6,18 @@
 
 namespace velmora::samples {
 
-/// Missions of the past, newest first, flown by the simulator; 200 of them make a document of about 6.2 MB.
+/// Simulated missions, newest first. 200 of them make a document of about 6.2 MB.
 std::vector<MissionRecord> flownHistory(std::size_t records);
 
-/// What a server sends while the drone follows a visitor: full trails and 40 notices.
+/// The state of a server while the drone follows a visitor, with full trails and 40 notices.
 LiveState followingState();
 
-/// The same with longer trails, which wind over the whole site, or with a site of more parts.
+/// The state with longer trails, which wind over the site, or with more cameras or boundary points.
 LiveState withTrails(LiveState state, std::size_t points);
 LiveState withCameras(LiveState state, std::size_t cameras);
 LiveState withBoundary(LiveState state, std::size_t points);
 
-/// Settings of an owner who has been through the welcome.
+/// Default settings with the welcome completed.
 Settings onboarded();
 
 } // namespace velmora::samples

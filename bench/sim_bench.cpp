@@ -12,7 +12,7 @@ namespace {
 
 constexpr double step = 0.05; // seconds
 
-/// Follows a visitor who stands still, so that the mission goes on for as long as it takes.
+/// Follows a visitor who does not move, so that the mission lasts as long as the benchmark.
 void simulatorStep(benchmark::State& run) {
     SeededRandom random;
     Simulator simulator(samples::followingState(), Settings{}, random);
@@ -33,7 +33,7 @@ void seeding(benchmark::State& run) {
 }
 BENCHMARK(seeding)->Name("seeding")->Unit(benchmark::kMillisecond);
 
-/// A step's cost as the site grows.
+/// Measures a step with larger sites.
 void stepWithCameras(benchmark::State& run) {
     SeededRandom random;
     const auto cameras = static_cast<std::size_t>(run.range(0));

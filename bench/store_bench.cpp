@@ -13,15 +13,15 @@ namespace velmora {
 namespace {
 
 void loadHistory(benchmark::State& run) {
-    const World world(200);
+    const BenchWorld world(200);
     for ([[maybe_unused]] auto iteration : run)
         benchmark::DoNotOptimize(DataFiles(world.directory()).loadHistory());
 }
 BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMillisecond);
 
-/// A few seconds of following, each tick heard by the whole window, which is hidden.
+/// Ticks while the drone follows a visitor and the window is hidden.
 void hiddenTick(benchmark::State& run) {
-    World world(200);
+    BenchWorld world(200);
     const MainWindow window(world.store());
     world.follow();
     const auto before = allocations();
@@ -36,7 +36,7 @@ BENCHMARK(hiddenTick)
     ->Repetitions(9)
     ->Unit(benchmark::kMicrosecond);
 
-/// Keeps the longest time between two timeouts of the store's timer.
+/// Measures the longest time between two timeouts of the store's timer.
 class TickWatch : public QObject {
 public:
     TickWatch() { qApp->installEventFilter(this); }
@@ -57,9 +57,10 @@ private:
     QElapsedTimer sinceTick_;
 };
 
-/// The longest time between two ticks while a mission joins a full history, the window showing it.
+/// Measures the longest time between two ticks while a mission is added to a full history in a visible
+/// window.
 void recording(benchmark::State& run) {
-    World world(200);
+    BenchWorld world(200);
     AppStore& store = world.store();
     MainWindow window(store);
     window.show();

@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-/// Counts the paint events of the program, and those of maps among them.
+/// Counts all paint events and, separately, those of maps.
 class PaintCounter : public QObject {
 public:
     PaintCounter() { qApp->installEventFilter(this); }
@@ -28,9 +28,9 @@ protected:
     }
 };
 
-/// Ten seconds of the real program's ticks with nothing going on; the counters are what matters.
-void rest(benchmark::State& run, Section section) {
-    World world(200);
+/// Ten seconds of real-time ticks without a mission. The counters are the result, not the time.
+void idle(benchmark::State& run, Section section) {
+    BenchWorld world(200);
     MainWindow window(world.store());
     world.store().setSection(section);
     window.show();
@@ -43,12 +43,12 @@ void rest(benchmark::State& run, Section section) {
         run.counters["paints"] = paints.all;
     }
 }
-BENCHMARK_CAPTURE(rest, overview, Section::overview)->Name("10 s docked, Overview")->Iterations(1);
-BENCHMARK_CAPTURE(rest, live, Section::live)->Name("10 s docked, Live flight")->Iterations(1);
+BENCHMARK_CAPTURE(idle, overview, Section::overview)->Name("10 s docked, Overview")->Iterations(1);
+BENCHMARK_CAPTURE(idle, live, Section::live)->Name("10 s docked, Live flight")->Iterations(1);
 
-/// A tick with the window showing, and what it makes the window paint.
+/// A tick with a visible window, including the painting that it causes.
 void shownTick(benchmark::State& run, Section section) {
-    World world(200);
+    BenchWorld world(200);
     MainWindow window(world.store());
     window.show();
     world.follow();

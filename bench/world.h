@@ -6,17 +6,17 @@
 
 namespace velmora {
 
-/// The store of an owner who has been through the welcome, with a history of so many records.
-class World : public StoreWorld<SeededRandom> {
+/// A store with the welcome completed and a history of `records` missions.
+class BenchWorld : public StoreWorld<SeededRandom> {
 public:
-    explicit World(std::size_t records) {
+    explicit BenchWorld(std::size_t records) {
         now = dateFromSeconds(1'750'100'000);
         DataFiles(directory()).saveSettings(samples::onboarded());
         putHistory(samples::flownHistory(records));
     }
 
     void tick() { tickAfter(0.05); }
-    /// A visit that the drone follows, with trails of 160 points.
+    /// Starts a visit that the drone follows, until its trail has 160 points.
     void follow() {
         store().simulate(Scenario::driveway);
         respond(Command::approve);
