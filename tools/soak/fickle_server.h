@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// A server that answers at once, one time in three with an error.
+/// A server that answers at once; every third state request fails on average.
 class FickleServer final : public Link {
 public:
     explicit FickleServer(unsigned seed) : random_(seed) {}

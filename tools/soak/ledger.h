@@ -6,13 +6,12 @@
 
 namespace velmora {
 
-/// Keeps book of the missions in demo mode: each is to be recorded once, and no alert to outlast its
-/// deadline.
+/// Checks the missions in demo mode: each must be recorded once, and no alert may outlast its deadline.
 class Ledger {
 public:
     explicit Ledger(AppStore& store) : store_(store) {}
 
-    /// Starts a visit if none is going on. One that is only logged is over when this returns.
+    /// Starts a visit if the drone is docked. A visit without a mission is recorded before this returns.
     void simulate(Scenario scenario) {
         if (store_.settings().linkMode || store_.knownState()->phase != Phase::docked)
             return;
@@ -25,10 +24,10 @@ public:
             recorded_ += static_cast<int>(store_.history().size() - before);
     }
 
-    /// After every tick and every command.
-    void look() {
+    /// Updates the counts. Call after every tick and every command.
+    void update() {
         if (store_.settings().linkMode)
-            deadline_.reset(); // the simulation stands still meanwhile
+            deadline_.reset(); // link mode pauses the simulation
         else if (open_ && store_.knownState()->missionId != open_)
             close();
     }
@@ -36,7 +35,7 @@ public:
     bool isOpen() const { return open_.has_value(); }
     int begun() const { return begun_; }
     int recorded() const { return recorded_; }
-    /// Seconds by which the worst alert outlasted its deadline.
+    /// The longest time in seconds by which an alert outlasted its deadline.
     double worstOverrun() const { return worstOverrun_; }
 
 private:

@@ -14,9 +14,9 @@ namespace {
 
 constexpr int ticksPerSecond = 20;
 constexpr double tickSeconds = 1.0 / ticksPerSecond;
-constexpr int samples = 12;           // of memory, in a day
+constexpr int samples = 12;           // of memory, per run
 constexpr double growthAllowed = 8;   // megabytes from the third sample to the end
-constexpr double heapAllowed = 1;     // megabytes that eight hours add beyond the history
+constexpr double heapAllowed = 1;     // megabytes added in eight hours, without the history
 constexpr double longestHang = 1;     // seconds
 constexpr double driftAllowed = 0.02; // of the timer's rate
 
@@ -37,7 +37,7 @@ std::vector<MissionRecord> historyOnFile(const SoakWorld& world) {
     return DataFiles(world.directory()).loadHistory().value_or(std::vector<MissionRecord>{});
 }
 
-/// The time that the slowest tick took, in seconds.
+/// Runs the ticks of one second. Returns the duration of the slowest in seconds.
 double tickForASecond(SoakWorld& world, Ledger& ledger) {
     double slowest = 0;
     for (int tick = 0; tick < ticksPerSecond; ++tick) {
@@ -45,12 +45,12 @@ double tickForASecond(SoakWorld& world, Ledger& ledger) {
         time.start();
         world.tickAfter(tickSeconds);
         slowest = std::max(slowest, secondsOf(time));
-        ledger.look();
+        ledger.update();
     }
     return slowest;
 }
 
-/// Days of visits in ticks of 0.05 s, with the window open.
+/// Plays random visits in ticks of 0.05 s, with the window open.
 void playVisits(int hours, unsigned seed) {
     SoakWorld world{SeededRandom(seed), FickleServer(seed)};
     Settings settings;
@@ -91,7 +91,7 @@ void playVisits(int hours, unsigned seed) {
     check(worstTick < longestHang, "no tick hangs");
 }
 
-/// One approved mission after another.
+/// Flies one approved mission after another.
 void fly(SoakWorld& world, double hours) {
     for (double ticks = hours * 3600 * ticksPerSecond; ticks > 0; --ticks) {
         if (world.store().phase() == Phase::docked) {
@@ -104,7 +104,7 @@ void fly(SoakWorld& world, double hours) {
     }
 }
 
-/// Eight hours of missions under a hidden window: the heap may only grow with the history.
+/// Eight hours of missions with a hidden window: the heap may grow only with the history.
 void watchHeap() {
     SoakWorld world{SeededRandom(1), FickleServer(1)};
     const MainWindow window(world.store());
@@ -117,11 +117,11 @@ void watchHeap() {
     check(growth < heapAllowed, "the heap is flat");
 }
 
-/// The store's own timer in real time.
+/// Checks the rate of the store's timer in real time.
 void watchTimer(int seconds) {
     SoakWorld world{SeededRandom(1), FickleServer(1)};
     int ticks = 0;
-    // The wind changes with every tick.
+    // every tick changes the wind, so every tick emits stateChanged
     QObject::connect(&world.store(), &AppStore::stateChanged, [&] { ++ticks; });
     QElapsedTimer real;
     real.start();
@@ -133,7 +133,7 @@ void watchTimer(int seconds) {
     check(std::abs(drift) < driftAllowed, "the timer keeps time");
 }
 
-/// Far more missions than the program writes, as a foreign one may have put into the file.
+/// Loads far more missions than Velmora writes, as another program might have stored.
 void loadLargeHistory() {
     constexpr std::size_t fileSize = 300'000'000;
     SoakWorld world{SeededRandom(1), FickleServer(1)};
@@ -165,7 +165,7 @@ void loadLargeHistory() {
 
 } // namespace velmora
 
-/// Plays visits and holds loads up to their limits; 0 when none was overstepped.
+/// Runs all checks. Exit code 0 if every limit held.
 int main(int argc, char* argv[]) {
     using namespace velmora;
     const auto application = makeApplication(argc, argv);

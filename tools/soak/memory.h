@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// Resident memory of this process, after free memory has been given back.
+/// Resident memory of this process in megabytes, after returning free heap memory to the system.
 inline double residentMegabytes() {
     malloc_trim(0);
     QFile file(QStringLiteral("/proc/self/statm"));
@@ -18,7 +18,7 @@ inline double residentMegabytes() {
     return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-/// What is allocated on the heap, apart from the records of the history.
+/// Allocated heap memory in megabytes, without the records of the history.
 inline double heapMegabytes(const std::vector<HistoryEntry>& history) {
     std::size_t records = history.capacity() * sizeof(HistoryEntry);
     for (const auto& [key, record] : history) {

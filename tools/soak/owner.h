@@ -6,14 +6,14 @@
 
 namespace velmora {
 
-/// Someone who uses everything at random: stages visits, answers alerts or lets them be, commands the drone,
-/// leafs through the sections and records, changes settings, resizes and closes the window.
+/// Simulates an owner who acts at random: stages visits, answers or ignores alerts, commands the drone, opens
+/// sections and records, changes settings, and resizes, hides and shows the window.
 class Owner {
 public:
     Owner(SeededRandom& random, AppStore& store, Ledger& ledger, QWidget& window)
         : random_(random), store_(store), ledger_(ledger), window_(window) {}
 
-    /// What the owner does in one second; each kind of act has a frequency of its own.
+    /// Acts for one second; each kind of action has its own probability.
     void act() {
         sometimes(1.0 / 30, [this] { ledger_.simulate(random_.anyOf<Scenario>()); });
         sometimes(1.0 / 30, [this] { command(); });
@@ -29,14 +29,14 @@ public:
     }
 
 private:
-    static constexpr std::size_t recordsKept = 40; ///< bounded, so that flat memory shows as flat
+    static constexpr std::size_t recordsKept = 40; ///< a bounded history keeps memory constant
 
-    template <class Deed>
-    void sometimes(double chance, Deed deed) {
+    template <class Action>
+    void sometimes(double chance, Action action) {
         if (!random_.chance(chance))
             return;
-        deed();
-        ledger_.look();
+        action();
+        ledger_.update();
     }
     int small(std::size_t limit) { return static_cast<int>(random_.below(limit)); }
 
@@ -46,7 +46,7 @@ private:
             store_.openRecord(store_.history()[chosen].key);
     }
 
-    /// Alerts are mostly approved, so that there is something to fly.
+    /// Approves most alerts, so that missions are flown.
     void command() {
         const auto alert = store_.waitingAlert();
         const auto any = random_.anyOf<Command>();

@@ -8,7 +8,7 @@
 
 namespace velmora::standin {
 
-/// The app API over a simulated site, without the network.
+/// The app API for a simulated site, independent of the network.
 class AppApi {
 public:
     struct Answer {
@@ -16,12 +16,12 @@ public:
         QByteArray body;
     };
 
-    /// `clock` tells the present moment. `site` must outlive the API.
+    /// `clock` returns the current time. `site` must outlive the API.
     AppApi(SimulatedSite& site, std::function<Date()> clock);
 
-    /// GET state: the site as it is now.
+    /// GET state: returns the current state of the site.
     Answer state();
-    /// POST command: 200, or 400 for a body that is not a command.
+    /// POST command: returns 200, or 400 if the body is not a command.
     Answer command(const QByteArray& body);
 
 private:

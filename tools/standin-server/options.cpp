@@ -6,62 +6,61 @@ namespace velmora::standin {
 
 namespace {
 
-/// An option with a value: how it is announced, and how its text is taken. A text that is not taken is an
-/// error.
+/// An option with a value. `parse` stores the text into the options and returns false if it is invalid.
 struct Valued {
     const char* name;
     const char* value;
     const char* description;
-    bool (*take)(Options&, const QString&);
+    bool (*parse)(Options&, const QString&);
 };
 
 template <class Target>
-bool takeWhole(const QString& text, int low, int high, Target& target) {
-    bool isWhole = false;
-    const int number = text.toInt(&isWhole);
-    if (!isWhole || number < low || number > high)
+bool parseInteger(const QString& text, int low, int high, Target& target) {
+    bool isInteger = false;
+    const int number = text.toInt(&isInteger);
+    if (!isInteger || number < low || number > high)
         return false;
     target = Target(number);
     return true;
 }
 
-bool takePort(Options& options, const QString& text) {
-    return takeWhole(text, 1, 65535, options.port);
+bool parsePort(Options& options, const QString& text) {
+    return parseInteger(text, 1, 65535, options.port);
 }
-bool takeHost(Options& options, const QString& text) {
+bool parseHost(Options& options, const QString& text) {
     return options.host.setAddress(text == QLatin1String("localhost") ? QStringLiteral("127.0.0.1") : text);
 }
-bool takeVisitor(Options& options, const QString& text) {
+bool parseVisitor(Options& options, const QString& text) {
     const auto scenario = fromRawValue<Scenario>(text.toStdString());
     options.visitor = scenario.value_or(options.visitor);
     return scenario.has_value();
 }
-bool takeEvery(Options& options, const QString& text) {
-    return takeWhole(text, 0, 86'400, options.every);
+bool parseEvery(Options& options, const QString& text) {
+    return parseInteger(text, 0, 86'400, options.every);
 }
-bool takeVersion(Options& options, const QString& text) {
+bool parseVersion(Options& options, const QString& text) {
     options.version = text.toUtf8();
     return !text.contains('\n') && !text.contains('\r');
 }
-bool takeDelay(Options& options, const QString& text) {
-    return takeWhole(text, 0, 3'600'000, options.delay);
+bool parseDelay(Options& options, const QString& text) {
+    return parseInteger(text, 0, 3'600'000, options.delay);
 }
-bool takeStatus(Options& options, const QString& text) {
-    return takeWhole(text, 200, 599, options.status.emplace());
+bool parseStatus(Options& options, const QString& text) {
+    return parseInteger(text, 200, 599, options.status.emplace());
 }
-bool takeTruncate(Options& options, const QString& text) {
-    return takeWhole(text, 0, 1'000'000'000, options.truncateAfter.emplace());
+bool parseTruncate(Options& options, const QString& text) {
+    return parseInteger(text, 0, 1'000'000'000, options.truncateAfter.emplace());
 }
 
 constexpr Valued valued[] = {
-    {"port", "PORT", "TCP port to listen on, 1 to 65535 (8765).", takePort},
-    {"host", "ADDRESS", "Address to listen on (127.0.0.1: this computer only).", takeHost},
-    {"visitor", "NAME", "Who comes: driveway, garden or front (driveway).", takeVisitor},
-    {"every", "SECONDS", "Time between two visits, 0 for one visit only (90).", takeEvery},
-    {"version", "TEXT", "Version that the server tells, \"\" for none (1.0.0).", takeVersion},
-    {"delay", "MS", "For testing: wait before each answer.", takeDelay},
-    {"status", "CODE", "For testing: answer with this HTTP status.", takeStatus},
-    {"truncate", "N", "For testing: hang up after N bytes of the body.", takeTruncate},
+    {"port", "PORT", "TCP port to listen on, 1 to 65535 (8765).", parsePort},
+    {"host", "ADDRESS", "Address to listen on (127.0.0.1: this computer only).", parseHost},
+    {"visitor", "NAME", "Who comes: driveway, garden or front (driveway).", parseVisitor},
+    {"every", "SECONDS", "Time between two visits, 0 for one visit only (90).", parseEvery},
+    {"version", "TEXT", "Version that the server tells, \"\" for none (1.0.0).", parseVersion},
+    {"delay", "MS", "For testing: wait before each answer.", parseDelay},
+    {"status", "CODE", "For testing: answer with this HTTP status.", parseStatus},
+    {"truncate", "N", "For testing: hang up after N bytes of the body.", parseTruncate},
 };
 
 void announce(QCommandLineParser& parser) {
@@ -93,7 +92,7 @@ std::variant<Options, OptionsText> readOptions(const QStringList& arguments) {
 
     Options options;
     for (const Valued& option : valued)
-        if (parser.isSet(option.name) && !option.take(options, parser.value(option.name)))
+        if (parser.isSet(option.name) && !option.parse(options, parser.value(option.name)))
             return error(
                 QStringLiteral("\"%1\" does not go with --%2.").arg(parser.value(option.name), option.name));
     options.drip = parser.isSet(QStringLiteral("drip"));

@@ -12,7 +12,7 @@
 
 namespace velmora::standin {
 
-/// What the command line asks of the stand-in server.
+/// Command line options of the stand-in server.
 struct Options {
     QHostAddress host{QHostAddress::LocalHost};
     quint16 port = 8765;
@@ -21,22 +21,22 @@ struct Options {
     QByteArray version = "1.0.0"; ///< empty leaves the header out
 
     std::chrono::milliseconds delay{0}; ///< before each answer
-    std::optional<int> status;          ///< of every answer, in place of the right one
-    std::optional<int> truncateAfter;   ///< bytes of the body, then the connection closes
-    bool drip = false;                  ///< one byte a second
-    bool silent = false;                ///< no answer at all
+    std::optional<int> status;          ///< replaces the status of every answer
+    std::optional<int> truncateAfter;   ///< close the connection after this many bytes of the body
+    bool drip = false;                  ///< send one byte a second
+    bool silent = false;                ///< never answer
 
-    /// An answer that is broken on purpose, which takes a bare socket.
+    /// Whether answers are deliberately malformed, which requires a plain socket.
     bool isBroken() const { return truncateAfter || drip || silent; }
 };
 
-/// What to print instead of serving, and where.
+/// Text to print instead of serving; to standard error if `isError`.
 struct OptionsText {
     QString text;
     bool isError = false;
 };
 
-/// Reads the command line, the program's name first.
+/// Reads the command line; `arguments` starts with the program's name.
 std::variant<Options, OptionsText> readOptions(const QStringList& arguments);
 
 } // namespace velmora::standin

@@ -10,7 +10,7 @@ namespace velmora::standin {
 
 namespace {
 
-/// The length of the first whole request in the bytes, or 0 when there is none yet.
+/// Length in bytes of the first request, or 0 if it is not complete yet.
 qsizetype requestLength(const QByteArray& bytes) {
     static const QRegularExpression length(QStringLiteral("\r\nContent-Length: *(\\d+)\r\n"),
                                            QRegularExpression::CaseInsensitiveOption);
@@ -18,8 +18,8 @@ qsizetype requestLength(const QByteArray& bytes) {
     if (blankLine < 0)
         return 0;
     const auto found = length.match(QString::fromLatin1(bytes.left(blankLine + 2)));
-    const qsizetype whole = blankLine + 4 + found.captured(1).toLongLong();
-    return bytes.size() < whole ? 0 : whole;
+    const qsizetype total = blankLine + 4 + found.captured(1).toLongLong();
+    return bytes.size() < total ? 0 : total;
 }
 
 } // namespace

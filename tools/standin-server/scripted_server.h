@@ -8,23 +8,23 @@
 
 namespace velmora::standin {
 
-/// Answers HTTP requests byte by byte as its script says, for replies that an HTTP server refuses to send.
+/// Answers HTTP requests with the exact bytes of a script, for replies that a normal HTTP server cannot send.
 class ScriptedServer {
 public:
     struct Reply {
-        QByteArray bytes; ///< head and body; none for silence
+        QByteArray bytes; ///< head and body; empty for no reply
         bool thenClose = true;
         std::chrono::milliseconds delay{0};     ///< before the first byte
         std::chrono::milliseconds bytePause{0}; ///< between two bytes; 0 sends them all at once
     };
-    /// Called with each whole request, head and body.
+    /// Called with each complete request, head and body.
     using Script = std::function<Reply(const QByteArray& request)>;
 
     explicit ScriptedServer(Script script);
 
     QTcpServer& listener() { return listener_; }
 
-    /// A well-formed reply; without a version the header X-Velmora-Version is left out.
+    /// Builds a well-formed reply. With an empty version it has no header X-Velmora-Version.
     static QByteArray wellFormed(int status, const QByteArray& body, const QByteArray& version);
 
 private:

@@ -7,19 +7,19 @@
 
 namespace velmora::standin {
 
-/// Grounds that are watched by the simulator, with a visitor every so often.
+/// A simulated site with visits at regular intervals.
 class SimulatedSite {
 public:
-    /// `visitor` comes two seconds after `start` and then every so many seconds, 0 for never again. A visit
-    /// that falls due while the drone is out is left out. `random` must outlive the site.
+    /// `visitor` comes two seconds after `start`, then at the interval `every`; 0 for one visit only. Visits
+    /// that are due during a mission are skipped. `random` must outlive the site.
     SimulatedSite(Scenario visitor, Seconds every, Date start, Random& random);
 
     const LiveState& state() const { return simulator_.state; }
 
-    /// Lets the time pass up to `now`; a longer gap than five seconds counts as five.
+    /// Advances the simulation to `now`, by at most five seconds.
     void advance(Date now);
 
-    /// Carries out the command if the mission named is the open one; "" stands for none.
+    /// Carries out the command if `mission` is the current one; "" if no mission is in progress.
     void carryOut(Command command, const std::string& mission, Date now);
 
 private:

@@ -50,7 +50,7 @@ void StandinServer::answer(const AppApi::Answer& right, QHttpServerResponder&& r
     const auto send = [body = right.body, status, version = options_.version, socket,
                        kept = std::make_shared<QHttpServerResponder>(std::move(responder))] {
         if (!socket || socket->state() != QAbstractSocket::ConnectedState)
-            return; // hung up meanwhile, and the responder does not notice
+            return; // the client has disconnected, which the responder does not detect
         kept->writeStatusLine(QHttpServerResponder::StatusCode(status));
         kept->writeHeader("Content-Type", "application/json");
         kept->writeHeader("Content-Length", QByteArray::number(body.size()));

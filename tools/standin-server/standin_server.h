@@ -10,13 +10,13 @@
 
 namespace velmora::standin {
 
-/// Serves the app API over HTTP, well or as badly as the options ask.
+/// Serves the app API over HTTP, with the faults set in the options.
 class StandinServer {
 public:
     /// `api` must outlive the server.
     StandinServer(const Options& options, AppApi& api);
 
-    /// Starts to serve; why it cannot, or empty. Port 0 takes a free one.
+    /// Starts to serve. Returns an error text, or an empty string on success. Port 0 selects a free port.
     QString listen();
     quint16 port() const { return port_; }
 
