@@ -100,12 +100,12 @@ void ConnectionForm::storeHost(const QString& host) {
 }
 
 /// Typing passes through other valid ports; if the text is invalid, the previously stored port is restored.
-void ConnectionForm::storePort(const QString& port) {
-    const auto valid = portFrom(port);
-    port_->setInvalid(!valid);
-    portError_->setVisible(!valid);
+void ConnectionForm::storePort(const QString& text) {
+    const auto port = portFrom(text);
+    port_->setInvalid(!port);
+    portError_->setVisible(!port);
     Settings settings = store_.settings();
-    settings.port = valid.value_or(storedPort_);
+    settings.port = port.value_or(storedPort_);
     store_.setSettings(settings);
 }
 

@@ -24,7 +24,7 @@ public:
 private:
     QWidget* buildServer();
     void storeHost(const QString& host);
-    void storePort(const QString& port);
+    void storePort(const QString& text);
     void showPort();
 
     AppStore& store_;
