@@ -30,15 +30,21 @@ DetectionNotification detectionNotification(const LiveState& state) {
             alertId(state).value_or(AlertId{})};
 }
 
+QString notWritten(const QString& path, const QString& reason) {
+    return AppStore::tr("%1 could not be written: %2.").arg(path, reason);
+}
+
 /// QSaveFile keeps the permissions of an existing file. Flushed before the commit, because a full disk may
 /// fail only then.
 QString writeExport(const QString& path, std::string_view bytes) {
+    if (bytes.empty())
+        return notWritten(path, AppStore::tr("it would be empty"));
     QSaveFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
     if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush() &&
         file.commit())
         return {};
-    return AppStore::tr("%1 could not be written: %2.").arg(path, file.errorString());
+    return notWritten(path, file.errorString());
 }
 
 } // namespace
@@ -148,7 +154,7 @@ bool AppStore::answer(Command command, const AlertId& seen) {
 
 void AppStore::send(Command command) {
     if (!answersAlert(command))
-        transmit(command, state_.missionId);
+        transmit(command, knownState() ? knownState()->missionId : std::nullopt);
 }
 
 void AppStore::transmit(Command command, const std::optional<std::string>& mission) {

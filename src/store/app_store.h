@@ -95,13 +95,15 @@ public:
     /// Inserts a removed record again, before the older ones.
     void restoreRecord(HistoryEntry entry);
 
-    /// Each export writes a complete file, or changes nothing on failure. Returns an empty text, or the file
-    /// and the reason of the failure in words for the owner. This one writes the record as JSON.
+    /// Each export writes a complete file, or changes nothing on failure. It returns an empty text, or names
+    /// the file and the reason of the failure in words for the owner.
+    /// Writes the record as JSON.
     QString exportRecord(const MissionRecord& record, const QString& path) const;
-    /// The record's paths and notices as CSV.
+    /// Writes the record's paths and notices as CSV.
     QString exportPaths(const MissionRecord& record, const QString& path) const;
-    /// One line of CSV for each of these records.
+    /// Writes one line of CSV for each of these records. Keys without a record are skipped.
     QString exportList(const std::vector<RecordKey>& keys, const QString& path) const;
+    /// Writes a PNG.
     QString exportPicture(const QByteArray& png, const QString& path) const;
 
 signals:

@@ -12,11 +12,4 @@ public:
     virtual bool setOn(bool on) = 0;
 };
 
-/// For an environment that starts nothing at login.
-class NoLoginItem final : public LoginItem {
-public:
-    bool isOn() const override { return false; }
-    bool setOn(bool) override { return false; }
-};
-
 } // namespace velmora

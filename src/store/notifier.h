@@ -26,11 +26,4 @@ public:
     virtual void withdrawAll() = 0;
 };
 
-/// For a desktop without a notification service.
-class SilentNotifier final : public Notifier {
-public:
-    void post(const DetectionNotification&) override {}
-    void withdrawAll() override {}
-};
-
 } // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <QSignalSpy>
 
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -133,6 +135,20 @@ TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAfterARestart) {
     EXPECT_EQ(store().history().size(), 1u);
     store().clearDemoHistory();
     EXPECT_EQ(recordsIn(content("history.json")).size(), 1u);
+}
+
+TEST_F(StoreTest, AnExportThatCannotBeWrittenKeepsTheFileAndNamesIt) {
+    MissionRecord record = store().history()[0].record;
+    const QString file = path("export.json");
+    EXPECT_EQ(store().exportRecord(record, file), "");
+    const QByteArray before = content("export.json");
+    EXPECT_EQ(recordsIn('[' + before + ']').front().dronePath, record.dronePath);
+    record.confidence = std::nan("");
+    EXPECT_EQ(store().exportRecord(record, file), file + " could not be written: it would be empty.");
+    EXPECT_EQ(content("export.json"), before);
+    EXPECT_NE(store().exportPicture({}, file), "");
+    EXPECT_TRUE(store().exportPaths(record, path("no/such/folder.csv")).startsWith(path("no/such")));
+    EXPECT_EQ(content("export.json"), before);
 }
 
 } // namespace velmora

@@ -19,6 +19,20 @@ public:
     void send(Command, const std::optional<std::string>&, const Settings&, CommandDone) override {}
 };
 
+/// A desktop without notifications.
+class SilentNotifier final : public Notifier {
+public:
+    void post(const DetectionNotification&) override {}
+    void withdrawAll() override {}
+};
+
+/// A desktop that starts nothing at login.
+class NoLoginItem final : public LoginItem {
+public:
+    bool isOn() const override { return false; }
+    bool setOn(bool) override { return false; }
+};
+
 /// A store in a temporary data directory. Only `tickAfter` advances its clock, until `run` is called.
 template <class RandomType, class LinkType = MuteLink, class NotifierType = SilentNotifier,
           class LoginItemType = NoLoginItem>

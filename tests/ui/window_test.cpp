@@ -173,6 +173,8 @@ TEST_F(WindowTest, NothingMovesIfTheDesktopDisablesAnimations) {
     EXPECT_TRUE(shows("Launch drone")) << "the card appears at once";
     respond(Command::ignore);
     EXPECT_FALSE(shows("Launch drone"));
+    EXPECT_EQ(qobject_cast<QAbstractButton*>(QApplication::focusWidget()), nullptr)
+        << "the focus moves to no control behind the card";
     store().setSection(Section::live);
     visit(Scenario::driveway);
     approve();

@@ -80,13 +80,18 @@ void OverlayCard::close() {
     if (!open_)
         return;
     open_ = false;
-    QWidget* focus = QApplication::focusWidget();
-    const bool hasFocus = focus && (focus == this || isAncestorOf(focus));
     picture_ = card_->grab();
+    returnFocus();
     card_->hide();
     appearance_.setDuration(Motion::cardOut);
     appearance_.move(1, 0);
-    if (!hasFocus)
+}
+
+/// Call before the card is hidden: Qt moves the focus of a hidden widget to another control, which the next
+/// key press would trigger.
+void OverlayCard::returnFocus() {
+    QWidget* focus = QApplication::focusWidget();
+    if (!focus || (focus != this && !isAncestorOf(focus)))
         return;
     if (focusBefore_ && focusBefore_->isVisible())
         focusBefore_->setFocus(Qt::OtherFocusReason);

@@ -39,6 +39,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void returnFocus();
     void finishTransition();
     QList<QWidget*> focusable() const;
 

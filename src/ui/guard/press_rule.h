@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// A moment on the steady clock of the event loop.
+/// A moment on the clock of the user interface, which counts from boot.
 using EventTime = std::chrono::milliseconds;
 
 /// Decides from times alone whether a press may answer an alert: only if it began 600 ms or more after the
@@ -41,7 +41,7 @@ private:
     EventTime lastBeat_{};
 };
 
-/// Converts the window system's time stamps to the steady clock. The offset between the two clocks is
+/// Converts the window system's time stamps to that clock. The offset between the two clocks is
 /// unknown, so the fastest event of the last minute is taken as delivered without delay.
 class EventClock {
 public:
@@ -50,7 +50,7 @@ public:
     EventTime began(std::uint64_t stamp, EventTime now);
 
 private:
-    std::optional<std::uint32_t> offset_; ///< steady clock minus stamp of the promptest event
+    std::optional<std::uint32_t> offset_; ///< clock minus stamp of the promptest event
     EventTime sampledAt_{};
 };
 

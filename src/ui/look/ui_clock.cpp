@@ -15,7 +15,7 @@ constexpr std::chrono::milliseconds shortestCoarse{1000};
 
 UiClock*& currentClock() {
     static UiClock system;
-    static UiClock* clock = &system;
+    static UiClock* clock = &system; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
     return clock;
 }
 

@@ -23,7 +23,7 @@ public:
 
     /// The system's clock, unless another one is installed.
     static UiClock& current();
-    /// Makes this the current clock. Returns the one that was.
+    /// Makes this the current clock. Returns the previous one.
     static UiClock& install(UiClock& clock);
 
     /// Time since boot, including suspend.

@@ -22,7 +22,7 @@ protected:
     /// The subclass lays out the map and the rows.
     MapPanel(QSize mapMinimum, QWidget* parent);
 
-    /// As above, with rows of this height in all.
+    /// The panel's size if all rows together have this height.
     QSize fitted(QSize room, int rows) const;
     /// The height of all rows.
     int rowsHeight() const { return layout()->minimumSize().height(); }
@@ -33,8 +33,8 @@ private:
     QSize mapMinimum_; ///< wide grounds make a lower map
 };
 
-/// A panel as large as its map allows, and right of it a rail over the full height. Where the room is short,
-/// the bottom margin gives way, and so does a rail whose vertical size policy is `Ignored`.
+/// A panel as large as its map allows, and right of it a rail over the full height. If the height is not
+/// enough, the layout uses the bottom margin, and cuts off a rail whose vertical size policy is `Ignored`.
 class MapBesideRail : public ItemLayout {
 public:
     /// `railMinimum` is the width that the panel leaves the rail.

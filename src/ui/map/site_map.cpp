@@ -130,9 +130,9 @@ int SiteMap::heightForWidth(int width) const {
     return static_cast<int>(std::lround(width * size.y / size.x));
 }
 
-QSize SiteMap::fitted(QSize room, int least) const {
+QSize SiteMap::fitted(QSize room, int minimumWidth) const {
     const P size = scene_.state.site.size;
-    const int wanted = std::max(static_cast<int>(room.height() * size.x / size.y), least);
+    const int wanted = std::max(static_cast<int>(room.height() * size.x / size.y), minimumWidth);
     const int width = std::min(room.width(), wanted);
     return {width, std::min(heightForWidth(width), room.height())};
 }

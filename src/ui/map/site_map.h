@@ -33,9 +33,9 @@ public:
 
     /// The height at this width that keeps the site's proportions.
     int heightForWidth(int width) const override;
-    /// The size of the largest map that fits into `room`, at least `least` pixels wide if there is room. A
-    /// wider map centres the plan.
-    QSize fitted(QSize room, int least) const;
+    /// The size of the largest map that fits into `room`, at least `minimumWidth` pixels wide if there is
+    /// room. In a map that is wider than the plan, the plan is centred.
+    QSize fitted(QSize room, int minimumWidth) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
