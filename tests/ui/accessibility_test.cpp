@@ -91,7 +91,7 @@ TEST_F(AccessibilityTest, AccessibleActionsDoWhatTheMouseDoes) {
     act("Settings");
     EXPECT_EQ(store().section(), Section::settings);
     act("Alert on this Mac");
-    EXPECT_FALSE(store().settings().notifyMac);
+    EXPECT_TRUE(content("settings.json").contains("\"notifyMac\":false"));
     act("DJI tracking hand-over");
     EXPECT_EQ(store().settings().tracking, TrackingMode::native);
     act("velmora on my network");
@@ -109,6 +109,27 @@ TEST_F(AccessibilityTest, AccessibleActionsDoWhatTheMouseDoes) {
     act("Cameras");
     act("Any person, even without a face");
     EXPECT_TRUE(store().settings().alertPeople.contains("driveway"));
+}
+
+TEST_F(AccessibilityTest, EveryKindOfButtonActsOnAnAccessiblePress) {
+    window();
+    pressByAccessibility("Disarm");
+    EXPECT_FALSE(live().armed);
+    pressByAccessibility("All activity →");
+    EXPECT_EQ(store().section(), Section::history);
+    pressByAccessibility("All cameras");
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QApplication::activePopupWidget()->close();
+    auto* time = find<QAbstractSlider>("Replay time");
+    QAccessible::queryAccessibleInterface(time)->valueInterface()->setCurrentValue(2);
+    EXPECT_TRUE(shows("0:01 / 2:20"));
+    pressByAccessibility("Play");
+    EXPECT_TRUE(shows("Pause"));
+    pressByAccessibility("Pause");
+    for (auto* notice : window().findChildren<QAbstractButton*>())
+        if (notice->isVisible() && notice->accessibleName().endsWith("You approved the launch"))
+            pressByAccessibility(notice->accessibleName());
+    EXPECT_GT(time->value(), 2) << "the replay is at the notice";
 }
 
 TEST_F(AccessibilityTest, PaintedWidgetsHaveNamesAndRoles) {
