@@ -1,8 +1,8 @@
 #include "samples.h"
+#include "ui/manual_clock.h"
 #include "ui/map/site_map.h"
 
 #include <QApplication>
-#include <QTimerEvent>
 #include <algorithm>
 #include <benchmark/benchmark.h>
 
@@ -23,12 +23,8 @@ public:
         map_.repaint();
     }
 
-    /// Fires the frame timer and paints.
-    void frame() {
-        QTimerEvent due(0);
-        QCoreApplication::sendEvent(&map_, &due);
-        QCoreApplication::sendPostedEvents(&map_, QEvent::UpdateRequest);
-    }
+    /// Advances to the next frame and paints it.
+    void frame() { clock_.advance(Motion::frame); }
     void repaintAll() { map_.repaint(); }
     /// Moves the drone, so that the paths are redrawn.
     void paths() {
@@ -45,6 +41,7 @@ public:
     }
 
 private:
+    ManualClock clock_;
     SiteMap map_;
     LiveState state_;
 };

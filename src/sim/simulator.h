@@ -53,7 +53,6 @@ private:
     void flyHome(double dt);
     void descend(double dt);
     void fly(P toward, double maxSpeed, double dt, std::optional<P> face);
-    P insideBuffer(P p) const;
 
     template <class... Inserted>
     void enter(Phase phase, NoticeKind kind, const Inserted&... inserted) {

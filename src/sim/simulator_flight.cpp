@@ -1,5 +1,7 @@
 #include "sim/simulator.h"
 
+#include "model/follow_point.h"
+
 #include <algorithm>
 #include <numbers>
 
@@ -14,11 +16,6 @@ constexpr double cruiseSpeed = 9;        // m/s, on the way to the visitor and h
 constexpr double followSpeed = 7;        // m/s
 constexpr double steeringGain = 0.9;     // 1/s
 constexpr double maxAcceleration = 4;    // m/s²
-
-/// Like std::clamp, but gives `high` if `low` is greater.
-double raiseThenLower(double value, double low, double high) {
-    return std::min(std::max(value, low), high);
-}
 
 double headingOf(P direction) {
     return std::atan2(direction.y, direction.x) * 180 / std::numbers::pi;
@@ -66,13 +63,7 @@ void Simulator::climb(double dt) {
 
 void Simulator::follow(double dt) {
     const P visitor = state.visitor->pos;
-    P away = unit(state.drone.pos - visitor);
-    if (length(away) < 0.5)
-        away = unit(state.site.pad - visitor);
-    const P wanted = visitor + away * settings.followDistance;
-    const P target = insideBuffer(wanted);
-
-    const bool held = distance(target, wanted) > 0.01;
+    const auto [target, held] = followPoint(state.drone.pos, visitor, state.site, settings);
     if (held != state.atBoundary) {
         state.atBoundary = held;
         if (held)
@@ -126,19 +117,12 @@ void Simulator::fly(P toward, double maxSpeed, double dt, std::optional<P> face)
     velocity_ = velocity_ + change;
     if (gustDecay_ > 0)
         gustDecay_ = std::max(gustDecay_ - dt, 0.0);
-    drone.pos = insideBuffer(drone.pos + velocity_ * dt);
+    drone.pos = insideBuffer(drone.pos + velocity_ * dt, state.site, settings.boundaryBuffer);
     drone.speed = length(velocity_);
     if (face && distance(*face, drone.pos) > 0.5)
         drone.heading = headingOf(*face - drone.pos);
     else if (drone.speed > 0.5)
         drone.heading = headingOf(velocity_);
-}
-
-P Simulator::insideBuffer(P p) const {
-    const Bounds bounds = boundsOf(state.site);
-    const double buffer = settings.boundaryBuffer;
-    return {raiseThenLower(p.x, bounds.minX + buffer, bounds.maxX - buffer),
-            raiseThenLower(p.y, bounds.minY + buffer, bounds.maxY - buffer)};
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "sim/simulator.h"
 
+#include "model/flight_limits.h"
 #include "model/truncated.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void Simulator::trigger(Scenario scenario, Date at) {
 
     if (!state.armed)
         return finish(Outcome::disarmed);
-    if (state.windKmh > settings.maxWindKmh)
+    if (isTooWindy(state, settings))
         return finish(Outcome::windTooHigh);
     state.phase = Phase::awaitingApproval;
     state.approvalDeadline = at + Seconds{settings.approvalSeconds};

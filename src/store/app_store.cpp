@@ -69,6 +69,7 @@ AppStore::AppStore(Environment environment, QObject* parent)
     connect(&session_, &LinkSession::received, this, &AppStore::setState);
     connect(&session_, &LinkSession::statusChanged, this, &AppStore::linkStatusChanged);
     connect(&session_, &LinkSession::freshnessChanged, this, &AppStore::freshnessChanged);
+    connect(&session_, &LinkSession::pendingCommandChanged, this, &AppStore::pendingCommandChanged);
     connect(&session_, &LinkSession::commandFailed, this, &AppStore::commandFailed);
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(tickInterval);
@@ -138,8 +139,13 @@ void AppStore::notifyDetection() {
     environment_.notifier.post(detectionNotification(state_));
 }
 
+std::optional<AlertId> AppStore::shownAlert() const {
+    return knownState() ? alertId(*knownState()) : std::nullopt;
+}
+
 std::optional<AlertId> AppStore::waitingAlert() const {
-    return freshness() == Freshness::live ? alertId(state_) : std::nullopt;
+    const bool answered = pendingCommand() && answersAlert(*pendingCommand());
+    return freshness() == Freshness::live && !answered ? shownAlert() : std::nullopt;
 }
 
 /// Ticks first: after a pause of the program an answer can arrive before the next tick, while the state is
@@ -159,7 +165,7 @@ void AppStore::send(Command command) {
 
 void AppStore::transmit(Command command, const std::optional<std::string>& mission) {
     if (settings_.linkMode) {
-        session_.send(command, mission);
+        session_.send(command, mission, state_);
         return;
     }
     sim_.send(command, environment_.clock());

@@ -72,8 +72,14 @@ public:
     /// Has no effect if the desktop's setting cannot be changed.
     void setStartAtLogin(bool on);
 
-    /// The alert that can be answered now; nullopt if none waits or the state is not live.
+    /// The alert of the known state, also while it cannot be answered; nullopt if none waits.
+    std::optional<AlertId> shownAlert() const;
+    /// The alert that can be answered now: the one shown, if the state is live and no answer to it is
+    /// pending.
     std::optional<AlertId> waitingAlert() const;
+    /// The newest command in link mode whose effect the server's state does not show yet, for at most five
+    /// seconds.
+    std::optional<Command> pendingCommand() const { return session_.pendingCommand(); }
     /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown. Sends the
     /// command once if exactly this alert can still be answered, otherwise does nothing. Returns whether it
     /// sent the command.
@@ -117,8 +123,9 @@ signals:
     void showWelcomeChanged();
     /// A new alert waits for the owner's answer.
     void attentionRequested();
-    /// A command got no reply; `reason` is in words for the owner. Emitted within three seconds of the
-    /// command.
+    void pendingCommandChanged();
+    /// A command got no reply within three seconds; `reason` is in words for the owner. It is empty if the
+    /// server replied but no state showed the effect of the command within five seconds.
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:

@@ -13,6 +13,7 @@ constexpr double earlyTick = 0.005;      // seconds; ten ticks may take slightly
 constexpr double longestDebt = 5;        // seconds by which setting the clock back can delay a poll
 constexpr double failingUntilStale = 2;  // seconds since the last good answer
 constexpr double silentUntilStale = 2.5; // seconds since the last good answer
+constexpr double longestPending = 5;     // seconds from a command to its effect; its exchange may take three
 
 } // namespace
 
@@ -31,6 +32,7 @@ bool LinkSession::setSettings(const Settings& settings) {
     if (same)
         return false;
     ++generation_;
+    setPending(std::nullopt);
     lastAnswerAt_.reset();
     resetStatus();
     updateFreshness();
@@ -53,7 +55,48 @@ void LinkSession::advance(Date now, double elapsed) {
         if (!pollInFlight_)
             poll();
     }
+    agePending(elapsed);
     updateFreshness();
+}
+
+std::optional<Command> LinkSession::pendingCommand() const {
+    return pending_ ? std::optional(pending_->command) : std::nullopt;
+}
+
+bool LinkSession::hasTakenEffect(const Pending& pending, const LiveState& state) {
+    switch (pending.command) {
+    case Command::approve:
+    case Command::ignore:
+        return alertId(state) != pending.alert;
+    case Command::hold:
+        return state.phase == Phase::holding || !airborne(state.phase);
+    case Command::resume:
+        return state.phase != Phase::holding;
+    case Command::returnHome:
+        return state.phase == Phase::returning || state.phase == Phase::landing || !airborne(state.phase);
+    case Command::land:
+        return state.phase == Phase::landing || !airborne(state.phase);
+    }
+    return true;
+}
+
+void LinkSession::setPending(const std::optional<Pending>& pending) {
+    const auto before = pendingCommand();
+    pending_ = pending;
+    if (pendingCommand() != before)
+        emit pendingCommandChanged();
+}
+
+/// Counts ticks instead of comparing times, because the clock may be set.
+void LinkSession::agePending(double elapsed) {
+    if (!pending_)
+        return;
+    pending_->age += std::max(elapsed, 0.0);
+    if (pending_->age < longestPending)
+        return;
+    const Command command = pending_->command;
+    setPending(std::nullopt);
+    emit commandFailed(command, {});
 }
 
 void LinkSession::poll() {
@@ -72,6 +115,8 @@ void LinkSession::finishPoll(const FetchResult& result, int generation) {
     if (const auto* fetched = std::get_if<FetchedState>(&result)) {
         lastAnswerAt_ = clock_();
         emit received(fetched->state);
+        if (pending_ && hasTakenEffect(*pending_, fetched->state))
+            setPending(std::nullopt);
         setStatus(LinkStatus::connected(fetched->version));
     } else {
         setStatus(LinkStatus::failed(std::get<LinkError>(result).text));
@@ -79,14 +124,26 @@ void LinkSession::finishPoll(const FetchResult& result, int generation) {
     updateFreshness();
 }
 
-void LinkSession::send(Command command, const std::optional<std::string>& mission) {
-    link_.send(command, mission, settings_,
-               [session = QPointer(this), command, generation = generation_](const auto& failure) {
-                   if (session && failure)
-                       emit session->commandFailed(command, failure->text);
-                   if (session && generation == session->generation_ && !session->pollInFlight_)
-                       session->poll();
-               });
+void LinkSession::send(Command command, const std::optional<std::string>& mission, const LiveState& current) {
+    const Pending pending{command, alertId(current), 0, ++sent_};
+    if (!hasTakenEffect(pending, current))
+        setPending(pending);
+    link_.send(
+        command, mission, settings_,
+        [session = QPointer(this), command, number = sent_, generation = generation_](const auto& failure) {
+            if (session)
+                session->finishSend(command, number, failure);
+            if (session && generation == session->generation_ && !session->pollInFlight_)
+                session->poll();
+        });
+}
+
+void LinkSession::finishSend(Command command, int number, const std::optional<LinkError>& failure) {
+    if (!failure)
+        return;
+    if (pending_ && pending_->number == number)
+        setPending(std::nullopt);
+    emit commandFailed(command, failure->text);
 }
 
 void LinkSession::setStatus(const LinkStatus& status) {

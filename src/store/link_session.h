@@ -24,6 +24,8 @@ public:
     Freshness freshness() const { return freshness_; }
     /// When the server last answered with a state; nullopt in demo mode and before its first answer.
     const std::optional<Date>& lastAnswerAt() const { return lastAnswerAt_; }
+    /// The newest command, until a state shows its effect, it fails, or five seconds have passed.
+    std::optional<Command> pendingCommand() const;
 
     /// Applies changed settings. Another server or another mode resets status and freshness, and replies to
     /// earlier requests are ignored. Returns whether server or mode changed.
@@ -32,19 +34,34 @@ public:
     void resetStatus();
     /// Advances by `elapsed` seconds to `now` and polls if a poll is due.
     void advance(Date now, double elapsed);
-    /// Posts a command once, and polls as soon as its exchange ends.
-    void send(Command command, const std::optional<std::string>& mission);
+    /// Posts a command once, and polls as soon as its exchange ends. `current` is the state that the owner
+    /// saw.
+    void send(Command command, const std::optional<std::string>& mission, const LiveState& current);
 
 signals:
     void received(const velmora::LiveState& state);
     void statusChanged();
     void freshnessChanged();
-    /// A command got no reply; `reason` is in words for the owner.
+    void pendingCommandChanged();
+    /// A command got no reply; `reason` is in words for the owner. It is empty if the server replied but no
+    /// state showed the effect of the command within five seconds.
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:
+    /// A command that was sent and had no effect yet.
+    struct Pending {
+        Command command;
+        std::optional<AlertId> alert; ///< the alert that it answers
+        double age = 0;               ///< seconds
+        int number = 0;               ///< distinguishes it from an earlier command
+    };
+
     void poll();
     void finishPoll(const FetchResult& result, int generation);
+    static bool hasTakenEffect(const Pending& pending, const LiveState& state);
+    void setPending(const std::optional<Pending>& pending);
+    void finishSend(Command command, int number, const std::optional<LinkError>& failure);
+    void agePending(double elapsed);
     void setStatus(const LinkStatus& status);
     void updateFreshness();
 
@@ -54,6 +71,8 @@ private:
     LinkStatus status_;
     Freshness freshness_;
     std::optional<Date> lastAnswerAt_;
+    std::optional<Pending> pending_;
+    int sent_ = 0; ///< commands
     bool pollInFlight_ = false;
     double pollClock_ = 0; ///< seconds since the last poll; negative after the clock was set back
     int generation_ = 0;   ///< incremented when server or mode changes

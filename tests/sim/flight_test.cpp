@@ -1,3 +1,4 @@
+#include "model/follow_point.h"
 #include "simulator_fixture.h"
 
 #include <numbers>
@@ -120,6 +121,25 @@ TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
     drone.altitude = 0;
     EXPECT_EQ(phaseAt(pad + P{2.01, 0}), Phase::docked);
     EXPECT_EQ(latest(), "Landed away from the pad — please collect it");
+}
+
+TEST_F(SimulatorTest, TheDroneSettlesAtTheFollowPoint) {
+    for (const P visitor : {P{70, 50}, P{120, 20}, P{152, 86}}) { // inside, near a corner, outside
+        SCOPED_TRACE(visitor.x);
+        Simulator flight(LiveState::initial(), settings, random);
+        flight.trigger(Scenario::driveway, now);
+        flight.send(Command::approve, now);
+        for (int i = 0; i < 600; ++i) {
+            flight.state.visitor->pos = visitor;
+            flight.state.visitor->inside = true;
+            flight.step(0.05, now += Seconds{0.05});
+        }
+        ASSERT_EQ(flight.state.phase, Phase::following);
+        const FollowPoint station = followPoint(flight.state.drone.pos, visitor, state.site, settings);
+        EXPECT_LT(distance(flight.state.drone.pos, station.at), 0.3);
+        EXPECT_EQ(flight.state.atBoundary, station.atBoundary);
+        EXPECT_GE(boundsOf(state.site).distanceInside(station.at), settings.boundaryBuffer);
+    }
 }
 
 TEST_F(SimulatorTest, EachArrivalAtTheBoundaryHasOneNotice) {

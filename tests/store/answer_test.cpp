@@ -77,6 +77,72 @@ TEST_F(AnswerTest, AnswerTakesOnlyAnswersAndSendOnlyFlightCommands) {
     EXPECT_EQ(link.posts.size(), 1U) << "flight commands are always sent";
 }
 
+/// While an answer is pending, nothing can be answered; each end of it is told once.
+TEST_F(AnswerTest, AnAnswerIsPendingUntilThePhaseMovesItFailsOrFiveSecondsHavePassed) {
+    QStringList failures;
+    QObject::connect(&store(), &AppStore::commandFailed, [&](Command command, const QString& reason) {
+        failures.append(QString::number(static_cast<int>(command)) + reason);
+    });
+    const auto stayAwaiting = [&](double seconds) {
+        for (double passed = 0; passed < seconds; passed += 0.5) {
+            tickAfter(0.5);
+            alert("M-1");
+        }
+    };
+    const AlertId seen = alert("M-1");
+    ASSERT_TRUE(store().answer(Command::approve, seen));
+    EXPECT_EQ(store().pendingCommand(), Command::approve);
+    EXPECT_EQ(store().waitingAlert(), std::nullopt);
+    EXPECT_EQ(store().shownAlert(), seen);
+    EXPECT_FALSE(store().answer(Command::ignore, seen));
+    store().send(Command::hold);
+    stayAwaiting(4);
+    EXPECT_EQ(store().pendingCommand(), Command::approve) << "a flight command does not end it";
+    stayAwaiting(1.5);
+    EXPECT_EQ(store().waitingAlert(), seen);
+    EXPECT_EQ(failures, QStringList{"0"});
+
+    link.posts.clear();
+    ASSERT_TRUE(store().answer(Command::approve, seen)) << "the owner tries again";
+    ASSERT_EQ(link.posts.size(), 1U);
+    link.posts.front().done(LinkError{"refused"});
+    EXPECT_EQ(store().waitingAlert(), seen);
+    EXPECT_EQ(failures, (QStringList{"0", "0refused"}));
+
+    ASSERT_TRUE(store().answer(Command::approve, seen));
+    const AlertId next = alert("M-2");
+    EXPECT_EQ(store().waitingAlert(), next) << "another alert can be answered at once";
+    stayAwaiting(6);
+    EXPECT_EQ(failures.size(), 2);
+}
+
+TEST_F(AnswerTest, AFlightCommandIsPendingUntilThePhaseFollows) {
+    const auto servePhase = [this](Phase phase) {
+        LiveState state = LiveState::initial();
+        state.phase = phase;
+        serve(state);
+    };
+    using enum Phase;
+    const std::tuple<Command, Phase, Phase> flights[] = {{Command::hold, following, holding},
+                                                         {Command::resume, holding, enRoute},
+                                                         {Command::returnHome, holding, returning},
+                                                         {Command::returnHome, following, docked},
+                                                         {Command::land, returning, landing}};
+    for (const auto& [command, before, after] : flights) {
+        servePhase(before);
+        store().send(command);
+        servePhase(before);
+        EXPECT_EQ(store().pendingCommand(), command);
+        servePhase(after);
+        EXPECT_EQ(store().pendingCommand(), std::nullopt);
+        store().send(command);
+        EXPECT_EQ(store().pendingCommand(), std::nullopt) << "it has its effect already";
+    }
+    store().applyLinkMode(false);
+    store().send(Command::returnHome);
+    EXPECT_EQ(store().pendingCommand(), std::nullopt);
+}
+
 TEST_F(AnswerTest, ReportsAFailedCommand) {
     std::vector<std::pair<Command, QString>> failures;
     QObject::connect(&store(), &AppStore::commandFailed,

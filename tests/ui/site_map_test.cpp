@@ -1,6 +1,10 @@
 #include "ui/map/site_map.h"
 
+#include "model/follow_point.h"
+#include "sim/simulator.h"
+#include "support/random.h"
 #include "ui/look/tokens.h"
+#include "ui/map/map_captions.h"
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
 #include "ui/ui_fixture.h"
@@ -35,7 +39,7 @@ protected:
         scene.state = LiveState::initial();
         scene.state.site.planImage.clear();
         scene.state.site.cameras.clear();
-        scene.showLabels = false;
+        scene.measures.captions = false;
         mission.end = mission.start + Seconds{1};
         mission.visitorPath = {{20, 50.125}, {40, 50.125}};
         mission.dronePath = {{74, 70}, {60, 55}};
@@ -114,12 +118,15 @@ TEST_F(MapPicture, OnlyTheCameraThatSeesTheVisitorIsBrighter) {
     EXPECT_GT(at(228, 160 - 15).blue(), 60);
 }
 
-TEST_F(MapPicture, AnOfflineCameraHasAnAlertRing) {
+TEST_F(MapPicture, AnOfflineCameraHasAnAlertRingWithACross) {
     addCamera("on", {50, 40}, 0);
     addCamera("off", {100, 40}, 0, false);
     EXPECT_COLOR(at(200, 160), SB::navy);
     EXPECT_COLOR(at(195, 160), SB::softBlue);
     EXPECT_COLOR(at(395, 160), SB::alert);
+    EXPECT_GT(at(400, 160).red(), 200) << "the middle of a cross";
+    EXPECT_COLOR(at(400, 157), SB::navy);
+    EXPECT_COLOR(at(440, 160), onNavy(SB::softBlue, 0.05 * (1 - 40 / 136.0)));
 }
 
 TEST_F(MapPicture, ATrailOfOnePointDrawsNothing) {
@@ -164,7 +171,7 @@ TEST_F(MapPicture, AReplayShowsItsPathsInsteadOfTheLiveOnes) {
 }
 
 TEST_F(MapPicture, AVisitorWhoLeftIsLabelledLastSeenUntilTheReplayEnds) {
-    scene.showLabels = true;
+    scene.measures.captions = true;
     const auto caption = [&](Outcome outcome, double seconds) { // at the visitor's last point
         mission.outcome = outcome;
         replay(seconds);
@@ -190,15 +197,117 @@ TEST_F(MapPicture, LabelsOffLeavesTheShapesAndNoText) {
     EXPECT_COLOR(shapes.pixelColor(440, 160), SB::lilac);
     EXPECT_COLOR(shapes.pixelColor(296, 160), SB::dTitle);
     EXPECT_GT(shapes.pixelColor(static_cast<int>(74 * 4 + 2.6 * 4), 282).green(), 120); // the pad's circle
-    scene.showLabels = true;
+    scene.measures.captions = true;
     const QImage labelled = draw();
     for (const QRect& label : {QRect(37, 33, 90, 11), QRect(450, 154, 80, 12), QRect(160, 140, 80, 11),
                                QRect(282, 176, 28, 11), QRect(282, 298, 28, 11), QRect(470, 344, 90, 11)})
         EXPECT_NE(labelled.copy(label), shapes.copy(label)) << label.x() << ' ' << label.y();
 }
 
+TEST_F(MapPicture, CaptionsAndPathsHaveADarkEdge) {
+    scene.state.site.boundary = {{-50, -50}, {200, -50}, {200, 150}, {-50, 150}};
+    see({110, 60}, "a");
+    scene.state.visitor->trail = {{20, 30.125}, {60, 30.125}};
+    const auto drawn = [&] {
+        QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        drawPaths(painter, scene, canvas);
+        drawMovers(painter, scene, canvas, 0);
+        return image;
+    };
+    const QColor edge = SB::mixed(Qt::white, SB::navy, 0.55);
+    EXPECT_COLOR(drawn().pixelColor(160, 122), edge);
+    EXPECT_COLOR(drawn().pixelColor(160, 120), SB::mixed(edge, SB::lilac, 0.55));
+    EXPECT_COLOR(drawn().pixelColor(160, 124), QColor(Qt::white));
+    const auto darkest = [](const QImage& image) {
+        int least = 255;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                least = std::min(least, image.pixelColor(x, y).green());
+        return least;
+    };
+    const QRect label(452, 232, 90, 16);
+    EXPECT_EQ(darkest(drawn().copy(label)), 255);
+    scene.measures.captions = true;
+    EXPECT_NEAR(darkest(drawn().copy(label)), edge.green(), 8);
+}
+
+/// The captions of the map in every twentieth of a second of a flight.
+class MapCaptions : public testing::TestWithParam<QSize> {
+protected:
+    template <class Look>
+    void flight(Scenario scenario, Look look) {
+        SeededRandom random;
+        Simulator simulator(LiveState::initial(), Settings{}, random);
+        Date now = dateFromSeconds(1'700'000'042);
+        simulator.trigger(scenario, now);
+        for (int step = 0; simulator.state.phase != Phase::docked; ++step) {
+            if (step == 160)
+                simulator.send(Command::approve, now);
+            if (step == 1600)
+                simulator.send(Command::returnHome, now);
+            simulator.step(0.05, now += Seconds{0.05});
+            scene.state = simulator.state;
+            look();
+        }
+    }
+    QRectF glyph() const {
+        QRectF circle(0, 0, 30, 30);
+        circle.moveCenter(view.map(scene.state.drone.pos));
+        return circle;
+    }
+
+    MapScene scene;
+    const MapTransform view{GetParam(), LiveState::initial().site.size};
+};
+
+INSTANTIATE_TEST_SUITE_P(Sizes, MapCaptions,
+                         testing::Values(QSize(435, 290), QSize(728, 485), QSize(1488, 992)));
+
+TEST_P(MapCaptions, ThePadGivesWayToTheHeightWithoutFlicker) {
+    for (const auto& [scenario, name] : rawValuesOf<Scenario>) {
+        SCOPED_TRACE(name);
+        double before = 1;
+        int appearances = 0, hidden = 0;
+        flight(scenario, [&] {
+            const double shown = padCaptionOpacity(scene, view);
+            hidden += shown == 0;
+            appearances += shown > 0 && before == 0;
+            before = shown;
+            if (shown > 0 && airborne(scene.state.phase)) {
+                const QRectF pad = padCaption(scene, view).area();
+                ASSERT_FALSE(pad.intersects(heightCaption(scene, view).box()));
+                ASSERT_FALSE(padCaption(scene, view).box().intersects(glyph()));
+            }
+        });
+        EXPECT_GT(hidden, 100);
+        EXPECT_LE(appearances, 3);
+    }
+}
+
+TEST_P(MapCaptions, TheVisitorsLabelStaysClearOfTheDroneAndSeldomChangesSides) {
+    for (const auto& [scenario, name] : rawValuesOf<Scenario>) {
+        SCOPED_TRACE(name);
+        int changes = 0;
+        scene.labelSide = LabelSide::right;
+        flight(scenario, [&] {
+            if (!scene.state.visitor)
+                return;
+            const LabelSide side = freeLabelSide(scene, view);
+            changes += side != scene.labelSide;
+            scene.labelSide = side;
+            const QRectF label = visitorCaption(scene, view, side).box();
+            ASSERT_FALSE(label.intersects(glyph()));
+            if (airborne(scene.state.phase))
+                ASSERT_FALSE(label.intersects(heightCaption(scene, view).box()));
+        });
+        EXPECT_LE(changes, 4);
+    }
+}
+
 TEST_F(MapPicture, TheBufferIsTruncatedAndTheHeightIsRounded) {
-    scene.showLabels = true;
+    scene.measures.captions = true;
     const auto buffer = [&](double metres) {
         scene.settings.boundaryBuffer = metres;
         return draw().copy(460, 343, 102, 11);
@@ -214,6 +323,23 @@ TEST_F(MapPicture, TheBufferIsTruncatedAndTheHeightIsRounded) {
     EXPECT_EQ(height(14.5), height(15));
     EXPECT_EQ(height(15.2), height(15));
     EXPECT_NE(height(14.4), height(15));
+}
+
+TEST_F(MapPicture, TheInsetShowsWhereTheDroneWouldHold) {
+    see({110, 60.125}, "a");
+    const auto ring = [&] {
+        const P hold = followPoint(scene.state.drone.pos, {110, 60.125}, scene.state.site, scene.settings).at;
+        return at(hold.x * 4 + 5, hold.y * 4); // on the right of a circle 10 across
+    };
+    EXPECT_COLOR(ring(), SB::navy);
+    EXPECT_COLOR(at(74 * 4 + 15, 70.7 * 4), onNavy(SB::dTeal, 0.5));
+    scene.measures = insetMap;
+    EXPECT_COLOR(ring(), SB::dTeal);
+    EXPECT_COLOR(at(74 * 4 + 6.9, 70.7 * 4), onNavy(SB::dTeal, 0.5));
+    scene.state.visitor.reset();
+    const QImage empty = draw();
+    scene.measures.holdRadius = 0;
+    EXPECT_EQ(draw(), empty) << "nobody is there";
 }
 
 TEST_F(MapPicture, RotorsTurnOnlyInFlightAndTheNosePointsForward) {
@@ -241,7 +367,7 @@ TEST_F(MapPicture, ThePulseGrowsAndFadesEvery16Tenths) {
 }
 
 TEST_F(MapPicture, MovingPartsStayInsideTheAreaThatEachFrameRepaints) {
-    scene.showLabels = true;
+    scene.measures.captions = true;
     scene.state.phase = Phase::following;
     scene.state.drone.pos = {40, 30};
     see({90, 60}, "a");

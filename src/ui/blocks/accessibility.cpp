@@ -25,4 +25,10 @@ void declareRole(QWidget* widget, QAccessible::Role role) {
     widget->setProperty(roleProperty, static_cast<int>(role));
 }
 
+void announce(QWidget* widget, const QString& message) {
+    widget->setAccessibleName(message);
+    QAccessibleEvent alert(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
 } // namespace velmora

@@ -10,4 +10,7 @@ namespace velmora {
 /// QWidget::accessibleName.
 void declareRole(QWidget* widget, QAccessible::Role role);
 
+/// Sets the widget's accessible name and has assistive technology read it at once.
+void announce(QWidget* widget, const QString& message);
+
 } // namespace velmora

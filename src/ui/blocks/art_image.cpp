@@ -5,6 +5,7 @@
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -22,6 +23,14 @@ void ArtImage::setName(const QString& name) {
     if (name == name_)
         return;
     name_ = name;
+    loadedFor_ = {-1, 0};
+    update();
+}
+
+void ArtImage::setCrop(const Crop& crop) {
+    if (crop == crop_)
+        return;
+    crop_ = crop;
     loadedFor_ = {-1, 0};
     update();
 }
@@ -51,9 +60,31 @@ void ArtImage::load() {
     const QImage image = Art::find(name_);
     if (image.isNull() || pixels.isEmpty())
         return;
-    const auto ratio = mode_ == Mode::fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
-    picture_ = QPixmap::fromImage(image.scaled(pixels, ratio, Qt::SmoothTransformation));
+    focus_ = Art::focusOf(name_);
+    const QSizeF shown = mode_ == Mode::fill ? sizeToFill(image.size())
+                                             : QSizeF(image.size()).scaled(size(), Qt::KeepAspectRatio);
+    picture_ = QPixmap::fromImage(image.scaled((shown * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
+                                               Qt::SmoothTransformation));
     picture_.setDevicePixelRatio(devicePixelRatioF());
+}
+
+/// Large enough to cover the widget, to show no more than the share, and to bring the focus to its point
+/// without a gap at the right.
+QSizeF ArtImage::sizeToFill(QSizeF picture) const {
+    const double covering = std::max(width() / picture.width(), height() / picture.height());
+    const double cropping = width() / (crop_.share * picture.width());
+    const double reaching = (1 - crop_.at.x()) * width() / ((1 - focus_.x()) * picture.width());
+    return picture * std::max({covering, cropping, crop_.share < 1 ? reaching : 0});
+}
+
+QPointF ArtImage::cornerOf(QSizeF shown) const {
+    if (mode_ == Mode::fit || crop_.share == 1)
+        return {(width() - shown.width()) / 2, (height() - shown.height()) / 2};
+    const auto along = [](double length, double focus, double room, double at) {
+        return std::clamp(at * room - focus * length, std::min(room - length, 0.0), 0.0);
+    };
+    return {along(shown.width(), focus_.x(), width(), crop_.at.x()),
+            along(shown.height(), focus_.y(), height(), crop_.at.y())};
 }
 
 void ArtImage::paintEvent(QPaintEvent*) {
@@ -70,7 +101,7 @@ void ArtImage::paintEvent(QPaintEvent*) {
         painter.setOpacity(faintOpacity);
     }
     const QSizeF shown = picture_.deviceIndependentSize();
-    const QPointF corner((width() - shown.width()) / 2, (height() - shown.height()) / 2);
+    const QPointF corner = cornerOf(shown);
     QBrush brush(picture_);
     brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()));
     fillRounded(painter, (QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below), radius_, brush);

@@ -15,6 +15,14 @@ public:
     ArtImage(const QString& name, Mode mode, double radius, QWidget* parent);
 
     void setName(const QString& name);
+    /// Which part of the picture the mode `fill` shows.
+    struct Crop {
+        double share = 1;     ///< of the picture's width; less where the focus would not reach its point
+        QPointF at{0.5, 0.5}; ///< where Art::focusOf() lies in the widget, as shares of its width and height
+
+        bool operator==(const Crop&) const = default;
+    };
+    void setCrop(const Crop& crop);
     /// Sets width / height, so that layouts derive the height from the width.
     void setRatio(double ratio) { ratio_ = ratio; }
     /// Rounds only the top corners, for content that follows below without a gap.
@@ -30,8 +38,12 @@ protected:
 
 private:
     void load();
+    QSizeF sizeToFill(QSizeF picture) const;
+    QPointF cornerOf(QSizeF shown) const;
 
     QString name_;
+    Crop crop_;
+    QPointF focus_{0.5, 0.5};
     Mode mode_;
     double radius_;
     double ratio_ = 0; ///< width / height; 0 for any

@@ -18,7 +18,7 @@ constexpr double plate = 0.72;
 
 } // namespace
 
-Chip::Chip(QWidget* parent) : QWidget(parent) {
+Chip::Chip(QWidget* parent) : QWidget(parent), dot_(SB::dTeal) {
     declareRole(this, QAccessible::StaticText);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -32,11 +32,18 @@ void Chip::setText(const QString& text) {
     update();
 }
 
+void Chip::setDotColor(const QColor& color) {
+    if (color == dot_)
+        return;
+    dot_ = color;
+    update();
+}
+
 void Chip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillRounded(painter, rect(), Measure::thumbnailRadius, SB::faded(SB::navy, plate));
     paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
-                   {.color = SB::dTeal, .diameter = Measure::statusDotInRow});
+                   {.color = dot_, .diameter = Measure::statusDotInRow});
     drawText(painter, QRectF(textX, 0, width() - textX - Measure::chipPadding + 1, height()),
              accessibleName(), Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
 }

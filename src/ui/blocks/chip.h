@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QWidget>
 
 namespace velmora {
@@ -13,9 +14,13 @@ public:
 
     /// Also resizes the chip to fit the text.
     void setText(const QString& text);
+    void setDotColor(const QColor& color);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor dot_;
 };
 
 } // namespace velmora

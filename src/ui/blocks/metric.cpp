@@ -13,7 +13,9 @@ Metric::Metric(const QString& label, Size size, bool dark, QWidget* parent)
       style_(size == Size::telemetry ? Type::telemetry : Type::metric),
       dark_(dark) {
     declareRole(this, QAccessible::StaticText);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void Metric::setValue(const QString& value, const QString& unit) {
@@ -22,10 +24,26 @@ void Metric::setValue(const QString& value, const QString& unit) {
     const bool grows = value.size() != value_.size() || unit != unit_;
     value_ = value;
     unit_ = unit;
-    setAccessibleName(label_ + ", " + (unit.isEmpty() ? value : value + ' ' + unit));
+    describe();
     if (grows)
         updateGeometry();
     update();
+}
+
+void Metric::setReason(const QString& reason) {
+    if (reason == reason_)
+        return;
+    reason_ = reason;
+    describe();
+    updateGeometry();
+    update();
+}
+
+void Metric::describe() {
+    QStringList parts{label_, unit_.isEmpty() ? value_ : value_ + ' ' + unit_};
+    if (!reason_.isEmpty())
+        parts.append(reason_);
+    setAccessibleName(parts.join(QStringLiteral(", ")));
 }
 
 void Metric::setTint(const std::optional<QColor>& tint) {
@@ -45,8 +63,20 @@ void Metric::setDimmed(bool dimmed) {
 QSize Metric::sizeHint() const {
     const double value = textWidth(value_, style_) + Measure::unitGap + textWidth(unit_, Type::unit);
     const double width = std::max(textWidth(label_, Type::caption), value);
-    return {static_cast<int>(width) + 1,
-            static_cast<int>(Type::caption.line + Measure::metricGap + style_.line)};
+    return {static_cast<int>(width) + 1, valueHeight()};
+}
+
+int Metric::valueHeight() const {
+    return static_cast<int>(Type::caption.line + Measure::metricGap + style_.line);
+}
+
+QStringList Metric::reasonLines(int width) const {
+    return reason_.isEmpty() ? QStringList() : brokenIntoLines(reason_, Type::legend, width);
+}
+
+int Metric::heightForWidth(int width) const {
+    const auto lines = static_cast<double>(reasonLines(width).size());
+    return valueHeight() + (lines > 0 ? static_cast<int>(Measure::reasonGap + lines * Type::legend.line) : 0);
 }
 
 void Metric::paintEvent(QPaintEvent*) {
@@ -62,6 +92,12 @@ void Metric::paintEvent(QPaintEvent*) {
     const double sharedBaseline = baselineOf(style) - baselineOf(Type::unit);
     row.adjust(textWidth(value_, style) + Measure::unitGap, sharedBaseline, 0, 0);
     drawText(painter, row, unit_, Type::unit, tint_.value_or(quiet), Qt::AlignLeft);
+    double top = valueHeight() + Measure::reasonGap;
+    for (const QString& line : reasonLines(width())) {
+        drawText(painter, QRectF(0, top, width(), Type::legend.line), line, Type::legend,
+                 tint_.value_or(quiet), Qt::AlignLeft);
+        top += Type::legend.line;
+    }
 }
 
 } // namespace velmora

@@ -21,16 +21,25 @@ public:
     void setValue(const QString& value, const QString& unit);
     /// Colours value and unit; nullopt restores the default colours.
     void setTint(const std::optional<QColor>& tint);
+    /// Explains the value in a line below, wrapped to the widget's width; empty for none.
+    void setReason(const QString& reason);
     /// Draws the value in the label's colour, for values that may be out of date.
     void setDimmed(bool dimmed);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString label_, value_, unit_;
+    void describe();
+    int valueHeight() const;
+    QStringList reasonLines(int width) const;
+
+    QString label_, value_, unit_, reason_;
     TextStyle style_;
     std::optional<QColor> tint_;
     bool dark_;

@@ -15,7 +15,6 @@ namespace velmora {
 
 namespace {
 
-constexpr double veil = 0.55;
 constexpr double initialScale = 0.98; // of the card when it starts to open
 
 /// Draws a soft shadow from nested translucent rectangles. `offset` and `blur` are in pixels.
@@ -56,6 +55,7 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     policy.setRetainSizeWhenHidden(true); // for the shadow and the picture during a transition
     card_->setSizePolicy(policy);
     auto* middle = bareLayout<QGridLayout>(this);
+    middle->setContentsMargins(0, Measure::titleStrip, 0, 0);
     middle->addWidget(card_, 0, 0, Qt::AlignCenter);
     connect(&appearance_, &Transition::changed, this, qOverload<>(&QWidget::update));
     connect(&appearance_, &Transition::finished, this, &OverlayCard::finishTransition);
@@ -69,11 +69,12 @@ void OverlayCard::open() {
     focusBefore_ = QApplication::focusWidget();
     picture_ = card_->grab();
     card_->hide();
-    raise(); // before show(): on the show event the window raises the widgets that belong above all cards
+    raise();
     show();
     setFocus(Qt::OtherFocusReason);
     appearance_.setDuration(Motion::cardIn);
     appearance_.move(0, 1);
+    emit openChanged();
 }
 
 void OverlayCard::close() {
@@ -85,6 +86,7 @@ void OverlayCard::close() {
     card_->hide();
     appearance_.setDuration(Motion::cardOut);
     appearance_.move(1, 0);
+    emit openChanged();
 }
 
 /// Call before the card is hidden: Qt moves the focus of a hidden widget to another control, which the next
@@ -143,7 +145,7 @@ void OverlayCard::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const bool moving = appearance_.isRunning();
     const double shown = appearance_.value();
-    painter.fillRect(rect(), SB::faded(SB::navy, veil * shown));
+    painter.fillRect(rect(), SB::faded(SB::navy, Measure::veil * shown));
     painter.setOpacity(shown);
     if (moving) {
         const QPointF center = QRectF(card_->geometry()).center();

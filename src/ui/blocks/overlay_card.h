@@ -11,7 +11,8 @@ class QVBoxLayout;
 namespace velmora {
 
 /// A modal card on a veil over the whole window: it blocks clicks on everything behind it and keeps the
-/// keyboard focus inside. The window's layout sets its size.
+/// keyboard focus inside. The window's layout sets its size. The title strip stays above the veil, and the
+/// card below the strip.
 class OverlayCard : public QWidget {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ public:
 signals:
     /// The owner pressed Escape.
     void dismissed();
+    void openChanged();
 
 protected:
     /// Layout for the card's content.

@@ -6,6 +6,7 @@
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -91,6 +92,17 @@ void SBButton::setPale(bool pale) {
     update();
 }
 
+void SBButton::setSent(bool sent) {
+    if (sent == sent_)
+        return;
+    sent_ = sent;
+    setAccessibleDescription(sent ? sentText() : QString());
+    if (sent)
+        setDown(false);
+    fadeToState();
+    update();
+}
+
 QSize SBButton::sizeHint() const {
     const int padding = style_.large                         ? Measure::buttonPaddingLarge
                         : style_.kind == SBButtonKind::quiet ? Measure::buttonPaddingQuiet
@@ -107,7 +119,7 @@ SBButton::State SBButton::wantedState() const {
         return State::disabled;
     if (isDown())
         return State::pressed;
-    return underMouse() && !pale_ ? State::hover : State::normal;
+    return underMouse() && !pale_ && !sent_ ? State::hover : State::normal;
 }
 
 void SBButton::fadeToState() {
@@ -135,8 +147,14 @@ bool SBButton::event(QEvent* event) {
     return QAbstractButton::event(event);
 }
 
+bool SBButton::hitButton(const QPoint& at) const {
+    return !sent_ && QAbstractButton::hitButton(at);
+}
+
 void SBButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (sent_)
+        event->ignore();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
     else
         QAbstractButton::keyPressEvent(event);
@@ -144,7 +162,7 @@ void SBButton::keyPressEvent(QKeyEvent* event) {
 
 void SBButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (pale_)
+    if (pale_ || sent_)
         painter.setOpacity(paleOpacity);
     if (shown_.border.alpha() > 0)
         fillRounded(painter, rect(), Measure::buttonRadius, shown_.fill, shown_.border);
@@ -152,15 +170,17 @@ void SBButton::paintEvent(QPaintEvent*) {
         fillRounded(painter, rect(), Measure::buttonRadius, shown_.fill);
 
     const TextStyle& style = textStyleOf(style_);
-    const double words = textWidth(text(), style);
-    const double icon = style_.icon ? Measure::buttonIcon + Measure::gap8 : 0;
+    const QString shownText = sent_ ? sentText() : text();
+    const bool hasIcon = style_.icon && !sent_;
+    const double words = textWidth(shownText, style);
+    const double icon = hasIcon ? Measure::buttonIcon + Measure::gap8 : 0;
     double x = (width() - words - icon) / 2;
-    if (style_.icon) {
+    if (hasIcon) {
         paintIcon(painter, {x + Measure::buttonIcon / 2.0, height() / 2.0}, Measure::buttonIcon, *style_.icon,
                   shown_.text);
         x += icon;
     }
-    drawText(painter, QRectF(x, 0, words + 1, height()), text(), style, shown_.text, Qt::AlignVCenter);
+    drawText(painter, QRectF(x, 0, words + 1, height()), shownText, style, shown_.text, Qt::AlignVCenter);
 }
 
 } // namespace velmora

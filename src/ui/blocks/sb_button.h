@@ -37,6 +37,10 @@ public:
 
     /// Draws the button as if it were disabled; it can still be clicked.
     void setPale(bool pale);
+    /// Shows “Sent…” instead of the text, paler, and ignores mouse and keys: the button's command is pending.
+    /// It keeps its size and the focus.
+    void setSent(bool sent);
+    bool isSent() const { return sent_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -45,6 +49,7 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool hitButton(const QPoint& at) const override;
 
 private:
     enum class State { normal, hover, pressed, disabled };
@@ -57,6 +62,7 @@ private:
     SBButtonColors from_, shown_, target_;
     Transition fade_;
     bool pale_ = false;
+    bool sent_ = false;
 };
 
 } // namespace velmora

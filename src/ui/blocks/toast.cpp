@@ -28,14 +28,12 @@ Toast::Toast(QWidget* window) : QWidget(window), hideTimer_(messageTime, UiTimer
 
 void Toast::setMessage(const QString& message) {
     message_ = message;
-    setAccessibleName(message);
     updateGeometry();
     show();
     raise();
     update();
     hideTimer_.start();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(this, message);
 }
 
 QSize Toast::sizeHint() const {

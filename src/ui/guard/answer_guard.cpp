@@ -14,6 +14,7 @@ AnswerGuard::AnswerGuard(AppStore& store, QWidget& window)
     connect(&beat_, &UiTimer::timeout, this, &AnswerGuard::beat);
     connect(&store_, &AppStore::stateChanged, this, &AnswerGuard::followAlert);
     connect(&store_, &AppStore::freshnessChanged, this, &AnswerGuard::followAlert);
+    connect(&store_, &AppStore::pendingCommandChanged, this, &AnswerGuard::followAlert);
     followAlert();
 }
 
@@ -43,9 +44,7 @@ std::optional<AnswerGuard::Press> AnswerGuard::admit(std::uint64_t stamp) {
 void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
     if (!passesStallCheck() || !press || press->round != round_ || !store_.answer(command, press->alert))
         return;
-    rule_.restart(clock_.now()); // a double click answers once
-    invalidatePresses();
-    emit answered();
+    invalidatePresses(); // a double click answers once
 }
 
 /// The clock of the time stamps stops during suspend, so its offset is measured again after a stall.

@@ -40,8 +40,6 @@ public:
 signals:
     /// The guard opened or closed. When it closes, presses in progress no longer count.
     void changed();
-    /// An answer went out.
-    void answered();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

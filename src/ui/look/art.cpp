@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QRegularExpression>
 
+#include <map>
 #include <optional>
 
 namespace velmora::Art {
@@ -30,18 +31,16 @@ QImage readImage(const QString& path) {
     return reader.read();
 }
 
-QImage load(const QString& name) {
-    QList<QDir> directories;
-    if (ownersDirectory())
-        directories.append(*ownersDirectory());
-    directories.append(QDir(QStringLiteral(":/art")));
-    for (const QDir& directory : directories)
-        for (const char* suffix : {"png", "jpg", "jpeg", "webp"})
-            if (const QString file = directory.filePath(name + '.' + QLatin1String(suffix));
-                QFile::exists(file))
-                if (QImage image = readImage(file); !image.isNull())
-                    return image;
+QImage load(const QDir& directory, const QString& name) {
+    for (const char* suffix : {"png", "jpg", "jpeg", "webp"})
+        if (const QString file = directory.filePath(name + '.' + QLatin1String(suffix)); QFile::exists(file))
+            if (QImage image = readImage(file); !image.isNull())
+                return image;
     return {};
+}
+
+QImage loadOwners(const QString& name) {
+    return ownersDirectory() ? load(*ownersDirectory(), name) : QImage();
 }
 
 } // namespace
@@ -51,7 +50,21 @@ void setDirectory(const QDir& directory) {
 }
 
 QImage find(const QString& name) {
-    return isName(name) ? load(name) : QImage();
+    if (!isName(name))
+        return {};
+    const QImage owners = loadOwners(name);
+    return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
+}
+
+QPointF focusOf(const QString& name) {
+    // measured in the pictures, in pixels of 1280 x 720
+    static const std::map<QString, QPointF> visitors{{QStringLiteral("snapshot-driveway"), {533, 312}},
+                                                     {QStringLiteral("snapshot-front"), {688, 358}},
+                                                     {QStringLiteral("snapshot-garden"), {817, 373}}};
+    const auto visitor = visitors.find(name);
+    if (visitor == visitors.end() || !loadOwners(name).isNull())
+        return {0.5, 0.5};
+    return {visitor->second.x() / 1280, visitor->second.y() / 720};
 }
 
 } // namespace velmora::Art

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QPointF>
 
 /// Named pictures: the plan of the grounds, camera views, the drone.
 namespace velmora::Art {
@@ -14,5 +15,9 @@ void setDirectory(const QDir& directory);
 /// directory: only letters, digits, dots, dashes and underscores are accepted, and no dot at the start.
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
+
+/// Where the visitor stands in a built-in camera picture, as shares of its width and height; the middle for
+/// any other picture.
+QPointF focusOf(const QString& name);
 
 } // namespace velmora::Art

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMargins>
+#include <QPointF>
 #include <QSize>
 
 /// The sizes and distances of the screens in logical pixels, and a few counts and ratios.
@@ -61,7 +62,7 @@ inline constexpr int gutter = 32;
 inline constexpr int buttonHeight = 36, buttonHeightLarge = 40;
 inline constexpr int buttonPadding = 16, buttonPaddingLarge = 20, buttonPaddingQuiet = 12;
 inline constexpr int buttonIcon = 16;
-inline constexpr int metricGap = 6;
+inline constexpr int metricGap = 6, reasonGap = 2;
 inline constexpr int unitGap = 3;
 inline constexpr double statusDot = 8;
 inline constexpr double statusDotInRow = 6;
@@ -72,6 +73,7 @@ inline constexpr int missingPictureIcon = 24;
 inline constexpr int scrollBar = 6;
 inline constexpr int scrollBarEdge = 4;
 inline constexpr int overlayRise = 8;
+inline constexpr double veil = 0.55; // opacity of the navy behind a card
 inline constexpr int badgeHeight = 18, badgePadding = 6;
 inline constexpr int numberBadge = 24;
 inline constexpr int formLabel = 156;
@@ -87,7 +89,7 @@ inline constexpr double fieldHalo = 3;
 inline constexpr int activityRow = 40, activityDotX = 3, activityTitleX = 18;
 
 // Live flight
-inline constexpr int railMinimum = 288, railMaximum = 480;
+inline constexpr int railMinimum = 288;
 inline constexpr int mapMinimumHeight = 280;
 inline constexpr int liveCardMinimum = 480; // below it the telemetry is clipped
 inline constexpr int narrowContent = 900;   // below it the telemetry takes two rows, as in a card below
@@ -167,7 +169,20 @@ inline constexpr int welcomeShield = 22;
 inline constexpr int approvalCard = 520;
 inline constexpr int approvalPicture = 250;
 inline constexpr int approvalPadding = 28;
-inline constexpr int approvalBar = 3;
+inline constexpr int approvalBar = 6;
+inline constexpr int approvalMetrics[] = {116, 116, 124, 108}; // widths of the columns
+inline constexpr int approvalNoteRow = 18;
+inline constexpr int approvalButtons[] = {174, 278}; // widths: Ignore, Launch drone
+inline constexpr double approvalCrop = 0.8125;       // of the camera picture's width
+inline constexpr QPointF approvalFocus(0.395, 0.43); // of the visitor in the crop
+inline constexpr int enlargedCard = 1040;
+inline constexpr double enlargedRatio = 16.0 / 9;
+inline constexpr QMargins enlargedMargins(28, 20, 28, 20);
+inline constexpr int enlargedLower = 106; // height below picture and bar
+inline constexpr int enlargedLastMetric = 68;
+inline constexpr int enlargedAround = 16; // least distance to the window's edges
+inline constexpr QSize insetMap(156, 104), insetMapEnlarged(234, 156);
+inline constexpr int insetWords = 36, insetWordsIndent = 10, insetEdge = 12, insetRadius = 8;
 inline constexpr int chipInset = 16;
 inline constexpr int chipHeight = 24;
 inline constexpr int chipPadding = 10;

@@ -62,9 +62,9 @@ void paintMenuItem(QPainter& painter, const QStyleOptionMenuItem& item) {
 void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& item) {
     const bool active = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
     if (active)
-        fillRounded(painter, item.rect, Measure::menuTitleRadius, SB::rule2);
-    drawText(painter, item.rect, textAndShortcut(item).first, Type::menu, active ? SB::ink : SB::muted,
-             Qt::AlignCenter);
+        fillRounded(painter, item.rect, Measure::menuTitleRadius, item.palette.highlight());
+    drawText(painter, item.rect, textAndShortcut(item).first, Type::menu,
+             active ? item.palette.highlightedText() : item.palette.buttonText(), Qt::AlignCenter);
 }
 
 QSize menuItemSize(const QStyleOptionMenuItem& item) {

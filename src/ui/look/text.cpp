@@ -113,19 +113,30 @@ double baselineOf(const TextStyle& style) {
 
 namespace {
 
-/// The outlines of a text whose baseline begins at the origin. Cached, because shaping and reading outlines
-/// takes longer than filling them, and most texts are painted many times.
-QPainterPath outlinesOf(const QString& text, const TextStyle& style) {
-    using Key = std::pair<std::pair<int, double>, std::pair<double, QString>>;
+/// The path of a stroke of this width along the outlines.
+QPainterPath strokeOf(const QPainterPath& outlines, double width) {
+    QPainterPathStroker stroker(QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    QPainterPath stroke = stroker.createStroke(outlines);
+    stroke.setFillRule(Qt::WindingFill);
+    return stroke;
+}
+
+/// The outlines of a text whose baseline begins at the origin, or a stroke of the width `edge` along them.
+/// Cached, because shaping and reading outlines takes longer than filling them, and most texts are painted
+/// many times.
+QPainterPath outlinesOf(const QString& text, const TextStyle& style, double edge = 0) {
+    using Key = std::pair<std::pair<int, double>, std::pair<std::pair<double, double>, QString>>;
     constexpr int mostElements = 40'000; // about 1 MB
     static QCache<Key, QPainterPath> cache(mostElements);
-    const Key key{{static_cast<int>(style.face), style.size}, {style.tracking, text}};
+    const Key key{{static_cast<int>(style.face), style.size}, {{style.tracking, edge}, text}};
     if (const QPainterPath* known = cache.object(key))
         return *known;
     QPainterPath outlines;
     outlines.setFillRule(Qt::WindingFill);
     outlines.addText({}, enlargedFontOf(style), text);
     outlines = QTransform::fromScale(1 / enlarged, 1 / enlarged).map(outlines);
+    if (edge > 0)
+        outlines = strokeOf(outlines, edge);
     cache.insert(key, new QPainterPath(outlines), outlines.elementCount() + 1);
     return outlines;
 }
@@ -146,8 +157,20 @@ void drawRun(QPainter& painter, QPointF baseline, const QString& text, const Tex
     painter.fillPath(outlinesOf(text, style).translated(baseline), color);
 }
 
+namespace {
+
+void drawEdge(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
+              const TextEdge& edge) {
+    if (edge.width <= 0 || !hasOutlines(text))
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outlinesOf(text, style, edge.width).translated(baseline), edge.color);
+}
+
+} // namespace
+
 void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
-              const QBrush& color, Qt::Alignment alignment) {
+              const QBrush& color, Qt::Alignment alignment, const TextEdge& edge) {
     const QString shown = elided(text, style, rect.width());
     const double width = casedWidth(shown, style);
     double x = rect.left(), top = rect.top();
@@ -162,10 +185,12 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
 
     const double baseline = std::round(top + baselineOf(style));
     if (!isTabular(shown, style)) {
+        drawEdge(painter, {x, baseline}, shown, style, edge);
         drawRun(painter, {x, baseline}, shown, style, color);
         return;
     }
     layoutTabular(shown, style, [&](double offset, const QString& piece) {
+        drawEdge(painter, {x + offset, baseline}, piece, style, edge);
         drawRun(painter, {x + offset, baseline}, piece, style, color);
     });
 }

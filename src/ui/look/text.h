@@ -19,10 +19,16 @@ QString elided(const QString& text, const TextStyle& style, double width);
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
              const QBrush& color);
 
+/// A stroke behind the letters, so that they can be read on a picture.
+struct TextEdge {
+    QColor color;
+    double width = 0; ///< pixels, half of it outside the letters; 0 for none
+};
+
 /// Draws one line into the rectangle, elided if it is too long. Vertical alignment uses the style's line
 /// height.
 void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
-              const QBrush& color, Qt::Alignment alignment);
+              const QBrush& color, Qt::Alignment alignment, const TextEdge& edge = {});
 
 /// Distance from the top of a line to its baseline, pixels.
 double baselineOf(const TextStyle& style);

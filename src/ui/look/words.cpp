@@ -86,7 +86,23 @@ QString failureText(Command command, const QString& reason) {
         }
         return tr("Land now");
     };
-    return tr("velmora did not confirm “%1”. %2.").arg(name(), reason);
+    return tr("velmora did not confirm “%1”. %2.").arg(name(), reason.isEmpty() ? tr("Try again") : reason);
+}
+
+QString failureText(const QString& reason) {
+    return tr("%1. Try again.").arg(reason.isEmpty() ? tr("velmora has not answered") : reason);
+}
+
+QString sentText() {
+    return tr("Sent…");
+}
+
+QString batteryReason(const Settings& settings) {
+    return tr("under your return level of %1").arg(truncated(settings.returnBattery));
+}
+
+QString windReason(const Settings& settings) {
+    return tr("over your limit of %1").arg(truncated(settings.maxWindKmh));
 }
 
 QString scenarioTitle(Scenario scenario) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/live_state.h"
+#include "model/settings.h"
 
 #include <QString>
 
@@ -15,8 +16,17 @@ QString isolated(const QString& words);
 /// Display name of the phase, such as "Coming home".
 QString phaseWord(Phase phase);
 
-/// "velmora did not confirm “Return home”. The connection timed out."
+/// "velmora did not confirm “Return home”. The connection timed out."; for AppStore::commandFailed.
 QString failureText(Command command, const QString& reason);
+/// The same where the command is evident: "The connection timed out. Try again."
+QString failureText(const QString& reason);
+/// The text of a command's button until the server's state shows the command's effect.
+QString sentText();
+
+/// Why a low battery is one: "under your return level of 30".
+QString batteryReason(const Settings& settings);
+/// Why the wind is too strong: "over your limit of 30".
+QString windReason(const Settings& settings);
 
 /// Title of the demo visit, such as "Visitor on the driveway".
 QString scenarioTitle(Scenario scenario);

@@ -41,10 +41,11 @@ void drawNose(QPainter& painter) {
 
 } // namespace
 
-void drawDrone(QPainter& painter, QPointF at, double heading, bool flying, double t) {
+void drawDrone(QPainter& painter, QPointF at, double heading, bool flying, double t, double scale) {
     painter.save();
     painter.translate(at);
     painter.rotate(heading + 90);
+    painter.scale(scale, scale);
     drawBody(painter, flying);
     drawArms(painter);
     drawRotors(painter, flying, t);

@@ -3,15 +3,44 @@
 #include "ui/look/measures.h"
 #include "ui/map/site_map.h"
 
+#include <QScrollArea>
+
 #include <algorithm>
 
 namespace velmora {
 
-MapPanel::MapPanel(QSize mapMinimum, QWidget* parent)
-    : QWidget(parent), map_(new SiteMap(this)), mapMinimum_(mapMinimum) {}
+namespace {
+
+/// Keeps a map at the largest size with the site's proportions, centred.
+class MapArea : public ItemLayout {
+public:
+    explicit MapArea(SiteMap* map) : map_(map) { addWidget(map); }
+
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSize() const override { return {0, 0}; }
+    Qt::Orientations expandingDirections() const override { return Qt::Horizontal | Qt::Vertical; }
+    void setGeometry(const QRect& rect) override {
+        QLayout::setGeometry(rect);
+        const QSize size = map_->fitted(rect.size());
+        const QPoint corner((rect.width() - size.width()) / 2, (rect.height() - size.height()) / 2);
+        map_->setGeometry({rect.topLeft() + corner, size});
+    }
+
+private:
+    SiteMap* map_;
+};
+
+} // namespace
+
+MapPanel::MapPanel(QSize minimum, QWidget* parent)
+    : QWidget(parent), map_(new SiteMap(this)), minimum_(minimum) {}
+
+QLayout* MapPanel::mapArea() {
+    return new MapArea(map_);
+}
 
 QSize MapPanel::minimumSizeHint() const {
-    return {mapMinimum_.width(), mapMinimum_.height() + rowsHeight()};
+    return {minimum_.width(), minimum_.height() + rowsHeight()};
 }
 
 QSize MapPanel::fitted(QSize room) {
@@ -19,8 +48,8 @@ QSize MapPanel::fitted(QSize room) {
 }
 
 QSize MapPanel::fitted(QSize room, int rows) const {
-    const QSize forMap(room.width(), std::max(room.height() - rows, mapMinimum_.height()));
-    return map_->fitted(forMap, mapMinimum_.width()) + QSize(0, rows);
+    const QSize map = map_->fitted({room.width(), std::max(room.height() - rows, minimum_.height())});
+    return {std::max(map.width(), std::min(minimum_.width(), room.width())), map.height() + rows};
 }
 
 MapBesideRail::MapBesideRail(MapPanel* panel, QWidget* rail, int railMinimum)
@@ -35,15 +64,22 @@ QSize MapBesideRail::minimumSize() const {
     return {0, std::max(panel_->minimumSizeHint().height(), rail)};
 }
 
+/// How much of the page is out of sight when it is scrolled to its top.
+int MapBesideRail::hiddenHeight() const {
+    for (const QWidget* widget = parentWidget(); widget; widget = widget->parentWidget())
+        if (const auto* area = qobject_cast<const QScrollArea*>(widget))
+            return std::max(area->widget()->height() - area->viewport()->height(), 0);
+    return 0;
+}
+
 void MapBesideRail::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
     const QRect room = rect.marginsRemoved(contentsMargins());
     const int widest = std::max(room.width() - Measure::gutter - railMinimum_, 0);
-    const QSize panel = panel_->fitted({widest, room.height()});
+    const QSize panel = panel_->fitted({widest, room.height() - hiddenHeight()});
     panel_->setGeometry({room.topLeft(), panel});
     const int left = panel.width() + Measure::gutter;
-    rail_->setGeometry(room.left() + left, room.top(), std::min(room.width() - left, Measure::railMaximum),
-                       room.height());
+    rail_->setGeometry(room.left() + left, room.top(), room.width() - left, room.height());
     if (const int minimum = minimumSize().height(); minimum != shownMinimum_) {
         shownMinimum_ = minimum;
         update();

@@ -8,7 +8,8 @@ namespace velmora {
 
 class SiteMap;
 
-/// A panel with a map, and rows of a fixed height above or below it.
+/// A panel with a map, and rows of a fixed height above or below it. The map always has the site's
+/// proportions; the panel is wider only if its rows need that.
 class MapPanel : public QWidget {
     Q_OBJECT
 
@@ -19,9 +20,12 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    /// The subclass lays out the map and the rows.
-    MapPanel(QSize mapMinimum, QWidget* parent);
+    /// `minimum` holds the width that the rows need and the map's minimum height. The subclass lays out
+    /// mapArea() and the rows.
+    MapPanel(QSize minimum, QWidget* parent);
 
+    /// A new layout item that keeps the map at its size and in the middle.
+    QLayout* mapArea();
     /// The panel's size if all rows together have this height.
     QSize fitted(QSize room, int rows) const;
     /// The height of all rows.
@@ -30,11 +34,12 @@ protected:
     SiteMap* map_;
 
 private:
-    QSize mapMinimum_; ///< wide grounds make a lower map
+    QSize minimum_; ///< wide grounds make a lower map
 };
 
 /// A panel as large as its map allows, and right of it a rail over the full height. If the height is not
 /// enough, the layout uses the bottom margin, and cuts off a rail whose vertical size policy is `Ignored`.
+/// A rail that is higher than the page shows makes the page scroll, but not the panel higher.
 class MapBesideRail : public ItemLayout {
 public:
     /// `railMinimum` is the width that the panel leaves the rail.
@@ -45,6 +50,8 @@ public:
     void setGeometry(const QRect& rect) override;
 
 private:
+    int hiddenHeight() const;
+
     MapPanel* panel_;
     QWidget* rail_;
     int railMinimum_;

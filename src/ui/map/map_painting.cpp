@@ -1,15 +1,17 @@
 #include "ui/map/map_painting.h"
 
+#include "model/follow_point.h"
 #include "model/truncated.h"
 #include "ui/look/art.h"
 #include "ui/look/motion.h"
-#include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/map/drone_glyph.h"
+#include "ui/map/map_captions.h"
 
 #include <QCoreApplication>
 #include <QLineF>
+#include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -19,15 +21,13 @@ namespace velmora {
 
 namespace {
 
-constexpr double fieldOfView = 32;   // degrees to each side of a camera's heading
-constexpr double viewRange = 34;     // metres
-constexpr double padRadius = 2.6;    // metres
-constexpr double cameraRadius = 4.5; // pixels, as everything below
-constexpr double visitorRadius = 5, pulseFrom = 6, pulseGrowth = 14;
+constexpr double fieldOfView = 32; // degrees to each side of a camera's heading
+constexpr double viewRange = 34;   // metres
+constexpr double seeingView = 0.3, idleView = 0.16, offlineView = 0.05;
+constexpr double crossReach = 2, crossLine = 1.2; // of an offline camera, in pixels as everything below
+constexpr double cameraCaptionOffset = 9, markerLabelOffset = 8;
 constexpr double markerRadius = 4;
-constexpr double altitudeOffset = 16, visitorLabelOffset = 10, markerLabelOffset = 8;
-constexpr double captionEdge = 4; // between a caption and the map's edge
-constexpr double lastingPathWidth = 1.8;
+constexpr double pathEdge = 2; // what the line below a path is wider
 constexpr double longestPath = 24'000, pathPiece = 200;
 
 QString tr(const char* text) {
@@ -46,20 +46,14 @@ void drawCircle(QPainter& painter, QPointF center, double radius, const QBrush& 
     painter.drawEllipse(center, radius, radius);
 }
 
-/// Draws a caption whose box touches the point with the side or corner that the anchor names.
-void drawCaption(QPainter& painter, QPointF at, Qt::Alignment anchor, const QString& text,
-                 const QColor& color) {
-    constexpr double reach = 400;
-    QRectF box(at, QSizeF());
-    if (!(anchor & Qt::AlignLeft))
-        box.setLeft(at.x() - reach);
-    if (!(anchor & Qt::AlignRight))
-        box.setRight(at.x() + reach);
-    if (!(anchor & Qt::AlignTop))
-        box.setTop(at.y() - reach);
-    if (!(anchor & Qt::AlignBottom))
-        box.setBottom(at.y() + reach);
-    drawText(painter, box, text, Type::mapCaption, color, anchor);
+/// The colour of `above` painted over `below`, for one stroke instead of two.
+QColor painted(const QColor& above, const QColor& below) {
+    const double share = above.alphaF(), rest = below.alphaF() * (1 - share);
+    const auto mix = [&](double a, double b) { return (a * share + b * rest) / (share + rest); };
+    return QColor::fromRgbF(static_cast<float>(mix(above.redF(), below.redF())),
+                            static_cast<float>(mix(above.greenF(), below.greenF())),
+                            static_cast<float>(mix(above.blueF(), below.blueF())),
+                            static_cast<float>(share + rest));
 }
 
 /// One pass over the scene in drawing order; later steps paint over earlier ones.
@@ -69,8 +63,8 @@ public:
         : painter_(painter),
           scene_(scene),
           site_(scene.state.site),
-          view_(canvas, site_.size),
-          width_(canvas.width()) {
+          measures_(scene.measures),
+          view_(canvas, site_.size) {
         painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     }
 
@@ -91,56 +85,70 @@ public:
         band.addRect(inner);
         painter_.fillPath(band, SB::faded(SB::lilac, 0.16));
         painter_.setBrush(Qt::NoBrush);
-        painter_.setPen(dashed(SB::faded(SB::dTeal, 0.9), 1.4, 6, 5));
+        painter_.setPen(
+            dashed(SB::faded(SB::dTeal, 0.9), 1.4, measures_.boundaryDash, measures_.boundaryGap));
         painter_.drawRect(outer);
         painter_.setPen(QPen(SB::faded(SB::lilac, 0.35), 0.8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter_.drawRect(inner);
-        if (!scene_.showLabels)
+        if (!measures_.captions)
             return;
-        drawCaption(painter_, outer.topLeft() + QPointF(8, 7), Qt::AlignLeft | Qt::AlignTop,
-                    tr("Your boundary"), SB::dTeal);
-        drawCaption(painter_, outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom,
-                    tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac);
+        drawCaption(painter_, {tr("Your boundary"), SB::dTeal, outer.topLeft() + QPointF(8, 7),
+                               Qt::AlignLeft | Qt::AlignTop});
+        drawCaption(painter_, {tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac,
+                               outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom});
     }
 
     void drawCameras() {
         for (const CameraInfo& camera : site_.cameras) {
             const QPointF center = view_.map(camera.pos);
-            const bool seesVisitor = scene_.state.visitor && scene_.state.visitor->cameraId == camera.id;
-            drawView(center, camera.heading, seesVisitor ? 0.3 : 0.16);
-            drawCircle(painter_, center, cameraRadius, SB::navy,
-                       QPen(camera.online ? SB::softBlue : SB::alert, 1.5));
-            if (scene_.showLabels)
-                drawCaption(painter_, center - QPointF(0, 9), Qt::AlignHCenter | Qt::AlignBottom,
-                            toQString(camera.name), SB::dBody);
+            const bool sees = scene_.state.visitor && scene_.state.visitor->cameraId == camera.id;
+            drawView(center, camera.heading, !camera.online ? offlineView : sees ? seeingView : idleView);
+            drawCircle(painter_, center, measures_.cameraRadius, SB::navy,
+                       QPen(camera.online ? SB::softBlue : SB::alert, measures_.cameraLine));
+            if (!camera.online)
+                drawCross(center);
+            if (measures_.captions)
+                drawCaption(painter_,
+                            {toQString(camera.name), SB::dBody, center - QPointF(0, cameraCaptionOffset),
+                             Qt::AlignHCenter | Qt::AlignBottom});
         }
     }
 
     void drawPad() {
-        const QPointF center = view_.map(site_.pad);
-        const double radius = padRadius * view_.scale();
-        drawCircle(painter_, center, radius, Qt::NoBrush, QPen(SB::dTeal, 1.4));
-        if (scene_.showLabels)
-            drawCaption(painter_, center + QPointF(0, radius + 4), Qt::AlignHCenter | Qt::AlignTop, tr("Pad"),
-                        SB::dTeal);
+        drawCircle(painter_, view_.map(site_.pad), padRadius(scene_, view_), Qt::NoBrush,
+                   QPen(SB::dTeal, 1.4));
     }
 
+    /// Draws the lines below both paths first, so that no path cuts the other one.
     void drawPaths() {
         const auto& visitor = scene_.state.visitor;
         const auto& replay = scene_.replay;
-        const QColor seen = SB::faded(SB::lilac, replay ? 0.85 : 0.55);
-        drawPath(replay    ? replay->visitorPath()
-                 : visitor ? std::span<const P>(visitor->trail)
-                           : std::span<const P>(),
-                 QPen(seen, lastingPathWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const QColor flown = SB::faded(SB::dTeal, replay ? 0.95 : 0.7);
-        drawPath(replay ? replay->dronePath() : scene_.state.drone.trail,
-                 dashed(flown, lastingPathWidth, 4, 4, Qt::RoundCap));
+        const auto seen = replay    ? replay->visitorPath()
+                          : visitor ? std::span<const P>(visitor->trail)
+                                    : std::span<const P>();
+        const auto flown = replay ? replay->dronePath() : std::span<const P>(scene_.state.drone.trail);
+        const QColor edge = SB::faded(SB::navy, 0.55);
+        const double width = measures_.pathWidth;
+        const QPen below(edge, width + pathEdge, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+        drawPath(seen, below);
+        drawPath(flown, below);
+        drawPath(seen, QPen(painted(SB::faded(SB::lilac, replay ? 0.85 : 0.55), edge), width, Qt::SolidLine,
+                            Qt::RoundCap, Qt::RoundJoin));
+        drawPath(flown,
+                 dashed(painted(SB::faded(SB::dTeal, replay ? 0.95 : 0.7), edge), width, 4, 4, Qt::RoundCap));
+    }
+
+    void drawPadCaption() {
+        const double opacity = padCaptionOpacity(scene_, view_);
+        if (!measures_.captions || opacity <= 0)
+            return;
+        painter_.save();
+        painter_.setOpacity(painter_.opacity() * opacity);
+        drawCaption(painter_, padCaption(scene_, view_));
+        painter_.restore();
     }
 
     void drawVisitor(double t) {
-        if (!scene_.state.visitor)
-            return;
         const QPointF at = view_.map(scene_.state.visitor->pos);
         if (airborne(scene_.state.phase)) {
             drawCircle(painter_, at, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
@@ -149,21 +157,34 @@ public:
             painter_.drawLine(view_.map(scene_.state.drone.pos), at);
         }
         const double pulse = Motion::pulseAt(t);
-        drawCircle(painter_, at, pulseFrom + pulseGrowth * pulse, Qt::NoBrush,
-                   QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
-        drawCircle(painter_, at, visitorRadius, SB::lilac, QPen(Qt::white, 1.5));
-        if (scene_.showLabels)
-            drawPointCaption(at, visitorLabelOffset, toQString(scene_.state.visitor->label));
+        drawCircle(painter_, at, measures_.pulseFrom + (measures_.pulseTo - measures_.pulseFrom) * pulse,
+                   Qt::NoBrush, QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
+        drawCircle(painter_, at, measures_.visitorRadius, SB::lilac, QPen(Qt::white, measures_.visitorLine));
     }
 
-    void drawDroneWithHeight(double t) {
+    void drawHoldPoint() {
+        if (measures_.holdRadius <= 0)
+            return;
+        const P at =
+            followPoint(scene_.state.drone.pos, scene_.state.visitor->pos, site_, scene_.settings).at;
+        drawCircle(painter_, view_.map(at), measures_.holdRadius, SB::faded(SB::navy, 0.35),
+                   QPen(SB::dTeal, 1.2));
+    }
+
+    void drawFlyer(double t) {
         const DroneState& drone = scene_.state.drone;
-        const bool flying = airborne(scene_.state.phase);
-        const QPointF at = view_.map(drone.pos);
-        drawDrone(painter_, at, drone.heading, flying, t);
-        if (flying && scene_.showLabels)
-            drawCaption(painter_, at + QPointF(0, altitudeOffset), Qt::AlignHCenter | Qt::AlignTop,
-                        tr("%1 m").arg(rounded(drone.altitude)), SB::dTitle);
+        drawDrone(painter_, view_.map(drone.pos), drone.heading, airborne(scene_.state.phase), t,
+                  measures_.droneScale);
+    }
+
+    /// Above the glyph, so that the drone never covers the visitor's label.
+    void drawMovingCaptions() {
+        if (!measures_.captions)
+            return;
+        if (scene_.state.visitor)
+            drawCaption(painter_, visitorCaption(scene_, view_, scene_.labelSide));
+        if (airborne(scene_.state.phase))
+            drawCaption(painter_, heightCaption(scene_, view_));
     }
 
     void drawReplayMarkers() {
@@ -188,6 +209,13 @@ private:
         light.setColorAt(0, SB::faded(SB::softBlue, opacity));
         light.setColorAt(1, SB::faded(SB::softBlue, 0));
         painter_.fillPath(wedge, light);
+    }
+
+    void drawCross(QPointF center) {
+        const double reach = crossReach * measures_.cameraRadius / MapMeasures().cameraRadius;
+        painter_.setPen(QPen(SB::dTitle, crossLine, Qt::SolidLine, Qt::FlatCap));
+        painter_.drawLine(center - QPointF(reach, reach), center + QPointF(reach, reach));
+        painter_.drawLine(center - QPointF(reach, -reach), center + QPointF(reach, -reach));
     }
 
     /// Strokes a path piece by piece, because stroking a long tangle at once takes many times as long. Each
@@ -230,25 +258,15 @@ private:
     void drawMarker(P at, const QString& caption) {
         const QPointF center = view_.map(at);
         drawCircle(painter_, center, markerRadius, SB::lilac, Qt::NoPen);
-        if (scene_.showLabels)
-            drawPointCaption(center, markerLabelOffset, caption);
-    }
-
-    /// To the right of a point, or above and left of it if the map ends too soon.
-    void drawPointCaption(QPointF point, double offset, const QString& caption) {
-        if (point.x() + offset + textWidth(caption, Type::mapCaption) <= width_)
-            drawCaption(painter_, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter, caption,
-                        SB::lilac);
-        else
-            drawCaption(painter_, {std::min(point.x(), width_ - captionEdge), point.y() - offset},
-                        Qt::AlignRight | Qt::AlignBottom, caption, SB::lilac);
+        if (measures_.captions)
+            drawCaption(painter_, captionBeside(center, markerLabelOffset, caption, SB::lilac, view_));
     }
 
     QPainter& painter_;
     const MapScene& scene_;
     const Site& site_;
+    const MapMeasures& measures_;
     MapTransform view_;
-    double width_; ///< of the canvas
 };
 
 } // namespace
@@ -270,11 +288,16 @@ void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas) {
 }
 
 void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double t) {
+    MapPass pass(painter, scene, canvas);
+    pass.drawPadCaption();
     if (scene.replay)
         return;
-    MapPass pass(painter, scene, canvas);
-    pass.drawVisitor(t);
-    pass.drawDroneWithHeight(t);
+    if (scene.state.visitor) {
+        pass.drawVisitor(t);
+        pass.drawHoldPoint();
+    }
+    pass.drawFlyer(t);
+    pass.drawMovingCaptions();
 }
 
 QRectF liveArea(const MapScene& scene, QSizeF canvas) {
@@ -282,21 +305,29 @@ QRectF liveArea(const MapScene& scene, QSizeF canvas) {
         return {};
     constexpr double margin = 3; // line widths and rounding
     const MapTransform view(canvas, scene.state.site.size);
+    const MapMeasures& measures = scene.measures;
     const auto around = [&](P p, double radius) {
         QRectF box(0, 0, 2 * (radius + margin), 2 * (radius + margin));
         box.moveCenter(view.map(p));
         return box;
     };
-    QRectF area = around(scene.state.drone.pos, altitudeOffset + Type::mapCaption.line);
-    if (const auto& visitor = scene.state.visitor) {
-        area |= around(visitor->pos,
-                       std::max(pulseFrom + pulseGrowth, scene.settings.followDistance * view.scale()));
-        const double captionReach =
-            visitorLabelOffset + textWidth(toQString(visitor->label), Type::mapCaption);
-        area |= around(visitor->pos, 0)
-                    .adjusted(-captionReach, -visitorLabelOffset - Type::mapCaption.line, captionReach,
-                              Type::mapCaption.line);
+    const auto& visitor = scene.state.visitor;
+    QRectF area = around(scene.state.drone.pos, droneRadius * measures.droneScale);
+    if (visitor) {
+        area |=
+            around(visitor->pos, std::max(measures.pulseTo, scene.settings.followDistance * view.scale()));
+        if (measures.holdRadius > 0)
+            area |=
+                around(followPoint(scene.state.drone.pos, visitor->pos, scene.state.site, scene.settings).at,
+                       measures.holdRadius);
     }
+    if (!measures.captions)
+        return area;
+    area |= heightCaption(scene, view).area();
+    if (visitor)
+        area |= visitorCaption(scene, view, scene.labelSide).area();
+    if (padCaptionOpacity(scene, view) < 1)
+        area |= padCaption(scene, view).area();
     return area;
 }
 

@@ -6,15 +6,16 @@ class QPainter;
 
 namespace velmora {
 
-/// Draws the grounds: plan picture, veil, boundary with its buffer, cameras, pad. They change only with the
-/// site, the buffer and the camera that sees someone, so SiteMap caches them.
+/// Draws the grounds: plan picture, veil, boundary with its buffer, cameras, the pad's ring. They change only
+/// with the site, the buffer and the camera that sees someone, so SiteMap caches them.
 void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
 /// Draws the trails, or a replay's paths with start and end markers, onto a transparent layer that SiteMap
 /// caches.
 void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
-/// Draws drone and visitor; nothing for a replay. `t` is the time of the frame, seconds.
+/// Draws visitor, drone and the captions that depend on them; for a replay only the pad's caption. `t` is the
+/// time of the frame, seconds.
 void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double t);
 
 /// The rectangle, in pixels, that contains everything drawMovers() animates; empty for a replay.

@@ -5,6 +5,7 @@
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "ui/map/map_captions.h"
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
 
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmora {
 
@@ -57,14 +59,14 @@ SiteMap::SiteMap(QWidget* parent) : QWidget(parent) {
 
 void SiteMap::setState(const LiveState* known, const Settings& settings, Freshness freshness) {
     if (known)
-        setScene({*known, settings, std::nullopt, scene_.showLabels});
+        setScene(*known, settings, std::nullopt);
     setFreshness(freshness);
 }
 
 /// Copies the state only if its grounds differ.
 void SiteMap::setReplay(Replay replay, const LiveState& state, const Settings& settings) {
     if (!scene_.replay || !sameGrounds(scene_, state, settings)) {
-        setScene({state, settings, std::move(replay), scene_.showLabels});
+        setScene(state, settings, std::move(replay));
         return;
     }
     if (scene_.replay == replay)
@@ -76,10 +78,10 @@ void SiteMap::setReplay(Replay replay, const LiveState& state, const Settings& s
     describe();
 }
 
-void SiteMap::setShowLabels(bool show) {
-    MapScene scene = scene_;
-    scene.showLabels = show;
-    setScene(std::move(scene));
+void SiteMap::setInset(bool inset) {
+    scene_.measures = inset ? insetMap : MapMeasures();
+    groundsStale_ = true;
+    update();
 }
 
 void SiteMap::setFreshness(Freshness freshness) {
@@ -102,19 +104,19 @@ void SiteMap::setCovered(bool covered) {
 
 /// Repaints grounds and paths if they changed. Drone and visitor are repainted by the next frame, or here if
 /// no frames run.
-void SiteMap::setScene(MapScene scene) {
-    const bool grounds =
-        !sameGrounds(scene_, scene.state, scene.settings) || scene.showLabels != scene_.showLabels;
-    const bool paths = !samePaths(scene, scene_);
-    const bool movers = !sameMovers(scene, scene_);
-    const bool newSize = scene.state.site.size != scene_.state.site.size;
-    const bool newSituation = scene.state.phase != scene_.state.phase ||
-                              scene.state.visitor.has_value() != scene_.state.visitor.has_value() ||
-                              scene.replay != scene_.replay;
-    scene_ = std::move(scene);
+void SiteMap::setScene(const LiveState& state, const Settings& settings, std::optional<Replay> replay) {
+    const MapScene before = std::exchange(
+        scene_, MapScene{state, settings, std::move(replay), scene_.measures, scene_.labelSide});
+    placeLabel();
+    const bool grounds = !sameGrounds(before, state, settings);
+    const bool paths = !samePaths(before, scene_);
+    const bool movers = !sameMovers(before, scene_);
+    const bool newSituation = before.state.phase != state.phase ||
+                              before.state.visitor.has_value() != state.visitor.has_value() ||
+                              before.replay != scene_.replay;
     groundsStale_ |= grounds;
     pathsStale_ |= paths;
-    if (newSize)
+    if (before.state.site.size != state.site.size)
         updateGeometry();
     updateAnimation();
     if (!covered_ && (grounds || paths))
@@ -125,16 +127,32 @@ void SiteMap::setScene(MapScene scene) {
         describe();
 }
 
+/// Chooses the side of the visitor's label. It starts on the right for each visitor.
+void SiteMap::placeLabel() {
+    if (!scene_.state.visitor)
+        scene_.labelSide = LabelSide::right;
+    else if (scene_.measures.captions && !scene_.replay)
+        scene_.labelSide = freeLabelSide(scene_, MapTransform(size(), scene_.state.site.size));
+}
+
 int SiteMap::heightForWidth(int width) const {
     const P size = scene_.state.site.size;
     return static_cast<int>(std::lround(width * size.y / size.x));
 }
 
-QSize SiteMap::fitted(QSize room, int minimumWidth) const {
-    const P size = scene_.state.site.size;
-    const int wanted = std::max(static_cast<int>(room.height() * size.x / size.y), minimumWidth);
-    const int width = std::min(room.width(), wanted);
-    return {width, std::min(heightForWidth(width), room.height())};
+/// A map that is as wide as the room has a rounded height. Another one takes the first height for which the
+/// width is a whole number of pixels, if that costs little, so that the plan reaches every edge.
+QSize SiteMap::fitted(QSize room) const {
+    if (const int height = heightForWidth(room.width()); height <= room.height())
+        return {room.width(), height};
+    constexpr int most = 2;            // pixels of height
+    constexpr double remainder = 0.05; // pixels of width
+    const double ratio = scene_.state.site.size.x / scene_.state.site.size.y;
+    const auto width = [&](int height) { return static_cast<int>(std::lround(height * ratio)); };
+    for (int height = room.height(); height >= room.height() - most && height > 0; --height)
+        if (std::abs(height * ratio - width(height)) < remainder)
+            return {width(height), height};
+    return {width(room.height()), room.height()};
 }
 
 void SiteMap::describe() {
@@ -162,6 +180,10 @@ void SiteMap::showFrame() {
     const QRectF area = liveArea(scene_, size()) & QRectF(rect());
     update((area | shownArea_).toAlignedRect());
     shownArea_ = area;
+}
+
+void SiteMap::resizeEvent(QResizeEvent*) {
+    placeLabel();
 }
 
 void SiteMap::showEvent(QShowEvent*) {
@@ -217,7 +239,11 @@ QPixmap SiteMap::picture(int scale) const {
 
 void SiteMap::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const auto fill = [&](const QBrush& brush) { fillRounded(painter, rect(), Measure::cardRadius, brush); };
+    const double radius = scene_.measures.cornerRadius;
+    QRectF shape(rect());
+    if (scene_.measures.squareBottom)
+        shape.setBottom(shape.bottom() + radius);
+    const auto fill = [&](const QBrush& brush) { fillRounded(painter, shape, radius, brush); };
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
     if (freshness != Freshness::live)
         fill(SB::navy);
@@ -231,7 +257,7 @@ void SiteMap::paintEvent(QPaintEvent*) {
     fill(grounds_);
     fill(paths_);
     QPainterPath corners;
-    corners.addRoundedRect(rect(), Measure::cardRadius, Measure::cardRadius);
+    corners.addRoundedRect(shape, radius, radius);
     painter.setClipPath(corners, Qt::IntersectClip);
     drawMovers(painter, scene_, size(), Motion::reduced() ? 0 : Motion::seconds());
 }

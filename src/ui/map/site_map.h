@@ -23,8 +23,8 @@ public:
     void setState(const LiveState* known, const Settings& settings, Freshness freshness);
     /// Shows a mission's paths over the grounds. Fast enough for every frame of a replay.
     void setReplay(Replay replay, const LiveState& state, const Settings& settings);
-    /// Whether captions are drawn.
-    void setShowLabels(bool show);
+    /// A small map inside a picture: without captions, and with the point where the drone would hold.
+    void setInset(bool inset);
     /// Another widget covers the map: no frames are drawn until it is gone.
     void setCovered(bool covered);
 
@@ -33,18 +33,19 @@ public:
 
     /// The height at this width that keeps the site's proportions.
     int heightForWidth(int width) const override;
-    /// The size of the largest map that fits into `room`, at least `minimumWidth` pixels wide if there is
-    /// room. In a map that is wider than the plan, the plan is centred.
-    QSize fitted(QSize room, int minimumWidth) const;
+    /// The size of the largest map with the site's proportions that fits into `room`.
+    QSize fitted(QSize room) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void setFreshness(Freshness freshness);
-    void setScene(MapScene scene);
+    void setScene(const LiveState& state, const Settings& settings, std::optional<Replay> replay);
+    void placeLabel();
     bool isAnimated() const;
     void updateAnimation();
     void showFrame();

@@ -53,6 +53,7 @@ Tray::Tray(AppStore& store, QObject* parent)
     connect(&store_, &AppStore::stateChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
+    connect(&store_, &AppStore::pendingCommandChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
         if (icon_ && !QApplication::activeWindow()) // an active window shows the failure itself
             icon_->showMessage(tr("Velmora"), failureText(command, reason), QSystemTrayIcon::Warning);
@@ -138,6 +139,8 @@ void Tray::refresh() {
     armed_->setVisible(store_.knownState());
     for (QAction* action : {launch_, ignore_, afterAnswers_})
         action->setVisible(phase == Phase::awaitingApproval);
+    for (QAction* action : {launch_, ignore_})
+        action->setEnabled(!store_.pendingCommand());
     for (QAction* action : {home_, afterHome_})
         action->setVisible(airborne(phase));
     setText(arming_, isArmed() ? tr("Disarm") : tr("Arm"));

@@ -14,6 +14,7 @@ CommandMenus::CommandMenus(AppStore& store, QWidget* parent) : QMenuBar(parent),
     connect(&store_, &AppStore::stateChanged, this, &CommandMenus::refresh);
     connect(&store_, &AppStore::settingsChanged, this, &CommandMenus::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &CommandMenus::refresh);
+    connect(&store_, &AppStore::pendingCommandChanged, this, &CommandMenus::refresh);
     refresh();
 }
 

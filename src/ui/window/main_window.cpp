@@ -58,7 +58,8 @@ MainWindow::MainWindow(AppStore& store)
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        toast_->setMessage(failureText(command, reason));
+        if (!answersAlert(command) || !approval_->isOpen()) // the card tells the failure itself
+            toast_->setMessage(failureText(command, reason));
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     approval_->updateAlert();
@@ -144,10 +145,8 @@ void MainWindow::addShortcuts() {
         if (history_->isVisible())
             history_->focusSearch();
     });
-    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, [this] {
-        if (!isCovered())
-            menus_->setActiveAction(menus_->actions().front());
-    });
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this,
+            [this] { menus_->setActiveAction(menus_->actions().front()); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this), &QShortcut::activated, this,
             &QWidget::close);
 }
@@ -155,7 +154,7 @@ void MainWindow::addShortcuts() {
 void MainWindow::addOverlay(OverlayCard* overlay) {
     overlays_.append(overlay);
     layers_->addWidget(overlay, 0, 0);
-    overlay->installEventFilter(this);
+    connect(overlay, &OverlayCard::openChanged, this, &MainWindow::updateLayers);
 }
 
 /// Adds the toast in the middle of the title strip, above the cards and their veil.
@@ -167,22 +166,19 @@ void MainWindow::addToast() {
     layers_->addLayout(strip, 0, 0);
 }
 
-bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
-        updateLayers();
-    return QWidget::eventFilter(watched, event);
-}
-
 bool MainWindow::isCovered() const {
     return std::ranges::any_of(overlays_, [](const OverlayCard* overlay) { return overlay->isOpen(); });
 }
 
-/// Pauses maps that a card covers. Keeps the alert above other cards and the resize handles above everything.
+/// Pauses maps that a card covers. Keeps the alert above other cards, the title strip above every veil, and
+/// the resize handles above everything.
 void MainWindow::updateLayers() {
-    for (SiteMap* map : findChildren<SiteMap*>())
+    for (SiteMap* map : content_->findChildren<SiteMap*>())
         map->setCovered(isCovered());
     if (approval_->isOpen())
         approval_->raise();
+    strip_->setVeiled(isCovered());
+    strip_->raise();
     toast_->raise();
     bands_->raise();
 }

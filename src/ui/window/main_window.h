@@ -31,9 +31,6 @@ class MainWindow : public QWidget {
 public:
     explicit MainWindow(AppStore& store);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void buildSections();
     void buildLayout();

@@ -1,5 +1,6 @@
 #include "ui/window/status_badges.h"
 
+#include "model/flight_limits.h"
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
@@ -46,7 +47,7 @@ void DroneBadge::refresh() {
     const LiveState* state = store_.knownState();
     const QString phase = state ? phaseWord(state->phase) : tr("No picture yet");
     const QString battery = state ? rounded(state->drone.battery) + tr("%") : QStringLiteral("—");
-    const bool low = state && state->drone.battery <= store_.settings().returnBattery;
+    const bool low = state && isBatteryLow(state->drone, store_.settings());
     if (phase == phase_ && battery == battery_ && low == low_)
         return;
     phase_ = phase;

@@ -2,6 +2,7 @@
 
 #include "ui/blocks/hairline.h"
 #include "ui/look/measures.h"
+#include "ui/look/motion.h"
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
@@ -11,6 +12,21 @@
 #include <QWindow>
 
 namespace velmora {
+
+namespace {
+
+constexpr double hoverOnDark = 0.12;
+constexpr double extraVeil = 0.5; // over the veil, so that the texts are legible
+
+QPalette menuPalette(bool dark) {
+    QPalette palette;
+    palette.setColor(QPalette::ButtonText, dark ? SB::dTitle : SB::muted);
+    palette.setColor(QPalette::HighlightedText, dark ? SB::dTitle : SB::ink);
+    palette.setColor(QPalette::Highlight, dark ? SB::faded(SB::dTitle, hoverOnDark) : SB::rule2);
+    return palette;
+}
+
+} // namespace
 
 WindowButton::WindowButton(Icon icon, const QString& name, QWidget* parent)
     : QAbstractButton(parent), icon_(icon) {
@@ -29,10 +45,17 @@ void WindowButton::setIcon(Icon icon, const QString& name) {
 void WindowButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const bool closes = icon_ == Icon::close;
+    const QColor hover = dark_ ? SB::faded(SB::dTitle, hoverOnDark) : SB::rule2;
+    const QColor glyph = dark_ ? SB::dTitle : SB::muted;
     if (underMouse())
-        painter.fillRect(rect(), closes ? SB::alert : SB::rule2);
+        painter.fillRect(rect(), closes ? SB::alert : hover);
     paintIcon(painter, QRectF(rect()).center(), Measure::windowGlyph, icon_,
-              underMouse() && closes ? SB::page : SB::muted);
+              underMouse() && closes ? SB::page : glyph);
+}
+
+void WindowButton::setOnDark(bool dark) {
+    dark_ = dark;
+    update();
 }
 
 void WindowButton::enterEvent(QEnterEvent*) {
@@ -43,8 +66,11 @@ void WindowButton::leaveEvent(QEvent*) {
     update();
 }
 
-TitleStrip::TitleStrip(QMenuBar* menus, QWidget* parent) : QWidget(parent) {
+TitleStrip::TitleStrip(QMenuBar* menus, QWidget* parent)
+    : QWidget(parent), veil_(*this, Motion::cardIn, QEasingCurve::OutCubic), menus_(menus) {
     setFixedHeight(Measure::titleStrip);
+    menus_->setPalette(menuPalette(false));
+    connect(&veil_, &Transition::changed, this, qOverload<>(&QWidget::update));
     auto* minimise = new WindowButton(Icon::minimise, tr("Minimise"), this);
     maximise_ = new WindowButton(Icon::maximise, tr("Maximise"), this);
     auto* close = new WindowButton(Icon::close, tr("Close"), this);
@@ -70,13 +96,26 @@ void TitleStrip::setOverSidebar(bool over) {
     update();
 }
 
+void TitleStrip::setVeiled(bool veiled) {
+    if (veiled == veiled_)
+        return;
+    veiled_ = veiled;
+    menus_->setPalette(menuPalette(veiled));
+    for (WindowButton* button : findChildren<WindowButton*>())
+        button->setOnDark(veiled);
+    veil_.setDuration(veiled ? Motion::cardIn : Motion::cardOut);
+    veil_.moveTo(veiled ? 1 : 0);
+}
+
 void TitleStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), SB::page);
-    if (!overSidebar_)
-        return;
-    painter.fillRect(0, 0, Measure::sidebar, height(), SB::panel);
-    paintHairline(painter, {Measure::sidebar - 1, 0, 1, height()}, SB::rule);
+    if (overSidebar_) {
+        painter.fillRect(0, 0, Measure::sidebar, height(), SB::panel);
+        paintHairline(painter, {Measure::sidebar - 1, 0, 1, height()}, SB::rule);
+    }
+    for (const double veil : {Measure::veil, extraVeil})
+        painter.fillRect(rect(), SB::faded(SB::navy, veil * veil_.value()));
 }
 
 void TitleStrip::mousePressEvent(QMouseEvent* event) {

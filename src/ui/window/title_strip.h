@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/look/icons.h"
+#include "ui/look/transition.h"
 
 #include <QAbstractButton>
 
@@ -16,6 +17,8 @@ public:
     WindowButton(Icon icon, const QString& name, QWidget* parent);
 
     void setIcon(Icon icon, const QString& name);
+    /// Whether the strip is dark.
+    void setOnDark(bool dark);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,6 +27,7 @@ protected:
 
 private:
     Icon icon_;
+    bool dark_ = false;
 };
 
 /// Replaces the native title bar: the menus at the left, an area for dragging the window, and the window
@@ -36,6 +40,8 @@ public:
 
     /// Sets whether the left end is drawn as a continuation of the sidebar.
     void setOverSidebar(bool over);
+    /// Darkens the strip while the veil of a card covers the rest of the window.
+    void setVeiled(bool veiled);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,6 +54,9 @@ private:
     void showWindowState();
 
     bool overSidebar_ = true;
+    bool veiled_ = false;
+    Transition veil_; ///< 0 light, 1 dark
+    QMenuBar* menus_;
     WindowButton* maximise_;
 };
 

@@ -3,12 +3,13 @@
 #include "model/truncated.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
-#include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
-#include "ui/guard/answer_button.h"
 #include "ui/look/measures.h"
+#include "ui/look/motion.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
+#include "ui/screens/alert/answer_panel.h"
+#include "ui/screens/alert/approval_metrics.h"
 #include "ui/screens/alert/approval_picture.h"
 
 #include <QVBoxLayout>
@@ -20,10 +21,8 @@ namespace velmora {
 
 namespace {
 
-constexpr double answerTimeout = 5;       // seconds; a command request may take three
-constexpr double maximumCountdown = 3600; // seconds; a later deadline means that a clock is wrong
-
-QString titleFor(const CameraInfo* camera) {
+QString titleFor(const LiveState& state) {
+    const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
     const QString location = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
                                     : ApprovalOverlay::tr("grounds");
     return ApprovalOverlay::tr("Someone you don't know is at the %1.").arg(location);
@@ -40,94 +39,130 @@ QString bodyFor(const Settings& settings) {
 } // namespace
 
 ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* window)
-    : OverlayCard(Measure::approvalCard, window), store_(store), guard_(guard) {
+    : OverlayCard(Measure::approvalCard, window),
+      store_(store),
+      guard_(guard),
+      growth_(*this, Motion::banner, QEasingCurve::OutCubic) {
     build();
+    connect(&growth_, &Transition::changed, this, &ApprovalOverlay::updateSize);
     connect(&countdown_, &UiTimer::timeout, this, &ApprovalOverlay::countDown);
-    connect(&guard_, &AnswerGuard::answered, this, [this] { answeredAt_ = store_.now(); });
+    connect(picture_, &ApprovalPicture::clicked, this, [this] { setEnlarged(!enlarged_); });
+    connect(this, &OverlayCard::dismissed, this, [this] { setEnlarged(false); });
+    connect(answers_, &AnswerPanel::hideRequested, this, [this] {
+        hidden_ = true;
+        updateAlert();
+    });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::updateAlert);
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::updateAlert);
+    connect(&store_, &AppStore::pendingCommandChanged, this, &ApprovalOverlay::updateAlert);
 }
 
 void ApprovalOverlay::build() {
     picture_ = new ApprovalPicture(card());
-    title_ = new Text({}, Type::overlayTitle, SB::ink, card());
-    body_ = new Text({}, Type::overlayBody, SB::body, card());
-    auto* words = new QVBoxLayout;
-    words->setContentsMargins(Measure::approvalPadding, Measure::approvalPadding, Measure::approvalPadding,
-                              Measure::approvalPadding);
-    words->setSpacing(0);
-    words->addWidget(title_);
-    words->addSpacing(Measure::gap12);
-    words->addWidget(body_);
-    words->addSpacing(Measure::gap24);
-    words->addWidget(new Hairline(card()));
-    words->addSpacing(Measure::gap16);
-    words->addWidget(buildMetrics());
-    words->addSpacing(Measure::gap20);
-    words->addWidget(
-        new Text(tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
-                 Type::overlayNote, SB::muted, card()));
-    words->addSpacing(Measure::gap20);
-    words->addWidget(buildButtons());
+    lower_ = new QWidget(card());
+    title_ = new Text({}, Type::overlayTitle, SB::ink, lower_);
+    body_ = new Text({}, Type::overlayBody, SB::body, lower_);
+    line_ = new Hairline(lower_);
+    metrics_ = new ApprovalMetrics(lower_);
+    answers_ = new AnswerPanel(store_, guard_, lower_);
+    answers_->setFixedWidth(Measure::approvalCard - 2 * Measure::approvalPadding);
     column()->addWidget(picture_);
-    column()->addLayout(words);
+    column()->addWidget(lower_);
+    arrange();
 }
 
-QWidget* ApprovalOverlay::buildMetrics() {
-    auto* row = new QWidget(card());
-    auto* layout = bareLayout<QHBoxLayout>(row);
-    const auto add = [&](const QString& label, int share) {
-        auto* metric = new Metric(label, Metric::Size::regular, false, row);
-        metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        layout->addWidget(metric, share);
-        return metric;
-    };
-    match_ = add(tr("Match"), 151);
-    battery_ = add(tr("Battery"), 108);
-    wind_ = add(tr("Wind"), 108);
-    expires_ = add(tr("Expires in"), 97);
-    expires_->setTint(SB::purple);
+void ApprovalOverlay::arrange() {
+    for (QWidget* words : std::initializer_list<QWidget*>{title_, body_, line_})
+        words->setVisible(!enlarged_);
+    metrics_->setNarrow(enlarged_);
+    answers_->setGap(enlarged_ ? Measure::gap8 : Measure::gap20);
+    delete lower_->layout();
+    lower_->setLayout(enlarged_ ? enlargedLayout() : compactLayout());
+}
+
+QLayout* ApprovalOverlay::compactLayout() {
+    auto* rows = new QVBoxLayout;
+    rows->setContentsMargins(Measure::approvalPadding, Measure::approvalPadding, Measure::approvalPadding,
+                             Measure::approvalPadding);
+    rows->setSpacing(0);
+    rows->addWidget(title_);
+    rows->addSpacing(Measure::gap12);
+    rows->addWidget(body_);
+    rows->addSpacing(Measure::gap24);
+    rows->addWidget(line_);
+    rows->addSpacing(Measure::gap16);
+    rows->addWidget(metrics_);
+    rows->addSpacing(Measure::gap20);
+    rows->addWidget(answers_);
+    return rows;
+}
+
+QLayout* ApprovalOverlay::enlargedLayout() {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Measure::enlargedMargins);
+    row->setSpacing(Measure::gap16);
+    row->addWidget(metrics_, 0, Qt::AlignTop);
+    row->addStretch(1);
+    row->addWidget(answers_, 0, Qt::AlignTop);
     return row;
 }
 
-QWidget* ApprovalOverlay::buildButtons() {
-    auto* row = new QWidget(card());
-    auto* ignore = new AnswerButton(Command::ignore, guard_, tr("Ignore"),
-                                    {.kind = SBButtonKind::secondary, .wide = true, .large = true}, row);
-    auto* launch = new AnswerButton(
-        Command::approve, guard_, tr("Launch drone"),
-        {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
-    auto* layout = bareLayout<QHBoxLayout>(row, Measure::gap12);
-    layout->addWidget(ignore, 10);
-    layout->addWidget(launch, 16);
-    return row;
+void ApprovalOverlay::setEnlarged(bool enlarged) {
+    if (enlarged == enlarged_)
+        return;
+    enlarged_ = enlarged;
+    arrange();
+    growth_.moveTo(enlarged ? 1 : 0);
 }
 
-/// Closes the card if the server keeps asking after an answer, so that it does not block the window.
+/// The whole picture, as large as the window allows.
+QSize ApprovalOverlay::enlargedPicture() const {
+    const QSize room =
+        size() - QSize(2 * Measure::enlargedAround, 2 * Measure::enlargedAround + Measure::titleStrip +
+                                                        Measure::approvalBar + Measure::enlargedLower);
+    const double width = std::min(
+        {double(room.width()), room.height() * Measure::enlargedRatio, double(Measure::enlargedCard)});
+    return QSizeF(width, width / Measure::enlargedRatio).toSize();
+}
+
+void ApprovalOverlay::updateSize() {
+    const double share = growth_.value();
+    const QSizeF picture = QSizeF(Measure::approvalCard, Measure::approvalPicture) * (1 - share) +
+                           QSizeF(enlargedPicture()) * share;
+    card()->setFixedWidth(picture.toSize().width());
+    picture_->setPictureSize(picture.toSize(), share);
+    update(); // the shadow
+}
+
+/// Over a silent link the card stays until its deadline. Whether a deadline has passed over a live one is the
+/// server's to judge.
+bool ApprovalOverlay::isDue() const {
+    if (!store_.shownAlert())
+        return false;
+    if (store_.freshness() == Freshness::live)
+        return true;
+    const bool expired =
+        deadlineWasAhead_ && !timeLeft(*store_.knownState(), store_.settings(), store_.now());
+    return !hidden_ && !expired;
+}
+
 void ApprovalOverlay::updateAlert() {
-    const auto alert = store_.waitingAlert();
-    if (!alert) {
+    const auto alert = store_.shownAlert();
+    if (store_.freshness() == Freshness::live)
+        hidden_ = false;
+    if (alert != asked_)
+        deadlineWasAhead_ = false;
+    if (!isDue()) {
         countdown_.stop();
-        answeredAt_.reset();
-        ineffective_.reset();
         close();
         return;
     }
     refresh();
-    if (alert == asked_ && answeredAt_ && (store_.now() - *answeredAt_).count() > answerTimeout)
-        ineffective_ = asked_;
-    if (alert == ineffective_) { // the overview still offers the launch
-        countdown_.stop();
-        close();
-        return;
-    }
     if (isOpen() && alert == asked_)
         return;
     asked_ = alert;
-    answeredAt_.reset();
-    const auto deadline = store_.knownState()->approvalDeadline;
-    initialTimeLeft_ = deadline ? (*deadline - store_.now()).count() : 0;
-    countDown();
+    setEnlarged(false);
+    answers_->reset();
     countdown_.start();
     if (isOpen())
         setFocus(Qt::OtherFocusReason);
@@ -137,26 +172,32 @@ void ApprovalOverlay::updateAlert() {
 
 void ApprovalOverlay::refresh() {
     const LiveState& state = *store_.knownState();
-    const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
-    const QString location = camera ? isolated(toQString(camera->name)) : tr("Grounds");
-    const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
-    picture_->setAlert(camera ? toQString(camera->snapshot) : QString(),
-                       time.isEmpty() ? location : location + QStringLiteral(" · ") + time);
-    title_->setText(titleFor(camera));
+    picture_->setState(state, store_.settings(), store_.freshness());
+    title_->setText(titleFor(state));
     setAccessibleName(title_->text());
     body_->setText(bodyFor(store_.settings()));
-    match_->setValue(percent(state.visitor ? state.visitor->confidence : 0), tr("% unknown"));
-    battery_->setValue(rounded(state.drone.battery), tr("%"));
-    wind_->setValue(rounded(state.windKmh), tr("km/h"));
+    metrics_->setState(state, store_.settings());
+    answers_->refresh();
+    countDown();
+    update(); // the guard waits for the picture of an alert that can be answered again
 }
 
 void ApprovalOverlay::countDown() {
-    const auto deadline = store_.knownState()->approvalDeadline;
-    const double left = deadline ? (*deadline - store_.now()).count() : 0;
-    const bool plausible = left > 0 && left <= maximumCountdown;
-    expires_->setValue(plausible ? QString::number(truncated(std::ceil(left))) : QStringLiteral("—"),
-                       plausible ? tr("s") : QString());
-    picture_->setTimeLeft(plausible && initialTimeLeft_ > 0 ? std::min(left / initialTimeLeft_, 1.0) : 0);
+    if (!isDue()) {
+        updateAlert();
+        return;
+    }
+    const auto left = timeLeft(*store_.knownState(), store_.settings(), store_.now());
+    deadlineWasAhead_ = deadlineWasAhead_ || left;
+    picture_->setTimeLeft(left);
+    metrics_->setTimeLeft(left, store_.freshness());
+    if (store_.freshness() == Freshness::stale)
+        answers_->refresh(); // the age of the picture
+}
+
+void ApprovalOverlay::resizeEvent(QResizeEvent* event) {
+    OverlayCard::resizeEvent(event);
+    updateSize();
 }
 
 void ApprovalOverlay::paintEvent(QPaintEvent* event) {

@@ -5,11 +5,13 @@
 
 namespace velmora {
 
+class AnswerPanel;
+class ApprovalMetrics;
 class ApprovalPicture;
-class Metric;
 class Text;
 
-/// The card that asks the owner whether the drone may launch. It covers every section.
+/// The card that asks the owner whether the drone may launch. It covers every section while an alert waits,
+/// also if the server is silent: until the alert's deadline, or until the owner hides it.
 class ApprovalOverlay : public OverlayCard {
     Q_OBJECT
 
@@ -26,28 +28,35 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void build();
-    QWidget* buildMetrics();
-    QWidget* buildButtons();
+    void arrange();
+    QLayout* compactLayout();
+    QLayout* enlargedLayout();
+    void setEnlarged(bool enlarged);
+    void updateSize();
+    QSize enlargedPicture() const;
+    bool isDue() const;
     void refresh();
     void countDown();
 
     AppStore& store_;
     AnswerGuard& guard_;
     ApprovalPicture* picture_;
+    QWidget* lower_; ///< everything below the picture
     Text* title_;
     Text* body_;
-    Metric* match_;
-    Metric* battery_;
-    Metric* wind_;
-    Metric* expires_;
+    QWidget* line_;
+    ApprovalMetrics* metrics_;
+    AnswerPanel* answers_;
+    Transition growth_; ///< 0 compact, 1 enlarged
+    bool enlarged_ = false;
     UiTimer countdown_{std::chrono::milliseconds(250)};
-    std::optional<AlertId> asked_;       ///< the alert shown on the card
-    std::optional<Date> answeredAt_;     ///< when the owner last answered it
-    std::optional<AlertId> ineffective_; ///< an alert whose answer the server did not act on
-    double initialTimeLeft_ = 0;         ///< seconds until the deadline when the alert arrived
+    std::optional<AlertId> asked_;  ///< the alert shown on the card
+    bool deadlineWasAhead_ = false; ///< of the alert on the card, by the clock of this computer
+    bool hidden_ = false;           ///< by the owner, until the link is back
 };
 
 } // namespace velmora

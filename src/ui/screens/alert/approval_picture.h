@@ -1,31 +1,43 @@
 #pragma once
 
-#include "model/live_state.h"
+#include "model/freshness.h"
+#include "ui/screens/alert/time_left.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
 namespace velmora {
 
+class AlertInset;
 class ArtImage;
 class Chip;
 
-/// The top of the approval card: the camera picture, a caption with camera and time, and a countdown bar.
-class ApprovalPicture : public QWidget {
+/// The top of the approval card: the camera picture with a caption and an inset map, and the bar of the time
+/// left. A click or the space bar enlarges it.
+class ApprovalPicture : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit ApprovalPicture(QWidget* parent);
 
-    void setAlert(const QString& picture, const QString& chip);
-    /// Sets the remaining share of the time, 0 to 1.
-    void setTimeLeft(double share);
+    void setState(const LiveState& state, const Settings& settings, Freshness freshness);
+    /// nullopt: unknown.
+    void setTimeLeft(const std::optional<TimeLeft>& left);
+    /// Size of the picture; `enlarged` is 0 for the crop about the visitor, 1 for the whole picture.
+    void setPictureSize(QSize size, double enlarged);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override {} // the children draw everything
 
 private:
     class Bar;
 
     ArtImage* picture_;
     Chip* chip_;
+    AlertInset* inset_;
     Bar* bar_;
+    bool stale_ = false;
 };
 
 } // namespace velmora

@@ -28,7 +28,7 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
                     0, Qt::AlignVCenter);
     note->addWidget(new Hairline(this, Hairline::Tone::dark), 1, 0);
     auto* column = bareLayout<QVBoxLayout>(this);
-    column->addWidget(map_, 1);
+    column->addLayout(mapArea(), 1);
     column->addLayout(note);
     column->addWidget(telemetry_);
     connect(&everySecond_, &UiTimer::timeout, this, &LiveCard::refresh);

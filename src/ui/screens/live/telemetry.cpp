@@ -1,5 +1,6 @@
 #include "ui/screens/live/telemetry.h"
 
+#include "model/flight_limits.h"
 #include "ui/blocks/metric.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -67,9 +68,9 @@ void Telemetry::setState(const LiveState* known, const Settings& settings, Date 
         toVisitor_->setValue(QString::fromUtf8(absent), {});
     fromPad_->setValue(rounded(distance(drone.pos, state.site.pad)), tr("m"));
     battery_->setValue(rounded(drone.battery), tr("%"));
-    battery_->setTint(cautionIf(drone.battery <= settings.returnBattery));
+    battery_->setTint(cautionIf(isBatteryLow(drone, settings)));
     wind_->setValue(rounded(state.windKmh), tr("km/h"));
-    wind_->setTint(cautionIf(state.windKmh > settings.maxWindKmh));
+    wind_->setTint(cautionIf(isTooWindy(state, settings)));
     flightTime_->setValue(
         state.missionStart ? clockTime(now - *state.missionStart) : QString::fromUtf8(absent), {});
     signal_->setValue(percent(drone.signal), tr("%"));

@@ -37,7 +37,7 @@ MapCard::MapCard(AppStore& store, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(title, 0, Qt::AlignLeft);
     column->addSpacing(Measure::mapTitle - title->sizeHint().height());
-    column->addWidget(map_, 1);
+    column->addLayout(mapArea(), 1);
 }
 
 void MapCard::refresh() {

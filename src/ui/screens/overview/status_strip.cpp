@@ -1,5 +1,6 @@
 #include "ui/screens/overview/status_strip.h"
 
+#include "model/flight_limits.h"
 #include "model/truncated.h"
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/art_image.h"
@@ -114,7 +115,7 @@ void StatusStrip::showCameras(const LiveState& state) {
 
 void StatusStrip::showWind(const LiveState& state) {
     const double limit = store_.settings().maxWindKmh;
-    const bool tooWindy = state.windKmh > limit;
+    const bool tooWindy = isTooWindy(state, store_.settings());
     cells_[2]->setContent(
         tr("%1 km/h").arg(rounded(state.windKmh)),
         {tooWindy ? tr("Too windy to fly") : tr("Fine to fly (limit %1 km/h)").arg(truncated(limit))},

@@ -1,0 +1,132 @@
+#include "ui/map/map_captions.h"
+
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/map/drone_glyph.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr double edgeWidth = 3; // behind the letters
+constexpr double padGap = 4;    // pixels, as everything here
+constexpr double heightOffset = 16, visitorLabelOffset = 10;
+constexpr double mapEdge = 4;             // between a caption and the map's edge
+constexpr double touching = 2, apart = 8; // distances to the drone
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("SiteMap", text);
+}
+
+/// Distance between the rectangles along the axis on which they are farther apart; negative if they overlap.
+double gapBetween(const QRectF& a, const QRectF& b) {
+    return std::max({b.left() - a.right(), a.left() - b.right(), b.top() - a.bottom(), a.top() - b.bottom()});
+}
+
+/// Distance between the box and the drone's glyph with its height.
+double gapToDrone(const QRectF& box, const MapScene& scene, const MapTransform& view) {
+    const double radius = droneRadius * scene.measures.droneScale;
+    QRectF glyph(0, 0, 2 * radius, 2 * radius);
+    glyph.moveCenter(view.map(scene.state.drone.pos));
+    const double gap = gapBetween(box, glyph);
+    return airborne(scene.state.phase) ? std::min(gap, gapBetween(box, heightCaption(scene, view).box()))
+                                       : gap;
+}
+
+} // namespace
+
+QRectF MapCaption::box() const {
+    QRectF box(at, QSizeF(textWidth(text, Type::mapCaption), Type::mapCaption.line));
+    if (anchor & Qt::AlignRight)
+        box.moveRight(at.x());
+    else if (anchor & Qt::AlignHCenter)
+        box.moveLeft(at.x() - box.width() / 2);
+    if (anchor & Qt::AlignBottom)
+        box.moveBottom(at.y());
+    else if (anchor & Qt::AlignVCenter)
+        box.moveTop(at.y() - box.height() / 2);
+    return box;
+}
+
+QRectF MapCaption::area() const {
+    constexpr double edge = edgeWidth / 2 + 1; // and half a pixel of rounding
+    return box().adjusted(-edge, -edge, edge, edge);
+}
+
+void drawCaption(QPainter& painter, const MapCaption& caption) {
+    drawText(painter, caption.box(), caption.text, Type::mapCaption, caption.color, Qt::AlignVCenter,
+             {SB::faded(SB::navy, 0.55), edgeWidth});
+}
+
+MapCaption padCaption(const MapScene& scene, const MapTransform& view) {
+    const double below = padRadius(scene, view) + padGap;
+    return {tr("Pad"), SB::dTeal, view.map(scene.state.site.pad) + QPointF(0, below),
+            Qt::AlignHCenter | Qt::AlignTop};
+}
+
+double padCaptionOpacity(const MapScene& scene, const MapTransform& view) {
+    if (!airborne(scene.state.phase) || scene.replay)
+        return 1;
+    const double gap = gapToDrone(padCaption(scene, view).box(), scene, view);
+    return std::clamp((gap - touching) / (apart - touching), 0.0, 1.0);
+}
+
+MapCaption heightCaption(const MapScene& scene, const MapTransform& view) {
+    return {tr("%1 m").arg(rounded(scene.state.drone.altitude)), SB::dTitle,
+            view.map(scene.state.drone.pos) + QPointF(0, heightOffset), Qt::AlignHCenter | Qt::AlignTop};
+}
+
+MapCaption captionBeside(QPointF point, double offset, const QString& text, const QColor& color,
+                         const MapTransform& view) {
+    MapCaption caption{text, color, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter};
+    if (caption.box().right() <= view.canvas().right())
+        return caption;
+    return {text,
+            color,
+            {std::min(point.x(), view.canvas().right() - mapEdge), point.y() - offset},
+            Qt::AlignRight | Qt::AlignBottom};
+}
+
+MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side) {
+    const QPointF at = view.map(scene.state.visitor->pos);
+    MapCaption caption{toQString(scene.state.visitor->label), SB::lilac, at, {}};
+    const double right = view.canvas().right() - mapEdge;
+    const double end = std::clamp(at.x(), std::min(caption.box().width() + mapEdge, right), right);
+    switch (side) {
+    case LabelSide::right:
+        caption.at.rx() += visitorLabelOffset;
+        caption.anchor = Qt::AlignLeft | Qt::AlignVCenter;
+        break;
+    case LabelSide::left:
+        caption.at.rx() -= visitorLabelOffset;
+        caption.anchor = Qt::AlignRight | Qt::AlignVCenter;
+        break;
+    case LabelSide::above:
+        caption.at = {end, at.y() - visitorLabelOffset};
+        caption.anchor = Qt::AlignRight | Qt::AlignBottom;
+        break;
+    case LabelSide::below:
+        caption.at = {end, at.y() + visitorLabelOffset};
+        caption.anchor = Qt::AlignRight | Qt::AlignTop;
+        break;
+    }
+    return caption;
+}
+
+LabelSide freeLabelSide(const MapScene& scene, const MapTransform& view) {
+    const auto fits = [&](LabelSide side) {
+        return view.canvas().contains(visitorCaption(scene, view, side).box());
+    };
+    for (const LabelSide side :
+         {scene.labelSide, LabelSide::right, LabelSide::left, LabelSide::above, LabelSide::below})
+        if (fits(side) && gapToDrone(visitorCaption(scene, view, side).box(), scene, view) > touching)
+            return side;
+    return fits(scene.labelSide) ? scene.labelSide : LabelSide::above;
+}
+
+} // namespace velmora

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/map/map_scene.h"
+
+#include <QColor>
+#include <QString>
+
+class QPainter;
+
+namespace velmora {
+
+/// One line of text on the map.
+struct MapCaption {
+    QString text;
+    QColor color;
+    QPointF at;
+    Qt::Alignment anchor; ///< the side or corner with which the text's box touches the point
+
+    QRectF box() const;
+    /// Everything that the caption paints.
+    QRectF area() const;
+};
+
+/// Draws the caption with a dark edge around its letters.
+void drawCaption(QPainter& painter, const MapCaption& caption);
+
+/// Below the pad.
+MapCaption padCaption(const MapScene& scene, const MapTransform& view);
+/// How much of the pad's caption is drawn, 0 to 1: it fades out before a flying drone or its height reaches
+/// it.
+double padCaptionOpacity(const MapScene& scene, const MapTransform& view);
+/// The height of a flying drone, below its glyph.
+MapCaption heightCaption(const MapScene& scene, const MapTransform& view);
+
+/// The visitor's label on this side of the visitor. Call only with a visitor.
+MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side);
+/// The side for the visitor's label: the scene's as long as the label fits there into the map and meets
+/// neither the drone nor its height, so that it does not change back and forth. Otherwise the first side that
+/// is free.
+LabelSide freeLabelSide(const MapScene& scene, const MapTransform& view);
+
+/// To the right of a point, or above and left of it if the map ends too soon.
+MapCaption captionBeside(QPointF point, double offset, const QString& text, const QColor& color,
+                         const MapTransform& view);
+
+} // namespace velmora

@@ -1,0 +1,55 @@
+#include "ui/screens/alert/alert_inset.h"
+
+#include "ui/blocks/accessibility.h"
+#include "ui/look/measures.h"
+#include "ui/look/paint.h"
+#include "ui/look/text.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/map/site_map.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr double frameOpacity = 0.55;
+constexpr double staleWords = 0.75;
+constexpr double wordsTop = 2; // below the map, pixels
+
+} // namespace
+
+AlertInset::AlertInset(QWidget* parent) : QWidget(parent), map_(new SiteMap(this)) {
+    declareRole(this, QAccessible::Graphic);
+    setAttribute(Qt::WA_TransparentForMouseEvents); // the picture below takes the click
+    map_->setInset(true);
+    setMapSize(Measure::insetMap);
+}
+
+void AlertInset::setState(const LiveState& state, const Settings& settings, Freshness freshness) {
+    map_->setState(&state, settings, freshness);
+    stale_ = freshness != Freshness::live;
+    inside_ = state.visitor->inside;
+    distance_ = tr("%1 m from the pad").arg(rounded(distance(state.visitor->pos, state.site.pad)));
+    place_ = inside_ ? tr("inside your boundary") : tr("outside your boundary");
+    setAccessibleName(distance_ + QStringLiteral(" · ") + place_);
+    update();
+}
+
+void AlertInset::setMapSize(QSize size) {
+    setFixedSize(size + QSize(0, Measure::insetWords));
+    map_->setGeometry(QRect({0, 0}, size).adjusted(1, 1, -1, 0)); // inside the frame
+}
+
+void AlertInset::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    fillRounded(painter, rect(), Measure::insetRadius, SB::navy, SB::faded(SB::dTitle, frameOpacity));
+    const QColor quiet = SB::faded(SB::dLabel, staleWords);
+    const QColor place = inside_ ? SB::dTeal : SB::lilac;
+    QRectF line(Measure::insetWordsIndent, height() - Measure::insetWords + wordsTop,
+                width() - 2 * Measure::insetWordsIndent, Type::inset.line);
+    drawText(painter, line, distance_, Type::insetStrong, stale_ ? quiet : SB::dTitle, Qt::AlignLeft);
+    line.translate(0, Type::inset.line);
+    drawText(painter, line, place_, Type::inset, stale_ ? quiet : place, Qt::AlignLeft);
+}
+
+} // namespace velmora

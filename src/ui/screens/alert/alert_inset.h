@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/freshness.h"
+#include "model/live_state.h"
+#include "model/settings.h"
+
+#include <QWidget>
+
+namespace velmora {
+
+class SiteMap;
+
+/// The small map in the corner of the alert's picture, and below it where the visitor is.
+class AlertInset : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit AlertInset(QWidget* parent);
+
+    /// `state` must have a visitor.
+    void setState(const LiveState& state, const Settings& settings, Freshness freshness);
+    void setMapSize(QSize size);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    SiteMap* map_;
+    QString distance_;
+    QString place_;
+    bool inside_ = false;
+    bool stale_ = false;
+};
+
+} // namespace velmora

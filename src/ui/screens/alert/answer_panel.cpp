@@ -1,0 +1,104 @@
+#include "ui/screens/alert/answer_panel.h"
+
+#include "ui/blocks/layouts.h"
+#include "ui/blocks/message_line.h"
+#include "ui/blocks/text.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+
+#include <QVBoxLayout>
+
+namespace velmora {
+
+namespace {
+
+constexpr auto failureTime = std::chrono::seconds(10);
+
+} // namespace
+
+AnswerPanel::AnswerPanel(AppStore& store, AnswerGuard& guard, QWidget* parent)
+    : QWidget(parent), store_(store), failureTimer_(failureTime, UiTimer::Mode::singleShot) {
+    note_ =
+        new Text(tr("You must be able to see the drone while it flies. Nothing launches without your yes."),
+                 Type::overlayNote, SB::muted, this);
+    note_->setMaximumLines(1);
+    message_ = new MessageLine(SB::alert, this);
+    message_->hide();
+    auto* rows = bareLayout<QVBoxLayout>(this);
+    for (QWidget* line : std::initializer_list<QWidget*>{note_, message_}) {
+        line->setFixedHeight(Measure::approvalNoteRow);
+        rows->addWidget(line);
+    }
+    rows->addWidget(buildButtons(guard));
+    connect(hide_, &SBButton::clicked, this, &AnswerPanel::hideRequested);
+    connect(&store_, &AppStore::commandFailed, this, &AnswerPanel::showFailure);
+    connect(&store_, &AppStore::pendingCommandChanged, this, &AnswerPanel::refresh);
+    connect(&failureTimer_, &UiTimer::timeout, this, &AnswerPanel::reset);
+}
+
+QWidget* AnswerPanel::buildButtons(AnswerGuard& guard) {
+    auto* row = new QWidget(this);
+    const SBButtonStyle quiet{.kind = SBButtonKind::secondary, .wide = true, .large = true};
+    ignore_ = new AnswerButton(Command::ignore, guard, tr("Ignore"), quiet, row);
+    hide_ = new SBButton(tr("Hide"), quiet, row);
+    launch_ = new AnswerButton(
+        Command::approve, guard, tr("Launch drone"),
+        {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
+    auto* layout = bareLayout<QHBoxLayout>(row, Measure::gap12);
+    for (SBButton* button : {static_cast<SBButton*>(ignore_), hide_})
+        layout->addWidget(button, Measure::approvalButtons[0]);
+    layout->addWidget(launch_, Measure::approvalButtons[1]);
+    hide_->hide();
+    return row;
+}
+
+void AnswerPanel::setGap(int gap) {
+    layout()->setContentsMargins(0, 0, 0, 0);
+    static_cast<QVBoxLayout*>(layout())->setSpacing(gap);
+}
+
+void AnswerPanel::reset() {
+    failureTimer_.stop();
+    failure_.clear();
+    refresh();
+}
+
+void AnswerPanel::refresh() {
+    const bool stale = store_.freshness() == Freshness::stale;
+    const auto pending = store_.pendingCommand();
+    if (pending)
+        failure_.clear();
+    ignore_->setSent(pending == Command::ignore);
+    launch_->setSent(pending == Command::approve);
+    offer(hide_, stale);
+    offer(ignore_, !stale);
+    if (stale && launch_->hasFocus())
+        setFocus(Qt::OtherFocusReason); // otherwise disabling the button moves the focus to another
+    launch_->setEnabled(!stale);
+    showMessage(stale ? tr("velmora is silent — this picture is %1 old")
+                            .arg(age(store_.now() - store_.lastAnswerAt().value_or(store_.now())))
+                      : failure_);
+}
+
+void AnswerPanel::showFailure(Command command, const QString& reason) {
+    if (!answersAlert(command) || !store_.shownAlert())
+        return;
+    failure_ = failureText(reason);
+    failureTimer_.start();
+    refresh();
+}
+
+void AnswerPanel::showMessage(const QString& message) {
+    message_->setText(message);
+    note_->setVisible(message.isEmpty());
+    message_->setVisible(!message.isEmpty());
+}
+
+void AnswerPanel::offer(SBButton* button, bool offered) {
+    if (!offered && button->hasFocus())
+        setFocus(Qt::OtherFocusReason); // otherwise hiding the button moves the focus to the launch
+    button->setVisible(offered);
+}
+
+} // namespace velmora
