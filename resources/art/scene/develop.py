@@ -8,7 +8,7 @@ CLEAR = {"drone-render"}
 
 # exposure in stops, contrast curve, saturation, gain of red, green and blue
 LOOKS = {
-    "plan-base": (-0.34, "Medium Low Contrast", 0.6, (0.78, 0.98, 1.17)),
+    "plan-base": (-0.18, "Medium Contrast", 0.6, (0.78, 0.98, 1.17)),
     "snapshot-driveway": (0.75, "Medium High Contrast", 1.06, (1.04, 1.0, 0.95)),
     "snapshot-front": (0.65, "Medium High Contrast", 1.06, (1.03, 1.0, 0.96)),
     "snapshot-garden": (0.3, "Medium High Contrast", 1.06, (1.02, 1.0, 0.97)),

@@ -61,9 +61,9 @@ def dusk():
     tree = _world("Dusk")
     back, out = tree.nodes.new("ShaderNodeBackground"), tree.nodes.new("ShaderNodeOutputWorld")
     back.inputs["Color"].default_value = (0.36, 0.62, 0.9, 1)
-    back.inputs["Strength"].default_value = 0.5
+    back.inputs["Strength"].default_value = 0.77
     tree.links.new(back.outputs[0], out.inputs["Surface"])
-    sun(27, 215, 3.2, (0.66, 0.84, 1.0), 3)
+    sun(31, 215, 3.0, (0.66, 0.84, 1.0), 3)
 
 
 def sun(height, toward, strength, colour, size):

@@ -72,9 +72,13 @@ class Nodes:
         self.link(height, node.inputs["Height"])
         return node.outputs["Normal"]
 
+    def brightened(self, colour):
+        factor = _brightness.get(self.material.name, 1.0)
+        return colour if factor == 1.0 else self.mix(1.0, colour, (factor, factor, factor), "MULTIPLY")
+
     def surface(self, colour, rough=0.8, metal=0.0, specular=0.3, normal=None, **extra):
         node = self.add("ShaderNodeBsdfPrincipled")
-        self.feed(node.inputs["Base Color"], colour)
+        self.feed(node.inputs["Base Color"], self.brightened(colour))
         self.feed(node.inputs["Roughness"], rough)
         self.feed(node.inputs["Metallic"], metal)
         self.feed(node.inputs["Specular"], specular)
@@ -90,6 +94,7 @@ class Nodes:
 
 
 _made = {}
+_brightness = {}
 
 
 def once(make):
@@ -107,6 +112,12 @@ def once(make):
 def forget():
     """For a new scene: surfaces do not outlive the file they were made in."""
     _made.clear()
+    _brightness.clear()
+
+
+def brighten(factors):
+    """Sets colour factors by surface name for this scene. Call it before the surfaces are made."""
+    _brightness.update(factors)
 
 
 @once
@@ -237,7 +248,7 @@ def foliage(name, dark, light, shine=0.35):
     info = n.add("ShaderNodeObjectInfo")
     colour = n.mix(info.outputs["Random"], dark, light)
     colour = n.mix(n.span(n.noise(n.world(), 1.6, 3), 0.3, 0.7), n.mix(0.35, colour, (0, 0.004, 0)), colour)
-    colour = n.mix(n.span(n.noise(n.world(), 17, 1), 0.4, 0.7, 0, 0.4), colour, light)
+    colour = n.brightened(n.mix(n.span(n.noise(n.world(), 17, 1), 0.4, 0.7, 0, 0.4), colour, light))
     front, through, both = (n.add("ShaderNodeBsdfDiffuse"), n.add("ShaderNodeBsdfTranslucent"),
                             n.add("ShaderNodeMixShader"))
     n.link(colour, front.inputs["Color"])
