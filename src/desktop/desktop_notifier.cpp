@@ -16,13 +16,19 @@ const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString launchAction = QStringLiteral("LAUNCH"), ignoreAction = QStringLiteral("IGNORE"),
               defaultAction = QStringLiteral("default");
-constexpr uchar criticalUrgency = 2;
+constexpr uchar normalUrgency = 1, criticalUrgency = 2;
 constexpr int neverExpires = 0;
 constexpr uint dismissedByUser = 2;      // a reason of NotificationClosed
 constexpr int answerCooldownTime = 2000; // milliseconds
 
 QDBusMessage call(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
+}
+
+QDBusMessage closeCall(uint id) {
+    QDBusMessage message = call(QStringLiteral("CloseNotification"));
+    message << id;
+    return message;
 }
 
 /// Removes control characters, which some services cannot show.
@@ -98,7 +104,7 @@ void DesktopNotifier::askForCapabilities() {
     });
 }
 
-void DesktopNotifier::post(const DetectionNotification& notification) {
+void DesktopNotifier::post(const Notification& notification) {
     if (!bus_.isConnected())
         return;
     const auto [entry, isNew] = posted_.try_emplace(notification.identifier);
@@ -111,7 +117,7 @@ void DesktopNotifier::post(const DetectionNotification& notification) {
     }
 }
 
-void DesktopNotifier::send(const DetectionNotification& notification, Posted& posted) {
+void DesktopNotifier::send(const Notification& notification, Posted& posted) {
     if (posted.id > 0 && posted.alert != notification.alert)
         close(std::exchange(posted.id, 0)); // its actions must not answer the new alert
     posted.alert = notification.alert;
@@ -120,7 +126,8 @@ void DesktopNotifier::send(const DetectionNotification& notification, Posted& po
         body = body.toHtmlEscaped();
     QDBusMessage message = call(QStringLiteral("Notify"));
     message << QStringLiteral("Velmora") << posted.id << QStringLiteral("org.velmora.Velmora")
-            << printable(notification.title) << body << actions() << hintsFor(notification) << neverExpires;
+            << printable(notification.title) << body << actionsFor(notification) << hintsFor(notification)
+            << neverExpires;
     auto* reply = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this,
             [this, reply, identifier = notification.identifier] {
@@ -147,38 +154,51 @@ void DesktopNotifier::onPosted(const QString& identifier, uint id) {
         posted_.erase(entry);
 }
 
-void DesktopNotifier::withdrawAll() {
-    for (auto entry = posted_.begin(); entry != posted_.end();) {
-        if (entry->second.id == 0) {
-            entry->second.withdrawn = true; // it is closed as soon as its id is known
-            entry->second.next.reset();
-            ++entry;
-        } else {
-            close(entry->second.id);
-            entry = posted_.erase(entry);
-        }
+void DesktopNotifier::withdraw(const QString& identifier) {
+    const auto entry = posted_.find(identifier);
+    if (entry == posted_.end())
+        return;
+    if (entry->second.id == 0) {
+        entry->second.withdrawn = true; // it is closed as soon as its id is known
+        entry->second.next.reset();
+        return;
     }
+    close(entry->second.id);
+    posted_.erase(entry);
+}
+
+DesktopNotifier::~DesktopNotifier() {
+    constexpr int longestWait = 250; // milliseconds
+    for (const auto& [identifier, posted] : posted_)
+        if (posted.id > 0)
+            bus_.call(closeCall(posted.id), QDBus::Block, longestWait);
 }
 
 void DesktopNotifier::close(uint id) {
-    QDBusMessage message = call(QStringLiteral("CloseNotification"));
-    message << id;
-    bus_.asyncCall(message);
+    bus_.asyncCall(closeCall(id));
 }
 
 /// Capabilities are unknown until the service replies; assume that it supports actions, as most do.
-QStringList DesktopNotifier::actions() const {
+QStringList DesktopNotifier::actionsFor(const Notification& notification) const {
     if (capabilities_ && !capabilities_->contains(QStringLiteral("actions")))
         return {};
-    return {defaultAction, tr("Open Velmora"), launchAction, tr("Launch drone"), ignoreAction, tr("Ignore")};
+    QStringList actions{defaultAction, tr("Open Velmora")};
+    if (notification.alert)
+        actions << launchAction << tr("Launch drone") << ignoreAction << tr("Ignore");
+    return actions;
 }
 
-QVariantMap DesktopNotifier::hintsFor(const DetectionNotification& notification) const {
-    QVariantMap hints{{QStringLiteral("category"), QStringLiteral("x-velmora.detection")},
-                      {QStringLiteral("urgency"), QVariant::fromValue(criticalUrgency)},
-                      {QStringLiteral("resident"), true},
-                      {QStringLiteral("sound-name"), QStringLiteral("alarm-clock-elapsed")},
-                      {QStringLiteral("desktop-entry"), QStringLiteral("org.velmora.Velmora")}};
+QVariantMap DesktopNotifier::hintsFor(const Notification& notification) const {
+    QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("org.velmora.Velmora")}};
+    if (!notification.alert) {
+        hints.insert(QStringLiteral("category"), QStringLiteral("x-velmora.outage"));
+        hints.insert(QStringLiteral("urgency"), QVariant::fromValue(normalUrgency));
+        return hints;
+    }
+    hints.insert(QStringLiteral("category"), QStringLiteral("x-velmora.detection"));
+    hints.insert(QStringLiteral("urgency"), QVariant::fromValue(criticalUrgency));
+    hints.insert(QStringLiteral("resident"), true);
+    hints.insert(QStringLiteral("sound-name"), QStringLiteral("alarm-clock-elapsed"));
     if (const NotificationPicture picture = pictureOf_(notification.picture); !picture.pixels.isEmpty())
         hints.insert(QStringLiteral("image-data"), QVariant::fromValue(picture));
     return hints;
@@ -194,16 +214,15 @@ void DesktopNotifier::onActionInvoked(uint id, const QString& action) {
     const auto entry = find(id);
     if (entry == posted_.end() || !entry->second.answerCooldown.hasExpired())
         return;
-    const AlertId alert = entry->second.alert;
+    const std::optional<AlertId> alert = entry->second.alert;
     const QString token = entry->second.token;
-    if (action == launchAction || action == ignoreAction)
+    const bool answers = alert && (action == launchAction || action == ignoreAction);
+    if (answers)
         entry->second.answerCooldown.setRemainingTime(answerCooldownTime);
     if (action != ignoreAction)
         emit windowRequested(token);
-    if (action == launchAction)
-        emit answered(Command::approve, alert);
-    else if (action == ignoreAction)
-        emit answered(Command::ignore, alert);
+    if (answers)
+        emit answered(action == launchAction ? Command::approve : Command::ignore, *alert);
 }
 
 void DesktopNotifier::onActivationToken(uint id, const QString& token) {
@@ -218,7 +237,7 @@ void DesktopNotifier::onNotificationClosed(uint id, uint reason) {
         return;
     const Posted closed = entry->second;
     posted_.erase(entry);
-    if (reason == dismissedByUser && closed.answerCooldown.hasExpired())
+    if (reason == dismissedByUser && closed.alert && closed.answerCooldown.hasExpired())
         emit windowRequested(closed.token);
 }
 

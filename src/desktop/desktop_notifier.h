@@ -30,9 +30,11 @@ class DesktopNotifier final : public QObject, public Notifier {
 public:
     /// `pictureOf` looks up artwork by name; a picture without pixels is not sent.
     DesktopNotifier(const QDBusConnection& bus, std::function<NotificationPicture(const QString&)> pictureOf);
+    /// Closes every notification posted. Waits for the service for at most a quarter of a second each.
+    ~DesktopNotifier() override;
 
-    void post(const DetectionNotification& notification) override;
-    void withdrawAll() override;
+    void post(const Notification& notification) override;
+    void withdraw(const QString& identifier) override;
 
 signals:
     /// The owner chose "Launch drone" or "Ignore" in the notification of this alert.
@@ -49,22 +51,22 @@ private slots:
 private:
     /// A notification that this process has sent.
     struct Posted {
-        AlertId alert;                    ///< the alert that its actions answer
+        std::optional<AlertId> alert;     ///< the alert that its actions answer
         uint id = 0;                      ///< 0 until the service has replied
         bool withdrawn = false;           ///< withdrawn before the service replied
         QDeadlineTimer answerCooldown{0}; ///< further actions are ignored until it expires
         QString token;
-        std::optional<DetectionNotification> next; ///< replaces it as soon as its id is known
+        std::optional<Notification> next; ///< replaces it as soon as its id is known
     };
 
     void askForCapabilities();
     void onOwnerChanged(const QString& service, const QString& before, const QString& now);
-    void send(const DetectionNotification& notification, Posted& posted);
+    void send(const Notification& notification, Posted& posted);
     /// Handles the reply to Notify; `id` is 0 if the service refused the notification.
     void onPosted(const QString& identifier, uint id);
     void close(uint id);
-    QVariantMap hintsFor(const DetectionNotification& notification) const;
-    QStringList actions() const;
+    QVariantMap hintsFor(const Notification& notification) const;
+    QStringList actionsFor(const Notification& notification) const;
     std::map<QString, Posted>::iterator find(uint id);
 
     QDBusConnection bus_;

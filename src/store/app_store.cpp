@@ -20,16 +20,6 @@ constexpr double longestTick = 5;         // seconds; a longer gap, for example 
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
 
-DetectionNotification detectionNotification(const LiveState& state) {
-    const CameraInfo* camera = findCamera(state.site, state.visitor->cameraId);
-    const QString name = camera ? QString::fromStdString(camera->name) : QStringLiteral("a camera");
-    return {QString::fromStdString(state.missionId.value_or("det")),
-            QStringLiteral("Someone you don't know is at the ") + name.toLower(),
-            QStringLiteral("Launch the drone to keep an eye on them?"),
-            camera ? QString::fromStdString(camera->snapshot) : QString(),
-            alertId(state).value_or(AlertId{})};
-}
-
 QString notWritten(const QString& path, const QString& reason) {
     return AppStore::tr("%1 could not be written: %2.").arg(path, reason);
 }
@@ -57,9 +47,11 @@ AppStore::AppStore(Environment environment, QObject* parent)
       history_(files_),
       sim_(LiveState::initial(), settings_, environment_.random),
       session_(environment_.link, environment_.clock, settings_, this),
+      notifications_(environment_.notifier),
       state_(sim_.state),
       showWelcome_(!settings_.onboarded),
       lastTick_(environment_.clock()) {
+    outageWatch_.restart(lastTick_);
     if (history_.entries().empty())
         history_.add(rehearsedHistory(settings_, environment_.clock(), environment_.random));
     sim_.onFinish = [this](const MissionRecord& finished) {
@@ -93,6 +85,18 @@ void AppStore::tick() {
     else
         advanceSimulator(now, elapsed);
     followPhase();
+    followOutage(now);
+}
+
+void AppStore::followOutage(Date now) {
+    using Observation = OutageWatch::Observation;
+    outageWatch_.observe(settings_.linkMode
+                             ? std::optional(Observation{knownState(), freshness(), lastAnswerAt()})
+                             : std::nullopt,
+                         now);
+    notifications_.showOutage(outage(), settings_);
+    if (std::exchange(lastOutage_, outage()) != outage())
+        emit outageChanged();
 }
 
 void AppStore::advanceSimulator(Date now, double elapsed) {
@@ -117,26 +121,19 @@ void AppStore::followPhase() {
 }
 
 void AppStore::alertReplaced() {
-    environment_.notifier.withdrawAll();
-    notifyDetection();
+    notifications_.postAlert(state_, settings_);
     emit attentionRequested();
 }
 
 void AppStore::phaseChanged(Phase from, Phase to) {
     if (to == Phase::awaitingApproval) {
-        notifyDetection();
+        notifications_.postAlert(state_, settings_);
         emit attentionRequested();
     }
     if (from == Phase::awaitingApproval)
-        environment_.notifier.withdrawAll();
+        notifications_.withdrawAlert();
     if (to == Phase::launching)
         setSection(Section::live);
-}
-
-void AppStore::notifyDetection() {
-    if (!settings_.notifyMac || !state_.visitor)
-        return;
-    environment_.notifier.post(detectionNotification(state_));
 }
 
 std::optional<AlertId> AppStore::shownAlert() const {
@@ -254,8 +251,10 @@ void AppStore::setSettings(const Settings& settings) {
     emit settingsChanged();
     if (leavesLink)
         setState(sim_.state); // before the session reports the state as live
-    if (session_.setSettings(settings_))
-        environment_.notifier.withdrawAll();
+    if (session_.setSettings(settings_)) {
+        notifications_.withdrawAlert();
+        outageWatch_.restart(now());
+    }
 }
 
 void AppStore::setSection(Section section) {

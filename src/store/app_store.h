@@ -5,7 +5,7 @@
 #include "store/history.h"
 #include "store/link_session.h"
 #include "store/login_item.h"
-#include "store/notifier.h"
+#include "store/notifications.h"
 
 #include <QObject>
 #include <QTimer>
@@ -53,6 +53,8 @@ public:
     Freshness freshness() const { return session_.freshness(); }
     /// When the server last answered with a state; nullopt in demo mode and before its first answer.
     const std::optional<Date>& lastAnswerAt() const { return session_.lastAnswerAt(); }
+    /// What keeps the armed system from watching in link mode; nullopt while all is well.
+    const std::optional<Outage>& outage() const { return outageWatch_.outage(); }
     bool showWelcome() const { return showWelcome_; }
     /// The directory of settings.json and history.json.
     const QDir& dataDirectory() const { return environment_.dataDirectory; }
@@ -123,6 +125,7 @@ signals:
     void showWelcomeChanged();
     /// A new alert waits for the owner's answer.
     void attentionRequested();
+    void outageChanged();
     void pendingCommandChanged();
     /// A command got no reply within three seconds; `reason` is in words for the owner. It is empty if the
     /// server replied but no state showed the effect of the command within five seconds.
@@ -135,7 +138,7 @@ private:
     void followPhase();
     void phaseChanged(Phase from, Phase to);
     void alertReplaced();
-    void notifyDetection();
+    void followOutage(Date now);
 
     Environment environment_;
     DataFiles files_;
@@ -143,6 +146,9 @@ private:
     History history_;
     Simulator sim_;
     LinkSession session_;
+    Notifications notifications_;
+    OutageWatch outageWatch_;
+    std::optional<Outage> lastOutage_;
     LiveState state_;
     Section section_ = Section::overview;
     std::optional<RecordKey> selectedRecord_;

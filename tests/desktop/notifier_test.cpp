@@ -131,26 +131,53 @@ TEST_F(NotifierTest, DismissingAnUnansweredAlertShowsTheWindow) {
 
 TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
     const uint id = post().id;
-    notifier.withdrawAll();
+    notifier.withdraw("M-1");
     EXPECT_TRUE(waitUntil([&] { return service().closed == std::vector{id}; }));
     service().invoke(id, "LAUNCH");
     settle();
     EXPECT_TRUE(answers.empty());
 
-    notifier.post({"M-2", "Title", "Body", {}, {}}); // withdrawn before its id is known
-    notifier.withdrawAll();
+    notifier.post({"M-2", "Title", "Body", {}, AlertId{}}); // withdrawn before its id is known
+    notifier.withdraw("M-2");
+    EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 2; }));
+}
+
+TEST_F(NotifierTest, AnOutageIsNotUrgentAndAnswersNothing) {
+    notifier.post({"outage", "Velmora can't reach your server", "No answer since 14:02."});
+    ASSERT_TRUE(waitUntil([&] { return !service().shown.empty(); }));
+    const auto shown = service().shown.back();
+    EXPECT_EQ(shown.actions, QStringList({"default", "Open Velmora"}));
+    EXPECT_EQ(shown.hints["urgency"].toInt(), 1);
+    EXPECT_FALSE(shown.hints.contains("resident") || shown.hints.contains("sound-name"));
+    settle();
+    service().invoke(shown.id, "LAUNCH"); // by a service that sends what it was not given
+    service().invoke(shown.id, "default");
+    service().dismiss(shown.id, 2);
+    settle();
+    EXPECT_TRUE(answers.empty());
+    EXPECT_FALSE(tokens.isEmpty());
+}
+
+TEST_F(NotifierTest, NoNotificationOutlivesTheProgram) {
+    auto program = std::make_unique<DesktopNotifier>(QDBusConnection::sessionBus(), pictureOf);
+    service();
+    program->post({"M-1", "Title", "Body", {}, AlertId{}});
+    program->post({"outage", "Title", "Body"});
+    ASSERT_TRUE(waitUntil([&] { return service().shown.size() == 2; }));
+    settle();
+    program.reset();
     EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 2; }));
 }
 
 TEST_F(NotifierTest, WorksAfterAServiceThatRefusedOrRestarted) {
     service().refuses = true;
-    notifier.post({"M-1", "Title", "Body", {}, {}});
+    notifier.post({"M-1", "Title", "Body", {}, AlertId{}});
     settle();
     service().refuses = false;
     const uint id = post().id;
     service_.reset();
-    notifier.post({"M-2", "Title", "Body", {}, {}}); // while no service runs
-    notifier.withdrawAll();
+    notifier.post({"M-2", "Title", "Body", {}, AlertId{}}); // while no service runs
+    notifier.withdraw("M-2");
     service({"body"});
     service().invoke(id, "LAUNCH"); // an id of the old service
     settle();
@@ -161,10 +188,10 @@ TEST_F(NotifierTest, WorksAfterAServiceThatRefusedOrRestarted) {
 
 TEST_F(NotifierTest, DoesNotWaitForAHangingService) {
     service().hangs = true;
-    notifier.post({"M-1", "Title", "Body", {}, {}});
+    notifier.post({"M-1", "Title", "Body", {}, AlertId{}});
     ASSERT_TRUE(waitUntil([&] { return service().held.size() == 1; }));
-    notifier.post({"M-1", "Later title", "Body", {}, {}});
-    notifier.withdrawAll();
+    notifier.post({"M-1", "Later title", "Body", {}, AlertId{}});
+    notifier.withdraw("M-1");
     service().hangs = false;
     service().answerHeld();
     EXPECT_TRUE(waitUntil([&] { return service().closed.size() == 1; })) << "closed after the late reply";
@@ -173,8 +200,8 @@ TEST_F(NotifierTest, DoesNotWaitForAHangingService) {
 
 TEST_F(NotifierTest, DoesNothingWithoutABus) {
     DesktopNotifier alone(QDBusConnection(QStringLiteral("nowhere")), pictureOf);
-    alone.post({"M-1", "Title", "Body", {}, {}});
-    alone.withdrawAll();
+    alone.post({"M-1", "Title", "Body"});
+    alone.withdraw("M-1");
 }
 
 TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
@@ -193,14 +220,14 @@ TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
 class RealServiceTest : public NotifierTest {
 protected:
     void expectBothAnswers(Dunst& real) {
-        notifier.post({"M-1", "At the <driveway>", "Launch?", {}, {}});
+        notifier.post({"M-1", "At the <driveway>", "Launch?", {}, AlertId{}});
         ASSERT_TRUE(real.choose("Launch drone"));
         EXPECT_TRUE(waitUntil([&] { return answers == std::vector{Command::approve}; }));
-        notifier.withdrawAll();
-        notifier.post({"M-2", "At the garden", "Launch?", {}, {}});
+        notifier.withdraw("M-1");
+        notifier.post({"M-2", "At the garden", "Launch?", {}, AlertId{}});
         ASSERT_TRUE(real.choose("Ignore"));
         EXPECT_TRUE(waitUntil([&] { return answers.size() == 2 && answers.back() == Command::ignore; }));
-        notifier.withdrawAll();
+        notifier.withdraw("M-2");
         answers.clear();
     }
 
@@ -210,11 +237,11 @@ protected:
 TEST_F(RealServiceTest, DunstReportsAnswersAndMayDieWithANotificationShown) {
     auto dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
-    notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
+    notifier.post({"M-3", "At the gate", "Launch?", {}, AlertId{}});
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 1; }));
     dunst.reset();
     EXPECT_TRUE(waitUntil([] { return !Dunst::isRunning(); }));
-    notifier.post({"M-3", "At the gate", "Launch?", {}, {}});
+    notifier.post({"M-3", "At the gate", "Launch?", {}, AlertId{}});
     dunst = std::make_unique<Dunst>(display);
     expectBothAnswers(*dunst);
     EXPECT_TRUE(waitUntil([&] { return dunst->shown() == 0; }));

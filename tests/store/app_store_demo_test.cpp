@@ -46,7 +46,7 @@ TEST_F(StoreTest, AnApprovedVisitFliesLandsAndIsSaved) {
     EXPECT_EQ(store().section(), Section::overview) << "the section changes with the next tick";
     pass(0.05);
     EXPECT_EQ(store().section(), Section::live);
-    EXPECT_EQ(notifier.withdrawals, 1);
+    EXPECT_EQ(notifier.withdrawn, QStringList{"M-42"});
 
     pass(40);
     store().send(Command::returnHome);

@@ -44,7 +44,7 @@ TEST_F(ClockFaultsTest, AnAlertExpiresByTheWallClockAfterAnyJump) {
         EXPECT_EQ(newest().outcome, Outcome::expired);
         EXPECT_TRUE(deadline <= newest().end && newest().end <= now);
         EXPECT_EQ(store().history().size(), missions + 1);
-        EXPECT_EQ(notifier.withdrawals, static_cast<int>(notifier.posted.size()));
+        EXPECT_EQ(notifier.withdrawn.size(), std::ssize(notifier.posted));
     }
 }
 

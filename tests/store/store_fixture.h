@@ -30,11 +30,11 @@ public:
 
 class FakeNotifier final : public Notifier {
 public:
-    void post(const DetectionNotification& notification) override { posted.push_back(notification); }
-    void withdrawAll() override { ++withdrawals; }
+    void post(const Notification& notification) override { posted.push_back(notification); }
+    void withdraw(const QString& identifier) override { withdrawn.append(identifier); }
 
-    std::vector<DetectionNotification> posted;
-    int withdrawals = 0;
+    std::vector<Notification> posted;
+    QStringList withdrawn; ///< identifiers
 };
 
 class FakeLoginItem final : public LoginItem {

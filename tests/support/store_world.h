@@ -22,8 +22,8 @@ public:
 /// A desktop without notifications.
 class SilentNotifier final : public Notifier {
 public:
-    void post(const DetectionNotification&) override {}
-    void withdrawAll() override {}
+    void post(const Notification&) override {}
+    void withdraw(const QString&) override {}
 };
 
 /// A desktop that starts nothing at login.

@@ -157,6 +157,7 @@ TEST_F(ApprovalCardTest, TellsWhyFlyingIsRisky) {
     alert_.windKmh = 30.4;
     alert_.drone.battery = 30;
     serveAlert();
+    outwaitGuard();
     EXPECT_TRUE(shows("Wind, 30 km/h, over your limit of 30"));
     EXPECT_TRUE(shows("Battery, 30 %, under your return level of 30"));
     EXPECT_TRUE(find(launch)->isEnabled()) << "the server decides";

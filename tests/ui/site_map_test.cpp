@@ -299,8 +299,9 @@ TEST_P(MapCaptions, TheVisitorsLabelStaysClearOfTheDroneAndSeldomChangesSides) {
             scene.labelSide = side;
             const QRectF label = visitorCaption(scene, view, side).box();
             ASSERT_FALSE(label.intersects(glyph()));
-            if (airborne(scene.state.phase))
+            if (airborne(scene.state.phase)) {
                 ASSERT_FALSE(label.intersects(heightCaption(scene, view).box()));
+            }
         });
         EXPECT_LE(changes, 4);
     }

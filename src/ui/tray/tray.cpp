@@ -16,9 +16,11 @@ namespace {
 const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
-QString iconFor(Phase phase) {
+QString iconFor(Phase phase, bool outage) {
     if (phase == Phase::awaitingApproval)
         return QStringLiteral(":/icons/app/tray-waiting.svg");
+    if (outage)
+        return QStringLiteral(":/icons/app/tray-outage.svg");
     return airborne(phase) ? QStringLiteral(":/icons/app/tray-airborne.svg")
                            : QStringLiteral(":/icons/app/tray-docked.svg");
 }
@@ -54,6 +56,7 @@ Tray::Tray(AppStore& store, QObject* parent)
     connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::pendingCommandChanged, this, &Tray::refresh);
+    connect(&store_, &AppStore::outageChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
         if (icon_ && !QApplication::activeWindow()) // an active window shows the failure itself
             icon_->showMessage(tr("Velmora"), failureText(command, reason), QSystemTrayIcon::Warning);
@@ -146,10 +149,14 @@ void Tray::refresh() {
     setText(arming_, isArmed() ? tr("Disarm") : tr("Arm"));
     if (!icon_)
         return;
-    const QString tip = store_.settings().linkMode ? status + '\n' + store_.linkStatus().text() : status;
-    if (icon_->toolTip() != tip)
-        icon_->setToolTip(tip);
-    const QString icon = iconFor(phase);
+    QStringList tip{status};
+    if (store_.settings().linkMode)
+        tip.append(store_.linkStatus().text());
+    if (store_.outage())
+        tip.append(outageTitle(*store_.outage()));
+    if (icon_->toolTip() != tip.join('\n'))
+        icon_->setToolTip(tip.join('\n'));
+    const QString icon = iconFor(phase, store_.outage().has_value());
     if (icon == shownIcon_)
         return;
     shownIcon_ = icon;

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "model/freshness.h"
+#include "model/live_state.h"
+
+#include <map>
+#include <optional>
+#include <set>
+
+namespace velmora {
+
+/// What keeps the system from watching although it is armed: a silent server, or offline cameras.
+struct Outage {
+    bool serverIsSilent = false;
+    std::map<std::string, std::string> cameras; ///< names of the offline cameras by id, if the server answers
+    Date since;                                 ///< the server's last answer, or when the first camera failed
+
+    bool operator==(const Outage&) const = default;
+};
+
+/// Finds outages: a server that has been silent for a minute, a camera that has been offline for five. In the
+/// first half minute after the start and after a suspend no new outage counts, because the network may still
+/// be coming up.
+class OutageWatch {
+public:
+    /// What is known at one moment in link mode.
+    struct Observation {
+        const LiveState* known = nullptr; ///< null until the server has answered
+        Freshness freshness = Freshness::unknown;
+        std::optional<Date> lastAnswerAt;
+    };
+
+    /// Call about twenty times a second; nullopt in demo mode.
+    void observe(const std::optional<Observation>& observation, Date now);
+    /// Forgets everything: another server, or the start.
+    void restart(Date now);
+
+    /// nullopt while all is well.
+    const std::optional<Outage>& outage() const { return outage_; }
+
+private:
+    void followCameras(const Observation& observation, Date now);
+    std::optional<Outage> find(const Observation& observation, Date now) const;
+
+    Date startedAt_, quietUntil_, lastObserved_;
+    std::map<std::string, Date> offlineSince_; ///< by camera id
+    std::optional<Outage> outage_;
+};
+
+} // namespace velmora
