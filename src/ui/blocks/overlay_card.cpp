@@ -17,18 +17,6 @@ namespace {
 
 constexpr double initialScale = 0.98; // of the card when it starts to open
 
-/// Draws a soft shadow from nested translucent rectangles. `offset` and `blur` are in pixels.
-void paintShadow(QPainter& painter, const QRectF& card, double offset, double blur, double opacity) {
-    constexpr int steps = 16;
-    const QColor share = SB::faded(SB::navy, 1 - std::pow(1 - opacity, 1.0 / steps));
-    for (int step = 0; step < steps; ++step) {
-        const double grown = blur * (0.5 - static_cast<double>(step) / steps);
-        const double radius = std::max(Measure::overlayRadius + grown, 2.0);
-        fillRounded(painter, card.translated(0, offset).adjusted(-grown, -grown, grown, grown), radius,
-                    share);
-    }
-}
-
 /// The card's background with rounded corners.
 class Surface : public QWidget {
 public:
@@ -154,8 +142,8 @@ void OverlayCard::paintEvent(QPaintEvent*) {
         painter.scale(scale, scale);
         painter.translate(-center);
     }
-    paintShadow(painter, card_->geometry(), 24, 64, 0.38);
-    paintShadow(painter, card_->geometry(), 2, 8, 0.2);
+    paintShadow(painter, card_->geometry(), Measure::overlayRadius, {24, 64, 0.38});
+    paintShadow(painter, card_->geometry(), Measure::overlayRadius, {2, 8, 0.2});
     if (moving)
         painter.drawPixmap(card_->pos(), picture_);
 }

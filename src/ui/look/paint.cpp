@@ -1,5 +1,7 @@
 #include "ui/look/paint.h"
 
+#include "ui/look/tokens.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -44,6 +46,17 @@ void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& 
     prepare(painter, fill, QPen(border, width));
     const double radius = (diameter - width) / 2;
     painter.drawEllipse(center, radius, radius);
+}
+
+/// Nested translucent rectangles.
+void paintShadow(QPainter& painter, const QRectF& rect, double radius, const Shadow& shadow) {
+    constexpr int steps = 16;
+    const QColor share = SB::faded(SB::navy, 1 - std::pow(1 - shadow.opacity, 1.0 / steps));
+    for (int step = 0; step < steps; ++step) {
+        const double grown = shadow.blur * (0.5 - static_cast<double>(step) / steps);
+        fillRounded(painter, rect.translated(0, shadow.offset).adjusted(-grown, -grown, grown, grown),
+                    std::max(radius + grown, 2.0), share);
+    }
 }
 
 void paintIcon(QPainter& painter, QPointF center, double side, Icon icon, const QColor& color) {

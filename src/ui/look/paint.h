@@ -18,6 +18,15 @@ void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& 
 void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill, const QColor& border,
               double width = 1);
 
+/// A soft shadow: its distance below and its blur in pixels, and its opacity.
+struct Shadow {
+    double offset;
+    double blur;
+    double opacity;
+};
+/// Draws the shadow around a rectangle with round corners.
+void paintShadow(QPainter& painter, const QRectF& rect, double radius, const Shadow& shadow);
+
 /// Draws the icon in one colour into a square around this point.
 void paintIcon(QPainter& painter, QPointF center, double side, Icon icon, const QColor& color);
 

@@ -13,6 +13,7 @@ namespace velmora {
 namespace {
 
 constexpr double frameOpacity = 0.55;
+constexpr Shadow shadow{2, 10, 0.45};
 constexpr double staleWords = 0.75;
 constexpr double wordsTop = 2; // below the map, pixels
 
@@ -36,17 +37,19 @@ void AlertInset::setState(const LiveState& state, const Settings& settings, Fres
 }
 
 void AlertInset::setMapSize(QSize size) {
-    setFixedSize(size + QSize(0, Measure::insetWords));
-    map_->setGeometry(QRect({0, 0}, size).adjusted(1, 1, -1, 0)); // inside the frame
+    setFixedSize(size + QSize(2 * margin, 2 * margin + Measure::insetWords));
+    map_->setGeometry(QRect({margin, margin}, size).adjusted(1, 1, -1, 0)); // inside the frame's line
 }
 
 void AlertInset::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    fillRounded(painter, rect(), Measure::insetRadius, SB::navy, SB::faded(SB::dTitle, frameOpacity));
+    paintShadow(painter, frame(), Measure::insetRadius, shadow);
+    fillRounded(painter, frame(), Measure::insetRadius, SB::navy, SB::faded(SB::dTitle, frameOpacity));
     const QColor quiet = SB::faded(SB::dLabel, staleWords);
     const QColor place = inside_ ? SB::dTeal : SB::lilac;
-    QRectF line(Measure::insetWordsIndent, height() - Measure::insetWords + wordsTop,
-                width() - 2 * Measure::insetWordsIndent, Type::inset.line);
+    QRectF line(frame().left() + Measure::insetWordsIndent,
+                frame().bottom() + 1 - Measure::insetWords + wordsTop,
+                frame().width() - 2 * Measure::insetWordsIndent, Type::inset.line);
     drawText(painter, line, distance_, Type::insetStrong, stale_ ? quiet : SB::dTitle, Qt::AlignLeft);
     line.translate(0, Type::inset.line);
     drawText(painter, line, place_, Type::inset, stale_ ? quiet : place, Qt::AlignLeft);

@@ -21,10 +21,15 @@ public:
     void setState(const LiveState& state, const Settings& settings, Freshness freshness);
     void setMapSize(QSize size);
 
+    /// Room for the shadow around the frame, pixels.
+    static constexpr int margin = 8;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRect frame() const { return rect().adjusted(margin, margin, -margin, -margin); }
+
     SiteMap* map_;
     QString distance_;
     QString place_;

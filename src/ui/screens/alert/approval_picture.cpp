@@ -70,13 +70,13 @@ ApprovalPicture::ApprovalPicture(QWidget* parent)
     picture_->setSquareBottom(true);
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
     bar_->setFixedHeight(Measure::approvalBar);
-    constexpr int beyond = Measure::chipInset - Measure::insetEdge;
+    constexpr int edge = Measure::insetEdge - AlertInset::margin;
+    constexpr int beyond = Measure::chipInset - edge;
     auto* caption = new QVBoxLayout;
     caption->setContentsMargins(beyond, beyond, 0, 0);
     caption->addWidget(chip_);
     auto* onPicture = new QGridLayout(picture_);
-    onPicture->setContentsMargins(Measure::insetEdge, Measure::insetEdge, Measure::insetEdge,
-                                  Measure::insetEdge);
+    onPicture->setContentsMargins(edge, edge, edge, edge);
     onPicture->addLayout(caption, 0, 0, Qt::AlignTop | Qt::AlignLeft);
     onPicture->addWidget(inset_, 0, 0, Qt::AlignBottom | Qt::AlignRight);
     auto* column = bareLayout<QVBoxLayout>(this);
