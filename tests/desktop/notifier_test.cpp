@@ -143,6 +143,7 @@ TEST_F(NotifierTest, AWithdrawnNotificationCloses) {
 }
 
 TEST_F(NotifierTest, AnOutageIsNotUrgentAndAnswersNothing) {
+    service();
     notifier.post({"outage", "Velmora can't reach your server", "No answer since 14:02."});
     ASSERT_TRUE(waitUntil([&] { return !service().shown.empty(); }));
     const auto shown = service().shown.back();
@@ -159,8 +160,8 @@ TEST_F(NotifierTest, AnOutageIsNotUrgentAndAnswersNothing) {
 }
 
 TEST_F(NotifierTest, NoNotificationOutlivesTheProgram) {
-    auto program = std::make_unique<DesktopNotifier>(QDBusConnection::sessionBus(), pictureOf);
     service();
+    auto program = std::make_unique<DesktopNotifier>(QDBusConnection::sessionBus(), pictureOf);
     program->post({"M-1", "Title", "Body", {}, AlertId{}});
     program->post({"outage", "Title", "Body"});
     ASSERT_TRUE(waitUntil([&] { return service().shown.size() == 2; }));
