@@ -89,9 +89,9 @@ void Notifications::showOutage(const std::optional<Outage>& outage, const Settin
         notifier_.withdraw(outageIdentifier);
     if (!wanted)
         return;
-    const std::size_t before = told_.size();
-    told_.merge(keysOf(*wanted));
-    if (told_.size() > before)
+    const std::size_t before = reported_.size();
+    reported_.merge(keysOf(*wanted));
+    if (reported_.size() > before)
         notifier_.post({outageIdentifier, outageTitle(*wanted), outageBody(*wanted)});
 }
 
@@ -100,7 +100,7 @@ void Notifications::forgetEnded(const std::optional<Outage>& outage) {
     if (outage && outage->serverIsSilent)
         return;
     const auto lasting = outage ? keysOf(*outage) : std::set<std::string>();
-    std::erase_if(told_, [&](const std::string& key) { return !lasting.contains(key); });
+    std::erase_if(reported_, [&](const std::string& key) { return !lasting.contains(key); });
 }
 
 } // namespace velmora

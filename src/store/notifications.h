@@ -29,8 +29,9 @@ private:
 
     Notifier& notifier_;
     QString alert_;                ///< identifier of the alert posted; empty for none
-    std::optional<Outage> outage_; ///< the one that stands
-    std::set<std::string> told_;   ///< ids of the offline cameras posted, and the silent server
+    std::optional<Outage> outage_; ///< the one that is posted
+    std::set<std::string>
+        reported_; ///< ids of the offline cameras posted; an empty text for the silent server
 };
 
 } // namespace velmora

@@ -77,7 +77,7 @@ TEST_F(AnswerTest, AnswerTakesOnlyAnswersAndSendOnlyFlightCommands) {
     EXPECT_EQ(link.posts.size(), 1U) << "flight commands are always sent";
 }
 
-/// While an answer is pending, nothing can be answered; each end of it is told once.
+/// While an answer is pending, nothing can be answered; each failure is reported once.
 TEST_F(AnswerTest, AnAnswerIsPendingUntilThePhaseMovesItFailsOrFiveSecondsHavePassed) {
     QStringList failures;
     QObject::connect(&store(), &AppStore::commandFailed, [&](Command command, const QString& reason) {

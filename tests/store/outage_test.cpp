@@ -40,7 +40,7 @@ protected:
     const QString unreachable = QStringLiteral("Velmora can't reach your server");
 };
 
-TEST_F(OutageTest, ASilentServerIsToldOnceAfterAMinuteAndWithdrawnWhenItIsBack) {
+TEST_F(OutageTest, ReportsASilentServerOnceAfterAMinuteAndWithdrawsThatWhenItIsBack) {
     stayOffline(59);
     EXPECT_TRUE(titles().isEmpty());
     stayOffline(600);
@@ -55,7 +55,7 @@ TEST_F(OutageTest, ASilentServerIsToldOnceAfterAMinuteAndWithdrawnWhenItIsBack) 
     EXPECT_EQ(titles(), QStringList({unreachable, unreachable})) << "a second outage";
 }
 
-TEST_F(OutageTest, AnOfflineCameraIsToldByNameAfterFiveMinutes) {
+TEST_F(OutageTest, ReportsAnOfflineCameraByNameAfterFiveMinutes) {
     camera(2).online = false;
     serveFor(299);
     EXPECT_TRUE(titles().isEmpty());
@@ -65,22 +65,22 @@ TEST_F(OutageTest, AnOfflineCameraIsToldByNameAfterFiveMinutes) {
     serveFor(302);
     EXPECT_EQ(titles().back(), "2 cameras are offline");
     EXPECT_TRUE(notifier.posted.back().body.contains("Driveway, East garden"));
-    EXPECT_EQ(notifier.withdrawn.size(), 1) << "one stands at a time";
+    EXPECT_EQ(notifier.withdrawn.size(), 1) << "one at a time";
     camera(0).online = true;
     serveFor(1);
     EXPECT_EQ(notifier.withdrawn.size(), 2);
     stayOffline(61);
     serveFor(10);
-    EXPECT_EQ(titles().mid(2), QStringList{unreachable}) << "the camera was told before";
+    EXPECT_EQ(titles().mid(2), QStringList{unreachable}) << "the camera was reported before";
     EXPECT_EQ(outageTitle(*store().outage()), "East garden is offline");
 }
 
-TEST_F(OutageTest, NothingIsToldWhileDisarmedSwitchedOffOrInDemoMode) {
+TEST_F(OutageTest, ReportsNothingWhileDisarmedSwitchedOffOrInDemoMode) {
     Settings settings = store().settings();
     settings.notifyMac = false;
     store().setSettings(settings);
     stayOffline(90);
-    EXPECT_TRUE(store().outage()) << "the tray tells it";
+    EXPECT_TRUE(store().outage()) << "the tray shows it";
     EXPECT_TRUE(titles().isEmpty());
     server.armed = false;
     camera(1).online = false;
@@ -94,7 +94,7 @@ TEST_F(OutageTest, NothingIsToldWhileDisarmedSwitchedOffOrInDemoMode) {
     EXPECT_TRUE(titles().isEmpty());
 }
 
-TEST_F(OutageTest, TheFirstHalfMinuteAfterAStartOrASuspendTellsNothingNew) {
+TEST_F(OutageTest, ReportsNothingNewInTheFirstHalfMinuteAfterAStartOrASuspend) {
     tickAfter(8 * 3600); // suspended
     stayOffline(29);
     EXPECT_TRUE(titles().isEmpty()) << "the network may still be coming up";

@@ -76,7 +76,7 @@ TEST_F(ApprovalCardTest, AnAnswerIsSentOnceUntilTheServerActsOrFails) {
     EXPECT_FALSE(showsText("Try again")) << "a new press takes the message away";
     link.posts.back().done(LinkError{"The connection was refused"});
     EXPECT_TRUE(shows("The connection was refused. Try again."));
-    EXPECT_FALSE(shows("velmora did not confirm “Ignore”. The connection was refused.")) << "told once";
+    EXPECT_FALSE(shows("velmora did not confirm “Ignore”. The connection was refused.")) << "reported once";
     outwaitGuard();
     clickThrough(ignore);
     serve(mission(Phase::docked));

@@ -16,7 +16,7 @@ void setDirectory(const QDir& directory);
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
-/// Where the visitor stands in a built-in camera picture, as shares of its width and height; the middle for
+/// Where the visitor is in a built-in camera picture, as shares of its width and height; the middle for
 /// any other picture.
 QPointF focusOf(const QString& name);
 

@@ -58,7 +58,7 @@ MainWindow::MainWindow(AppStore& store)
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        if (!answersAlert(command) || !approval_->isOpen()) // the card tells the failure itself
+        if (!answersAlert(command) || !approval_->isOpen()) // the card shows the failure itself
             toast_->setMessage(failureText(command, reason));
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
