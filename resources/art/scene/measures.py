@@ -19,7 +19,7 @@ CAMERAS = {
 # Where each visitor stands in the picture of the camera that sees them, and which way they walk.
 VISITORS = {
     "driveway": ((31.0, 66.0), -39.0),
-    "front": ((82.0, 63.0), 155.0),
+    "front": ((79.95, 58.4), -125.0),
     "garden": ((103.0, 30.0), 68.0),
 }
 

@@ -25,13 +25,18 @@ def _limbs(name, joints, bones, material, levels=2):
     return thing
 
 
-def walker(x, y, toward, z=0.02, jacket=(0.075, 0.105, 0.18), size=1.0):
+def _cloth(name, colour):
+    return materials.cloth(f"{name} {colour}", colour, tuple(c * 0.6 for c in colour))
+
+
+def walker(x, y, toward, z=0.02, jacket=(0.075, 0.105, 0.18), trousers=(0.05, 0.055, 0.065),
+           shoes=(0.3, 0.29, 0.27), size=1.0):
     """Someone 1.8 m tall at plan place (x, y), walking towards `toward` degrees. The figure faces +x."""
-    coat = materials.cloth(f"Jacket {jacket}", jacket, tuple(c * 0.6 for c in jacket))
-    jeans = materials.cloth("Jeans", (0.05, 0.055, 0.065), (0.03, 0.034, 0.042))
+    coat = _cloth("Jacket", jacket)
+    jeans = _cloth("Trousers", trousers)
     skin = materials.plain("Skin", (0.48, 0.27, 0.18), 0.55)
     hair = materials.plain("Hair", (0.025, 0.016, 0.011), 0.7)
-    shoe = materials.plain("Shoes", (0.3, 0.29, 0.27), 0.6)
+    shoe = materials.plain(f"Shoes {shoes}", shoes, 0.6)
     parts = _dress(coat, jeans, skin) + _round_parts(coat, skin, hair, shoe)
     group = bpy.data.objects.new("Visitor", None)
     bpy.context.scene.collection.objects.link(group)
@@ -46,8 +51,8 @@ def walker(x, y, toward, z=0.02, jacket=(0.075, 0.105, 0.18), size=1.0):
 def _dress(coat, jeans, skin):
     return [
         _limbs("Trousers",
-               [((0, 0, 0.97), 0.13, 0.16), ((0.01, 0.095, 0.9), 0.095, 0.1), ((0.2, 0.1, 0.52), 0.07, 0.072),
-                ((0.27, 0.1, 0.1), 0.055, 0.055), ((0.01, -0.095, 0.9), 0.095, 0.1),
+               [((0, 0, 0.95), 0.1, 0.1), ((0.01, 0.095, 0.84), 0.09, 0.085), ((0.2, 0.1, 0.52), 0.07, 0.072),
+                ((0.29, 0.1, 0.06), 0.055, 0.055), ((0.01, -0.095, 0.84), 0.09, 0.085),
                 ((-0.06, -0.1, 0.5), 0.07, 0.072),
                 ((-0.36, -0.1, 0.17), 0.054, 0.054)],
                [(0, 1), (1, 2), (2, 3), (0, 4), (4, 5), (5, 6)], jeans),
@@ -55,9 +60,9 @@ def _dress(coat, jeans, skin):
                [((0.0, 0, 0.92), 0.135, 0.185), ((0.01, 0, 1.12), 0.125, 0.17), ((0.03, 0, 1.32), 0.135, 0.19),
                 ((0.035, 0, 1.45), 0.085, 0.13), ((0.045, 0, 1.53), 0.06, 0.065),
                 ((0.03, 0.2, 1.43), 0.075, 0.075), ((-0.07, 0.26, 1.17), 0.058, 0.058),
-                ((-0.08, 0.27, 1.0), 0.05, 0.05),
+                ((-0.075, 0.27, 0.93), 0.05, 0.05),
                 ((0.03, -0.2, 1.43), 0.075, 0.075), ((0.1, -0.26, 1.18), 0.058, 0.058),
-                ((0.26, -0.25, 1.05), 0.05, 0.05)],
+                ((0.31, -0.25, 1.02), 0.05, 0.05)],
                [(0, 1), (1, 2), (2, 3), (3, 4), (3, 5), (5, 6), (6, 7), (3, 8), (8, 9), (9, 10)], coat),
         _limbs("Neck", [((0.045, 0, 1.5), 0.055, 0.055), ((0.055, 0, 1.63), 0.055, 0.055)], [(0, 1)], skin),
     ]
@@ -70,6 +75,7 @@ def _round_parts(coat, skin, hair, shoe):
         ("Nose", (0.02, 0.014, 0.02), (0.185, 0, 1.665), skin),
         ("Left ear", (0.02, 0.012, 0.03), (0.08, 0.08, 1.675), skin),
         ("Right ear", (0.02, 0.012, 0.03), (0.08, -0.08, 1.675), skin),
+        ("Hem", (0.138, 0.18, 0.205), (0.01, 0, 0.97), coat),
         ("Hood", (0.09, 0.13, 0.07), (-0.03, 0, 1.51), coat),
         ("Left hand", (0.05, 0.03, 0.075), (-0.07, 0.27, 0.91), skin),
         ("Right hand", (0.06, 0.03, 0.06), (0.33, -0.25, 1.01), skin),
