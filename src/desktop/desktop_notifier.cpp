@@ -1,5 +1,6 @@
 #include "desktop/desktop_notifier.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -20,15 +21,10 @@ constexpr uchar normalUrgency = 1, criticalUrgency = 2;
 constexpr int neverExpires = 0;
 constexpr uint dismissedByUser = 2;      // a reason of NotificationClosed
 constexpr int answerCooldownTime = 2000; // milliseconds
+constexpr int longestWaitAtExit = 250;   // milliseconds
 
 QDBusMessage call(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
-}
-
-QDBusMessage closeCall(uint id) {
-    QDBusMessage message = call(QStringLiteral("CloseNotification"));
-    message << id;
-    return message;
 }
 
 /// Removes control characters, which some services cannot show.
@@ -167,15 +163,28 @@ void DesktopNotifier::withdraw(const QString& identifier) {
     posted_.erase(entry);
 }
 
+bool DesktopNotifier::isShown(const QString& identifier) const {
+    const auto entry = posted_.find(identifier);
+    return entry != posted_.end() && !entry->second.withdrawn;
+}
+
 DesktopNotifier::~DesktopNotifier() {
-    constexpr int longestWait = 250; // milliseconds
+    QStringList identifiers;
     for (const auto& [identifier, posted] : posted_)
-        if (posted.id > 0)
-            bus_.call(closeCall(posted.id), QDBus::Block, longestWait);
+        identifiers.append(identifier);
+    for (const QString& identifier : identifiers)
+        withdraw(identifier);
+    QDeadlineTimer deadline(longestWaitAtExit);
+    while (!posted_.empty() && !deadline.hasExpired()) // for ids that are not known yet
+        QCoreApplication::processEvents(QEventLoop::AllEvents, int(deadline.remainingTime()));
+    if (bus_.isConnected() && !identifiers.isEmpty()) // the reply shows that the messages before it were sent
+        bus_.call(call(QStringLiteral("GetCapabilities")), QDBus::Block, longestWaitAtExit);
 }
 
 void DesktopNotifier::close(uint id) {
-    bus_.asyncCall(closeCall(id));
+    QDBusMessage message = call(QStringLiteral("CloseNotification"));
+    message << id;
+    bus_.asyncCall(message);
 }
 
 /// Capabilities are unknown until the service replies; assume that it supports actions, as most do.

@@ -30,11 +30,12 @@ class DesktopNotifier final : public QObject, public Notifier {
 public:
     /// `pictureOf` looks up artwork by name; a picture without pixels is not sent.
     DesktopNotifier(const QDBusConnection& bus, std::function<NotificationPicture(const QString&)> pictureOf);
-    /// Closes every notification posted. Waits for the service for at most a quarter of a second each.
+    /// Closes every notification posted. Waits at most a quarter of a second for a slow service.
     ~DesktopNotifier() override;
 
     void post(const Notification& notification) override;
     void withdraw(const QString& identifier) override;
+    bool isShown(const QString& identifier) const override;
 
 signals:
     /// The owner chose "Launch drone" or "Ignore" in the notification of this alert.

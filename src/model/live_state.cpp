@@ -42,7 +42,7 @@ bool isOverPad(const LiveState& state) {
 std::optional<AlertId> alertId(const LiveState& state) {
     if (state.phase != Phase::awaitingApproval)
         return std::nullopt;
-    if (state.missionId)
+    if (state.missionId && !state.missionId->empty())
         return AlertId{state.missionId, {}, {}, {}};
     return AlertId{{},
                    state.missionStart,

@@ -90,12 +90,12 @@ void AppStore::tick() {
 
 void AppStore::followOutage(Date now) {
     using Observation = OutageWatch::Observation;
-    outageWatch_.observe(settings_.linkMode
-                             ? std::optional(Observation{knownState(), freshness(), lastAnswerAt()})
-                             : std::nullopt,
-                         now);
-    notifications_.showOutage(outage(), settings_);
-    if (std::exchange(lastOutage_, outage()) != outage())
+    const bool changed = outageWatch_.observe(
+        settings_.linkMode ? std::optional(Observation{knownState(), freshness(), lastAnswerAt()})
+                           : std::nullopt,
+        now);
+    notifications_.showOutage(outage(), settings_, now);
+    if (changed)
         emit outageChanged();
 }
 
@@ -111,13 +111,18 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
 
 /// Also compares the alerts, because a server can replace a waiting alert with another one between two polls.
 void AppStore::followPhase() {
-    const Phase before = std::exchange(lastPhase_, state_.phase);
-    const auto alert = alertId(state_);
+    const Phase before = std::exchange(lastPhase_, phase());
+    if (const auto alert = knownState() ? alertId(state_) : std::nullopt; alert != lastAlert_)
+        deadlineWasAhead_ = false;
+    deadlineWasAhead_ |= state_.approvalDeadline && *state_.approvalDeadline > now();
+    const auto alert = shownAlert();
     const bool anotherAlert = std::exchange(lastAlert_, alert) != alert;
-    if (state_.phase != before)
-        phaseChanged(before, state_.phase);
+    if (phase() != before)
+        phaseChanged(before, phase());
     else if (anotherAlert && alert)
         alertReplaced();
+    else if (anotherAlert)
+        notifications_.withdrawAlert();
 }
 
 void AppStore::alertReplaced() {
@@ -136,8 +141,16 @@ void AppStore::phaseChanged(Phase from, Phase to) {
         setSection(Section::live);
 }
 
+/// Over a live link the server decides when an alert is over.
 std::optional<AlertId> AppStore::shownAlert() const {
-    return knownState() ? alertId(*knownState()) : std::nullopt;
+    const bool isOver = freshness() == Freshness::stale && overdue();
+    return knownState() && !isOver ? alertId(state_) : std::nullopt;
+}
+
+std::optional<Seconds> AppStore::overdue() const {
+    if (!deadlineWasAhead_ || !state_.approvalDeadline || now() < *state_.approvalDeadline)
+        return std::nullopt;
+    return now() - *state_.approvalDeadline;
 }
 
 std::optional<AlertId> AppStore::waitingAlert() const {

@@ -74,8 +74,12 @@ public:
     /// Has no effect if the desktop's setting cannot be changed.
     void setStartAtLogin(bool on);
 
-    /// The alert of the known state, also while it cannot be answered; nullopt if none waits.
+    /// The alert of the known state, also while it cannot be answered; nullopt if none waits. If the server
+    /// is silent, the alert is over at its deadline.
     std::optional<AlertId> shownAlert() const;
+    /// How long the deadline of the alert is over; nullopt before it, and if it was never ahead by the clock
+    /// of this computer, because a clock is wrong then.
+    std::optional<Seconds> overdue() const;
     /// The alert that can be answered now: the one shown, if the state is live and no answer to it is
     /// pending.
     std::optional<AlertId> waitingAlert() const;
@@ -148,7 +152,6 @@ private:
     LinkSession session_;
     Notifications notifications_;
     OutageWatch outageWatch_;
-    std::optional<Outage> lastOutage_;
     LiveState state_;
     Section section_ = Section::overview;
     std::optional<RecordKey> selectedRecord_;
@@ -157,6 +160,7 @@ private:
     Date lastTick_;
     Phase lastPhase_ = Phase::docked;
     std::optional<AlertId> lastAlert_;
+    bool deadlineWasAhead_ = false; ///< of the alert, by the clock of this computer
 };
 
 } // namespace velmora

@@ -8,12 +8,13 @@ namespace velmora {
 
 namespace {
 
-constexpr double pollInterval = 0.5;     // seconds
-constexpr double earlyTick = 0.005;      // seconds; ten ticks may take slightly less than the interval
-constexpr double longestDebt = 5;        // seconds by which setting the clock back can delay a poll
-constexpr double failingUntilStale = 2;  // seconds since the last good answer
-constexpr double silentUntilStale = 2.5; // seconds since the last good answer
-constexpr double longestPending = 5;     // seconds from a command to its effect; its exchange may take three
+constexpr double pollInterval = 0.5;       // seconds
+constexpr double earlyTick = 0.005;        // seconds; ten ticks may take slightly less than the interval
+constexpr double longestDebt = 5;          // seconds by which setting the clock back can delay a poll
+constexpr double failingUntilStale = 2;    // seconds since the last good answer
+constexpr double silentUntilStale = 2.5;   // seconds since the last good answer
+constexpr double longestCountedTick = 0.5; // seconds
+constexpr double longestPending = 5; // seconds from a command to its effect; its exchange may take three
 
 } // namespace
 
@@ -55,8 +56,8 @@ void LinkSession::advance(Date now, double elapsed) {
         if (!pollInFlight_)
             poll();
     }
-    agePending(elapsed);
     updateFreshness();
+    agePending(elapsed);
 }
 
 std::optional<Command> LinkSession::pendingCommand() const {
@@ -87,11 +88,11 @@ void LinkSession::setPending(const std::optional<Pending>& pending) {
         emit pendingCommandChanged();
 }
 
-/// Counts ticks instead of comparing times, because the clock may be set.
+/// Counts the time in which the program ran: it cannot hear of an effect while it is suspended.
 void LinkSession::agePending(double elapsed) {
     if (!pending_)
         return;
-    pending_->age += std::max(elapsed, 0.0);
+    pending_->age += std::clamp(elapsed, 0.0, longestCountedTick);
     if (pending_->age < longestPending)
         return;
     const Command command = pending_->command;
@@ -131,19 +132,20 @@ void LinkSession::send(Command command, const std::optional<std::string>& missio
     link_.send(
         command, mission, settings_,
         [session = QPointer(this), command, number = sent_, generation = generation_](const auto& failure) {
-            if (session)
+            if (session && generation == session->generation_)
                 session->finishSend(command, number, failure);
-            if (session && generation == session->generation_ && !session->pollInFlight_)
-                session->poll();
         });
 }
 
+/// Does not report the failure of an answer whose effect was seen, or whose alert has been replaced.
 void LinkSession::finishSend(Command command, int number, const std::optional<LinkError>& failure) {
-    if (!failure)
-        return;
-    if (pending_ && pending_->number == number)
+    const bool isPending = pending_ && pending_->number == number;
+    if (failure && isPending)
         setPending(std::nullopt);
-    emit commandFailed(command, failure->text);
+    if (failure && (isPending || !answersAlert(command)))
+        emit commandFailed(command, failure->text);
+    if (!pollInFlight_)
+        poll();
 }
 
 void LinkSession::setStatus(const LinkStatus& status) {

@@ -1,17 +1,19 @@
 #include "store/notifications.h"
 
+#include "model/truncated.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmora {
 
 namespace {
 
-const QString outageIdentifier = QStringLiteral("outage");
-const std::string serverKey; // no camera has an empty id
+const QString outageIdentifier = QStringLiteral("velmora-outage"); // no mission id of a server
 
 QString tr(const char* text) {
     return QCoreApplication::translate("Notifications", text);
@@ -27,33 +29,26 @@ Notification notificationOf(const LiveState& state) {
             camera ? QString::fromStdString(camera->snapshot) : QString(), alertId(state)};
 }
 
-/// "14:02", or "Wed 19 Nov, 14:02" if that is not the local day of now.
-QString timeText(Date date) {
-    const auto then = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(secondsSince1970(date) * 1000));
-    const bool today = then.date() == QDate::currentDate();
+/// "14:02", or "Wed 19 Nov, 14:02" if that is not the local day of `now`.
+QString timeText(Date date, Date now) {
+    const auto local = [](Date instant) {
+        return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(instant) * 1000));
+    };
+    const bool today = local(date).date() == local(now).date();
     return QLocale(QLocale::English)
-        .toString(then, today ? QStringLiteral("HH:mm") : QStringLiteral("ddd d MMM, HH:mm"));
+        .toString(local(date), today ? QStringLiteral("HH:mm") : QStringLiteral("ddd d MMM, HH:mm"));
 }
 
-QString outageBody(const Outage& outage) {
+QString outageBody(const Outage& outage, Date now) {
+    const QString since = timeText(outage.since, now);
     if (outage.serverIsSilent)
-        return tr("No answer since %1. No alert arrives until the link is back.").arg(timeText(outage.since));
+        return tr("No answer since %1. No alert arrives until the link is back.").arg(since);
+    if (outage.cameras.size() == 1)
+        return tr("Offline at least since %1. It raises no alert until it is back.").arg(since);
     QStringList names;
     for (const auto& [id, name] : outage.cameras)
         names.append(QString::fromStdString(name));
-    if (names.size() == 1)
-        return tr("No picture since %1. It raises no alert until it is back.").arg(timeText(outage.since));
-    return tr("%1: no picture since %2 or later. They raise no alert until they are back.")
-        .arg(names.join(QStringLiteral(", ")), timeText(outage.since));
-}
-
-std::set<std::string> keysOf(const Outage& outage) {
-    if (outage.serverIsSilent)
-        return {serverKey};
-    std::set<std::string> keys;
-    for (const auto& [id, name] : outage.cameras)
-        keys.insert(id);
-    return keys;
+    return tr("%1 raise no alert until they are back.").arg(names.join(QStringLiteral(", ")));
 }
 
 } // namespace
@@ -76,31 +71,37 @@ void Notifications::postAlert(const LiveState& state, const Settings& settings) 
 }
 
 void Notifications::withdrawAlert() {
-    if (!alert_.isEmpty())
-        notifier_.withdraw(std::exchange(alert_, {}));
+    if (const auto alert = std::exchange(alert_, std::nullopt))
+        notifier_.withdraw(*alert);
 }
 
-void Notifications::showOutage(const std::optional<Outage>& outage, const Settings& settings) {
-    const auto wanted = settings.notifyMac ? outage : std::nullopt;
-    forgetEnded(outage);
-    if (wanted == outage_)
+/// A notification that the owner has closed is not posted again when one of its causes ends.
+void Notifications::showOutage(const std::optional<Outage>& outage, const Settings& settings, Date now) {
+    const Causes causes = causesOf(settings.notifyMac ? outage : std::nullopt);
+    const bool camerasAreKnown = !outage || !outage->serverIsSilent;
+    if (camerasAreKnown)
+        std::erase_if(reported_, [&](const auto& cause) { return !causes.contains(cause); });
+    if (causes == shown_)
         return;
-    if (std::exchange(outage_, wanted))
+    const bool isNew = !std::ranges::includes(reported_, causes);
+    const bool isLess = !causes.empty() && std::ranges::includes(shown_, causes);
+    shown_ = causes;
+    reported_.insert(causes.begin(), causes.end());
+    if (isNew || (isLess && notifier_.isShown(outageIdentifier)))
+        notifier_.post({outageIdentifier, outageTitle(*outage), outageBody(*outage, now)});
+    else
         notifier_.withdraw(outageIdentifier);
-    if (!wanted)
-        return;
-    const std::size_t before = reported_.size();
-    reported_.merge(keysOf(*wanted));
-    if (reported_.size() > before)
-        notifier_.post({outageIdentifier, outageTitle(*wanted), outageBody(*wanted)});
 }
 
-/// While the server is silent nothing is known about the cameras.
-void Notifications::forgetEnded(const std::optional<Outage>& outage) {
-    if (outage && outage->serverIsSilent)
-        return;
-    const auto lasting = outage ? keysOf(*outage) : std::set<std::string>();
-    std::erase_if(reported_, [&](const std::string& key) { return !lasting.contains(key); });
+Notifications::Causes Notifications::causesOf(const std::optional<Outage>& outage) {
+    if (!outage)
+        return {};
+    if (outage->serverIsSilent)
+        return {std::nullopt};
+    Causes causes;
+    for (const auto& [id, name] : outage->cameras)
+        causes.insert(id);
+    return causes;
 }
 
 } // namespace velmora

@@ -21,17 +21,20 @@ public:
     /// Posts the alert of the state, which must have one, in place of the one before.
     void postAlert(const LiveState& state, const Settings& settings);
     void withdrawAlert();
-    /// Posts an outage once, and withdraws it when it is over or another one takes its place.
-    void showOutage(const std::optional<Outage>& outage, const Settings& settings);
+    /// Posts an outage once, and withdraws it when it is over. At most one notification of an outage is
+    /// shown.
+    void showOutage(const std::optional<Outage>& outage, const Settings& settings, Date now);
 
 private:
-    void forgetEnded(const std::optional<Outage>& outage);
+    /// Ids of the offline cameras; nullopt for the silent server.
+    using Causes = std::set<std::optional<std::string>>;
+
+    static Causes causesOf(const std::optional<Outage>& outage);
 
     Notifier& notifier_;
-    QString alert_;                ///< identifier of the alert posted; empty for none
-    std::optional<Outage> outage_; ///< the one that is posted
-    std::set<std::string>
-        reported_; ///< ids of the offline cameras posted; an empty text for the silent server
+    std::optional<QString> alert_; ///< identifier of the alert posted
+    Causes shown_;                 ///< causes in the notification
+    Causes reported_;              ///< causes that were posted and last
 };
 
 } // namespace velmora

@@ -24,6 +24,8 @@ public:
     virtual void post(const Notification& notification) = 0;
     /// Closes the notification with this identifier, if there is one.
     virtual void withdraw(const QString& identifier) = 0;
+    /// Whether it was posted and neither withdrawn nor closed by the owner.
+    virtual bool isShown(const QString& identifier) const = 0;
 };
 
 } // namespace velmora

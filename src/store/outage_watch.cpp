@@ -1,6 +1,8 @@
 #include "store/outage_watch.h"
 
 #include <algorithm>
+#include <cmath>
+#include <set>
 #include <utility>
 
 namespace velmora {
@@ -9,42 +11,52 @@ namespace {
 
 constexpr Seconds silenceOfServer{60};
 constexpr Seconds silenceOfCamera{300};
-constexpr Seconds quietTime{30};
+constexpr Seconds graceTime{30};
 constexpr Seconds longestGap{10}; // a longer one between two observations is a suspend
 
 } // namespace
 
 void OutageWatch::restart(Date now) {
     startedAt_ = lastObserved_ = now;
-    quietUntil_ = now + quietTime;
+    graceEnd_ = now + graceTime;
     offlineSince_.clear();
     outage_.reset();
 }
 
-void OutageWatch::observe(const std::optional<Observation>& observation, Date now) {
-    const bool clockWasSetBack = lastObserved_ - now > longestGap;
-    if (!observation || clockWasSetBack) {
+bool OutageWatch::observe(const std::optional<Observation>& observation, Date now) {
+    const auto before = outage_;
+    if (!observation) {
         restart(now);
-        return;
+        return outage_ != before;
     }
-    if (now - std::exchange(lastObserved_, now) > longestGap)
-        quietUntil_ = now + quietTime;
+    if (const Seconds gap = now - std::exchange(lastObserved_, now);
+        std::abs(gap.count()) > longestGap.count())
+        skip(gap);
     followCameras(*observation, now);
     auto found = find(*observation, now);
-    if (outage_ || now >= quietUntil_)
+    if (!found || now >= graceEnd_) // in the time of grace an outage can only end
         outage_ = std::move(found);
+    return outage_ != before;
+}
+
+/// After a suspend or a change of the clock: the time in between does not count for the cameras.
+void OutageWatch::skip(Seconds gap) {
+    graceEnd_ = lastObserved_ + graceTime;
+    startedAt_ += gap;
+    for (auto& [id, since] : offlineSince_)
+        since += gap;
 }
 
 void OutageWatch::followCameras(const Observation& observation, Date now) {
     if (observation.freshness != Freshness::live)
         return;
+    std::set<std::string> offline;
     for (const CameraInfo& camera : observation.known->site.cameras)
-        if (camera.online)
-            offlineSince_.erase(camera.id);
-        else
-            offlineSince_.try_emplace(camera.id, now);
-    std::erase_if(offlineSince_,
-                  [&](const auto& entry) { return !findCamera(observation.known->site, entry.first); });
+        if (!camera.online)
+            offline.insert(camera.id);
+    for (const std::string& id : offline)
+        offlineSince_.try_emplace(id, now);
+    std::erase_if(offlineSince_, [&](const auto& entry) { return !offline.contains(entry.first); });
 }
 
 /// A server that never answered counts as armed.

@@ -5,7 +5,7 @@
 
 #include <map>
 #include <optional>
-#include <set>
+#include <string>
 
 namespace velmora {
 
@@ -13,7 +13,7 @@ namespace velmora {
 struct Outage {
     bool serverIsSilent = false;
     std::map<std::string, std::string> cameras; ///< names of the offline cameras by id, if the server answers
-    Date since;                                 ///< the server's last answer, or when the first camera failed
+    Date since; ///< the server's last answer, or when the first camera was seen offline
 
     bool operator==(const Outage&) const = default;
 };
@@ -30,19 +30,20 @@ public:
         std::optional<Date> lastAnswerAt;
     };
 
-    /// Call about twenty times a second; nullopt in demo mode.
-    void observe(const std::optional<Observation>& observation, Date now);
-    /// Forgets everything: another server, or the start.
+    /// Call about twenty times a second; nullopt in demo mode. Returns whether the outage changed.
+    bool observe(const std::optional<Observation>& observation, Date now);
+    /// Clears all observations. Call at the start and when the server changes.
     void restart(Date now);
 
     /// nullopt while all is well.
     const std::optional<Outage>& outage() const { return outage_; }
 
 private:
+    void skip(Seconds gap);
     void followCameras(const Observation& observation, Date now);
     std::optional<Outage> find(const Observation& observation, Date now) const;
 
-    Date startedAt_, quietUntil_, lastObserved_;
+    Date startedAt_, graceEnd_, lastObserved_;
     std::map<std::string, Date> offlineSince_; ///< by camera id
     std::optional<Outage> outage_;
 };

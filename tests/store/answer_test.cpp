@@ -45,6 +45,27 @@ TEST_F(AnswerTest, DropsAnAnswerToAnotherOrAnEndedAlert) {
     EXPECT_TRUE(link.posts.empty());
 }
 
+TEST_F(AnswerTest, AnEmptyMissionIdIdentifiesNothing) {
+    const AlertId first = alert("", 9);
+    EXPECT_NE(first, alert("", 2));
+    EXPECT_FALSE(store().answer(Command::approve, first));
+}
+
+/// The failure of an answer whose effect was seen, or of one to an alert that was replaced, is no news.
+TEST_F(AnswerTest, ReportsNoFailureOfAnAnswerThatIsNotPendingAnyMore) {
+    int failures = 0;
+    QObject::connect(&store(), &AppStore::commandFailed, [&] { ++failures; });
+    ASSERT_TRUE(store().answer(Command::approve, alert("M-1")));
+    alert("M-2");
+    link.posts.back().done(LinkError{"timed out"});
+    ASSERT_TRUE(store().answer(Command::approve, alert("M-2")));
+    Settings other = store().settings();
+    other.port += 1;
+    store().setSettings(other);
+    link.posts.back().done(LinkError{"timed out"});
+    EXPECT_EQ(failures, 0);
+}
+
 TEST_F(AnswerTest, DropsAnAnswerWhileTheLinkIsNotLive) {
     const AlertId seen = alert("M-1");
     now += Seconds{65}; // the program was stopped and has not ticked yet

@@ -32,9 +32,11 @@ class FakeNotifier final : public Notifier {
 public:
     void post(const Notification& notification) override { posted.push_back(notification); }
     void withdraw(const QString& identifier) override { withdrawn.append(identifier); }
+    bool isShown(const QString&) const override { return shown; }
 
     std::vector<Notification> posted;
     QStringList withdrawn; ///< identifiers
+    bool shown = true;     ///< false: the owner closes every notification
 };
 
 class FakeLoginItem final : public LoginItem {

@@ -24,6 +24,7 @@ class SilentNotifier final : public Notifier {
 public:
     void post(const Notification&) override {}
     void withdraw(const QString&) override {}
+    bool isShown(const QString&) const override { return false; }
 };
 
 /// A desktop that starts nothing at login.

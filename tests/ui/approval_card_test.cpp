@@ -88,10 +88,13 @@ TEST_F(ApprovalCardTest, ASilentLinkKeepsTheCardWithoutAnswersUntilItsDeadline) 
     window();
     serveAlert();
     outwaitGuard();
-    mouse(QEvent::MouseButtonPress, *find(ignore));
     staySilent(4);
-    mouse(QEvent::MouseButtonRelease, *find(hide));
-    EXPECT_TRUE(cardIsOpen()) << "the press began on another button";
+    mouse(QEvent::MouseButtonPress, *find(hide));
+    serveAlert();
+    mouse(QEvent::MouseButtonRelease, *find(ignore));
+    EXPECT_TRUE(cardIsOpen());
+    EXPECT_TRUE(link.posts.empty()) << "the press began on another button";
+    staySilent(4);
     EXPECT_TRUE(shows("velmora is silent — this picture is 4 s old"));
     EXPECT_FALSE(find<SBButton>(launch)->isEnabled());
     tryToAnswer();
@@ -122,6 +125,51 @@ TEST_F(ApprovalCardTest, HidePutsTheCardAwayUntilTheLinkIsBack) {
     EXPECT_EQ(lastPosted(), Command::approve);
 }
 
+/// Qt would pass the focus of a hidden button on to "Launch drone" when the window becomes active again.
+TEST_F(ApprovalCardTest, TheFocusNeverMovesToTheLaunchByItself) {
+    window();
+    serveAlert();
+    staySilent(4);
+    find(hide)->setFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return other.isActiveWindow(); }));
+    serveAlert();
+    window().activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return window().isActiveWindow(); }));
+    EXPECT_EQ(qobject_cast<QAbstractButton*>(QApplication::focusWidget()), nullptr);
+    outwaitGuard();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(link.posts.empty());
+}
+
+TEST_F(ApprovalCardTest, AFailureIsReportedAlsoWhenTheLinkHasGoneSilent) {
+    window();
+    serveAlert();
+    outwaitGuard();
+    clickThrough(launch);
+    staySilent(3);
+    link.posts.back().done(LinkError{"The connection timed out"});
+    EXPECT_TRUE(shows("velmora did not confirm “Launch drone”. The connection timed out."));
+}
+
+TEST_F(ApprovalCardTest, AnAlertThatTheServerKeepsAfterItsDeadlineCanBeHidden) {
+    window();
+    serveAlert();
+    repeatAlert(33);
+    EXPECT_TRUE(shows(ignore));
+    repeatAlert(4);
+    clickThrough(hide);
+    EXPECT_FALSE(cardIsOpen());
+    repeatAlert(2);
+    EXPECT_FALSE(cardIsOpen());
+    alert_.missionId = "M-2";
+    serveAlert();
+    EXPECT_TRUE(cardIsOpen());
+    EXPECT_TRUE(link.posts.empty());
+}
+
 /// A server whose clock is behind: its deadlines are over when they arrive.
 TEST_F(ApprovalCardTest, ADeadlineThatWasNeverAheadClosesNothing) {
     window();
@@ -130,6 +178,8 @@ TEST_F(ApprovalCardTest, ADeadlineThatWasNeverAheadClosesNothing) {
     EXPECT_TRUE(cardIsOpen());
     staySilent(10);
     EXPECT_TRUE(cardIsOpen());
+    repeatAlert(10);
+    EXPECT_TRUE(shows(ignore));
 }
 
 TEST_F(ApprovalCardTest, TheBarShowsTheShareOfTheWholeTime) {

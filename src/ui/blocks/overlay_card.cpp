@@ -80,10 +80,10 @@ void OverlayCard::close() {
 /// Call before the card is hidden: Qt moves the focus of a hidden widget to another control, which the next
 /// key press would trigger.
 void OverlayCard::returnFocus() {
-    QWidget* focus = QApplication::focusWidget();
+    QWidget* focus = window()->focusWidget(); // also while the window is not active
     if (!focus || (focus != this && !isAncestorOf(focus)))
         return;
-    if (focusBefore_ && focusBefore_->isVisible())
+    if (focusBefore_ && focusBefore_->isVisible() && focusBefore_->isEnabled())
         focusBefore_->setFocus(Qt::OtherFocusReason);
     else
         focus->clearFocus();

@@ -38,7 +38,7 @@ public:
     /// Draws the button as if it were disabled; it can still be clicked.
     void setPale(bool pale);
     /// Shows “Sent…” instead of the text, paler, and ignores mouse and keys: the button's command is pending.
-    /// It keeps its size and the focus.
+    /// It keeps its size and the focus. An accessible press still emits clicked().
     void setSent(bool sent);
     bool isSent() const { return sent_; }
 

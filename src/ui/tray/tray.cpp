@@ -16,7 +16,9 @@ namespace {
 const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
-QString iconFor(Phase phase, bool outage) {
+QString iconFor(Phase phase, const std::optional<Outage>& outage) {
+    if (outage && outage->serverIsSilent)
+        return QStringLiteral(":/icons/app/tray-outage.svg");
     if (phase == Phase::awaitingApproval)
         return QStringLiteral(":/icons/app/tray-waiting.svg");
     if (outage)
@@ -143,7 +145,7 @@ void Tray::refresh() {
     for (QAction* action : {launch_, ignore_, afterAnswers_})
         action->setVisible(phase == Phase::awaitingApproval);
     for (QAction* action : {launch_, ignore_})
-        action->setEnabled(!store_.pendingCommand());
+        action->setEnabled(store_.waitingAlert().has_value());
     for (QAction* action : {home_, afterHome_})
         action->setVisible(airborne(phase));
     setText(arming_, isArmed() ? tr("Disarm") : tr("Arm"));
@@ -153,10 +155,10 @@ void Tray::refresh() {
     if (store_.settings().linkMode)
         tip.append(store_.linkStatus().text());
     if (store_.outage())
-        tip.append(outageTitle(*store_.outage()));
+        tip.append(toQString(outageTitle(*store_.outage()).toStdString()));
     if (icon_->toolTip() != tip.join('\n'))
         icon_->setToolTip(tip.join('\n'));
-    const QString icon = iconFor(phase, store_.outage().has_value());
+    const QString icon = iconFor(phase, store_.outage());
     if (icon == shownIcon_)
         return;
     shownIcon_ = icon;

@@ -20,7 +20,8 @@ CommandMenus::CommandMenus(AppStore& store, QWidget* parent) : QMenuBar(parent),
 
 void CommandMenus::buildVelmora() {
     QMenu* menu = addMenu(tr("Velmora"));
-    connect(menu->addAction(tr("About Velmora")), &QAction::triggered, this, &CommandMenus::aboutRequested);
+    about_ = menu->addAction(tr("About Velmora"));
+    connect(about_, &QAction::triggered, this, &CommandMenus::aboutRequested);
     menu->addSeparator();
     QAction* quit = addCommand(menu, tr("Quit Velmora"), QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quit, &QAction::triggered, this, &CommandMenus::quitRequested);
@@ -34,8 +35,8 @@ void CommandMenus::buildDemo() {
         visits_.append(visit);
     }
     menu->addSeparator();
-    connect(menu->addAction(tr("Show welcome")), &QAction::triggered, this,
-            [this] { store_.setShowWelcome(true); });
+    welcome_ = menu->addAction(tr("Show welcome"));
+    connect(welcome_, &QAction::triggered, this, [this] { store_.setShowWelcome(true); });
 }
 
 void CommandMenus::buildDrone() {
@@ -56,6 +57,11 @@ QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySe
     action->setShortcut(shortcut);
     action->setAutoRepeat(false);
     return action;
+}
+
+void CommandMenus::setCovered(bool covered) {
+    about_->setEnabled(!covered);
+    welcome_->setEnabled(!covered);
 }
 
 void CommandMenus::refresh() {

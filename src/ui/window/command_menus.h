@@ -13,6 +13,9 @@ class CommandMenus : public QMenuBar {
 public:
     explicit CommandMenus(AppStore& store, QWidget* parent);
 
+    /// Disables the lines that would open something below a card.
+    void setCovered(bool covered);
+
 signals:
     void aboutRequested();
     void quitRequested();
@@ -28,6 +31,8 @@ private:
 
     AppStore& store_;
     QList<QAction*> visits_;
+    QAction* about_ = nullptr;
+    QAction* welcome_ = nullptr;
     QAction* approve_ = nullptr;
     QAction* ignore_ = nullptr;
 };

@@ -58,7 +58,9 @@ MainWindow::MainWindow(AppStore& store)
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        if (!answersAlert(command) || !approval_->isOpen()) // the card shows the failure itself
+        const bool cardShowsIt =
+            answersAlert(command) && approval_->isOpen() && store_.freshness() == Freshness::live;
+        if (!cardShowsIt)
             toast_->setMessage(failureText(command, reason));
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
@@ -178,6 +180,7 @@ void MainWindow::updateLayers() {
     if (approval_->isOpen())
         approval_->raise();
     strip_->setVeiled(isCovered());
+    menus_->setCovered(isCovered());
     strip_->raise();
     toast_->raise();
     bands_->raise();

@@ -25,15 +25,14 @@ AnswerPanel::AnswerPanel(AppStore& store, AnswerGuard& guard, QWidget* parent)
     note_->setMaximumLines(1);
     message_ = new MessageLine(SB::alert, this);
     message_->hide();
-    auto* rows = bareLayout<QVBoxLayout>(this);
+    rows_ = bareLayout<QVBoxLayout>(this);
     for (QWidget* line : std::initializer_list<QWidget*>{note_, message_}) {
         line->setFixedHeight(Measure::approvalNoteRow);
-        rows->addWidget(line);
+        rows_->addWidget(line);
     }
-    rows->addWidget(buildButtons(guard));
+    rows_->addWidget(buildButtons(guard));
     connect(hide_, &SBButton::clicked, this, &AnswerPanel::hideRequested);
     connect(&store_, &AppStore::commandFailed, this, &AnswerPanel::showFailure);
-    connect(&store_, &AppStore::pendingCommandChanged, this, &AnswerPanel::refresh);
     connect(&failureTimer_, &UiTimer::timeout, this, &AnswerPanel::reset);
 }
 
@@ -54,13 +53,17 @@ QWidget* AnswerPanel::buildButtons(AnswerGuard& guard) {
 }
 
 void AnswerPanel::setGap(int gap) {
-    layout()->setContentsMargins(0, 0, 0, 0);
-    static_cast<QVBoxLayout*>(layout())->setSpacing(gap);
+    rows_->setSpacing(gap);
 }
 
 void AnswerPanel::reset() {
     failureTimer_.stop();
     failure_.clear();
+    refresh();
+}
+
+void AnswerPanel::setHideable(bool hideable) {
+    hideable_ = hideable;
     refresh();
 }
 
@@ -71,10 +74,10 @@ void AnswerPanel::refresh() {
         failure_.clear();
     ignore_->setSent(pending == Command::ignore);
     launch_->setSent(pending == Command::approve);
-    offer(hide_, stale);
-    offer(ignore_, !stale);
-    if (stale && launch_->hasFocus())
-        setFocus(Qt::OtherFocusReason); // otherwise disabling the button moves the focus to another
+    offer(hide_, stale || hideable_);
+    offer(ignore_, !stale && !hideable_);
+    if (stale)
+        releaseFocus(launch_);
     launch_->setEnabled(!stale);
     showMessage(stale ? tr("velmora is silent — this picture is %1 old")
                             .arg(age(store_.now() - store_.lastAnswerAt().value_or(store_.now())))
@@ -95,9 +98,16 @@ void AnswerPanel::showMessage(const QString& message) {
     message_->setVisible(!message.isEmpty());
 }
 
+/// Qt moves the focus of a hidden or disabled button to another one, also when its window becomes active
+/// again. That one must not be "Launch drone".
+void AnswerPanel::releaseFocus(SBButton* button) {
+    if (window()->focusWidget() == button)
+        setFocus(Qt::OtherFocusReason);
+}
+
 void AnswerPanel::offer(SBButton* button, bool offered) {
-    if (!offered && button->hasFocus())
-        setFocus(Qt::OtherFocusReason); // otherwise hiding the button moves the focus to the launch
+    if (!offered)
+        releaseFocus(button);
     button->setVisible(offered);
 }
 

@@ -2,6 +2,8 @@
 
 #include "ui/guard/answer_button.h"
 
+class QVBoxLayout;
+
 namespace velmora {
 
 class MessageLine;
@@ -20,9 +22,11 @@ public:
     void refresh();
     /// Space between the note and the buttons, pixels.
     void setGap(int gap);
+    /// Offers "Hide" instead of "Ignore" also over a live link.
+    void setHideable(bool hideable);
 
 signals:
-    /// The owner clicked "Hide" while the server is silent.
+    /// The owner clicked "Hide".
     void hideRequested();
 
 private:
@@ -30,13 +34,16 @@ private:
     void showFailure(Command command, const QString& reason);
     void showMessage(const QString& message);
     void offer(SBButton* button, bool offered);
+    void releaseFocus(SBButton* button);
 
     AppStore& store_;
     Text* note_;
     MessageLine* message_;
     AnswerButton* ignore_;
     AnswerButton* launch_;
-    SBButton* hide_; ///< takes the place of "Ignore" while the server is silent
+    SBButton* hide_; ///< replaces "Ignore" while the server is silent
+    QVBoxLayout* rows_;
+    bool hideable_ = false;
     QString failure_;
     UiTimer failureTimer_;
 };

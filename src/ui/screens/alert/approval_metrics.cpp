@@ -16,9 +16,9 @@ namespace velmora {
 
 namespace {
 
-void warn(Metric& metric, bool due, const QString& reason) {
-    metric.setTint(due ? std::optional(SB::caution) : std::nullopt);
-    metric.setReason(due ? reason : QString());
+void warn(Metric& metric, bool isRisky, const QString& reason) {
+    metric.setTint(isRisky ? std::optional(SB::caution) : std::nullopt);
+    metric.setReason(isRisky ? reason : QString());
 }
 
 } // namespace

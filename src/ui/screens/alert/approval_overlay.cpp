@@ -15,11 +15,13 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace velmora {
 
 namespace {
+
+constexpr Seconds longestOverdue{5};
 
 QString titleFor(const LiveState& state) {
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
@@ -134,33 +136,22 @@ void ApprovalOverlay::updateSize() {
     update(); // the shadow
 }
 
-/// Over a silent link the card stays until its deadline. Whether a deadline has passed over a live one is the
-/// server's to judge.
-bool ApprovalOverlay::isDue() const {
-    if (!store_.shownAlert())
-        return false;
-    if (store_.freshness() == Freshness::live)
-        return true;
-    const bool expired =
-        deadlineWasAhead_ && !timeLeft(*store_.knownState(), store_.settings(), store_.now());
-    return !hidden_ && !expired;
-}
-
 void ApprovalOverlay::updateAlert() {
     const auto alert = store_.shownAlert();
-    if (store_.freshness() == Freshness::live)
+    const bool live = store_.freshness() == Freshness::live;
+    const bool isBack = !std::exchange(wasLive_, live) && live;
+    if (alert != asked_ || isBack)
         hidden_ = false;
-    if (alert != asked_)
-        deadlineWasAhead_ = false;
-    if (!isDue()) {
+    if (!alert || hidden_) {
         countdown_.stop();
         close();
         return;
     }
-    refresh();
-    if (isOpen() && alert == asked_)
-        return;
+    const bool isNew = !isOpen() || alert != asked_;
     asked_ = alert;
+    refresh();
+    if (!isNew)
+        return;
     setEnlarged(false);
     answers_->reset();
     countdown_.start();
@@ -177,22 +168,22 @@ void ApprovalOverlay::refresh() {
     setAccessibleName(title_->text());
     body_->setText(bodyFor(store_.settings()));
     metrics_->setState(state, store_.settings());
-    answers_->refresh();
     countDown();
     update(); // the guard waits for the picture of an alert that can be answered again
 }
 
+/// Over a silent link the alert is over at its deadline. A server that keeps an alert after its deadline must
+/// not cover the window for ever.
 void ApprovalOverlay::countDown() {
-    if (!isDue()) {
+    if (!store_.shownAlert()) {
         updateAlert();
         return;
     }
-    const auto left = timeLeft(*store_.knownState(), store_.settings(), store_.now());
-    deadlineWasAhead_ = deadlineWasAhead_ || left;
+    const LiveState& state = *store_.knownState();
+    const auto left = timeLeft(state, store_.settings(), store_.now());
     picture_->setTimeLeft(left);
     metrics_->setTimeLeft(left, store_.freshness());
-    if (store_.freshness() == Freshness::stale)
-        answers_->refresh(); // the age of the picture
+    answers_->setHideable(store_.overdue() > longestOverdue);
 }
 
 void ApprovalOverlay::resizeEvent(QResizeEvent* event) {

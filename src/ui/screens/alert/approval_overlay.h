@@ -38,7 +38,6 @@ private:
     void setEnlarged(bool enlarged);
     void updateSize();
     QSize enlargedPicture() const;
-    bool isDue() const;
     void refresh();
     void countDown();
 
@@ -54,9 +53,9 @@ private:
     Transition growth_; ///< 0 compact, 1 enlarged
     bool enlarged_ = false;
     UiTimer countdown_{std::chrono::milliseconds(250)};
-    std::optional<AlertId> asked_;  ///< the alert shown on the card
-    bool deadlineWasAhead_ = false; ///< of the alert on the card, by the clock of this computer
-    bool hidden_ = false;           ///< by the owner, until the link is back
+    std::optional<AlertId> asked_; ///< the alert shown on the card
+    bool hidden_ = false;          ///< by the owner, until the link is back or the alert changes
+    bool wasLive_ = false;
 };
 
 } // namespace velmora

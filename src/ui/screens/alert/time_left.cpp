@@ -19,8 +19,8 @@ bool TimeLeft::isShort() const {
     return seconds <= shortTime;
 }
 
-/// The whole is the time from the start of the mission to the deadline; the owner's setting if that is
-/// unknown.
+/// The time to answer runs from the start of the mission; without a plausible start it is the owner's
+/// setting.
 std::optional<TimeLeft> timeLeft(const LiveState& state, const Settings& settings, Date now) {
     if (!state.approvalDeadline)
         return std::nullopt;
@@ -29,8 +29,8 @@ std::optional<TimeLeft> timeLeft(const LiveState& state, const Settings& setting
         return std::nullopt;
     const double sinceStart =
         state.missionStart ? (*state.approvalDeadline - *state.missionStart).count() : 0;
-    const double whole = isPlausible(sinceStart) ? sinceStart : settings.approvalSeconds;
-    return TimeLeft{seconds, std::clamp(seconds / std::max(whole, 1.0), 0.0, 1.0)};
+    const double total = isPlausible(sinceStart) ? sinceStart : settings.approvalSeconds;
+    return TimeLeft{seconds, std::clamp(seconds / std::max(total, 1.0), 0.0, 1.0)};
 }
 
 } // namespace velmora

@@ -8,7 +8,7 @@ namespace velmora {
 /// The time left to answer an alert, by the clock of this computer.
 struct TimeLeft {
     double seconds = 0;
-    double share = 0; ///< of the whole time to answer, 0 to 1
+    double share = 0; ///< of the time to answer, 0 to 1
 
     /// The last ten seconds.
     bool isShort() const;
