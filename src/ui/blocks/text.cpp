@@ -4,21 +4,10 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
-#include <QTextDocument>
-
 #include <algorithm>
 #include <cmath>
 
 namespace velmora {
-
-namespace {
-
-/// QToolTip renders text that looks like mark-up, so escape it: text from a server must appear literally.
-QString plainToolTip(const QString& text) {
-    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
-}
-
-} // namespace
 
 Text::Text(const QString& text, const TextStyle& style, const QColor& color, QWidget* parent)
     : QWidget(parent), text_(text), style_(style), color_(color) {

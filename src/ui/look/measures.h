@@ -20,6 +20,7 @@ inline constexpr int overlayRadius = 16;
 inline constexpr QSize windowMinimum(1120, 720);
 inline constexpr QSize windowDefault(1360, 860);
 inline constexpr int narrowWindow = 1280; // narrower windows use the narrow layout
+inline constexpr int lowWindow = 760;     // lower windows use smaller gaps
 inline constexpr int resizeBand = 6;
 inline constexpr int titleStrip = 36;
 inline constexpr int titleStripIndent = 12;
@@ -115,17 +116,26 @@ inline constexpr int logFade = 24;
 
 // Overview
 inline constexpr int overviewRailMinimum = 320;
-inline constexpr int overviewMapMinimum = 290;
-inline constexpr int mapCardMinimum = 450; // below it the legend is clipped
-inline constexpr int mapTitle = 32, mapLegend = 36;
+inline constexpr int overviewMap = 300;                         // least height while there is room
+inline constexpr int overviewMapMinimum = 240;                  // the page scrolls below it
+inline constexpr int mapCardMinimum = 264;                      // below it the keys of the legend are clipped
+inline constexpr int mapTitle = 32, mapLegend = 36, mapGap = 8; // gap above the status strip
 inline constexpr int legendSample = 22, legendGap = 8;
 inline constexpr int statusStripTop = 16, statusStripCell = 76, cellPadding = 20;
-inline constexpr QSize dronePicture(84, 56), dronePictureNarrow(54, 36);
-inline constexpr int activityRows = 5;
+inline constexpr QSize dronePicture(88, 36), dronePictureNarrow(58, 36);
+inline constexpr int dronePictureTop = 16, dronePictureGap = 14;
+inline constexpr int activityRows = 5, activityRowsMinimum = 2;
+inline constexpr int activityOverhang = 20; // below the map in low windows
+inline constexpr QSize nowPicture(96, 72);
+inline constexpr double nowCrop = 0.24; // of the camera picture's width
+inline constexpr int nowPictureTop = 2; // below the top of the name
+inline constexpr int nowHeading = 30;   // down to the top of the name
 inline constexpr int bannerHeight = 48;
+inline constexpr int missionFactsGap = 14; // between the phase and the facts
+inline constexpr int pillHeight = 24, pillPadding = 8, pillRadius = 6;
 inline constexpr QMargins bannerMargins(14, 0, 8, 0); // 20, less the halo of the dot
 inline constexpr QMargins armSwitchMargins(14, 12, 12, 12);
-inline constexpr QMargins staleMargins(20, 12, 12, 12);
+inline constexpr int staleIconX = 16, staleTextX = 50;
 
 // Cameras
 inline constexpr int camerasLedeWidth = 680;

@@ -3,6 +3,7 @@
 #include <QCache>
 #include <QFontMetricsF>
 #include <QPainterPath>
+#include <QTextDocument>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -193,6 +194,35 @@ void drawText(QPainter& painter, const QRectF& rect, const QString& text, const 
         drawEdge(painter, {x + offset, baseline}, piece, style, edge);
         drawRun(painter, {x + offset, baseline}, piece, style, color);
     });
+}
+
+QString textOf(const std::vector<TextRun>& runs) {
+    QString text;
+    for (const TextRun& run : runs)
+        text += run.text;
+    return text;
+}
+
+double textWidth(const std::vector<TextRun>& runs) {
+    double width = 0;
+    for (const TextRun& run : runs)
+        width += textWidth(run.text, run.style);
+    return width;
+}
+
+void drawRuns(QPainter& painter, const QRectF& rect, const std::vector<TextRun>& runs) {
+    QRectF rest = rect;
+    for (const TextRun& run : runs) {
+        const double width = textWidth(run.text, run.style);
+        drawText(painter, rest, run.text, run.style, run.color, Qt::AlignVCenter);
+        if (width > rest.width() + fitTolerance)
+            return;
+        rest.setLeft(rest.left() + width);
+    }
+}
+
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
 }
 
 QStringList brokenIntoLines(const QString& text, const TextStyle& style, double width, int maximumLines) {

@@ -2,7 +2,10 @@
 
 #include "ui/look/type.h"
 
+#include <QColor>
 #include <QPainter>
+
+#include <vector>
 
 namespace velmora {
 
@@ -29,6 +32,26 @@ struct TextEdge {
 /// height.
 void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
               const QBrush& color, Qt::Alignment alignment, const TextEdge& edge = {});
+
+/// A part of a line that has its own style.
+struct TextRun {
+    QString text;
+    TextStyle style;
+    QColor color;
+
+    bool operator==(const TextRun&) const = default;
+};
+
+/// The text of the whole line.
+QString textOf(const std::vector<TextRun>& runs);
+/// Width of the line in pixels.
+double textWidth(const std::vector<TextRun>& runs);
+/// Draws the runs one after another, vertically centred in the rectangle and elided at its right end.
+void drawRuns(QPainter& painter, const QRectF& rect, const std::vector<TextRun>& runs);
+
+/// Text for a tooltip. QToolTip renders text that looks like mark-up, so this escapes it: text from a server
+/// must appear literally.
+QString plainToolTip(const QString& text);
 
 /// Distance from the top of a line to its baseline, pixels.
 double baselineOf(const TextStyle& style);

@@ -51,10 +51,12 @@ inline constexpr TextStyle rowTitle{Face::medium, 13.5, 20};
 inline constexpr TextStyle rowTitleStrong{Face::semiBold, 13.5, 20};
 inline constexpr TextStyle compactRow{Face::medium, 13, 20};
 inline constexpr TextStyle body{Face::regular, 13, 20};
+inline constexpr TextStyle label2Medium{Face::medium, 12, 18};
 inline constexpr TextStyle emptyNote{Face::regular, 13.5, 22};
 inline constexpr TextStyle bodyStrong{Face::semiBold, 13, 20};
 inline constexpr TextStyle status{Face::semiBold, 14, 20};
 inline constexpr TextStyle label2{Face::regular, 12, 18};
+inline constexpr TextStyle label2Strong{Face::semiBold, 12, 18};
 inline constexpr TextStyle linkStatus{Face::regular, 12, 16};
 inline constexpr TextStyle connection{Face::medium, 12.5, 18};
 inline constexpr TextStyle controlsNote{Face::regular, 12.5, 18};
@@ -74,7 +76,9 @@ inline constexpr TextStyle segment{Face::medium, 12.5, 20};
 inline constexpr TextStyle segmentChosen{Face::semiBold, 12.5, 20};
 inline constexpr TextStyle sliderLabel{Face::semiBold, 13, 20};
 inline constexpr TextStyle sliderValue{Face::medium, 13, 20, 0, false, true};
-inline constexpr TextStyle staleTitle{Face::semiBold, 13.5, 20};
+inline constexpr TextStyle staleTitle{Face::semiBold, 13, 18};
+inline constexpr TextStyle staleText{Face::regular, 12.5, 18};
+inline constexpr TextStyle staleTextStrong{Face::semiBold, 12.5, 18};
 inline constexpr TextStyle menu{Face::medium, 12.5, 20};
 
 } // namespace Type
