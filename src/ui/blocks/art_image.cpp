@@ -14,6 +14,23 @@ namespace {
 
 constexpr double faintOpacity = 0.4;
 
+QImage withoutTransparentEdges(const QImage& picture) {
+    const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
+    QRect content;
+    for (int y = 0; y < pixels.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
+        const auto isVisible = [](QRgb pixel) { return qAlpha(pixel) > 0; };
+        const QRgb* end = row + pixels.width();
+        const QRgb* first = std::find_if(row, end, isVisible);
+        if (first == end)
+            continue;
+        const auto last = std::find_if(std::reverse_iterator(end), std::reverse_iterator(row), isVisible);
+        content |= QRect(QPoint(static_cast<int>(first - row), y),
+                         QPoint(static_cast<int>(last.base() - row) - 1, y));
+    }
+    return picture.copy(content);
+}
+
 } // namespace
 
 ArtImage::ArtImage(const QString& name, Mode mode, double radius, QWidget* parent)
@@ -51,15 +68,24 @@ void ArtImage::setFaint(bool faint) {
     update();
 }
 
+void ArtImage::setOpacity(double opacity) {
+    if (opacity == opacity_)
+        return;
+    opacity_ = opacity;
+    update();
+}
+
 void ArtImage::load() {
     const QSize pixels = size() * devicePixelRatioF();
     if (pixels == loadedFor_)
         return;
     loadedFor_ = pixels;
     picture_ = {};
-    const QImage image = Art::find(name_);
+    QImage image = Art::find(name_);
     if (image.isNull() || pixels.isEmpty())
         return;
+    if (mode_ == Mode::trimmed)
+        image = withoutTransparentEdges(image);
     focus_ = Art::focusOf(name_);
     const QSizeF shown = mode_ == Mode::fill ? sizeToFill(image.size())
                                              : QSizeF(image.size()).scaled(size(), Qt::KeepAspectRatio);
@@ -72,24 +98,27 @@ void ArtImage::load() {
 /// without a gap at the right.
 QSizeF ArtImage::sizeToFill(QSizeF picture) const {
     const double covering = std::max(width() / picture.width(), height() / picture.height());
+    if (!focus_ || crop_.share == 1)
+        return picture * covering;
     const double cropping = width() / (crop_.share * picture.width());
-    const double reaching = (1 - crop_.at.x()) * width() / ((1 - focus_.x()) * picture.width());
-    return picture * std::max({covering, cropping, crop_.share < 1 ? reaching : 0});
+    const double reaching = (1 - crop_.at.x()) * width() / ((1 - focus_->x()) * picture.width());
+    return picture * std::max({covering, cropping, reaching});
 }
 
 QPointF ArtImage::cornerOf(QSizeF shown) const {
-    if (mode_ == Mode::fit || crop_.share == 1)
+    if (mode_ != Mode::fill || !focus_ || crop_.share == 1)
         return {(width() - shown.width()) / 2, (height() - shown.height()) / 2};
     const auto along = [](double length, double focus, double room, double at) {
         return std::clamp(at * room - focus * length, std::min(room - length, 0.0), 0.0);
     };
-    return {along(shown.width(), focus_.x(), width(), crop_.at.x()),
-            along(shown.height(), focus_.y(), height(), crop_.at.y())};
+    return {along(shown.width(), focus_->x(), width(), crop_.at.x()),
+            along(shown.height(), focus_->y(), height(), crop_.at.y())};
 }
 
 void ArtImage::paintEvent(QPaintEvent*) {
     load();
     QPainter painter(this);
+    painter.setOpacity(opacity_);
     const double below = squareBottom_ ? radius_ : 0; // moves the bottom corners outside the widget
     if (picture_.isNull()) {
         fillRounded(painter, QRectF(rect()).adjusted(0, 0, 0, below), radius_, SB::panel);
@@ -98,13 +127,13 @@ void ArtImage::paintEvent(QPaintEvent*) {
     }
     if (faint_) {
         fillRounded(painter, rect(), radius_, SB::navy);
-        painter.setOpacity(faintOpacity);
+        painter.setOpacity(opacity_ * faintOpacity);
     }
     const QSizeF shown = picture_.deviceIndependentSize();
     const QPointF corner = cornerOf(shown);
-    QBrush brush(picture_);
-    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()));
-    fillRounded(painter, (QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below), radius_, brush);
+    const QRectF area = (QRectF(corner, shown) & QRectF(rect())).adjusted(0, 0, 0, below);
+    painter.translate(corner); // a transform of the brush would count in device pixels
+    fillRounded(painter, area.translated(-corner), radius_, QBrush(picture_));
 }
 
 } // namespace velmora

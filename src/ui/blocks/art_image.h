@@ -3,6 +3,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <optional>
+
 namespace velmora {
 
 /// A named picture with rounded corners. Without such a picture it shows a plain panel with a camera icon.
@@ -10,12 +12,13 @@ class ArtImage : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Mode { fill, fit }; ///< fill crops what does not fit
+    /// `fill` crops what does not fit; `trimmed` fits the picture without its transparent edges.
+    enum class Mode { fill, fit, trimmed };
 
     ArtImage(const QString& name, Mode mode, double radius, QWidget* parent);
 
     void setName(const QString& name);
-    /// Which part of the picture the mode `fill` shows.
+    /// Which part of the picture the mode `fill` shows. A picture without a focus is shown as a whole.
     struct Crop {
         double share = 1;     ///< of the picture's width; less where the focus would not reach its point
         QPointF at{0.5, 0.5}; ///< where Art::focusOf() lies in the widget, as shares of its width and height
@@ -29,6 +32,8 @@ public:
     void setSquareBottom(bool square);
     /// Draws the picture faintly on navy, for an offline camera.
     void setFaint(bool faint);
+    /// Sets the opacity, 0 to 1, for a picture that may be out of date.
+    void setOpacity(double opacity);
 
     bool hasHeightForWidth() const override { return ratio_ > 0; }
     int heightForWidth(int width) const override;
@@ -43,12 +48,13 @@ private:
 
     QString name_;
     Crop crop_;
-    QPointF focus_{0.5, 0.5};
+    std::optional<QPointF> focus_; ///< of the loaded picture
     Mode mode_;
     double radius_;
     double ratio_ = 0; ///< width / height; 0 for any
     bool squareBottom_ = false;
     bool faint_ = false;
+    double opacity_ = 1;
     QPixmap picture_;        ///< scaled to the size in `loadedFor_`
     QSize loadedFor_{-1, 0}; ///< device pixels
 };

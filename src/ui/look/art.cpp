@@ -4,7 +4,6 @@
 #include <QRegularExpression>
 
 #include <map>
-#include <optional>
 
 namespace velmora::Art {
 
@@ -56,15 +55,15 @@ QImage find(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-QPointF focusOf(const QString& name) {
+std::optional<QPointF> focusOf(const QString& name) {
     // measured in the pictures, in pixels of 1280 x 720
     static const std::map<QString, QPointF> visitors{{QStringLiteral("snapshot-driveway"), {533, 312}},
-                                                     {QStringLiteral("snapshot-front"), {688, 358}},
+                                                     {QStringLiteral("snapshot-front"), {740, 430}},
                                                      {QStringLiteral("snapshot-garden"), {817, 373}}};
     const auto visitor = visitors.find(name);
     if (visitor == visitors.end() || !loadOwners(name).isNull())
-        return {0.5, 0.5};
-    return {visitor->second.x() / 1280, visitor->second.y() / 720};
+        return std::nullopt;
+    return QPointF(visitor->second.x() / 1280, visitor->second.y() / 720);
 }
 
 } // namespace velmora::Art
