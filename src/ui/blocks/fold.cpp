@@ -19,6 +19,9 @@ void Fold::setOpen(bool open) {
     if (open == open_)
         return;
     open_ = open;
+    const QWidget* focus = focusWidget();
+    if (!open && focus && focus->hasFocus() && parentWidget())
+        parentWidget()->setFocus(Qt::OtherFocusReason); // otherwise hiding moves it to another control
     block_->setVisible(true);
     setVisible(true);
     share_.moveTo(open ? 1 : 0);
