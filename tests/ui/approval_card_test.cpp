@@ -1,6 +1,6 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/screens/alert/approval_overlay.h"
-#include "ui/screens/alert/time_left.h"
+#include "ui/screens/time_left.h"
 #include "ui/served_fixture.h"
 
 #include <QMenuBar>

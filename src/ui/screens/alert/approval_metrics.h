@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/freshness.h"
-#include "ui/screens/alert/time_left.h"
+#include "ui/screens/time_left.h"
 
 #include <QWidget>
 

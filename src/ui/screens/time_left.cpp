@@ -1,4 +1,4 @@
-#include "ui/screens/alert/time_left.h"
+#include "ui/screens/time_left.h"
 
 #include <algorithm>
 

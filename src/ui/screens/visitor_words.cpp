@@ -1,0 +1,35 @@
+#include "ui/screens/visitor_words.h"
+
+#include "ui/look/words.h"
+
+#include <QCoreApplication>
+
+namespace velmora {
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Visitor", text);
+}
+
+} // namespace
+
+QString visitorName(const Visitor& visitor) {
+    return visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label);
+}
+
+QString visitorCamera(const Visitor& visitor, const Site& site) {
+    return findCamera(site, visitor.cameraId) ? tr("%1 camera").arg(cameraName(site, visitor.cameraId))
+                                              : cameraName(site, visitor.cameraId);
+}
+
+QString visitorPicture(const Visitor& visitor, const Site& site) {
+    const CameraInfo* camera = findCamera(site, visitor.cameraId);
+    return camera ? toQString(camera->snapshot) : QString();
+}
+
+QString certaintyText(const Visitor& visitor) {
+    return tr("%1% sure it's no one you know").arg(percent(visitor.confidence));
+}
+
+} // namespace velmora
