@@ -11,8 +11,6 @@
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
-#include <algorithm>
-
 namespace velmora {
 
 namespace {
@@ -28,25 +26,41 @@ QString destination(const Settings& settings) {
     return phone ? StatusStrip::tr("Phone") : StatusStrip::tr("This window only");
 }
 
+using Line = std::vector<TextRun>;
+
+Line plainLine(const QString& text, const QColor& color = SB::muted) {
+    return {{text, Type::label2, color}};
+}
+
 } // namespace
 
-/// A caption and a value, with lines of text or one dot per camera below.
+/// A caption and a value, with one dot per camera and lines of text below.
 class StatusStrip::Cell : public QWidget {
 public:
     Cell(const QString& caption, QWidget* parent) : QWidget(parent), caption_(caption) {
         declareRole(this, QAccessible::StaticText);
     }
 
-    void setContent(const QString& value, const QStringList& lines, const QColor& color = SB::muted,
+    void setContent(const QString& value, const std::vector<Line>& lines,
                     const std::vector<QColor>& dots = {}) {
-        if (value == value_ && lines == lines_ && color == color_ && dots == dots_)
+        if (value == value_ && lines == lines_ && dots == dots_)
             return;
         value_ = value;
         lines_ = lines;
-        color_ = color;
         dots_ = dots;
-        setAccessibleName((QStringList{caption_, value_} + lines_).join(QStringLiteral(", ")));
+        QStringList texts{caption_, value_};
+        for (const Line& line : lines_)
+            texts.append(textOf(line));
+        setAccessibleName(texts.join(QStringLiteral(", ")));
         update();
+    }
+
+    /// Shows the text in a tooltip and as the accessible description.
+    void setDetails(const QString& details) {
+        if (details == accessibleDescription())
+            return;
+        setToolTip(plainToolTip(details));
+        setAccessibleDescription(details);
     }
 
 protected:
@@ -57,29 +71,30 @@ protected:
         drawText(painter, line(valueTop, Type::statusValue.line), value_, Type::statusValue, SB::ink,
                  Qt::AlignVCenter);
         double top = linesTop;
-        for (const QString& text : lines_) {
-            drawText(painter, line(top, Type::label2.line), text, Type::label2, color_, Qt::AlignLeft);
-            top += Type::label2.line;
-        }
         double x = Measure::statusDotInRow / 2;
         for (const QColor& dot : dots_) {
             paintStatusDot(painter, {x, top + Type::label2.line / 2},
                            {.color = dot, .diameter = Measure::statusDotInRow});
             x += Measure::statusDotInRow + Measure::gap8;
         }
+        if (!dots_.empty())
+            top += Type::label2.line;
+        for (const Line& text : lines_) {
+            drawRuns(painter, line(top, Type::label2.line), text);
+            top += Type::label2.line;
+        }
     }
 
 private:
     QString caption_, value_;
-    QStringList lines_;
-    QColor color_;
+    std::vector<Line> lines_;
     std::vector<QColor> dots_;
 };
 
 StatusStrip::StatusStrip(AppStore& store, QWidget* parent)
     : QWidget(parent),
       store_(store),
-      picture_(new ArtImage(QStringLiteral("drone-render"), ArtImage::Mode::fit, 0, this)),
+      picture_(new ArtImage(QStringLiteral("drone-render"), ArtImage::Mode::trimmed, 0, this)),
       cells_{new Cell(tr("Drone"), this), new Cell(tr("Cameras"), this), new Cell(tr("Wind"), this),
              new Cell(tr("Alerts"), this)} {
     setFixedHeight(1 + Measure::statusStripTop + Measure::statusStripCell);
@@ -94,48 +109,60 @@ void StatusStrip::refresh() {
     } else {
         for (Cell* cell : {cells_[0], cells_[1], cells_[2]})
             cell->setContent(QStringLiteral("—"), {});
+        cells_[1]->setDetails({});
     }
 }
 
 void StatusStrip::showDrone(const LiveState& state) {
     const bool onPad = state.phase == Phase::docked && isOverPad(state);
-    cells_[0]->setContent(
-        onPad ? tr("On its pad") : phaseWord(state.phase),
-        {tr("%1% battery · signal %2%").arg(rounded(state.drone.battery), percent(state.drone.signal))});
+    const TextRun battery{tr("%1% battery").arg(rounded(state.drone.battery)), Type::label2, SB::muted};
+    const TextRun low{battery.text, Type::label2Strong, SB::caution};
+    const TextRun signal{tr(" · signal %1%").arg(percent(state.drone.signal)), Type::label2, SB::muted};
+    cells_[0]->setContent(onPad ? tr("On its pad") : phaseWord(state.phase),
+                          {{isBatteryLow(state.drone, store_.settings()) ? low : battery, signal}});
 }
 
 void StatusStrip::showCameras(const LiveState& state) {
     const auto& cameras = state.site.cameras;
     std::vector<QColor> dots;
-    for (const CameraInfo& camera : cameras)
+    QStringList offline;
+    for (const CameraInfo& camera : cameras) {
         dots.push_back(camera.online ? SB::dot : SB::alert);
-    const auto online = std::ranges::count_if(cameras, &CameraInfo::online);
-    cells_[1]->setContent(tr("%1 of %2 online").arg(online).arg(cameras.size()), {}, SB::muted, dots);
+        if (!camera.online)
+            offline.append(isolated(toQString(camera.name)));
+    }
+    std::vector<Line> lines;
+    if (!offline.empty())
+        lines = {{{offline.size() == 1 ? tr("%1 offline").arg(offline.front())
+                                       : tr("%1 cameras offline").arg(offline.size()),
+                   Type::label2Medium, SB::alert}}};
+    const auto online = static_cast<qsizetype>(cameras.size()) - offline.size();
+    cells_[1]->setContent(tr("%1 of %2 online").arg(online).arg(cameras.size()), lines, dots);
+    cells_[1]->setDetails(offline.join(QStringLiteral(", ")));
 }
 
 void StatusStrip::showWind(const LiveState& state) {
     const double limit = store_.settings().maxWindKmh;
     const bool tooWindy = isTooWindy(state, store_.settings());
-    cells_[2]->setContent(
-        tr("%1 km/h").arg(rounded(state.windKmh)),
-        {tooWindy ? tr("Too windy to fly") : tr("Fine to fly (limit %1 km/h)").arg(truncated(limit))},
-        tooWindy ? SB::caution : SB::muted);
+    cells_[2]->setContent(tr("%1 km/h").arg(rounded(state.windKmh)),
+                          {tooWindy ? plainLine(tr("Too windy to fly"), SB::caution)
+                                    : plainLine(tr("Fine to fly (limit %1 km/h)").arg(truncated(limit)))});
 }
 
 void StatusStrip::showAlerts() {
-    cells_[3]->setContent(destination(store_.settings()),
-                          {tr("Unknown faces trigger an alert"), tr("Every launch needs your yes")});
+    cells_[3]->setContent(destination(store_.settings()), {plainLine(tr("Unknown faces trigger an alert")),
+                                                           plainLine(tr("Every launch needs your yes"))});
 }
 
 void StatusStrip::resizeEvent(QResizeEvent*) {
     constexpr int top = 1 + Measure::statusStripTop;
     const QSize picture =
         width() < Measure::narrowContent ? Measure::dronePictureNarrow : Measure::dronePicture;
-    picture_->setGeometry(0, top, picture.width(), picture.height());
+    picture_->setGeometry(0, top + Measure::dronePictureTop, picture.width(), picture.height());
     double left = 0;
     for (std::size_t i = 0; i < cells_.size(); ++i) {
         const double share = width() * shares[i] / sumOfShares;
-        const int indent = i == 0 ? picture.width() + Measure::gap16 : Measure::cellPadding;
+        const int indent = i == 0 ? picture.width() + Measure::dronePictureGap : Measure::cellPadding;
         cells_[i]->setGeometry(static_cast<int>(left) + indent, top,
                                static_cast<int>(share) - indent - Measure::gap8, Measure::statusStripCell);
         left += share;
