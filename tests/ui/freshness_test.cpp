@@ -1,6 +1,7 @@
 #include "ui/linked_ui_fixture.h"
 
 #include "ui/look/words.h"
+#include "ui/screens/stale_banner.h"
 
 #include <QLineEdit>
 
@@ -8,8 +9,7 @@ namespace velmora {
 
 namespace {
 
-const QString trying =
-    QStringLiteral("Trying again twice a second. Commands may not arrive until the link is back.");
+const QString warning = QStringLiteral("Commands may not arrive"), nothingYet = "No picture received yet. ";
 
 class FreshnessTest : public LinkedUiTest {
 protected:
@@ -19,8 +19,10 @@ protected:
     }
     Freshness freshness() { return store().freshness(); }
     QString oldPicture(const QString& age) {
-        return "This picture is " + age + " old, last received at " + timeOfDay(*store().lastAnswerAt()) +
-               ". " + trying;
+        if (store().section() == Section::overview)
+            return "Picture " + age + " old. " + warning + '.';
+        return "This picture is " + age + " old, received " + timeOfDay(*store().lastAnswerAt()) + ". " +
+               warning + " until the link is back.";
     }
     /// Waits until the banner has closed.
     bool bannerCloses() {
@@ -42,7 +44,7 @@ TEST_F(FreshnessTest, ShowsNoSimulatedStateBeforeTheFirstAnswer) {
     for (const char* simulated : {"Launch (approve)", "Open live flight →", "Armed", "Waiting for you"})
         EXPECT_TRUE(waitUntil([&] { return !shows(simulated); })) << simulated;
     EXPECT_TRUE(shows("Connecting…"));
-    EXPECT_FALSE(shows("No picture received yet. " + trying)) << "the first request is pending";
+    EXPECT_FALSE(shows(nothingYet + warning + '.')) << "the first request is pending";
     press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_TRUE(link.posts.empty());
 
@@ -61,7 +63,7 @@ TEST_F(FreshnessTest, TheFirstGoodAnswerShowsTheSite) {
     refuse();
     EXPECT_EQ(freshness(), Freshness::unknown) << "a refusal contains no state";
     EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
-    EXPECT_TRUE(shows("No picture received yet. " + trying));
+    EXPECT_TRUE(shows(nothingYet + warning + '.'));
     LiveState state = LiveState::initial();
     state.armed = false;
     serve(state);
@@ -96,6 +98,11 @@ TEST_F(FreshnessTest, TheStateIsStaleAfterTwoSecondsOfRefusals) {
     settle();
     EXPECT_TRUE(shows("Can't reach velmora — The connection was refused"));
     EXPECT_TRUE(shows(oldPicture("2 s")));
+    const QString trying =
+        " Last received at " + timeOfDay(*store().lastAnswerAt()) + ". Velmora tries again twice a second.";
+    EXPECT_TRUE(std::ranges::any_of(window().findChildren<StaleBanner*>(), [&](const QWidget* banner) {
+        return banner->isVisible() && banner->accessibleDescription() == oldPicture("2 s") + trying;
+    }));
     click("Connection settings");
     EXPECT_EQ(store().section(), Section::settings);
 }

@@ -51,9 +51,18 @@ TEST_F(OverviewTest, HeadlineAndLedeSummariseTheState) {
     store().setSection(Section::overview);
     fly(4);
     EXPECT_TRUE(shows("Your drone is on patrol."));
-    const QString metres = rounded(distance(live().drone.pos, live().visitor->pos));
-    EXPECT_TRUE(shows(phaseWord(phase()) + ", " + metres +
-                      " m. It stays inside your boundary and comes home on its own."));
+}
+
+TEST_F(OverviewTest, ADoubleClickSwitchesOnlyOnceAndTheFocusFollows) {
+    for (const auto& [clicked, other] : {std::pair("Disarm", "Arm system"), {"Arm system", "Disarm"}}) {
+        click(clicked);
+        const bool armed = live().armed;
+        ASSERT_TRUE(shows(other)) << other;
+        EXPECT_EQ(QApplication::focusWidget(), find(other));
+        mouse(QEvent::MouseButtonDblClick, *find(other));
+        mouse(QEvent::MouseButtonRelease, *find(other));
+        EXPECT_EQ(live().armed, armed) << other;
+    }
 }
 
 TEST_F(OverviewTest, TheBannerNamesThePhaseAndLeadsToTheFlight) {
@@ -142,8 +151,13 @@ TEST_F(OverviewTest, TheStripShowsWindCamerasAndDrone) {
     state.drone.signal = 0.125;
     serve(state);
     EXPECT_TRUE(shows("Wind, 31 km/h, Too windy to fly"));
-    EXPECT_TRUE(shows("Cameras, 2 of 3 online"));
+    EXPECT_TRUE(shows("Cameras, 2 of 3 online, " + toQString(state.site.cameras[1].name) + " offline"));
     EXPECT_TRUE(shows("Drone, Docked, 50% battery · signal 13%"));
+    state.site.cameras[0].online = false;
+    serve(state);
+    ASSERT_TRUE(shows("Cameras, 1 of 3 online, 2 cameras offline"));
+    EXPECT_EQ(find("Cameras, 1 of 3 online, 2 cameras offline")->toolTip(),
+              toQString(state.site.cameras[0].name) + ", " + toQString(state.site.cameras[1].name));
     state.phase = Phase::returning;
     serve(state);
     EXPECT_TRUE(shows("Drone, Coming home, 50% battery · signal 13%"));

@@ -16,11 +16,12 @@ Page::Page(const Parts& parts, QWidget* parent)
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(Measure::pageMargins);
     column->setSpacing(0);
-    column->addWidget(buildHeading(parts));
-    column->addSpacing(parts.contentGap);
+    heading_ = buildHeading(parts);
+    column->addWidget(heading_);
     column->addWidget(parts.content, parts.fills ? 1 : 0);
     if (!parts.fills)
         column->addStretch(1);
+    setContentGap(parts.contentGap);
     const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
     frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
     area_ = new ScrollArea(this);
@@ -54,6 +55,10 @@ QWidget* Page::buildHeading(const Parts& parts) {
 
 void Page::scrollToTop() {
     area_->verticalScrollBar()->setValue(0);
+}
+
+void Page::setContentGap(int gap) {
+    heading_->layout()->setContentsMargins(0, 0, 0, gap);
 }
 
 void Page::setHeadline(const Sentence& headline) {

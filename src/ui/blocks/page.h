@@ -33,10 +33,13 @@ public:
     void scrollToTop();
     void setHeadline(const Sentence& headline);
     void setLede(const QString& lede);
+    /// Sets the gap between heading and content, in pixels.
+    void setContentGap(int gap);
 
 private:
     QWidget* buildHeading(const Parts& parts);
 
+    QWidget* heading_;
     Headline* headline_;
     ScrollArea* area_;
     Text* lede_ = nullptr;

@@ -16,6 +16,7 @@
 #include <QAbstractButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -99,7 +100,12 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     connect(all, &QAbstractButton::clicked, this, [this] { store_.setSection(Section::history); });
 }
 
+int ActivityList::headingHeight() {
+    return static_cast<int>(Type::groupHeading.line) + Measure::gap4;
+}
+
 void ActivityList::setRows(int rows) {
+    rows = std::clamp(rows, Measure::activityRowsMinimum, Measure::activityRows);
     if (static_cast<std::size_t>(rows) == shown_)
         return;
     shown_ = static_cast<std::size_t>(rows);

@@ -19,8 +19,10 @@ public:
     ActivityList(AppStore& store, QWidget* parent);
 
     void refresh();
-    /// Sets the maximum number of rows.
+    /// Sets how many rows there is room for. The list shows at least two and at most five.
     void setRows(int rows);
+    /// Height above the first row, in pixels.
+    static int headingHeight();
 
 private:
     AppStore& store_;

@@ -5,9 +5,10 @@
 #include "ui/look/measures.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-#include "ui/map/site_map.h"
 
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -38,6 +39,13 @@ MapCard::MapCard(AppStore& store, QWidget* parent)
     column->addWidget(title, 0, Qt::AlignLeft);
     column->addSpacing(Measure::mapTitle - title->sizeHint().height());
     column->addLayout(mapArea(), 1);
+}
+
+/// Uses the gap below to give the map its least height, if that is enough.
+QSize MapCard::fitted(QSize room) {
+    const int wanted = Measure::overviewMap + rowsHeight();
+    const bool gapHelps = wanted - room.height() <= Measure::mapGap;
+    return MapPanel::fitted({room.width(), gapHelps ? std::max(room.height(), wanted) : room.height()});
 }
 
 void MapCard::refresh() {

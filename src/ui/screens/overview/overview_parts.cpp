@@ -4,11 +4,11 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
-#include "ui/guard/answer_button.h"
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 namespace velmora {
@@ -31,6 +31,8 @@ ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
     row->addWidget(arm_);
     connect(disarm_, &SBButton::clicked, this, [this] { store_.setArmed(false); });
     connect(arm_, &SBButton::clicked, this, [this] { store_.setArmed(true); });
+    for (SBButton* button : {disarm_, arm_})
+        button->installEventFilter(this);
     refresh();
 }
 
@@ -38,10 +40,10 @@ ArmSwitch::ArmSwitch(AppStore& store, QWidget* parent)
 void ArmSwitch::refresh() {
     const LiveState* state = store_.knownState();
     const bool armed = state && state->armed;
-    dot_->setDotStyle({.color = armed ? SB::dot : SB::rule, .halo = armed});
+    const bool live = store_.freshness() == Freshness::live;
+    dot_->setDotStyle({.color = armed ? SB::dot : SB::rule, .halo = armed && live});
     word_->setText(!state ? tr("Not known yet") : armed ? tr("Armed") : tr("Disarmed"));
-    disarm_->setVisible(armed);
-    arm_->setVisible(!armed);
+    offer(armed);
     for (SBButton* button : {disarm_, arm_}) {
         button->setEnabled(!store_.settings().linkMode);
         button->setToolTip(store_.settings().linkMode
@@ -50,69 +52,40 @@ void ArmSwitch::refresh() {
     }
 }
 
+/// Shows the button that changes the state. It takes over the focus of the other one.
+void ArmSwitch::offer(bool armed) {
+    SBButton* shown = armed ? disarm_ : arm_;
+    SBButton* hidden = armed ? arm_ : disarm_;
+    shown->show();
+    if (hidden->hasFocus())
+        shown->setFocus(Qt::OtherFocusReason);
+    hidden->hide();
+}
+
+bool ArmSwitch::eventFilter(QObject* watched, QEvent* event) {
+    return event->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(watched, event);
+}
+
 void ArmSwitch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillRounded(painter, rect(), Measure::cardRadius, SB::panel);
 }
 
-ActiveBanner::ActiveBanner(AppStore& store, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      dot_(new StatusDot({.color = SB::dTeal, .halo = true, .dark = true}, this)),
-      phase_(new Text({}, Type::status, SB::dTeal, this)) {
-    dot_->setPulsing(true);
-    auto* open = new SBButton(tr("Open live flight →"), {.kind = SBButtonKind::onDark}, this);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Measure::bannerMargins);
-    row->setSpacing(Measure::gap8);
-    row->addWidget(dot_);
-    row->addWidget(phase_, 1, Qt::AlignVCenter);
-    row->addWidget(open);
-    connect(open, &SBButton::clicked, this, [this] { store_.setSection(Section::live); });
-}
-
-void ActiveBanner::refresh() {
-    phase_->setText(phaseWord(store_.phase()));
-}
-
-QSize ActiveBanner::sizeHint() const {
-    return {QWidget::sizeHint().width(), Measure::bannerHeight};
-}
-
-void ActiveBanner::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    fillRounded(painter, rect(), Measure::cardRadius, SB::navy);
-}
-
-VisitOffers::VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent)
-    : QWidget(parent),
-      store_(store),
-      heading_(new Text(tr("Simulate a visitor"), Type::groupHeading, SB::ink, this)),
-      launch_(new AnswerButton(Command::approve, guard, tr("Launch (approve)"),
-                               {.kind = SBButtonKind::primary, .wide = true}, this)) {
+VisitOffers::VisitOffers(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
     auto* column = bareLayout<QVBoxLayout>(this, Measure::gap8);
-    column->addWidget(heading_);
+    column->addWidget(new Text(tr("Simulate a visitor"), Type::groupHeading, SB::ink, this));
     column->addSpacing(Measure::gap4);
     for (const auto& [scenario, id] : rawValuesOf<Scenario>) {
         auto* visit =
             new SBButton(scenarioTitle(scenario), {.kind = SBButtonKind::secondary, .wide = true}, this);
         connect(visit, &SBButton::clicked, this, [this, staged = scenario] { store_.simulate(staged); });
         column->addWidget(visit);
-        visits_.push_back(visit);
     }
-    column->addWidget(launch_);
     refresh();
 }
 
 void VisitOffers::refresh() {
-    const Phase phase = store_.phase();
-    const bool demo = !store_.settings().linkMode;
-    const bool waiting = store_.waitingAlert().has_value();
-    heading_->setVisible(demo);
-    for (SBButton* visit : visits_)
-        visit->setVisible(demo && phase == Phase::docked);
-    launch_->setVisible(waiting);
-    setVisible(waiting || (demo && phase == Phase::docked));
+    setVisible(!store_.settings().linkMode && store_.phase() == Phase::docked);
 }
 
 } // namespace velmora

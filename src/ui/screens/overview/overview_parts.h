@@ -4,12 +4,8 @@
 
 #include <QWidget>
 
-#include <vector>
-
 namespace velmora {
 
-class AnswerButton;
-class AnswerGuard;
 class SBButton;
 class StatusDot;
 class Text;
@@ -24,9 +20,13 @@ public:
     void refresh();
 
 protected:
+    /// Drops the second press of a double click, which would undo the first.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void offer(bool armed);
+
     AppStore& store_;
     StatusDot* dot_;
     Text* word_;
@@ -34,40 +34,17 @@ private:
     SBButton* arm_;
 };
 
-/// A dark banner with the phase of the current mission and a link to the live screen.
-class ActiveBanner : public QWidget {
-    Q_OBJECT
-
-public:
-    ActiveBanner(AppStore& store, QWidget* parent);
-
-    void refresh();
-    QSize sizeHint() const override;
-    bool hasHeightForWidth() const override { return false; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    AppStore& store_;
-    StatusDot* dot_;
-    Text* phase_;
-};
-
-/// The buttons for demo visits, or the launch button while an alert waits.
+/// The buttons for demo visits; hidden in link mode and during a mission.
 class VisitOffers : public QWidget {
     Q_OBJECT
 
 public:
-    VisitOffers(AppStore& store, AnswerGuard& guard, QWidget* parent);
+    VisitOffers(AppStore& store, QWidget* parent);
 
     void refresh();
 
 private:
     AppStore& store_;
-    Text* heading_;
-    std::vector<SBButton*> visits_;
-    AnswerButton* launch_;
 };
 
 } // namespace velmora

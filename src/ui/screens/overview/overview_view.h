@@ -1,14 +1,16 @@
 #pragma once
 
+#include "ui/look/ui_clock.h"
 #include "ui/screens/screen.h"
 
 namespace velmora {
 
-class ActiveBanner;
 class AnswerGuard;
 class ArmSwitch;
 class Fold;
 class MapCard;
+class OverviewBanner;
+class OverviewRail;
 class StatusStrip;
 
 /// Overview: a summary of the site.
@@ -20,17 +22,20 @@ public:
 
 protected:
     void refresh() override;
+    void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    class Rail;
+    /// Updates what changes with time, too.
+    void refreshMission();
 
     ArmSwitch* armSwitch_;
-    Fold* stale_;
-    Fold* active_;
-    ActiveBanner* activeBanner_;
+    OverviewBanner* banner_;
+    Fold* bannerFold_;
     MapCard* map_;
-    Rail* rail_;
+    OverviewRail* rail_;
     StatusStrip* strip_;
+    UiTimer everySecond_{std::chrono::seconds(1)}; ///< runs while a time is shown
 };
 
 } // namespace velmora
