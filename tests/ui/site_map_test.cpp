@@ -1,80 +1,10 @@
-#include "ui/map/site_map.h"
-
 #include "model/follow_point.h"
-#include "sim/simulator.h"
-#include "support/random.h"
-#include "ui/look/tokens.h"
-#include "ui/map/map_captions.h"
 #include "ui/map/map_description.h"
-#include "ui/map/map_painting.h"
-#include "ui/ui_fixture.h"
-
-#include <QImage>
-#include <QPainter>
+#include "ui/map_fixture.h"
 
 namespace velmora {
 
 namespace {
-
-constexpr QSize canvas(600, 400); // 4 pixels a metre
-
-bool isLike(const QColor& color, const QColor& expected, int tolerance = 6) {
-    return std::abs(color.red() - expected.red()) <= tolerance &&
-           std::abs(color.green() - expected.green()) <= tolerance &&
-           std::abs(color.blue() - expected.blue()) <= tolerance;
-}
-
-#define EXPECT_COLOR(color, expected)                                                                        \
-    EXPECT_TRUE(isLike(color, expected))                                                                     \
-        << (color).name().toStdString() << " instead of " << (expected).name().toStdString()
-
-QColor onNavy(const QColor& color, double opacity) {
-    return SB::mixed(SB::navy, color, opacity);
-}
-
-/// The demo site without its picture, cameras and labels.
-class MapPicture : public testing::Test {
-protected:
-    MapPicture() {
-        scene.state = LiveState::initial();
-        scene.state.site.planImage.clear();
-        scene.state.site.cameras.clear();
-        scene.measures.captions = false;
-        mission.end = mission.start + Seconds{1};
-        mission.visitorPath = {{20, 50.125}, {40, 50.125}};
-        mission.dronePath = {{74, 70}, {60, 55}};
-    }
-
-    QImage draw(double t = 0) const {
-        QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
-        image.fill(SB::navy);
-        QImage paths = image;
-        paths.fill(Qt::transparent);
-        QPainter onPaths(&paths);
-        drawPaths(onPaths, scene, canvas);
-        QPainter painter(&image);
-        drawGrounds(painter, scene, canvas);
-        painter.drawImage(0, 0, paths);
-        drawMovers(painter, scene, canvas, t);
-        return image;
-    }
-    QColor at(double x, double y, double t = 0) const {
-        return draw(t).pixelColor(static_cast<int>(x), static_cast<int>(y));
-    }
-    void addCamera(const std::string& id, P pos, double heading, bool online = true) {
-        scene.state.site.cameras.push_back({id, id, pos, heading, "", online});
-    }
-    void see(P pos, const std::string& camera) {
-        scene.state.visitor = Visitor{pos, "Unknown person", 0.9, camera, true, {}};
-    }
-    /// Shows the mission, which lasts one second, `seconds` after its start.
-    void replay(double seconds = 1) {
-        scene.replay = Replay{std::make_shared<MissionRecord>(mission), progressAt(mission, seconds)};
-    }
-
-    MapScene scene;
-    MissionRecord mission;
-};
 
 TEST_F(MapPicture, ThePlanFitsTheCanvasAndIsCentred) {
     const MapTransform wide({300, 300}, {100, 50});
@@ -207,18 +137,22 @@ TEST_F(MapPicture, LabelsOffLeavesTheShapesAndNoText) {
 TEST_F(MapPicture, CaptionsAndPathsHaveADarkEdge) {
     scene.state.site.boundary = {{-50, -50}, {200, -50}, {200, 150}, {-50, 150}};
     see({110, 60}, "a");
-    scene.state.visitor->trail = {{20, 30.125}, {60, 30.125}};
+    scene.state.visitor->trail = {{20, 30.275}, {60, 30.275}}; // fills whole rows of pixels
     const auto drawn = [&] {
         QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::white);
+        QImage paths(canvas, QImage::Format_ARGB32_Premultiplied);
+        paths.fill(Qt::transparent);
+        QPainter onPaths(&paths);
+        drawPaths(onPaths, scene, canvas);
         QPainter painter(&image);
-        drawPaths(painter, scene, canvas);
+        painter.drawImage(0, 0, paths);
         drawMovers(painter, scene, canvas, 0);
         return image;
     };
     const QColor edge = SB::mixed(Qt::white, SB::navy, 0.55);
     EXPECT_COLOR(drawn().pixelColor(160, 122), edge);
-    EXPECT_COLOR(drawn().pixelColor(160, 120), SB::mixed(edge, SB::lilac, 0.55));
+    EXPECT_COLOR(drawn().pixelColor(160, 121), SB::mixed(edge, SB::lilac, 0.55));
     EXPECT_COLOR(drawn().pixelColor(160, 124), QColor(Qt::white));
     const auto darkest = [](const QImage& image) {
         int least = 255;
@@ -231,80 +165,6 @@ TEST_F(MapPicture, CaptionsAndPathsHaveADarkEdge) {
     EXPECT_EQ(darkest(drawn().copy(label)), 255);
     scene.measures.captions = true;
     EXPECT_NEAR(darkest(drawn().copy(label)), edge.green(), 8);
-}
-
-/// The captions of the map in every twentieth of a second of a flight.
-class MapCaptions : public testing::TestWithParam<QSize> {
-protected:
-    template <class Look>
-    void flight(Scenario scenario, Look look) {
-        SeededRandom random;
-        Simulator simulator(LiveState::initial(), Settings{}, random);
-        Date now = dateFromSeconds(1'700'000'042);
-        simulator.trigger(scenario, now);
-        for (int step = 0; simulator.state.phase != Phase::docked; ++step) {
-            if (step == 160)
-                simulator.send(Command::approve, now);
-            if (step == 1600)
-                simulator.send(Command::returnHome, now);
-            simulator.step(0.05, now += Seconds{0.05});
-            scene.state = simulator.state;
-            look();
-        }
-    }
-    QRectF glyph() const {
-        QRectF circle(0, 0, 30, 30);
-        circle.moveCenter(view.map(scene.state.drone.pos));
-        return circle;
-    }
-
-    MapScene scene;
-    const MapTransform view{GetParam(), LiveState::initial().site.size};
-};
-
-INSTANTIATE_TEST_SUITE_P(Sizes, MapCaptions,
-                         testing::Values(QSize(435, 290), QSize(728, 485), QSize(1488, 992)));
-
-TEST_P(MapCaptions, ThePadGivesWayToTheHeightWithoutFlicker) {
-    for (const auto& [scenario, name] : rawValuesOf<Scenario>) {
-        SCOPED_TRACE(name);
-        double before = 1;
-        int appearances = 0, hidden = 0;
-        flight(scenario, [&] {
-            const double shown = padCaptionOpacity(scene, view);
-            hidden += shown == 0;
-            appearances += shown > 0 && before == 0;
-            before = shown;
-            if (shown > 0 && airborne(scene.state.phase)) {
-                const QRectF pad = padCaption(scene, view).area();
-                ASSERT_FALSE(pad.intersects(heightCaption(scene, view).box()));
-                ASSERT_FALSE(padCaption(scene, view).box().intersects(glyph()));
-            }
-        });
-        EXPECT_GT(hidden, 100);
-        EXPECT_LE(appearances, 3);
-    }
-}
-
-TEST_P(MapCaptions, TheVisitorsLabelStaysClearOfTheDroneAndSeldomChangesSides) {
-    for (const auto& [scenario, name] : rawValuesOf<Scenario>) {
-        SCOPED_TRACE(name);
-        int changes = 0;
-        scene.labelSide = LabelSide::right;
-        flight(scenario, [&] {
-            if (!scene.state.visitor)
-                return;
-            const LabelSide side = freeLabelSide(scene, view);
-            changes += side != scene.labelSide;
-            scene.labelSide = side;
-            const QRectF label = visitorCaption(scene, view, side).box();
-            ASSERT_FALSE(label.intersects(glyph()));
-            if (airborne(scene.state.phase)) {
-                ASSERT_FALSE(label.intersects(heightCaption(scene, view).box()));
-            }
-        });
-        EXPECT_LE(changes, 4);
-    }
 }
 
 TEST_F(MapPicture, TheBufferIsTruncatedAndTheHeightIsRounded) {
@@ -332,11 +192,12 @@ TEST_F(MapPicture, TheInsetShowsWhereTheDroneWouldHold) {
         const P hold = followPoint(scene.state.drone.pos, {110, 60.125}, scene.state.site, scene.settings).at;
         return at(hold.x * 4 + 5, hold.y * 4); // on the right of a circle 10 across
     };
+    const auto outline = [&](double radius) { return at(74 * 4 + radius, 70.7 * 4).green() > 50; };
     EXPECT_COLOR(ring(), SB::navy);
-    EXPECT_COLOR(at(74 * 4 + 15, 70.7 * 4), onNavy(SB::dTeal, 0.5));
+    EXPECT_TRUE(outline(15));
     scene.measures = insetMap;
-    EXPECT_COLOR(ring(), SB::dTeal);
-    EXPECT_COLOR(at(74 * 4 + 6.9, 70.7 * 4), onNavy(SB::dTeal, 0.5));
+    EXPECT_GT(ring().green(), 150);
+    EXPECT_TRUE(outline(6.9) && !outline(15));
     scene.state.visitor.reset();
     const QImage empty = draw();
     scene.measures.holdRadius = 0;
@@ -410,108 +271,6 @@ TEST_F(MapPicture, TheDescriptionLocatesDroneAndVisitor) {
     mission.visitorPath.clear();
     replay();
     EXPECT_EQ(mapDescription(scene), "Replay: nobody was tracked.");
-}
-
-/// A visible map of a flight that counts its paint events.
-class MapFrames : public MapPicture {
-protected:
-    class Counted : public SiteMap {
-    public:
-        Counted() : SiteMap(nullptr) {
-            resize(300, 200);
-            show();
-        }
-        int paints = 0;
-
-    protected:
-        void paintEvent(QPaintEvent* event) override {
-            ++paints;
-            SiteMap::paintEvent(event);
-        }
-    };
-
-    MapFrames() {
-        scene.state.phase = Phase::following;
-        see({90, 60}, "a");
-        map.setState(&scene.state, {}, Freshness::live);
-    }
-
-    void run(int frames) { clock.advance(frames * Motion::frame); }
-    /// Number of paint events in the time of five frames.
-    int frames() {
-        run(1);
-        map.paints = 0;
-        run(5);
-        return map.paints;
-    }
-    /// Number of paint events in the time of four frames, while the drone moves.
-    int framesOfMovement() {
-        run(1);
-        map.paints = 0;
-        for (int i = 0; i < 4; ++i) {
-            scene.state.drone.pos.x += 0.5;
-            scene.state.drone.trail.push_back(scene.state.drone.pos);
-            show();
-            run(1);
-        }
-        return map.paints;
-    }
-    void show() { map.setState(&scene.state, {}, Freshness::live); }
-
-    ManualClock clock;
-    Counted map;
-};
-
-TEST_F(MapFrames, AFlightIsAnimatedAndADockedDroneIsNot) {
-    EXPECT_EQ(frames(), 5);
-    show();
-    scene.state.phase = Phase::docked;
-    scene.state.visitor.reset();
-    show();
-    EXPECT_EQ(frames(), 0);
-    scene.state.windKmh = 20;
-    scene.state.drone.battery = 50;
-    map.paints = 0;
-    show();
-    run(3);
-    EXPECT_EQ(map.paints, 0);
-    scene.state.drone.heading += 40;
-    show();
-    run(3);
-    EXPECT_EQ(map.paints, 1);
-}
-
-TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
-    map.hide();
-    EXPECT_EQ(framesOfMovement(), 0);
-    map.show();
-    EXPECT_EQ(frames(), 5);
-    map.setCovered(true);
-    EXPECT_EQ(frames(), 0);
-    EXPECT_EQ(framesOfMovement(), 0);
-    map.setCovered(false);
-    EXPECT_EQ(frames(), 5);
-}
-
-TEST_F(MapFrames, StaleStatesAndReplaysAreNotAnimated) {
-    map.setState(&scene.state, {}, Freshness::stale);
-    EXPECT_EQ(frames(), 0);
-    map.setState(nullptr, {}, Freshness::unknown);
-    EXPECT_EQ(frames(), 0);
-    EXPECT_EQ(map.accessibleName(), "Waiting for velmora");
-    map.setState(&scene.state, {}, Freshness::live);
-    EXPECT_EQ(frames(), 5);
-    EXPECT_TRUE(map.accessibleName().startsWith("Map of your grounds. The drone is at"));
-    replay();
-    map.setReplay(*scene.replay, scene.state, {});
-    EXPECT_EQ(frames(), 0);
-    map.setReplay(*scene.replay, scene.state, {});
-    run(3);
-    EXPECT_EQ(map.paints, 0) << "the position is unchanged";
-    scene.replay->progress = progressAt(mission, 0.2);
-    map.setReplay(*scene.replay, scene.state, {});
-    run(3);
-    EXPECT_EQ(map.paints, 1);
 }
 
 } // namespace

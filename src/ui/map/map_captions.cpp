@@ -5,9 +5,12 @@
 #include "ui/look/words.h"
 #include "ui/map/drone_glyph.h"
 
+#include <QCache>
 #include <QCoreApplication>
+#include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -15,12 +18,43 @@ namespace {
 
 constexpr double edgeWidth = 3; // behind the letters
 constexpr double padGap = 4;    // pixels, as everything here
-constexpr double heightOffset = 16, visitorLabelOffset = 10;
-constexpr double mapEdge = 4;             // between a caption and the map's edge
-constexpr double touching = 2, apart = 8; // distances to the drone
+constexpr double heightOffset = 16;
+constexpr double visitorLabelOffset = 10, visitorLabelRise = 24; // beside the visitor, and above or below
+constexpr double mapEdge = 4;                                    // between a caption and the map's edge
+constexpr double touching = 3, apart = 9;                        // distances to the drone
 
 QString tr(const char* text) {
     return QCoreApplication::translate("SiteMap", text);
+}
+
+double widthOf(const QString& text) {
+    static QCache<QString, double> cache(100);
+    if (const double* known = cache.object(text))
+        return *known;
+    const double width = textWidth(text, Type::mapCaption);
+    cache.insert(text, new double(width));
+    return width;
+}
+
+/// The caption as it is painted, with its area's size. Cached, because edges take longer than letters, and
+/// the map paints its moving captions in every frame.
+QPixmap pictureOf(const MapCaption& caption, double scale) {
+    using Key = std::pair<std::pair<QRgb, double>, QString>;
+    constexpr int mostPixels = 300'000; // about 1 MB
+    static QCache<Key, QPixmap> cache(mostPixels);
+    const Key key{{caption.color.rgba(), scale}, caption.text};
+    if (const QPixmap* known = cache.object(key))
+        return *known;
+    const QRectF area = caption.area(), box = caption.box().translated(-area.topLeft());
+    QPixmap picture((area.size() * scale).toSize() + QSize(1, 1));
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawText(painter, box, caption.text, Type::mapCaption, caption.color, Qt::AlignVCenter,
+             {SB::faded(SB::navy, 0.55), edgeWidth});
+    painter.end();
+    cache.insert(key, new QPixmap(picture), picture.width() * picture.height());
+    return picture;
 }
 
 /// Distance between the rectangles along the axis on which they are farther apart; negative if they overlap.
@@ -41,7 +75,7 @@ double gapToDrone(const QRectF& box, const MapScene& scene, const MapTransform& 
 } // namespace
 
 QRectF MapCaption::box() const {
-    QRectF box(at, QSizeF(textWidth(text, Type::mapCaption), Type::mapCaption.line));
+    QRectF box(at, QSizeF(widthOf(text), Type::mapCaption.line));
     if (anchor & Qt::AlignRight)
         box.moveRight(at.x());
     else if (anchor & Qt::AlignHCenter)
@@ -54,13 +88,16 @@ QRectF MapCaption::box() const {
 }
 
 QRectF MapCaption::area() const {
-    constexpr double edge = edgeWidth / 2 + 1; // and half a pixel of rounding
-    return box().adjusted(-edge, -edge, edge, edge);
+    constexpr double margin = edgeWidth / 2 + 1; // and rounding
+    return box().adjusted(-margin, -margin, margin, margin);
 }
 
+/// Whole pixels keep the letters sharp while the caption moves.
 void drawCaption(QPainter& painter, const MapCaption& caption) {
-    drawText(painter, caption.box(), caption.text, Type::mapCaption, caption.color, Qt::AlignVCenter,
-             {SB::faded(SB::navy, 0.55), edgeWidth});
+    const double scale = painter.device()->devicePixelRatioF();
+    const QPointF corner = caption.area().topLeft() * scale;
+    painter.drawPixmap(QPointF(std::round(corner.x()), std::round(corner.y())) / scale,
+                       pictureOf(caption, scale));
 }
 
 MapCaption padCaption(const MapScene& scene, const MapTransform& view) {
@@ -95,8 +132,8 @@ MapCaption captionBeside(QPointF point, double offset, const QString& text, cons
 MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side) {
     const QPointF at = view.map(scene.state.visitor->pos);
     MapCaption caption{toQString(scene.state.visitor->label), SB::lilac, at, {}};
-    const double right = view.canvas().right() - mapEdge;
-    const double end = std::clamp(at.x(), std::min(caption.box().width() + mapEdge, right), right);
+    const double last = std::max(view.canvas().right() - mapEdge - caption.box().width(), mapEdge);
+    const double start = std::clamp(at.x(), mapEdge, last);
     switch (side) {
     case LabelSide::right:
         caption.at.rx() += visitorLabelOffset;
@@ -107,12 +144,12 @@ MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, Label
         caption.anchor = Qt::AlignRight | Qt::AlignVCenter;
         break;
     case LabelSide::above:
-        caption.at = {end, at.y() - visitorLabelOffset};
-        caption.anchor = Qt::AlignRight | Qt::AlignBottom;
+        caption.at = {start, at.y() - visitorLabelRise};
+        caption.anchor = Qt::AlignLeft | Qt::AlignBottom;
         break;
     case LabelSide::below:
-        caption.at = {end, at.y() + visitorLabelOffset};
-        caption.anchor = Qt::AlignRight | Qt::AlignTop;
+        caption.at = {start, at.y() + visitorLabelRise};
+        caption.anchor = Qt::AlignLeft | Qt::AlignTop;
         break;
     }
     return caption;

@@ -129,7 +129,7 @@ public:
         const auto flown = replay ? replay->dronePath() : std::span<const P>(scene_.state.drone.trail);
         const QColor edge = SB::faded(SB::navy, 0.55);
         const double width = measures_.pathWidth;
-        const QPen below(edge, width + pathEdge, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+        const QPen below(edge, width + pathEdge, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin); // fast
         drawPath(seen, below);
         drawPath(flown, below);
         drawPath(seen, QPen(painted(SB::faded(SB::lilac, replay ? 0.85 : 0.55), edge), width, Qt::SolidLine,

@@ -1,0 +1,113 @@
+#include "ui/manual_clock.h"
+#include "ui/map/site_map.h"
+#include "ui/map_fixture.h"
+
+namespace velmora {
+
+namespace {
+
+/// A visible map of a flight that counts its paint events.
+class MapFrames : public MapPicture {
+protected:
+    class Counted : public SiteMap {
+    public:
+        Counted() : SiteMap(nullptr) {
+            resize(300, 200);
+            show();
+        }
+        int paints = 0;
+
+    protected:
+        void paintEvent(QPaintEvent* event) override {
+            ++paints;
+            SiteMap::paintEvent(event);
+        }
+    };
+
+    MapFrames() {
+        scene.state.phase = Phase::following;
+        see({90, 60}, "a");
+        map.setState(&scene.state, {}, Freshness::live);
+    }
+
+    void run(int frames) { clock.advance(frames * Motion::frame); }
+    /// Number of paint events in the time of five frames.
+    int frames() {
+        run(1);
+        map.paints = 0;
+        run(5);
+        return map.paints;
+    }
+    /// Number of paint events in the time of four frames, while the drone moves.
+    int framesOfMovement() {
+        run(1);
+        map.paints = 0;
+        for (int i = 0; i < 4; ++i) {
+            scene.state.drone.pos.x += 0.5;
+            scene.state.drone.trail.push_back(scene.state.drone.pos);
+            show();
+            run(1);
+        }
+        return map.paints;
+    }
+    void show() { map.setState(&scene.state, {}, Freshness::live); }
+
+    ManualClock clock;
+    Counted map;
+};
+
+TEST_F(MapFrames, AFlightIsAnimatedAndADockedDroneIsNot) {
+    EXPECT_EQ(frames(), 5);
+    show();
+    scene.state.phase = Phase::docked;
+    scene.state.visitor.reset();
+    show();
+    EXPECT_EQ(frames(), 0);
+    scene.state.windKmh = 20;
+    scene.state.drone.battery = 50;
+    map.paints = 0;
+    show();
+    run(3);
+    EXPECT_EQ(map.paints, 0);
+    scene.state.drone.heading += 40;
+    show();
+    run(3);
+    EXPECT_EQ(map.paints, 1);
+}
+
+TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
+    map.hide();
+    EXPECT_EQ(framesOfMovement(), 0);
+    map.show();
+    EXPECT_EQ(frames(), 5);
+    map.setCovered(true);
+    EXPECT_EQ(frames(), 0);
+    EXPECT_EQ(framesOfMovement(), 0);
+    map.setCovered(false);
+    EXPECT_EQ(frames(), 5);
+}
+
+TEST_F(MapFrames, StaleStatesAndReplaysAreNotAnimated) {
+    map.setState(&scene.state, {}, Freshness::stale);
+    EXPECT_EQ(frames(), 0);
+    map.setState(nullptr, {}, Freshness::unknown);
+    EXPECT_EQ(frames(), 0);
+    EXPECT_EQ(map.accessibleName(), "Waiting for velmora");
+    map.setState(&scene.state, {}, Freshness::live);
+    EXPECT_EQ(frames(), 5);
+    EXPECT_TRUE(map.accessibleName().startsWith("Map of your grounds. The drone is at"));
+    replay();
+    map.setReplay(*scene.replay, scene.state, {});
+    EXPECT_EQ(frames(), 0);
+    map.setReplay(*scene.replay, scene.state, {});
+    run(3);
+    EXPECT_EQ(map.paints, 0) << "the position is unchanged";
+    scene.replay->progress = progressAt(mission, 0.2);
+    map.setReplay(*scene.replay, scene.state, {});
+    run(3);
+    EXPECT_EQ(map.paints, 1);
+}
+
+} // namespace
+
+} // namespace velmora
