@@ -9,31 +9,35 @@
 
 namespace velmora {
 
-ConfirmationCard::ConfirmationCard(const Texts& texts, QWidget* window)
-    : OverlayCard(Measure::confirmationCard, window),
+ConfirmationCard::ConfirmationCard(const Texts& texts, QWidget* window, const Form& form)
+    : OverlayCard(form.width, window),
+      words_(new QVBoxLayout),
       body_(new Text(texts.body, Type::confirmationBody, SB::body, card())),
-      keep_(new SBButton(texts.keep, {.kind = SBButtonKind::secondary}, card())) {
+      keep_(new SBButton(texts.keep, {.kind = SBButtonKind::secondary, .wide = form.wideButtons}, card())) {
     setAccessibleName(texts.title);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Measure::gap12);
-    buttons->addStretch(1);
+    buttons->setSpacing(form.betweenButtons);
+    if (!form.wideButtons)
+        buttons->addStretch(1);
     buttons->addWidget(keep_);
     if (!texts.confirm.isEmpty())
-        addConfirmButton(texts.confirm, buttons);
+        addConfirmButton(texts.confirm, form.wideButtons, buttons);
 
-    column()->setContentsMargins(Measure::confirmationMargins);
-    column()->addWidget(new Text(texts.title, Type::confirmationTitle, SB::ink, card()));
-    column()->addSpacing(Measure::gap8);
-    column()->addWidget(body_);
-    column()->addSpacing(Measure::gap24);
+    words_->setSpacing(0);
+    words_->addWidget(new Text(texts.title, Type::confirmationTitle, SB::ink, card()));
+    words_->addSpacing(Measure::gap8);
+    words_->addWidget(body_);
+    column()->setContentsMargins(form.margins);
+    column()->addLayout(words_);
+    column()->addSpacing(form.aboveButtons);
     column()->addLayout(buttons);
 
     connect(keep_, &SBButton::clicked, this, &OverlayCard::close);
     connect(this, &OverlayCard::dismissed, this, &OverlayCard::close);
 }
 
-void ConfirmationCard::addConfirmButton(const QString& text, QHBoxLayout* buttons) {
-    auto* confirm = new SBButton(text, {.kind = SBButtonKind::danger}, card());
+void ConfirmationCard::addConfirmButton(const QString& text, bool wide, QHBoxLayout* buttons) {
+    auto* confirm = new SBButton(text, {.kind = SBButtonKind::danger, .wide = wide}, card());
     buttons->addWidget(confirm);
     connect(confirm, &SBButton::clicked, this, [this] {
         if (!isOpen())
@@ -41,6 +45,10 @@ void ConfirmationCard::addConfirmButton(const QString& text, QHBoxLayout* button
         close();
         emit confirmed();
     });
+}
+
+void ConfirmationCard::addBelowBody(QWidget* content) {
+    words_->addWidget(content);
 }
 
 void ConfirmationCard::setBody(const QString& body) {

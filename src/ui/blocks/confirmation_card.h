@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/blocks/overlay_card.h"
+#include "ui/look/measures.h"
 
 class QHBoxLayout;
 
@@ -21,7 +22,17 @@ public:
         QString confirm; ///< the button that carries out the action; empty for a card that only informs
     };
 
-    ConfirmationCard(const Texts& texts, QWidget* window);
+    /// The card's measures in pixels.
+    struct Form {
+        int width = Measure::confirmationCard;
+        QMargins margins = Measure::confirmationMargins;
+        int aboveButtons = Measure::gap24;
+        int betweenButtons = Measure::gap12;
+        bool wideButtons = false; ///< they fill the card's width
+    };
+
+    ConfirmationCard(const Texts& texts, QWidget* window, const Form& form);
+    ConfirmationCard(const Texts& texts, QWidget* window) : ConfirmationCard(texts, window, Form()) {}
 
     void setBody(const QString& body);
 
@@ -30,10 +41,13 @@ signals:
 
 protected:
     void focusFirst() override;
+    /// Adds content between the body and the buttons.
+    void addBelowBody(QWidget* content);
 
 private:
-    void addConfirmButton(const QString& text, QHBoxLayout* buttons);
+    void addConfirmButton(const QString& text, bool wide, QHBoxLayout* buttons);
 
+    QVBoxLayout* words_; ///< title, body and what a subclass adds
     Text* body_;
     SBButton* keep_;
 };

@@ -7,6 +7,16 @@
 
 namespace velmora {
 
+namespace {
+
+/// How far a tabular "1" at the start of the value stands away from the left edge, so that the value can be
+/// moved flush with its caption.
+double bearingOfOne(const QString& value, const TextStyle& style) {
+    return value.startsWith('1') ? bearingOf(value.front(), style) : 0;
+}
+
+} // namespace
+
 Metric::Metric(const QString& label, Size size, bool dark, QWidget* parent)
     : QWidget(parent),
       label_(label),
@@ -53,6 +63,26 @@ void Metric::setTint(const std::optional<QColor>& tint) {
     update();
 }
 
+void Metric::setOnPill(bool onPill) {
+    if (onPill == onPill_)
+        return;
+    onPill_ = onPill;
+    update();
+}
+
+/// A value that is too wide is drawn smaller.
+const TextStyle& Metric::valueStyle() const {
+    return textWidth(value_, style_) > width() ? Type::metric : style_;
+}
+
+QRectF Metric::pill() const {
+    const double shift = bearingOfOne(value_, valueStyle());
+    const double width =
+        textWidth(value_, valueStyle()) - shift + Measure::unitGap + textWidth(unit_, Type::unit);
+    return {-Measure::gap8, Measure::pillTop, width + 2 * Measure::gap8,
+            Measure::pillBottom - Measure::pillTop};
+}
+
 void Metric::setDimmed(bool dimmed) {
     if (dimmed == dimmed_)
         return;
@@ -83,15 +113,16 @@ void Metric::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor quiet = dark_ ? SB::dLabel : SB::muted;
     const QColor plain = dimmed_ ? quiet : dark_ ? SB::dTitle : SB::ink;
+    const auto color = [&](const QColor& usual) { return onPill_ ? SB::page : tint_.value_or(usual); };
     QRectF row(0, 0, width(), Type::caption.line);
     drawText(painter, row, label_, Type::caption, quiet, Qt::AlignLeft);
-    row = QRectF(0, row.bottom() + Measure::metricGap, width(), style_.line);
-    const TextStyle& style = textWidth(value_, style_) > width() ? Type::metric : style_;
+    const TextStyle& style = valueStyle();
+    row = QRectF(-bearingOfOne(value_, style), row.bottom() + Measure::metricGap, width(), style_.line);
     row.translate(0, baselineOf(style_) - baselineOf(style));
-    drawText(painter, row, value_, style, tint_.value_or(plain), Qt::AlignLeft);
+    drawText(painter, row, value_, style, color(plain), Qt::AlignLeft);
     const double sharedBaseline = baselineOf(style) - baselineOf(Type::unit);
     row.adjust(textWidth(value_, style) + Measure::unitGap, sharedBaseline, 0, 0);
-    drawText(painter, row, unit_, Type::unit, tint_.value_or(quiet), Qt::AlignLeft);
+    drawText(painter, row, unit_, Type::unit, color(quiet), Qt::AlignLeft);
     double top = valueHeight() + Measure::reasonGap;
     for (const QString& line : reasonLines(width())) {
         drawText(painter, QRectF(0, top, width(), Type::legend.line), line, Type::legend,

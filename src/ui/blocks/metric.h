@@ -21,6 +21,11 @@ public:
     void setValue(const QString& value, const QString& unit);
     /// Colours value and unit; nullopt restores the default colours.
     void setTint(const std::optional<QColor>& tint);
+    /// Draws value and unit in the page's colour, for a pill behind them.
+    void setOnPill(bool onPill);
+    bool isOnPill() const { return onPill_; }
+    /// Where that pill lies; it reaches over the widget's edges, so that the parent paints it.
+    QRectF pill() const;
     /// Explains the value in a line below, wrapped to the widget's width; empty for none.
     void setReason(const QString& reason);
     /// Draws the value in the label's colour, for values that may be out of date.
@@ -36,6 +41,7 @@ protected:
 
 private:
     void describe();
+    const TextStyle& valueStyle() const;
     int valueHeight() const;
     QStringList reasonLines(int width) const;
 
@@ -44,6 +50,7 @@ private:
     std::optional<QColor> tint_;
     bool dark_;
     bool dimmed_ = false;
+    bool onPill_ = false;
 };
 
 } // namespace velmora

@@ -50,6 +50,29 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
     hide();
 }
 
+void OverlayCard::setCorner(QPoint corner) {
+    layout()->setAlignment(card_, Qt::AlignLeft | Qt::AlignTop);
+    layout()->setContentsMargins(corner.x(), corner.y(), 0, 0);
+}
+
+void OverlayCard::setBright(const QRect& area, double radius) {
+    bright_ = area;
+    brightRadius_ = radius;
+    update();
+}
+
+bool OverlayCard::covers(const QWidget& widget) const {
+    return open_ && !isAncestorOf(&widget) &&
+           !bright_.contains(QRect(widget.mapTo(window(), QPoint()), widget.size()));
+}
+
+QPainterPath OverlayCard::veil() const {
+    QPainterPath area;
+    area.addRect(rect());
+    area.addRoundedRect(bright_, brightRadius_, brightRadius_);
+    return area;
+}
+
 void OverlayCard::open() {
     if (open_)
         return;
@@ -133,7 +156,9 @@ void OverlayCard::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const bool moving = appearance_.isRunning();
     const double shown = appearance_.value();
-    painter.fillRect(rect(), SB::faded(SB::navy, Measure::veil * shown));
+    painter.fillPath(veil(), SB::faded(SB::navy, Measure::veil * shown));
+    if (!bright_.isEmpty())
+        painter.setClipPath(veil()); // for the shadow
     painter.setOpacity(shown);
     if (moving) {
         const QPointF center = QRectF(card_->geometry()).center();

@@ -95,12 +95,17 @@ inline constexpr int mapMinimumHeight = 280;
 inline constexpr int liveCardMinimum = 480; // below it the telemetry is clipped
 inline constexpr int narrowContent = 900;   // below it the telemetry takes two rows, as in a card below
 inline constexpr int wideTelemetry = 560;
-inline constexpr int noteRow = 47;
+inline constexpr int liveBannerGap = 14; // around the stale banner of a low window, and always below it
+inline constexpr int noteRow = 47, noteRowLow = 40;
+inline constexpr int noteTop = 5, noteTopLow = 2; // of the message in it
+inline constexpr int noteTextX = 36;
+inline constexpr int railGapLow = 14, controlsGapLow = 6;
 inline constexpr int cardInset = 20;
-inline constexpr int telemetry = 106, telemetryNarrow = 146;
+inline constexpr int telemetry = 106, telemetryNarrow = 138;
 inline constexpr QMargins telemetryMargins(20, 24, 20, 28);
-inline constexpr QMargins telemetryNarrowMargins(20, 14, 20, 14);
-inline constexpr int telemetryRowGap = 10;
+inline constexpr QMargins telemetryNarrowMargins(20, 12, 20, 12);
+inline constexpr int telemetryRowGap = 6;
+inline constexpr int pillTop = 15, pillBottom = 56; // below the top of a metric's caption
 inline constexpr int timelineRow = 28;
 inline constexpr double timelineMarker = 14;
 inline constexpr double timelineMarkerX = 7;
@@ -108,7 +113,9 @@ inline constexpr double timelineTick = 12;
 inline constexpr double timelineHalo = 4;
 inline constexpr double timelineHole = 6;
 inline constexpr double timelineTitleX = 28;
+inline constexpr double timelineLineTitle = 16; // from the current marker's centre, in one line
 inline constexpr QSize visitorPicture(72, 54);
+inline constexpr double visitorCrop = 300.0 / 1280; // of the camera picture's width
 inline constexpr int visitorGap = 14;
 inline constexpr int logTime = 54;
 inline constexpr int logTextX = 82;
@@ -201,5 +208,8 @@ inline constexpr double chipText = 200; // at most
 // The landing confirmation
 inline constexpr int confirmationCard = 420;
 inline constexpr QMargins confirmationMargins(28, 28, 28, 24);
+inline constexpr int landingCard = 328, landingSide = 20; // wider than the rail, at each side
+inline constexpr QMargins landingMargins(20, 24, 20, 24);
+inline constexpr int factsGap = 11; // below the hairline
 
 } // namespace velmora::Measure

@@ -14,6 +14,7 @@ inline constexpr milliseconds formFold{160};
 inline constexpr milliseconds cardIn{220};
 inline constexpr milliseconds cardOut{140};
 inline constexpr milliseconds sectionChange{160};
+inline constexpr milliseconds notice{160};
 
 inline constexpr milliseconds frame{34}; ///< between two frames: at most 30 a second
 

@@ -144,6 +144,12 @@ QPainterPath outlinesOf(const QString& text, const TextStyle& style, double edge
 
 } // namespace
 
+double bearingOf(QChar character, const TextStyle& style) {
+    double cell = 0;
+    layoutTabular(character, style, [&](double offset, const QString&) { cell = offset; });
+    return cell + outlinesOf(character, style).boundingRect().left();
+}
+
 /// Fills outlines instead of drawing glyphs, because FreeType draws the stems of this typeface one weight too
 /// thick.
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,

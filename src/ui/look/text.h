@@ -15,6 +15,9 @@ QFont fontOf(const TextStyle& style);
 /// Width of one line in pixels, without tracking after its last letter.
 double textWidth(const QString& text, const TextStyle& style);
 
+/// Distance from the left edge of a single character's cell to its ink, pixels.
+double bearingOf(QChar character, const TextStyle& style);
+
 /// The text, or as much of its start as fits into the width, with an ellipsis.
 QString elided(const QString& text, const TextStyle& style, double width);
 

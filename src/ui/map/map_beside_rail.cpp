@@ -4,6 +4,7 @@
 #include "ui/map/site_map.h"
 
 #include <QScrollArea>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -11,23 +12,22 @@ namespace velmora {
 
 namespace {
 
-/// Keeps a map at the largest size with the site's proportions, centred.
+/// Keeps a map at the largest size with the site's proportions, at the left or centred.
 class MapArea : public ItemLayout {
 public:
-    explicit MapArea(SiteMap* map) : map_(map) { addWidget(map); }
+    MapArea(SiteMap* map, Qt::Alignment alignment) : map_(map), alignment_(alignment) { addWidget(map); }
 
     QSize sizeHint() const override { return minimumSize(); }
     QSize minimumSize() const override { return {0, 0}; }
     Qt::Orientations expandingDirections() const override { return Qt::Horizontal | Qt::Vertical; }
     void setGeometry(const QRect& rect) override {
         QLayout::setGeometry(rect);
-        const QSize size = map_->fitted(rect.size());
-        const QPoint corner((rect.width() - size.width()) / 2, (rect.height() - size.height()) / 2);
-        map_->setGeometry({rect.topLeft() + corner, size});
+        map_->setGeometry(QStyle::alignedRect(Qt::LeftToRight, alignment_, map_->fitted(rect.size()), rect));
     }
 
 private:
     SiteMap* map_;
+    Qt::Alignment alignment_;
 };
 
 } // namespace
@@ -35,8 +35,8 @@ private:
 MapPanel::MapPanel(QSize minimum, QWidget* parent)
     : QWidget(parent), map_(new SiteMap(this)), minimum_(minimum) {}
 
-QLayout* MapPanel::mapArea() {
-    return new MapArea(map_);
+QLayout* MapPanel::mapArea(Qt::Alignment alignment) {
+    return new MapArea(map_, alignment);
 }
 
 QSize MapPanel::minimumSizeHint() const {

@@ -24,8 +24,8 @@ protected:
     /// mapArea() and the rows.
     MapPanel(QSize minimum, QWidget* parent);
 
-    /// A new layout item that keeps the map at its size and in the middle.
-    QLayout* mapArea();
+    /// A new layout item that keeps the map at its size where the panel is wider.
+    QLayout* mapArea(Qt::Alignment alignment);
     /// The panel's size if all rows together have this height.
     QSize fitted(QSize room, int rows) const;
     /// The height of all rows.

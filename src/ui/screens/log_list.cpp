@@ -20,7 +20,9 @@ namespace {
 
 constexpr int maximumLines = 6; // per notice
 
-QColor colorOf(Notice::Level level) {
+} // namespace
+
+QColor noticeColor(Notice::Level level) {
     switch (level) {
     case Notice::Level::good:
         return SB::teal;
@@ -33,8 +35,6 @@ QColor colorOf(Notice::Level level) {
     }
     return SB::rule;
 }
-
-} // namespace
 
 /// One notice. The text is a child widget, so that assistive technology reads it; time and dot are painted.
 class LogRow : public QAbstractButton {
@@ -54,7 +54,7 @@ public:
 
     void setNotice(const Notice& notice) {
         time_ = timeOfDay(notice.time);
-        color_ = colorOf(notice.level);
+        color_ = noticeColor(notice.level);
         text_->setText(toQString(notice.text));
         (focusPolicy() == Qt::NoFocus ? static_cast<QWidget*>(text_) : this)
             ->setAccessibleName(time_ + ' ' + text_->text());

@@ -2,6 +2,7 @@
 
 #include "model/live_state.h"
 
+#include <QColor>
 #include <QWidget>
 
 #include <vector>
@@ -11,6 +12,9 @@ class QVBoxLayout;
 namespace velmora {
 
 class LogRow;
+
+/// Colour of the dot of a notice.
+QColor noticeColor(Notice::Level level);
 
 /// A column of notices (time, dot, text), optionally clickable.
 class LogList : public QWidget {

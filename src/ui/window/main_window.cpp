@@ -58,9 +58,7 @@ MainWindow::MainWindow(AppStore& store)
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        const bool cardShowsIt =
-            answersAlert(command) && approval_->isOpen() && store_.freshness() == Freshness::live;
-        if (!cardShowsIt)
+        if (!isFailureShown(command))
             toast_->setMessage(failureText(command, reason));
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
@@ -72,7 +70,7 @@ MainWindow::MainWindow(AppStore& store)
 
 void MainWindow::buildCards() {
     approval_ = new ApprovalOverlay(store_, *guard_, this);
-    landing_ = new LandConfirmation(store_, this);
+    landing_ = new LandConfirmation(store_, *live_, this);
     clearDemo_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
     exportFailed_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
@@ -98,10 +96,10 @@ void MainWindow::closePopupsAndDialogs() {
 }
 
 void MainWindow::buildSections() {
-    auto* live = new LiveView(store_, stack_);
-    connect(live, &LiveView::landRequested, this, [this] { landing_->open(); });
+    live_ = new LiveView(store_, stack_);
+    connect(live_, &LiveView::landRequested, this, [this] { landing_->ask(); });
     sections_[Section::overview] = new OverviewView(store_, *guard_, stack_);
-    sections_[Section::live] = live;
+    sections_[Section::live] = live_;
     history_ = new HistoryView(store_, stack_);
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
     connect(history_, &HistoryView::exportFailed, this, [this](const QString& why) {
@@ -168,6 +166,12 @@ void MainWindow::addToast() {
     layers_->addLayout(strip, 0, 0);
 }
 
+/// The card shows the failure of an answer while the link is live, Live flight that of a flight command.
+bool MainWindow::isFailureShown(Command command) const {
+    return answersAlert(command) ? approval_->isOpen() && store_.freshness() == Freshness::live
+                                 : store_.section() == Section::live && !approval_->isOpen();
+}
+
 bool MainWindow::isCovered() const {
     return std::ranges::any_of(overlays_, [](const OverlayCard* overlay) { return overlay->isOpen(); });
 }
@@ -176,7 +180,8 @@ bool MainWindow::isCovered() const {
 /// the resize handles above everything.
 void MainWindow::updateLayers() {
     for (SiteMap* map : content_->findChildren<SiteMap*>())
-        map->setCovered(isCovered());
+        map->setCovered(std::ranges::any_of(
+            overlays_, [map](const OverlayCard* overlay) { return overlay->covers(*map); }));
     if (approval_->isOpen())
         approval_->raise();
     strip_->setVeiled(isCovered());

@@ -17,6 +17,7 @@ class CommandMenus;
 class ConfirmationCard;
 class HistoryView;
 class LandConfirmation;
+class LiveView;
 class OverlayCard;
 class ResizeBands;
 class SectionStack;
@@ -43,6 +44,7 @@ private:
     void showWelcome();
     void askToClearDemo();
     void updateLayers();
+    bool isFailureShown(Command command) const;
     bool isCovered() const;
 
     AppStore& store_;
@@ -54,6 +56,7 @@ private:
     WelcomeView* welcome_;
     SectionStack* stack_;
     std::map<Section, QWidget*> sections_;
+    LiveView* live_;
     HistoryView* history_;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;

@@ -11,9 +11,11 @@
 namespace velmora {
 
 FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
-    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap8);
-    column->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
-    column->addSpacing(Measure::gap4);
+    outer_ = bareLayout<QVBoxLayout>(this, Measure::gap12);
+    outer_->addWidget(new Text(tr("Controls"), Type::groupHeading, SB::ink, this));
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Measure::gap8);
+    outer_->addLayout(column);
     explanation_ = new Text({}, Type::controlsNote, SB::muted, this);
     explanationBlock_ = new QWidget(this);
     auto* above = new QVBoxLayout(explanationBlock_);
@@ -41,6 +43,10 @@ FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(paren
     refresh();
 }
 
+void FlightControls::setLow(bool low) {
+    outer_->setSpacing(low ? Measure::controlsGapLow : Measure::gap12);
+}
+
 void FlightControls::refresh() {
     const Phase phase = store_.phase();
     const bool flying = airborne(phase);
@@ -58,6 +64,11 @@ void FlightControls::refresh() {
     offer(resume_, phase == Phase::holding);
     offer(returnHome_, flying);
     offer(land_, flying);
+    const auto pending = store_.pendingCommand();
+    hold_->setSent(pending == Command::hold);
+    resume_->setSent(pending == Command::resume);
+    returnHome_->setSent(pending == Command::returnHome);
+    land_->setSent(pending == Command::land);
     offer(simulate_, !flying && !store_.settings().linkMode);
 }
 

@@ -5,12 +5,32 @@
 
 namespace velmora {
 
-/// Asks for confirmation before the drone lands where it is.
+class LiveView;
+class Text;
+
+/// Asks for confirmation before the drone lands where it is. The card stands over the rail, and map and
+/// telemetry stay bright and live beside it.
 class LandConfirmation : public ConfirmationCard {
     Q_OBJECT
 
 public:
-    LandConfirmation(AppStore& store, QWidget* window);
+    LandConfirmation(AppStore& store, const LiveView& live, QWidget* window);
+
+    /// Opens the card beside the map. Its buttons lie below the button that asked, so that a double click on
+    /// that one lands nothing.
+    void ask();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void follow();
+    void showFacts();
+    void place();
+
+    AppStore& store_;
+    const LiveView& live_;
+    Text* facts_;
 };
 
 } // namespace velmora

@@ -2,15 +2,12 @@
 
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
-#include "ui/blocks/status_dot.h"
-#include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
-#include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/map/site_map.h"
+#include "ui/screens/live/note_row.h"
 #include "ui/screens/live/telemetry.h"
-#include "ui/screens/stale_banner.h"
 
 #include <QVBoxLayout>
 
@@ -19,17 +16,15 @@ namespace velmora {
 LiveCard::LiveCard(AppStore& store, QWidget* parent)
     : MapPanel({Measure::liveCardMinimum, Measure::mapMinimumHeight}, parent),
       store_(store),
+      note_(new NoteRow(store, this)),
       telemetry_(new Telemetry(this)) {
-    auto* note = new QGridLayout;
-    note->setContentsMargins(Measure::cardInset, 0, Measure::cardInset, 0);
-    note->setVerticalSpacing(0);
-    note->setRowMinimumHeight(0, Measure::noteRow);
-    note->addWidget(new Text(tr("Keep the drone in sight while it flies"), Type::legend, SB::dLabel, this), 0,
-                    0, Qt::AlignVCenter);
-    note->addWidget(new Hairline(this, Hairline::Tone::dark), 1, 0);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(Measure::cardInset, 0, Measure::cardInset, 0);
+    line->addWidget(new Hairline(this, Hairline::Tone::dark));
     auto* column = bareLayout<QVBoxLayout>(this);
-    column->addLayout(mapArea(), 1);
-    column->addLayout(note);
+    column->addLayout(mapArea(Qt::AlignCenter), 1);
+    column->addWidget(note_);
+    column->addLayout(line);
     column->addWidget(telemetry_);
     connect(&everySecond_, &UiTimer::timeout, this, &LiveCard::refresh);
     refresh();
@@ -38,14 +33,14 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
 void LiveCard::refresh() {
     const bool old = store_.freshness() == Freshness::stale;
     map_->setState(store_.knownState(), store_.settings(), store_.freshness());
+    note_->refresh();
     telemetry_->setState(store_.knownState(), store_.settings(), old ? *store_.lastAnswerAt() : store_.now());
     telemetry_->setDimmed(store_.freshness() != Freshness::live);
     everySecond_.setActive(old && isVisible());
-    const QString age = old ? StaleBanner::pictureAge(store_) : QString();
-    if (age == pictureAge_)
-        return;
-    pictureAge_ = age;
-    update();
+}
+
+void LiveCard::setLow(bool low) {
+    note_->setLow(low);
 }
 
 QSize LiveCard::fitted(QSize room) {
@@ -59,18 +54,6 @@ QSize LiveCard::fitted(QSize room) {
 void LiveCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillRounded(painter, rect(), Measure::cardRadius, SB::navy);
-    if (!pictureAge_.isEmpty())
-        paintPictureAge(painter);
-}
-
-void LiveCard::paintPictureAge(QPainter& painter) const {
-    const QRectF row(Measure::cardInset, map_->geometry().bottom() + 1, width() - 2 * Measure::cardInset,
-                     Measure::noteRow);
-    drawText(painter, row, pictureAge_, Type::caption, SB::dTitle, Qt::AlignVCenter | Qt::AlignRight);
-    const double dotX =
-        row.right() - textWidth(pictureAge_, Type::caption) - Measure::gap8 - Measure::statusDotInRow / 2;
-    paintStatusDot(painter, {dotX, row.center().y()},
-                   {.color = SB::lilac, .diameter = Measure::statusDotInRow});
 }
 
 } // namespace velmora

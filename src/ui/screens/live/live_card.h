@@ -6,9 +6,10 @@
 
 namespace velmora {
 
+class NoteRow;
 class Telemetry;
 
-/// The dark card of the live screen: the map, a note below it, and the drone's telemetry.
+/// The dark card of the live screen: the map, a row of notes below it, and the drone's telemetry.
 class LiveCard : public MapPanel {
     Q_OBJECT
 
@@ -16,6 +17,8 @@ public:
     LiveCard(AppStore& store, QWidget* parent);
 
     void refresh();
+    /// Uses the lower row of notes, for low windows.
+    void setLow(bool low);
     /// Arranges the telemetry in two rows if the card is narrow.
     QSize fitted(QSize room) override;
 
@@ -23,10 +26,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void paintPictureAge(QPainter& painter) const;
-
     AppStore& store_;
-    QString pictureAge_; ///< empty while the picture is fresh
+    NoteRow* note_;
     Telemetry* telemetry_;
     UiTimer everySecond_{std::chrono::seconds(1)}; ///< updates the age of an old picture
 };

@@ -29,13 +29,13 @@ LiveRail::LiveRail(AppStore& store, QWidget* parent)
       timeline_(new PhaseTimeline(this)),
       controls_(new FlightControls(store, this)) {
     visitorBlock_ = buildVisitor();
-    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap16);
-    column->addWidget(timeline_);
-    column->addWidget(new Hairline(this, Hairline::Tone::between));
-    column->addWidget(controls_);
-    column->addWidget(visitorBlock_);
-    column->addWidget(new Hairline(this, Hairline::Tone::between));
-    column->addWidget(buildLog(), 1);
+    column_ = bareLayout<QVBoxLayout>(this, Measure::gap16);
+    column_->addWidget(controls_);
+    column_->addWidget(new Hairline(this, Hairline::Tone::between));
+    column_->addWidget(timeline_);
+    column_->addWidget(visitorBlock_);
+    column_->addWidget(new Hairline(this, Hairline::Tone::between));
+    column_->addWidget(buildLog(), 1);
     connect(controls_, &FlightControls::landRequested, this, &LiveRail::landRequested);
     refresh();
 }
@@ -75,6 +75,14 @@ QWidget* LiveRail::buildLog() {
     return block;
 }
 
+void LiveRail::setLow(bool low) {
+    const int gap = low ? Measure::railGapLow : Measure::gap16;
+    column_->setSpacing(gap);
+    visitorBlock_->layout()->setSpacing(gap);
+    controls_->setLow(low);
+    timeline_->setLine(low);
+}
+
 void LiveRail::refresh() {
     const LiveState* state = store_.knownState();
     timeline_->setPhase(store_.phase());
@@ -82,6 +90,7 @@ void LiveRail::refresh() {
     visitorBlock_->setVisible(state && state->visitor);
     if (state && state->visitor)
         visitor_->setVisitor(*state->visitor, state->site);
+    visitor_->setDimmed(store_.freshness() != Freshness::live);
     const bool logged = state && !state->notices.empty();
     nothingLogged_->setVisible(!logged);
     log_->setVisible(logged);

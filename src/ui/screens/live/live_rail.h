@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QVBoxLayout;
+
 namespace velmora {
 
 class FlightControls;
@@ -12,7 +14,7 @@ class PhaseTimeline;
 class Text;
 class VisitorCard;
 
-/// The column to the right of the live card: mission steps, controls, visitor and flight log.
+/// The column to the right of the live card: controls, mission steps, visitor and flight log.
 class LiveRail : public QWidget {
     Q_OBJECT
 
@@ -20,6 +22,8 @@ public:
     LiveRail(AppStore& store, QWidget* parent);
 
     void refresh();
+    /// Uses smaller gaps and the timeline in one line, for low windows.
+    void setLow(bool low);
 
 signals:
     void landRequested();
@@ -29,6 +33,7 @@ private:
     QWidget* buildLog();
 
     AppStore& store_;
+    QVBoxLayout* column_;
     PhaseTimeline* timeline_;
     FlightControls* controls_;
     VisitorCard* visitor_;

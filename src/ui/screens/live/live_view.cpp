@@ -52,7 +52,7 @@ Sentence headlineFor(const AppStore& store) {
 
 LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent) {
     auto* content = new QWidget(this);
-    stale_ = new Fold(new StaleBanner(store, content), Measure::gap16, Motion::banner, content);
+    stale_ = new Fold(new StaleBanner(store, content), Measure::liveBannerGap, Motion::banner, content);
     card_ = new LiveCard(store, content);
     rail_ = new LiveRail(store, content);
     auto* column = bareLayout<QVBoxLayout>(content);
@@ -66,7 +66,15 @@ LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent) {
                      this));
     connect(rail_, &LiveRail::landRequested, this, &LiveView::landRequested);
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged,
-               &AppStore::linkStatusChanged});
+               &AppStore::linkStatusChanged, &AppStore::pendingCommandChanged});
+}
+
+QWidget* LiveView::rail() const {
+    return rail_;
+}
+
+QWidget* LiveView::card() const {
+    return card_;
 }
 
 void LiveView::refresh() {
@@ -74,6 +82,22 @@ void LiveView::refresh() {
     stale_->setOpen(StaleBanner::isDue(store_));
     card_->refresh();
     rail_->refresh();
+    fitHeight();
+}
+
+/// Makes room for all of the telemetry in a low window.
+void LiveView::fitHeight() {
+    const bool low = window()->height() < Measure::lowWindow;
+    if (low != low_) {
+        low_ = low;
+        card_->setLow(low);
+        rail_->setLow(low);
+    }
+    page().setContentGap(low && StaleBanner::isDue(store_) ? Measure::liveBannerGap : Measure::gap20);
+}
+
+void LiveView::resizeEvent(QResizeEvent*) {
+    fitHeight();
 }
 
 } // namespace velmora

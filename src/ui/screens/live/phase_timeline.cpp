@@ -6,7 +6,11 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -18,17 +22,6 @@ Progress progressOf(std::size_t step, std::optional<std::size_t> current) {
     if (!current || step > *current)
         return Progress::pending;
     return step == *current ? Progress::current : Progress::done;
-}
-
-QPointF markerCenter(std::size_t step) {
-    return {Measure::timelineMarkerX, (static_cast<double>(step) + 0.5) * Measure::timelineRow};
-}
-
-void paintConnector(QPainter& painter, std::size_t step, Progress next) {
-    const double gap = Measure::timelineMarker / 2;
-    const QPointF from = markerCenter(step) + QPointF(0, gap), to = markerCenter(step + 1) - QPointF(0, gap);
-    painter.fillRect(QRectF(from, QPointF(to.x() + 1, to.y())),
-                     next == Progress::pending ? SB::rule : SB::teal);
 }
 
 void paintMarker(QPainter& painter, QPointF center, Progress progress) {
@@ -58,8 +51,12 @@ PhaseTimeline::PhaseTimeline(QWidget* parent)
                               {tr("Following"), {Phase::following, Phase::holding}},
                               {tr("Coming home"), {Phase::returning}},
                               {tr("Landed"), {Phase::landing}}} {
-    setFixedHeight(static_cast<int>(static_cast<double>(steps_.size()) * Measure::timelineRow));
     declareRole(this, QAccessible::StaticText);
+    QStringList titles;
+    for (const TimelineStep& step : steps_)
+        titles += step.title;
+    setAccessibleDescription(titles.join(QStringLiteral(", ")));
+    setFixedHeight(static_cast<int>(steps_.size()) * Measure::timelineRow);
     describe();
 }
 
@@ -68,6 +65,14 @@ void PhaseTimeline::setPhase(Phase phase) {
         return;
     phase_ = phase;
     describe();
+    update();
+}
+
+void PhaseTimeline::setLine(bool line) {
+    if (line == line_)
+        return;
+    line_ = line;
+    setFixedHeight((line ? 1 : static_cast<int>(steps_.size())) * Measure::timelineRow);
     update();
 }
 
@@ -86,21 +91,64 @@ void PhaseTimeline::describe() {
                 : tr("No mission under way"));
 }
 
+double PhaseTimeline::currentTitleWidth() const {
+    const auto current = currentStep();
+    return current ? textWidth(steps_[*current].title, Type::bodyStrong) : 0;
+}
+
+/// In one line the title of the current step moves the later ones to the right.
+QPointF PhaseTimeline::markerCenter(std::size_t step) const {
+    const double along = (static_cast<double>(step) + 0.5) * Measure::timelineRow;
+    if (!line_)
+        return {Measure::timelineMarkerX, along};
+    const auto current = currentStep();
+    const double title = current && step > *current ? Measure::timelineLineTitle + currentTitleWidth() +
+                                                          Measure::gap8 - Measure::timelineMarker / 2
+                                                    : 0;
+    return {along - Measure::timelineRow / 2.0 + Measure::timelineMarkerX + title,
+            Measure::timelineRow / 2.0};
+}
+
+/// Paints the line from this step to the next one.
+void PhaseTimeline::paintConnector(QPainter& painter, std::size_t step) const {
+    const double gap = Measure::timelineMarker / 2;
+    const QPointF from = markerCenter(step), to = markerCenter(step + 1);
+    const double length = Measure::timelineRow - 2 * gap;
+    const QRectF line = line_ ? QRectF(to.x() - gap - length, to.y() - 0.5, length, 1)
+                              : QRectF(from + QPointF(0, gap), QSizeF(1, length));
+    painter.fillRect(line, progressOf(step + 1, currentStep()) == Progress::pending ? SB::rule : SB::teal);
+}
+
+void PhaseTimeline::paintTitle(QPainter& painter, std::size_t step) const {
+    const bool isCurrent = step == currentStep();
+    const QPointF center = markerCenter(step);
+    const double left = line_ ? center.x() + Measure::timelineLineTitle : Measure::timelineTitleX;
+    const QRectF title(left, center.y() - Measure::timelineRow / 2.0, width() - left, Measure::timelineRow);
+    if (isCurrent || !line_)
+        drawText(painter, title, steps_[step].title, isCurrent ? Type::bodyStrong : Type::body,
+                 isCurrent ? SB::ink : SB::body, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 void PhaseTimeline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto current = currentStep();
     for (std::size_t i = 0; i + 1 < steps_.size(); ++i)
-        paintConnector(painter, i, progressOf(i + 1, current));
+        paintConnector(painter, i);
     for (std::size_t i = 0; i < steps_.size(); ++i) {
-        const Progress progress = progressOf(i, current);
-        paintMarker(painter, markerCenter(i), progress);
-        const bool isCurrent = progress == Progress::current;
-        const QRectF title(Measure::timelineTitleX, static_cast<double>(i) * Measure::timelineRow,
-                           width() - Measure::timelineTitleX, Measure::timelineRow);
-        drawText(painter, title, steps_[i].title, isCurrent ? Type::bodyStrong : Type::body,
-                 isCurrent ? SB::ink : SB::body, Qt::AlignLeft | Qt::AlignVCenter);
+        paintMarker(painter, markerCenter(i), progressOf(i, currentStep()));
+        paintTitle(painter, i);
     }
+}
+
+/// In one line the tooltip names the step under the mouse.
+bool PhaseTimeline::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !line_)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    for (std::size_t i = 0; i < steps_.size(); ++i)
+        if (std::abs(help->pos().x() - markerCenter(i).x()) <= Measure::timelineMarker)
+            QToolTip::showText(help->globalPos(), steps_[i].title, this);
+    return true;
 }
 
 } // namespace velmora

@@ -3,6 +3,7 @@
 #include "model/flight_limits.h"
 #include "ui/blocks/metric.h"
 #include "ui/look/measures.h"
+#include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
@@ -13,10 +14,6 @@ namespace velmora {
 namespace {
 
 constexpr const char* absent = "—";
-
-std::optional<QColor> cautionIf(bool warns) {
-    return warns ? std::optional(SB::caution) : std::nullopt;
-}
 
 } // namespace
 
@@ -44,8 +41,9 @@ std::array<Metric*, 8> Telemetry::metrics() const {
 void Telemetry::showNothing() {
     for (Metric* metric : metrics()) {
         metric->setValue(QString::fromUtf8(absent), {});
-        metric->setTint(std::nullopt);
+        metric->setOnPill(false);
     }
+    update();
 }
 
 void Telemetry::setDimmed(bool dimmed) {
@@ -68,12 +66,25 @@ void Telemetry::setState(const LiveState* known, const Settings& settings, Date 
         toVisitor_->setValue(QString::fromUtf8(absent), {});
     fromPad_->setValue(rounded(distance(drone.pos, state.site.pad)), tr("m"));
     battery_->setValue(rounded(drone.battery), tr("%"));
-    battery_->setTint(cautionIf(isBatteryLow(drone, settings)));
+    battery_->setOnPill(isBatteryLow(drone, settings));
     wind_->setValue(rounded(state.windKmh), tr("km/h"));
-    wind_->setTint(cautionIf(isTooWindy(state, settings)));
+    wind_->setOnPill(isTooWindy(state, settings));
     flightTime_->setValue(
         state.missionStart ? clockTime(now - *state.missionStart) : QString::fromUtf8(absent), {});
     signal_->setValue(percent(drone.signal), tr("%"));
+    if (battery_->isOnPill() || wind_->isOnPill() || paintedPills_)
+        update();
+}
+
+void Telemetry::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintedPills_ = false;
+    for (const Metric* metric : metrics()) {
+        if (!metric->isOnPill())
+            continue;
+        paintedPills_ = true;
+        fillRounded(painter, metric->pill().translated(metric->pos()), Measure::thumbnailRadius, SB::caution);
+    }
 }
 
 void Telemetry::setNarrow(bool narrow) {

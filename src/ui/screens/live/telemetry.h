@@ -13,7 +13,8 @@ namespace velmora {
 
 class Metric;
 
-/// The drone's telemetry: eight metrics in one row or in two rows of four.
+/// The drone's telemetry: eight metrics in one row or in two rows of four. A low battery and a wind over the
+/// limit stand on a pill.
 class Telemetry : public QWidget {
     Q_OBJECT
 
@@ -28,6 +29,9 @@ public:
     void setNarrow(bool narrow);
     /// Height of one row or, if `narrow`, two rows, in pixels.
     static int heightFor(bool narrow);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void showNothing();
@@ -45,6 +49,7 @@ private:
     Metric* flightTime_;
     Metric* signal_;
     bool narrow_ = false;
+    bool paintedPills_ = false;
 };
 
 } // namespace velmora

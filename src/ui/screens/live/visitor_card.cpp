@@ -18,10 +18,13 @@ VisitorCard::VisitorCard(QWidget* parent) : QWidget(parent) {
     label_ = new Text({}, Type::rowTitleStrong, SB::ink, this);
     camera_ = new Text({}, Type::label2, SB::muted, this);
     certainty_ = new Text({}, Type::label2, SB::muted, this);
+    inside_ = new Text(tr("inside your boundary"), Type::label2, SB::muted, this);
+    outside_ = new Text(tr("outside your boundary"), Type::label2Strong, SB::ink, this);
+    picture_->setCrop({.share = Measure::visitorCrop});
 
     auto* words = new QVBoxLayout;
     words->setSpacing(0);
-    for (Text* text : {label_, camera_, certainty_})
+    for (Text* text : {label_, camera_, certainty_, inside_, outside_})
         words->addWidget(text);
     auto* row = bareLayout<QHBoxLayout>(this, Measure::visitorGap);
     row->addWidget(picture_, 0, Qt::AlignVCenter);
@@ -34,8 +37,13 @@ void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
     label_->setText(visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label));
     camera_->setText(camera ? tr("%1 camera").arg(toQString(camera->name))
                             : cameraName(site, visitor.cameraId));
-    const QString where = visitor.inside ? tr("inside your boundary") : tr("outside your boundary");
-    certainty_->setText(tr("%1% sure it's no one you know · ").arg(percent(visitor.confidence)) + where);
+    certainty_->setText(tr("%1% sure it's no one you know ·").arg(percent(visitor.confidence)));
+    inside_->setVisible(visitor.inside);
+    outside_->setVisible(!visitor.inside);
+}
+
+void VisitorCard::setDimmed(bool dimmed) {
+    label_->setColor(dimmed ? SB::muted : SB::ink);
 }
 
 } // namespace velmora

@@ -17,12 +17,16 @@ public:
     explicit VisitorCard(QWidget* parent);
 
     void setVisitor(const Visitor& visitor, const Site& site);
+    /// Draws the name paler, for a state that may be out of date.
+    void setDimmed(bool dimmed);
 
 private:
     ArtImage* picture_;
     Text* label_;
     Text* camera_;
     Text* certainty_;
+    Text* inside_;
+    Text* outside_;
 };
 
 } // namespace velmora
