@@ -5,7 +5,7 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
-#include "ui/look/words.h"
+#include "ui/screens/visitor_words.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -32,12 +32,10 @@ VisitorCard::VisitorCard(QWidget* parent) : QWidget(parent) {
 }
 
 void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
-    const CameraInfo* camera = findCamera(site, visitor.cameraId);
-    picture_->setName(camera ? toQString(camera->snapshot) : QString());
-    label_->setText(visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label));
-    camera_->setText(camera ? tr("%1 camera").arg(toQString(camera->name))
-                            : cameraName(site, visitor.cameraId));
-    certainty_->setText(tr("%1% sure it's no one you know ·").arg(percent(visitor.confidence)));
+    picture_->setName(visitorPicture(visitor, site));
+    label_->setText(visitorName(visitor));
+    camera_->setText(visitorCamera(visitor, site));
+    certainty_->setText(certaintyText(visitor) + QStringLiteral(" ·"));
     inside_->setVisible(visitor.inside);
     outside_->setVisible(!visitor.inside);
 }
