@@ -7,16 +7,6 @@
 
 namespace velmora {
 
-namespace {
-
-/// How far a tabular "1" at the start of the value stands away from the left edge, so that the value can be
-/// moved flush with its caption.
-double bearingOfOne(const QString& value, const TextStyle& style) {
-    return value.startsWith('1') ? bearingOf(value.front(), style) : 0;
-}
-
-} // namespace
-
 Metric::Metric(const QString& label, Size size, bool dark, QWidget* parent)
     : QWidget(parent),
       label_(label),
@@ -75,8 +65,16 @@ const TextStyle& Metric::valueStyle() const {
     return textWidth(value_, style_) > width() ? Type::metric : style_;
 }
 
+/// How far a value that begins with a narrow "1" is moved left, so that its ink begins where its caption's
+/// does.
+double Metric::outdent() const {
+    if (!value_.startsWith('1') || label_.isEmpty())
+        return 0;
+    return bearingOf('1', valueStyle()) - bearingOf(label_.front().toUpper(), Type::caption);
+}
+
 QRectF Metric::pill() const {
-    const double shift = bearingOfOne(value_, valueStyle());
+    const double shift = outdent();
     const double width =
         textWidth(value_, valueStyle()) - shift + Measure::unitGap + textWidth(unit_, Type::unit);
     return {-Measure::gap8, Measure::pillTop, width + 2 * Measure::gap8,
@@ -117,7 +115,7 @@ void Metric::paintEvent(QPaintEvent*) {
     QRectF row(0, 0, width(), Type::caption.line);
     drawText(painter, row, label_, Type::caption, quiet, Qt::AlignLeft);
     const TextStyle& style = valueStyle();
-    row = QRectF(-bearingOfOne(value_, style), row.bottom() + Measure::metricGap, width(), style_.line);
+    row = QRectF(-outdent(), row.bottom() + Measure::metricGap, width(), style_.line);
     row.translate(0, baselineOf(style_) - baselineOf(style));
     drawText(painter, row, value_, style, color(plain), Qt::AlignLeft);
     const double sharedBaseline = baselineOf(style) - baselineOf(Type::unit);

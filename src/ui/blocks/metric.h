@@ -42,6 +42,7 @@ protected:
 private:
     void describe();
     const TextStyle& valueStyle() const;
+    double outdent() const;
     int valueHeight() const;
     QStringList reasonLines(int width) const;
 
