@@ -112,9 +112,8 @@ void AppStore::advanceSimulator(Date now, double elapsed) {
 /// Also compares the alerts, because a server can replace a waiting alert with another one between two polls.
 void AppStore::followPhase() {
     const Phase before = std::exchange(lastPhase_, phase());
-    if (const auto alert = knownState() ? alertId(state_) : std::nullopt; alert != lastAlert_)
-        deadlineWasAhead_ = false;
-    deadlineWasAhead_ |= state_.approvalDeadline && *state_.approvalDeadline > now();
+    if (state_.approvalDeadline && *state_.approvalDeadline > now())
+        alertWithTime_ = alertId(state_);
     const auto alert = shownAlert();
     const bool anotherAlert = std::exchange(lastAlert_, alert) != alert;
     if (phase() != before)
@@ -148,7 +147,8 @@ std::optional<AlertId> AppStore::shownAlert() const {
 }
 
 std::optional<Seconds> AppStore::overdue() const {
-    if (!deadlineWasAhead_ || !state_.approvalDeadline || now() < *state_.approvalDeadline)
+    const bool wasAhead = alertWithTime_ && alertWithTime_ == alertId(state_);
+    if (!wasAhead || !state_.approvalDeadline || now() < *state_.approvalDeadline)
         return std::nullopt;
     return now() - *state_.approvalDeadline;
 }

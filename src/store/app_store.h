@@ -160,7 +160,7 @@ private:
     Date lastTick_;
     Phase lastPhase_ = Phase::docked;
     std::optional<AlertId> lastAlert_;
-    bool deadlineWasAhead_ = false; ///< of the alert, by the clock of this computer
+    std::optional<AlertId> alertWithTime_; ///< the last alert whose deadline was ahead
 };
 
 } // namespace velmora

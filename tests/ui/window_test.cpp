@@ -33,7 +33,9 @@ protected:
             EXPECT_EQ(offers(visit), canStage) << visit.toStdString();
         EXPECT_EQ(offers("Launch (approve)"), canAnswer);
         EXPECT_EQ(offers("Ignore alert"), canAnswer);
-        for (const char* always : {"Show welcome", "Hold position", "Return home", "Quit Velmora"})
+        for (const char* opens : {"About Velmora", "Show welcome"})
+            EXPECT_EQ(offers(opens), !canAnswer) << opens << " would open below the card";
+        for (const char* always : {"Hold position", "Return home", "Quit Velmora"})
             EXPECT_TRUE(offers(always)) << always;
     }
     /// Presses every shortcut that opens something in the window.

@@ -74,7 +74,8 @@ inline constexpr int missingPictureIcon = 24;
 inline constexpr int scrollBar = 6;
 inline constexpr int scrollBarEdge = 4;
 inline constexpr int overlayRise = 8;
-inline constexpr double veil = 0.55; // opacity of the navy behind a card
+inline constexpr double staleOpacity = 0.55; // of pictures and maps that may be out of date
+inline constexpr double veil = 0.55;         // opacity of the navy behind a card
 inline constexpr int badgeHeight = 18, badgePadding = 6;
 inline constexpr int numberBadge = 24;
 inline constexpr int formLabel = 156;

@@ -19,7 +19,6 @@ namespace velmora {
 
 namespace {
 
-constexpr double dimmedOpacity = 0.55;
 constexpr double secondsBetweenDescriptions = 1;
 
 QString waitingText() {
@@ -252,7 +251,7 @@ void SiteMap::paintEvent(QPaintEvent*) {
         return;
     }
     if (freshness == Freshness::stale)
-        painter.setOpacity(dimmedOpacity);
+        painter.setOpacity(Measure::staleOpacity);
     updateLayers();
     fill(grounds_);
     fill(paths_);

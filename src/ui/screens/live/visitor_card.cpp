@@ -41,6 +41,7 @@ void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
 }
 
 void VisitorCard::setDimmed(bool dimmed) {
+    picture_->setOpacity(dimmed ? Measure::staleOpacity : 1);
     label_->setColor(dimmed ? SB::muted : SB::ink);
 }
 

@@ -17,7 +17,7 @@ public:
     explicit VisitorCard(QWidget* parent);
 
     void setVisitor(const Visitor& visitor, const Site& site);
-    /// Draws the name paler, for a state that may be out of date.
+    /// Draws picture and name paler, for a state that may be out of date.
     void setDimmed(bool dimmed);
 
 private:

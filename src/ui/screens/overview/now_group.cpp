@@ -20,7 +20,6 @@ namespace velmora {
 
 namespace {
 
-constexpr double staleOpacity = 0.55;
 constexpr int overhang = 1; // of the last line below the picture, pixels
 
 QWidget* boxed(QWidget* content, QWidget* parent) {
@@ -141,7 +140,7 @@ void NowGroup::showVisitor(const LiveState& state) {
     const Visitor& visitor = *state.visitor;
     const bool stale = store_.freshness() == Freshness::stale;
     picture_->setName(visitorPicture(visitor, state.site));
-    picture_->setOpacity(stale ? staleOpacity : 1);
+    picture_->setOpacity(stale ? Measure::staleOpacity : 1);
     name_->setText(visitorName(visitor));
     camera_->setText(visitorCamera(visitor, state.site));
     certainty_->setText(certaintyText(visitor));
