@@ -102,9 +102,10 @@ TEST_F(ApprovalCardTest, ASilentLinkKeepsTheCardWithoutAnswersUntilItsDeadline) 
     EXPECT_TRUE(link.posts.empty()) << "no answer is kept for later";
     outwaitGuard();
     EXPECT_TRUE(shows(ignore));
-    staySilent(25);
+    while (now < *alert_.approvalDeadline - Seconds{1})
+        staySilent(0.25);
     EXPECT_TRUE(cardIsOpen());
-    staySilent(3);
+    staySilent(2);
     EXPECT_FALSE(cardIsOpen()) << "its deadline is over";
 }
 
