@@ -18,8 +18,8 @@ void setDirectory(const QDir& directory);
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
-/// Where the visitor is in a built-in camera picture, as shares of its width and height; nullopt for any other
-/// picture.
+/// Where the visitor is in a built-in camera picture, as shares of its width and height; nullopt for any
+/// other picture.
 std::optional<QPointF> focusOf(const QString& name);
 
 } // namespace velmora::Art

@@ -8,7 +8,7 @@ namespace velmora {
 class LiveView;
 class Text;
 
-/// Asks for confirmation before the drone lands where it is. The card stands over the rail, and map and
+/// Asks for confirmation before the drone lands where it is. The card covers the rail, and map and
 /// telemetry stay bright and live beside it.
 class LandConfirmation : public ConfirmationCard {
     Q_OBJECT
