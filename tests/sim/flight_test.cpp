@@ -124,14 +124,14 @@ TEST_F(SimulatorTest, DistancesDecideWhereAStageEnds) {
 }
 
 TEST_F(SimulatorTest, TheDroneSettlesAtTheFollowPoint) {
-    for (const P visitor : {P{70, 50}, P{120, 20}, P{152, 86}}) { // inside, near a corner, outside
+    settings.followDistance = 5;
+    for (const P visitor : {P{70, 50}, P{120, 20}, P{146, 84}}) { // the last one is outside, for five seconds
         SCOPED_TRACE(visitor.x);
         Simulator flight(LiveState::initial(), settings, random);
         flight.trigger(Scenario::driveway, now);
         flight.send(Command::approve, now);
         for (int i = 0; i < 600; ++i) {
-            flight.state.visitor->pos = visitor;
-            flight.state.visitor->inside = true;
+            flight.state.visitor->pos = i < 500 ? P{std::min(visitor.x, 138.0), visitor.y} : visitor;
             flight.step(0.05, now += Seconds{0.05});
         }
         ASSERT_EQ(flight.state.phase, Phase::following);
