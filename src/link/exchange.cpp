@@ -2,71 +2,156 @@
 
 #include "model/boot_clock.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace velmora {
 
 namespace {
 
-/// The header on one line, limited to 40 printable characters for the sidebar.
-QString versionText(const QByteArray& header) {
-    constexpr qsizetype longest = 40; // characters
-    QString text = QString::fromUtf8(header).simplified();
-    text.removeIf([](QChar letter) { return !letter.isPrint(); });
-    return text.left(longest);
+constexpr int okStatus = 200;
+constexpr std::size_t longestHead = 64 << 10; // bytes
+constexpr long receiveBuffer = 16 << 10;      // bytes; also what is read from the network at once
+
+/// Prepares the library once. It needs no TLS.
+CURL* newHandle() {
+    static const CURLcode prepared = curl_global_init(CURL_GLOBAL_NOTHING);
+    CURL* handle = prepared == CURLE_OK ? curl_easy_init() : nullptr;
+    if (handle == nullptr)
+        qFatal("The HTTP library cannot be prepared.");
+    return handle;
+}
+
+Failure connectionFailure(int systemError) {
+    switch (systemError) {
+    case ECONNREFUSED:
+        return Failure::refused;
+    case ETIMEDOUT:
+        return Failure::timedOut;
+    case ENETUNREACH:
+    case EHOSTUNREACH:
+    case ENETDOWN:
+    case EHOSTDOWN:
+    case EADDRNOTAVAIL:
+    case EACCES: // of a broadcast address or a firewall
+    case EPERM:
+        return Failure::unreachable;
+    default:
+        return Failure::other;
+    }
 }
 
 } // namespace
 
-Exchange::Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
-                   std::function<void(const End&)> ended, QObject* parent)
-    : QObject(parent),
-      reply_(reply),
-      deadline_(sinceBoot() + timeLimit),
-      byteLimit_(byteLimit),
-      ended_(std::move(ended)) {
-    reply_->setParent(this);
-    reply_->setReadBufferSize(byteLimit_ + 1); // Qt stops reading from the network beyond it
-    timer_.setSingleShot(true);
-    timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this, [this] { end(End::Kind::timedOut); });
-    connect(reply_, &QNetworkReply::readyRead, this, &Exchange::read);
-    connect(reply_, &QNetworkReply::finished, this, &Exchange::finished);
-    timer_.start(timeLimit);
+Exchange::Exchange(Request request)
+    : request_(std::move(request)), deadline_(sinceBoot() + request_.timeLimit), handle_(newHandle()) {
+    set(CURLOPT_URL, request_.url.constData());
+    set(CURLOPT_PROTOCOLS_STR, "http");
+    set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
+    set(CURLOPT_PROXY, ""); // the server is on the home network
+    set(CURLOPT_NOSIGNAL, 1L);
+    const auto add = [this](const char* header) {
+        headers_.reset(curl_slist_append(headers_.release(), header));
+    };
+    add("Accept-Encoding: identity"); // a compressed reply could expand without limit
+    if (request_.json)
+        add("Content-Type: application/json");
+    set(CURLOPT_HTTPHEADER, headers_.get());
+    setLimits();
+    if (request_.json)
+        setPost();
 }
 
-void Exchange::read() {
-    body_ += reply_->read(byteLimit_ + 1 - body_.size());
-    if (body_.size() > byteLimit_)
-        end(End::Kind::tooLarge);
+void Exchange::set(CURLoption option, auto value) {
+    if (curl_easy_setopt(handle_.get(), option, value) != CURLE_OK)
+        qFatal("The HTTP library refuses option %d.", static_cast<int>(option));
 }
 
-void Exchange::finished() {
-    if (!ended_)
-        return;
-    read();
-    end(reply_->error() == QNetworkReply::NoError ? End::Kind::complete : End::Kind::failed);
+/// QUICK_EXIT: a thread that looks up a name is not waited for, because it may take half a minute.
+void Exchange::setLimits() {
+    set(CURLOPT_TIMEOUT_MS, static_cast<long>(request_.timeLimit.count()));
+    set(CURLOPT_QUICK_EXIT, 1L);
+    set(CURLOPT_BUFFERSIZE, receiveBuffer);
+    set(CURLOPT_HEADERFUNCTION, &Exchange::readHeader);
+    set(CURLOPT_HEADERDATA, this);
+    set(CURLOPT_WRITEFUNCTION, &Exchange::readBody);
+    set(CURLOPT_WRITEDATA, this);
 }
 
-/// Queues the callback, so that it may destroy any object, including this one.
-void Exchange::end(End::Kind kind) {
-    auto ended = std::exchange(ended_, nullptr);
-    if (!ended)
-        return;
-    timer_.stop();
+/// On a connection of its own: the server may be closing a kept one, and libcurl repeats a request whose kept
+/// connection breaks. A command is never sent twice.
+void Exchange::setPost() {
+    set(CURLOPT_POSTFIELDS, request_.json->constData());
+    set(CURLOPT_POSTFIELDSIZE, static_cast<long>(request_.json->size()));
+    set(CURLOPT_FRESH_CONNECT, 1L);
+    set(CURLOPT_FORBID_REUSE, 1L);
+}
+
+/// A smaller result than the size makes libcurl end the exchange.
+std::size_t Exchange::readHeader(char* line, std::size_t size, std::size_t count, void* exchange) {
+    auto& self = *static_cast<Exchange*>(exchange);
+    const std::size_t length = size * count;
+    self.headBytes_ += length;
+    self.headEnded_ |= length <= 2 && line[length - 1] == '\n';
+    return self.headBytes_ <= longestHead ? length : 0;
+}
+
+std::size_t Exchange::readBody(char* bytes, std::size_t size, std::size_t count, void* exchange) {
+    auto& self = *static_cast<Exchange*>(exchange);
+    const std::size_t length = size * count;
+    if (static_cast<std::size_t>(self.body_.size()) + length > self.request_.replyBytes)
+        return 0;
+    self.body_.append(bytes, static_cast<qsizetype>(length));
+    return length;
+}
+
+End Exchange::end(CURLcode result) {
+    long status = 0;
+    curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
+    End end;
+    end.status = static_cast<int>(status);
+    end.failure = failureOf(result, end.status);
+    if (end.failure == Failure::other)
+        end.errorText = qt_error_string(systemError());
+    end.body = std::move(body_);
+    end.version = version();
+    return end;
+}
+
+int Exchange::systemError() const {
+    long number = 0;
+    curl_easy_getinfo(handle_.get(), CURLINFO_OS_ERRNO, &number);
+    return static_cast<int>(number);
+}
+
+std::optional<Failure> Exchange::failureOf(CURLcode result, int status) const {
     if (sinceBoot() > deadline_)
-        kind = End::Kind::timedOut;
-    End result{kind, reply_->error(), reply_->errorString(), 0, std::move(body_), {}};
-    result.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    result.version = versionText(reply_->rawHeader("X-Velmora-Version"));
-    reply_->abort();
-    QMetaObject::invokeMethod(
-        this,
-        [this, ended = std::move(ended), result = std::move(result)] {
-            deleteLater();
-            ended(result);
-        },
-        Qt::QueuedConnection);
+        return Failure::timedOut;
+    switch (result) {
+    case CURLE_OK:
+        return status == okStatus && headEnded_ ? std::nullopt : std::optional(Failure::badResponse);
+    case CURLE_COULDNT_RESOLVE_HOST:
+        return Failure::hostNotFound;
+    case CURLE_COULDNT_CONNECT:
+        return connectionFailure(systemError());
+    case CURLE_OPERATION_TIMEDOUT:
+        return Failure::timedOut;
+    case CURLE_URL_MALFORMAT:
+        return Failure::invalidAddress;
+    default: // there was a reply, or the connection ended before one
+        return Failure::badResponse;
+    }
+}
+
+/// The header on one line, limited to 40 printable characters for the sidebar.
+QString Exchange::version() const {
+    constexpr qsizetype longest = 40; // characters
+    curl_header* header = nullptr;
+    if (curl_easy_header(handle_.get(), "X-Velmora-Version", 0, CURLH_HEADER, -1, &header) != CURLHE_OK)
+        return {};
+    QString text = QString::fromUtf8(header->value).simplified();
+    text.removeIf([](QChar letter) { return !letter.isPrint(); });
+    return text.left(longest);
 }
 
 } // namespace velmora

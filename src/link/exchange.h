@@ -1,49 +1,71 @@
 #pragma once
 
-#include <QNetworkReply>
-#include <QObject>
-#include <QTimer>
+#include "link/failure_text.h"
+
+#include <curl/curl.h>
+
+#include <QByteArray>
+#include <QString>
 
 #include <chrono>
-#include <functional>
+#include <memory>
+#include <optional>
 
 namespace velmora {
 
-/// One HTTP request and its reply. It ends when the reply is complete, fails, takes too long or is too large,
-/// and then deletes itself and the reply.
-class Exchange : public QObject {
-    Q_OBJECT
+/// A request, and the limits of its exchange.
+struct Request {
+    QByteArray url;                      ///< plain HTTP, percent-encoded
+    std::optional<QByteArray> json;      ///< posted if set
+    std::chrono::milliseconds timeLimit; ///< from the start to the last byte, the name look-up included
+    std::size_t replyBytes;              ///< limit of the reply's body
+};
 
+/// How an exchange ended.
+struct End {
+    std::optional<Failure> failure; ///< nullopt for a complete reply with status 200
+    QString errorText;              ///< the system's text for a failure that has none of its own
+    int status = 0;                 ///< HTTP status; 0 if no reply came
+    QByteArray body;
+    QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
+};
+
+/// One HTTP request and its reply. Stateless: no cookies, cache, proxy, redirects or decompression. Every
+/// part of a reply has a limit.
+class Exchange {
 public:
-    /// Result of an exchange. `failed` means any error that Qt reports, including HTTP statuses from 400.
-    struct End {
-        enum class Kind { complete, failed, timedOut, tooLarge };
+    explicit Exchange(Request request);
+    Exchange(const Exchange&) = delete;
+    Exchange& operator=(const Exchange&) = delete;
 
-        Kind kind = Kind::complete;
-        QNetworkReply::NetworkError error = QNetworkReply::NoError;
-        QString errorText; ///< Qt's text for the error
-        int status = 0;    ///< HTTP status; 0 if no reply came
-        QByteArray body;
-        QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
-    };
-
-    /// Takes ownership of `reply`. Calls `ended` exactly once, from the event loop, unless `parent` is
-    /// destroyed first. The exchange times out if the reply is not processed within `timeLimit`, even if a
-    /// pause of the program is the cause. A body of more than `byteLimit` bytes is too large.
-    Exchange(QNetworkReply* reply, std::chrono::milliseconds timeLimit, qint64 byteLimit,
-             std::function<void(const End&)> ended, QObject* parent);
+    CURL* handle() const { return handle_.get(); }
+    /// The end after libcurl has reported `result`. It is late, a time-out, if the exchange was not processed
+    /// within its time limit, even if a pause of the program is the cause. Call once.
+    End end(CURLcode result);
 
 private:
-    void read();
-    void finished();
-    void end(End::Kind kind);
+    template <auto function>
+    struct Release {
+        void operator()(auto* resource) const { function(resource); }
+    };
 
-    QNetworkReply* reply_;
+    static std::size_t readHeader(char* line, std::size_t size, std::size_t count, void* exchange);
+    static std::size_t readBody(char* bytes, std::size_t size, std::size_t count, void* exchange);
+
+    void set(CURLoption option, auto value);
+    void setLimits();
+    void setPost();
+    int systemError() const;
+    std::optional<Failure> failureOf(CURLcode result, int status) const;
+    QString version() const;
+
+    Request request_;
     std::chrono::milliseconds deadline_; ///< on the boot clock
-    QTimer timer_;
-    qint64 byteLimit_;
+    std::unique_ptr<curl_slist, Release<curl_slist_free_all>> headers_;
+    std::unique_ptr<CURL, Release<curl_easy_cleanup>> handle_;
+    std::size_t headBytes_ = 0; ///< of status lines, headers and trailers
+    bool headEnded_ = false;    ///< the empty line after the headers was read
     QByteArray body_;
-    std::function<void(const End&)> ended_;
 };
 
 } // namespace velmora

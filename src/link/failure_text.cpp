@@ -6,49 +6,11 @@ namespace velmora {
 
 namespace {
 
-constexpr int okStatus = 200;
-
-Failure failureOf(QNetworkReply::NetworkError error) {
-    if (error >= QNetworkReply::ContentAccessDenied) // there was a reply
-        return Failure::badResponse;
-    switch (error) {
-    case QNetworkReply::HostNotFoundError:
-        return Failure::hostNotFound;
-    case QNetworkReply::ConnectionRefusedError:
-        return Failure::refused;
-    case QNetworkReply::UnknownNetworkError: // a host or network without a route
-    case QNetworkReply::TemporaryNetworkFailureError:
-    case QNetworkReply::NetworkSessionFailedError:
-        return Failure::unreachable;
-    case QNetworkReply::TimeoutError:
-        return Failure::timedOut;
-    case QNetworkReply::RemoteHostClosedError:            // before the reply was complete
-    case QNetworkReply::ProxyAuthenticationRequiredError: // status 407, because no proxy is used
-        return Failure::badResponse;
-    default:
-        return Failure::other;
-    }
-}
-
 QString tr(const char* text) {
     return QCoreApplication::translate("HttpLink", text);
 }
 
 } // namespace
-
-std::optional<Failure> failureOf(const Exchange::End& end) {
-    switch (end.kind) {
-    case Exchange::End::Kind::timedOut:
-        return Failure::timedOut;
-    case Exchange::End::Kind::tooLarge:
-        return Failure::badResponse;
-    case Exchange::End::Kind::failed:
-        return failureOf(end.error);
-    case Exchange::End::Kind::complete:
-        break;
-    }
-    return end.status == okStatus ? std::nullopt : std::optional(Failure::badResponse);
-}
 
 QString failureText(Failure failure, const QString& detail) {
     switch (failure) {

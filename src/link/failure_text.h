@@ -1,8 +1,6 @@
 #pragma once
 
-#include "link/exchange.h"
-
-#include <optional>
+#include <QString>
 
 namespace velmora {
 
@@ -15,13 +13,10 @@ enum class Failure {
     timedOut,
     badResponse,
     unreadable, ///< with the path and the problem in the state
-    other       ///< the text that Qt gives
+    other       ///< with the system's text
 };
 
-/// The kind of failure of an exchange that has ended; nullopt for a complete reply with status 200.
-std::optional<Failure> failureOf(const Exchange::End& end);
-
-/// Error text for the owner. `detail` is the path and problem in the state, or Qt's text.
+/// Error text for the owner. `detail` is the path and problem in the state, or the system's text.
 QString failureText(Failure failure, const QString& detail = {});
 
 } // namespace velmora

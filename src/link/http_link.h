@@ -1,9 +1,8 @@
 #pragma once
 
+#include "link/http_client.h"
 #include "link/link.h"
 
-#include <QNetworkAccessManager>
-#include <QObject>
 #include <QUrl>
 
 #include <chrono>
@@ -11,17 +10,15 @@
 
 namespace velmora {
 
-/// Talks to a velmora server over plain HTTP on the home network. Stateless: no cookies, cache, proxy or
-/// redirects. Pending requests are aborted at destruction and their callbacks not called.
-class HttpLink final : public QObject, public Link {
-    Q_OBJECT
-
+/// Talks to a velmora server over plain HTTP on the home network. Pending requests are aborted at destruction
+/// and their callbacks not called.
+class HttpLink final : public Link {
 public:
-    /// Time from the start of an exchange to its last byte, and size of a reply's body.
+    /// Limits of the exchanges (Request).
     struct Limits {
         std::chrono::milliseconds state{2000};
         std::chrono::milliseconds command{3000};
-        qint64 replyBytes = 8 << 20;
+        std::size_t replyBytes = 8 << 20;
     };
 
     HttpLink() : HttpLink(Limits{}) {}
@@ -36,7 +33,7 @@ public:
               CommandDone done) override;
 
 private:
-    QNetworkAccessManager manager_;
+    HttpClient client_;
     Limits limits_;
 };
 

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 using namespace velmora;
 
@@ -12,11 +13,15 @@ using Missions = std::vector<MissionRecord>;
 constexpr std::size_t pointsKept = 3; // short documents are mutated faster and more thoroughly
 
 /// Writes a document into the corpus of a reader.
-template <class T>
-void add(const std::filesystem::path& corpus, const T& value, KeyStyle keys = KeyStyle::fieldNames) {
+void addText(const std::filesystem::path& corpus, const std::string& text) {
     static int count = 0;
     create_directories(corpus);
-    std::ofstream(corpus / std::to_string(count++)) << encode(value, keys).value();
+    std::ofstream(corpus / std::to_string(count++)) << text;
+}
+
+template <class T>
+void add(const std::filesystem::path& corpus, const T& value, KeyStyle keys = KeyStyle::fieldNames) {
+    addText(corpus, encode(value, keys).value());
 }
 
 void addMissions(const std::filesystem::path& corpus, Date at, Random& random) {
@@ -44,6 +49,20 @@ void addStates(const std::filesystem::path& corpus, Date at, Random& random) {
     }
 }
 
+/// A state in each form that HTTP has for a body.
+void addReplies(const std::filesystem::path& corpus) {
+    const std::string body = encode(LiveState::initial(), KeyStyle::snakeCase).value();
+    const std::string head = "HTTP/1.1 200 OK\r\nX-Velmora-Version: 1.0\r\n";
+    std::stringstream chunk;
+    chunk << std::hex << body.size() << ";name=value\r\n" << body << "\r\n0\r\n";
+    const std::string chunked = head + "Transfer-Encoding: chunked\r\n\r\n" + chunk.str();
+    addText(corpus, head + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body);
+    addText(corpus, chunked + "\r\n");
+    addText(corpus, "HTTP/1.1 100 Continue\r\n\r\n" + chunked + "X-Trailer: 1\r\n\r\n");
+    addText(corpus, "HTTP/1.0 200\n\n" + body);
+    addText(corpus, "HTTP/1.1 301 Moved\r\nLocation: /elsewhere\r\nContent-Encoding: gzip\r\n\r\n");
+}
+
 } // namespace
 
 /// Writes the valid documents that fuzzing starts from, in one subdirectory of the given directory for each
@@ -58,5 +77,6 @@ int main(int argc, char* argv[]) {
     add(root / "settings", settings);
     addMissions(root / "history", at, random);
     addStates(root / "server_state", at, random);
+    addReplies(root / "server_reply");
     return 0;
 }

@@ -1,9 +1,5 @@
 #include "link_fixture.h"
 
-#include "link/failure_text.h"
-
-#include <QNetworkProxy>
-
 namespace velmora {
 
 using testing::StartsWith;
@@ -34,23 +30,11 @@ TEST_F(LinkTest, RefusedUnknownAndUnreachableHostsHaveDifferentTexts) {
     server.listener().close();
     EXPECT_EQ(failure(), "The connection was refused");
     settings.host = tooLongName;
-    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 1});
+    qputenv("http_proxy", "http://127.0.0.1:1");
     EXPECT_EQ(failure(), "The host was not found") << "no proxy is used";
-    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    qunsetenv("http_proxy");
     settings.host = "127.255.255.255"; // no connection leads to a broadcast address
     EXPECT_EQ(failure(), "The network is unreachable");
-}
-
-TEST_F(LinkTest, EveryKindOfTransportErrorHasItsText) {
-    const auto text = [](QNetworkReply::NetworkError error) {
-        const Exchange::End end{Exchange::End::Kind::failed, error, QStringLiteral("Qt's text"), 0, {}, {}};
-        return failureText(velmora::failureOf(end).value(), end.errorText).toStdString();
-    };
-    EXPECT_EQ(text(QNetworkReply::HostNotFoundError), "The host was not found");
-    EXPECT_EQ(text(QNetworkReply::TimeoutError), timedOut);
-    EXPECT_EQ(text(QNetworkReply::ProtocolFailure), badResponse);
-    EXPECT_EQ(text(QNetworkReply::AuthenticationRequiredError), badResponse);
-    EXPECT_EQ(text(QNetworkReply::SslHandshakeFailedError), "Qt's text");
 }
 
 TEST_F(LinkTest, OnlyStatus200GivesAState) {

@@ -1,0 +1,99 @@
+#include "link/http_client.h"
+
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr long keptConnections = 2; // the server of the settings, and the one before
+
+} // namespace
+
+HttpClient::HttpClient() {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    connect(&timer_, &QTimer::timeout, this, [this] { proceed(CURL_SOCKET_TIMEOUT, 0); });
+}
+
+HttpClient::~HttpClient() {
+    for (auto& [handle, running] : running_)
+        curl_multi_remove_handle(multi_.get(), handle);
+}
+
+void HttpClient::start(Request request, Done done) {
+    auto exchange = std::make_unique<Exchange>(std::move(request));
+    CURL* handle = exchange->handle();
+    if (!multi_)
+        open();
+    running_.emplace(handle, Running{std::move(exchange), std::move(done)});
+    curl_multi_add_handle(multi_.get(), handle); // sets the timer, which starts the exchange
+}
+
+/// Done with the first request, because demo mode needs no HTTP.
+void HttpClient::open() {
+    multi_.reset(curl_multi_init());
+    curl_multi_setopt(multi_.get(), CURLMOPT_SOCKETFUNCTION, &HttpClient::watchSocket);
+    curl_multi_setopt(multi_.get(), CURLMOPT_SOCKETDATA, this);
+    curl_multi_setopt(multi_.get(), CURLMOPT_TIMERFUNCTION, &HttpClient::setTimer);
+    curl_multi_setopt(multi_.get(), CURLMOPT_TIMERDATA, this);
+    curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, keptConnections);
+}
+
+int HttpClient::watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*) {
+    static_cast<HttpClient*>(client)->watch(socket, directions);
+    return 0;
+}
+
+/// -1 stops the timer.
+int HttpClient::setTimer(CURLM*, long milliseconds, void* client) {
+    QTimer& timer = static_cast<HttpClient*>(client)->timer_;
+    if (milliseconds < 0)
+        timer.stop();
+    else
+        timer.start(std::chrono::milliseconds(milliseconds));
+    return 0;
+}
+
+/// A notifier may be the sender of the signal that is being handled, so it is deleted later.
+void HttpClient::watch(curl_socket_t socket, int directions) {
+    if (directions == CURL_POLL_REMOVE) {
+        watches_.erase(socket);
+        return;
+    }
+    Watch& watch = watches_[socket];
+    const auto follow = [&](Notifier& notifier, QSocketNotifier::Type type, int event, bool wanted) {
+        if (!notifier && wanted) {
+            notifier.reset(new QSocketNotifier(socket, type, this));
+            connect(notifier.get(), &QSocketNotifier::activated, this,
+                    [this, socket, event] { proceed(socket, event); });
+        }
+        if (notifier)
+            notifier->setEnabled(wanted);
+    };
+    follow(watch.read, QSocketNotifier::Read, CURL_CSELECT_IN, directions & CURL_POLL_IN);
+    follow(watch.write, QSocketNotifier::Write, CURL_CSELECT_OUT, directions & CURL_POLL_OUT);
+}
+
+void HttpClient::proceed(curl_socket_t socket, int directions) {
+    int stillRunning = 0;
+    curl_multi_socket_action(multi_.get(), socket, directions, &stillRunning);
+    collect();
+}
+
+/// Queues the callbacks, so that they may destroy any object, this one included.
+void HttpClient::collect() {
+    int left = 0;
+    while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
+        if (message->msg != CURLMSG_DONE)
+            continue;
+        const CURLcode result = message->data.result;
+        auto ended = running_.extract(message->easy_handle);
+        const End end = ended.mapped().exchange->end(result);
+        curl_multi_remove_handle(multi_.get(), ended.key());
+        QMetaObject::invokeMethod(
+            this, [done = std::move(ended.mapped().done), end] { done(end); }, Qt::QueuedConnection);
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "link/exchange.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace velmora {
+
+/// Runs exchanges on the event loop of the current thread. It never blocks, and it keeps a connection to the
+/// server for the next request.
+class HttpClient : public QObject {
+    Q_OBJECT
+
+public:
+    using Done = std::function<void(const End&)>;
+
+    HttpClient();
+    /// Aborts the exchanges that run; their callbacks are not called.
+    ~HttpClient() override;
+
+    /// Sends the request. Calls `done` exactly once, from the event loop, when its exchange has ended, unless
+    /// the client is destroyed first.
+    void start(Request request, Done done);
+
+private:
+    struct Running {
+        std::unique_ptr<Exchange> exchange;
+        Done done;
+    };
+    struct DeleteLater {
+        void operator()(QSocketNotifier* notifier) const {
+            notifier->setEnabled(false);
+            notifier->deleteLater();
+        }
+    };
+    using Notifier = std::unique_ptr<QSocketNotifier, DeleteLater>;
+    /// Notifiers of one socket, for the directions that libcurl waits for.
+    struct Watch {
+        Notifier read, write;
+    };
+    struct Close {
+        void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+    };
+
+    void open();
+    static int watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*);
+    static int setTimer(CURLM*, long milliseconds, void* client);
+
+    void watch(curl_socket_t socket, int directions);
+    void proceed(curl_socket_t socket, int directions);
+    void collect();
+
+    std::map<curl_socket_t, Watch> watches_;
+    QTimer timer_;
+    std::unique_ptr<CURLM, Close>
+        multi_; ///< null before the first request; uses the watches until it is closed
+    std::map<CURL*, Running> running_;
+};
+
+} // namespace velmora
