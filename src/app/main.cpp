@@ -1,5 +1,6 @@
 #include "app/app.h"
 #include "app/self_check.h"
+#include "desktop/quit_deadline.h"
 #include "desktop/quit_signals.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
@@ -10,7 +11,11 @@
 #include <QIcon>
 #include <QSettings>
 
+#include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <pwd.h>
+#include <unistd.h>
 
 using namespace velmora;
 
@@ -29,10 +34,39 @@ void ignoreRelativeXdgPaths() {
             qunsetenv(variable);
 }
 
-/// Checked first, because Qt would abort with an unhelpful message.
+/// The directory of a user without HOME is that of the password database.
+void findHome() {
+    if (!qEnvironmentVariableIsEmpty("HOME"))
+        return;
+    if (const passwd* user = getpwuid(getuid()))
+        qputenv("HOME", user->pw_dir);
+}
+
 bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+[[noreturn]] void failWithoutDisplay(const char* reason) {
+    std::cerr << "Velmora needs a graphical session: " << reason << '\n';
+    std::_Exit(1);
+}
+
+/// While the application is created, the only fatal error is a display that cannot be opened. Qt would abort.
+void onMessageOfStart(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg)
+        failWithoutDisplay("the display cannot be opened.");
+    std::cerr << text.toStdString() << '\n';
+}
+
+std::unique_ptr<QApplication> openDisplay(int& argc, char* argv[]) {
+    if (!hasDisplay())
+        failWithoutDisplay("neither DISPLAY nor WAYLAND_DISPLAY is set.");
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    const QtMessageHandler usual = qInstallMessageHandler(onMessageOfStart);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(usual);
+    return application;
 }
 
 /// Keeps the state of Qt's file dialog in the data directory.
@@ -56,6 +90,17 @@ void setUpApplication() {
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
 }
 
+/// Files first: a disk may take its time, everything else may not.
+int run(AppService& service, const Options& options) {
+    App app(service, options);
+    const int exitCode = QApplication::exec();
+    QuitDeadline::stop();
+    app.saveFiles();
+    QuitDeadline::start();
+    service.release();
+    return exitCode;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -65,15 +110,11 @@ int main(int argc, char* argv[]) {
         return message->exitCode;
     }
     const Options options = std::get<Options>(read);
-    if (!hasDisplay()) {
-        std::cerr << "Velmora needs a graphical session: neither DISPLAY nor WAYLAND_DISPLAY is set.\n";
-        return 1;
-    }
+    findHome();
     ignoreRelativeXdgPaths();
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    QApplication application(argc, argv);
+    const auto application = openDisplay(argc, argv);
     const QuitSignals quitSignals; // installed before anything that a signal must clean up
-    QObject::connect(&quitSignals, &QuitSignals::quitRequested, &application, &QCoreApplication::quit);
+    QObject::connect(&quitSignals, &QuitSignals::quitRequested, [] { QCoreApplication::exit(); });
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
     switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden)) {
@@ -87,6 +128,5 @@ int main(int argc, char* argv[]) {
     }
     moveQSettingsToDataDirectory();
     setUpApplication();
-    const App app(service, options);
-    return QApplication::exec();
+    return run(service, options);
 }

@@ -4,7 +4,9 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QThread>
 
 namespace velmora {
 
@@ -13,7 +15,9 @@ namespace {
 const QString busName = QStringLiteral("org.velmora.Velmora");
 const QString objectPath = QStringLiteral("/org/velmora/Velmora");
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
-constexpr int handOverTime = 5000; // milliseconds
+constexpr int handOverTime = 5000;  // milliseconds
+constexpr int quitTime = 2000;      // milliseconds; an instance that quits is gone by then
+constexpr unsigned long pause = 20; // milliseconds between two attempts
 
 /// The sections that the desktop entry's actions open.
 constexpr Section actionSections[] = {Section::overview, Section::live, Section::history};
@@ -29,28 +33,50 @@ AppService::AppService(const QDBusConnection& bus) : bus_(bus) {}
 
 /// Registers the object before the name, so that a client that sees the name can call it at once.
 AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
+    const QDeadlineTimer deadline(quitTime);
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
-        const auto reply =
-            bus_.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService,
-                                              QDBusConnectionInterface::DontAllowReplacement);
-        if (reply.isValid() && reply.value() != QDBusConnectionInterface::ServiceRegistered)
-            return hidden || handOver() ? Claim::handedOver : Claim::refused;
+        while (!takeName()) {
+            if (handOver(hidden))
+                return Claim::handedOver;
+            if (deadline.hasExpired())
+                return Claim::refused;
+            QThread::msleep(pause);
+        }
     }
     DataFiles::makeDirectory(QDir(dataDirectory));
     lock_.emplace(dataDirectory + QStringLiteral("/lock"));
     lock_->setStaleLockTime(0);
-    const bool taken = !lock_->tryLock(0) && lock_->error() == QLockFile::LockFailedError;
+    const bool taken = !lock_->tryLock(static_cast<int>(deadline.remainingTime())) &&
+                       lock_->error() == QLockFile::LockFailedError;
     return taken ? Claim::refused : Claim::granted; // an unwritable directory does not prevent the start
 }
 
-bool AppService::handOver() {
+void AppService::release() {
+    if (bus_.isConnected())
+        bus_.interface()->unregisterService(busName);
+}
+
+/// Also true if the bus gives no answer, so that the start does not depend on it.
+bool AppService::takeName() {
+    const auto reply = bus_.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService,
+                                                         QDBusConnectionInterface::DontAllowReplacement);
+    return !reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+/// Returns whether the other instance has answered. A hidden start only asks whether it still does.
+bool AppService::handOver(bool hidden) {
     QDBusMessage activate =
         QDBusMessage::createMethodCall(busName, objectPath, interfaceName, QStringLiteral("Activate"));
     activate << QVariantMap{
         {QStringLiteral("activation-token"), qEnvironmentVariable("XDG_ACTIVATION_TOKEN")},
         {QStringLiteral("desktop-startup-id"), qEnvironmentVariable("DESKTOP_STARTUP_ID")}};
-    return bus_.call(activate, QDBus::Block, handOverTime).type() == QDBusMessage::ReplyMessage;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        busName, objectPath, QStringLiteral("org.freedesktop.DBus.Introspectable"),
+        QStringLiteral("Introspect"));
+    QDBusMessage& call = hidden ? question : activate;
+    call.setAutoStartService(false); // a name without an owner is free
+    return bus_.call(call, QDBus::Block, handOverTime).type() == QDBusMessage::ReplyMessage;
 }
 
 void AppService::Activate(const QVariantMap& platformData) {

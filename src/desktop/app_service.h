@@ -28,8 +28,10 @@ public:
     explicit AppService(const QDBusConnection& bus);
 
     /// Takes the bus name and the lock of the data directory, and keeps them. If another instance runs, asks
-    /// it to show its window unless `hidden`.
+    /// it to show its window unless `hidden`. Waits for up to two seconds for an instance that is quitting.
     Claim claim(const QString& dataDirectory, bool hidden);
+    /// Gives up the bus name, so that the next start takes it.
+    void release();
 
 signals:
     /// The window should come to the front. `activationToken` allows it to, on desktops that require a token;
@@ -44,7 +46,8 @@ public slots:
                                      const QVariantMap& platformData);
 
 private:
-    bool handOver();
+    bool takeName();
+    bool handOver(bool hidden);
 
     QDBusConnection bus_;
     std::optional<QLockFile> lock_;

@@ -1,5 +1,7 @@
 #include "desktop/quit_signals.h"
 
+#include "desktop/quit_deadline.h"
+
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,8 +19,9 @@ int openPipe() {
     return pipeEnds[0];
 }
 
-/// Writes one byte into the pipe, which a signal handler may do.
+/// Starts the deadline here, because the event loop may hang, and writes one byte into the pipe.
 void onSignal(int) {
+    QuitDeadline::start();
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(pipeEnds[1], &byte, 1);
 }
@@ -26,6 +29,7 @@ void onSignal(int) {
 } // namespace
 
 QuitSignals::QuitSignals() : notifier_(openPipe(), QSocketNotifier::Read) {
+    QuitDeadline::install();
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         if (std::signal(signal, onSignal) == SIG_IGN)
             std::signal(signal, SIG_IGN); // stays ignored, as after nohup

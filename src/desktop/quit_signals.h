@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into an ordinary quit.
+/// Turns SIGTERM, SIGINT and SIGHUP into an ordinary quit, which starts the QuitDeadline.
 class QuitSignals : public QObject {
     Q_OBJECT
 

@@ -26,6 +26,7 @@ void HttpClient::start(Request request, Done done) {
     CURL* handle = exchange->handle();
     if (!multi_)
         open();
+    keepsConnections_ = true;
     running_.emplace(handle, Running{std::move(exchange), std::move(done)});
     curl_multi_add_handle(multi_.get(), handle); // sets the timer, which starts the exchange
 }
@@ -79,6 +80,17 @@ void HttpClient::proceed(curl_socket_t socket, int directions) {
     int stillRunning = 0;
     curl_multi_socket_action(multi_.get(), socket, directions, &stillRunning);
     collect();
+    closeIfIdle();
+}
+
+void HttpClient::disconnectWhenIdle() {
+    keepsConnections_ = false;
+    closeIfIdle();
+}
+
+void HttpClient::closeIfIdle() {
+    if (!keepsConnections_ && running_.empty())
+        multi_.reset();
 }
 
 /// Queues the callbacks, so that they may destroy any object, this one included.

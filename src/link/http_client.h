@@ -28,6 +28,9 @@ public:
     /// the client is destroyed first.
     void start(Request request, Done done);
 
+    /// Closes the kept connections as soon as no exchange runs, unless another one is started before.
+    void disconnectWhenIdle();
+
 private:
     struct Running {
         std::unique_ptr<Exchange> exchange;
@@ -55,12 +58,14 @@ private:
     void watch(curl_socket_t socket, int directions);
     void proceed(curl_socket_t socket, int directions);
     void collect();
+    void closeIfIdle();
 
     std::map<curl_socket_t, Watch> watches_;
     QTimer timer_;
     std::unique_ptr<CURLM, Close>
         multi_; ///< null before the first request; uses the watches until it is closed
     std::map<CURL*, Running> running_;
+    bool keepsConnections_ = true;
 };
 
 } // namespace velmora

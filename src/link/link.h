@@ -39,6 +39,9 @@ public:
     /// no reply came. Never calls it if the address is invalid.
     virtual void send(Command command, const std::optional<std::string>& mission, const Settings& settings,
                       CommandDone done) = 0;
+
+    /// Closes connections that are kept for later requests, as soon as no exchange runs.
+    virtual void disconnect() = 0;
 };
 
 } // namespace velmora

@@ -39,14 +39,19 @@ bool isOverPad(const LiveState& state) {
     return distance(state.drone.pos, state.site.pad) <= reach;
 }
 
+bool AlertId::operator==(const AlertId& other) const {
+    if (missionId && other.missionId)
+        return missionId == other.missionId;
+    const bool oneHasId = missionId || other.missionId;
+    return start == other.start && deadline == other.deadline && cameraId == other.cameraId &&
+           (deadline || !oneHasId);
+}
+
 std::optional<AlertId> alertId(const LiveState& state) {
     if (state.phase != Phase::awaitingApproval)
         return std::nullopt;
-    if (state.missionId && !state.missionId->empty())
-        return AlertId{state.missionId, {}, {}, {}};
-    return AlertId{{},
-                   state.missionStart,
-                   state.approvalDeadline,
+    return AlertId{state.missionId && !state.missionId->empty() ? state.missionId : std::nullopt,
+                   state.missionStart, state.approvalDeadline,
                    state.visitor ? state.visitor->cameraId : std::string()};
 }
 

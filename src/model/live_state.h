@@ -106,15 +106,15 @@ inline constexpr auto fieldsOf<LiveState> =
 bool isOverPad(const LiveState& state);
 
 /// Identifies one alert, so that an answer to it is never applied to the next one. If the server sends
-/// mission ids, each alert must have a different one; otherwise start, deadline and camera identify the
-/// alert.
+/// mission ids, each alert must have a different one. Without ids, start, deadline and camera identify the
+/// alert. A server may send the id later than the alert; then the deadline must be known as well.
 struct AlertId {
-    std::optional<std::string> missionId;
-    std::optional<Date> start; ///< absent if there is a mission id, as are the next two
+    std::optional<std::string> missionId; ///< never empty
+    std::optional<Date> start;
     std::optional<Date> deadline;
     std::string cameraId;
 
-    bool operator==(const AlertId&) const = default;
+    bool operator==(const AlertId& other) const;
 };
 
 /// The alert that waits for the owner's answer; nullopt in every phase but awaitingApproval.

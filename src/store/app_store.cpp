@@ -162,9 +162,10 @@ std::optional<AlertId> AppStore::waitingAlert() const {
 /// still old.
 bool AppStore::answer(Command command, const AlertId& seen) {
     tick();
-    if (!answersAlert(command) || waitingAlert() != seen)
+    const auto waiting = waitingAlert();
+    if (!answersAlert(command) || waiting != seen)
         return false;
-    transmit(command, seen.missionId);
+    transmit(command, waiting->missionId);
     return true;
 }
 

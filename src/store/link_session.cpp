@@ -33,6 +33,7 @@ bool LinkSession::setSettings(const Settings& settings) {
     if (same)
         return false;
     ++generation_;
+    link_.disconnect();
     setPending(std::nullopt);
     lastAnswerAt_.reset();
     resetStatus();

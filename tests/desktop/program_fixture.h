@@ -55,11 +55,11 @@ protected:
     /// The program's directory for "data", "config" or "cache".
     QString home(const QString& kind) const { return home_.path() + '/' + kind; }
     QString lockPath() const { return home("data") + "/Velmora/lock"; }
-    /// Writes settings that link the program to a server on loopback.
-    void linkTo(quint16 port) const {
+    /// Writes settings that link the program to a server, on loopback unless a host is given.
+    void linkTo(quint16 port, const std::string& host = "127.0.0.1") const {
         Settings settings;
         settings.onboarded = settings.linkMode = true;
-        settings.host = "127.0.0.1";
+        settings.host = host;
         settings.port = port;
         QDir().mkpath(home("data") + "/Velmora");
         QFile file(home("data") + "/Velmora/settings.json");

@@ -1,5 +1,8 @@
 #include "desktop/program_fixture.h"
 
+#include <QElapsedTimer>
+#include <QUdpSocket>
+
 #include <csignal>
 
 namespace velmora {
@@ -54,6 +57,44 @@ TEST_F(ProgramTest, WithoutABusASecondStartIsRefused) {
     EXPECT_FALSE(second->readAllStandardError().isEmpty());
     ::kill(static_cast<pid_t>(first->processId()), SIGINT);
     EXPECT_EQ(exitCodeOf(*first), 0);
+}
+
+TEST_F(ProgramTest, ADisplayThatCannotBeOpenedIsAnErrorWithASentence) {
+    for (const auto& [platform, variable] : {std::pair("xcb", "DISPLAY"), {"wayland", "WAYLAND_DISPLAY"}}) {
+        const auto program = run(VELMORA_PROGRAM, {}, {{"QT_QPA_PLATFORM", platform}, {variable, ":9999"}});
+        EXPECT_EQ(exitCodeOf(*program), 1) << platform;
+        EXPECT_TRUE(program->readAllStandardError().contains("Velmora needs a graphical session"))
+            << platform;
+    }
+}
+
+/// The display and the name server do not answer any more.
+TEST_F(ProgramTest, ItEndsWithinASecondWhateverHangsAndAStartMeanwhileWaits) {
+    QUdpSocket nameServer;
+    if (!nameServer.bind(QHostAddress("127.0.0.9"), 53))
+        GTEST_SKIP() << "a name server is not permitted here";
+    QFile resolver(home("resolv.conf"));
+    ASSERT_TRUE(resolver.open(QIODevice::WriteOnly) && resolver.write("nameserver 127.0.0.9\n") > 0);
+    resolver.close();
+    linkTo(8765, "velmora.invalid");
+    const VirtualDisplay display;
+    const QString script =
+        "mount --bind " + resolver.fileName() + " /etc/resolv.conf && exec " VELMORA_PROGRAM;
+    const auto first =
+        run("unshare", {"-m", "sh", "-c", script}, {{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}});
+    waitForName();
+    ASSERT_TRUE(waitUntil([&] { return nameServer.hasPendingDatagrams(); })) << "it looks the name up";
+    ::kill(static_cast<pid_t>(display.processId()), SIGSTOP);
+    QElapsedTimer time;
+    time.start();
+    first->terminate();
+    const auto second = start({"--hidden"});
+    EXPECT_EQ(exitCodeOf(*first), 0);
+    EXPECT_LT(time.elapsed(), 1000);
+    EXPECT_TRUE(waitUntil([] { return owned(); }));
+    EXPECT_EQ(second->state(), QProcess::Running);
+    second->terminate();
+    EXPECT_EQ(exitCodeOf(*second), 0);
 }
 
 TEST_F(ProgramTest, ATrayThatAppearsLateGetsTheIconAndItsMenuWorks) {

@@ -174,6 +174,17 @@ TEST_F(LinkTest, ADestroyedLinkNeverCallsBack) {
     EXPECT_EQ(sent, 0);
 }
 
+TEST_F(LinkTest, DisconnectingClosesTheKeptConnectionAfterTheLastExchange) {
+    const auto connections = [this] { return server.listener().findChildren<QTcpSocket*>().size(); };
+    reply = {ScriptedServer::wellFormed(200, document(), {}), false};
+    EXPECT_EQ(failure(), "");
+    EXPECT_EQ(connections(), 1);
+    startFetch();
+    link->disconnect();
+    EXPECT_TRUE(waitUntil([&] { return results.size() == 2 && connections() == 0; }));
+    EXPECT_EQ(failure(), "") << "the next fetch connects again";
+}
+
 TEST_F(LinkTest, ACallbackMayDestroyTheLink) {
     reply = ok(document());
     int calls = 0;

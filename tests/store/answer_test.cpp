@@ -13,11 +13,14 @@ protected:
             tickAfter(0.05);
         std::exchange(link.fetches, {}).front()(FetchedState{state, "2.1"});
     }
-    AlertId alert(const std::optional<std::string>& id, double secondsAgo = 0) {
+    AlertId alert(const std::optional<std::string>& id, double secondsAgo = 0,
+                  const std::optional<Date>& deadline = std::nullopt) {
         LiveState state = LiveState::initial();
         state.phase = Phase::awaitingApproval;
         state.missionId = id;
         state.missionStart = now - Seconds{secondsAgo};
+        state.approvalDeadline = deadline;
+        state.visitor.emplace().cameraId = "garden";
         serve(state);
         return store().waitingAlert().value_or(AlertId{});
     }
@@ -49,6 +52,21 @@ TEST_F(AnswerTest, AnEmptyMissionIdIdentifiesNothing) {
     const AlertId first = alert("", 9);
     EXPECT_NE(first, alert("", 2));
     EXPECT_FALSE(store().answer(Command::approve, first));
+}
+
+/// The owner is notified once, and the notification's answer counts, with the id.
+TEST_F(AnswerTest, AMissionIdThatComesLateBelongsToTheSameAlert) {
+    const Date deadline = now + Seconds{60}, start = now;
+    const auto alertAt = [&](const char* id, Date end) { return alert(id, (now - start).count(), end); };
+    const AlertId seen = alertAt("", deadline);
+    tickAfter(0.5);
+    EXPECT_EQ(alertAt("M-1", deadline), seen);
+    tickAfter(0.5);
+    EXPECT_EQ(notifier.posted.size(), 1U);
+    EXPECT_TRUE(store().answer(Command::approve, seen));
+    EXPECT_EQ(link.posts.at(0).mission, "M-1");
+    EXPECT_NE(alertAt("M-2", deadline), alertAt("M-1", deadline)) << "two ids are two alerts";
+    EXPECT_NE(alertAt("M-1", deadline + Seconds{1}), seen);
 }
 
 /// The failure of an answer whose effect was seen, or of one to an alert that was replaced, is no news.

@@ -23,6 +23,7 @@ public:
               CommandDone done) override {
         posts.push_back({command, mission, done});
     }
+    void disconnect() override {}
 
     std::vector<std::function<void(FetchResult)>> fetches;
     std::vector<Posted> posts;

@@ -17,6 +17,7 @@ class MuteLink final : public Link {
 public:
     void fetchState(const Settings&, std::function<void(FetchResult)>) override {}
     void send(Command, const std::optional<std::string>&, const Settings&, CommandDone) override {}
+    void disconnect() override {}
 };
 
 /// A desktop without notifications.

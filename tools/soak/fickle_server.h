@@ -18,6 +18,7 @@ public:
         state.missionId = "S-1";
         done(FetchedState{state, QStringLiteral("1.0")});
     }
+    void disconnect() override {}
     void send(Command, const std::optional<std::string>&, const Settings&, CommandDone done) override {
         done(std::nullopt);
     }
