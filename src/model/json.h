@@ -36,7 +36,7 @@ Decoded<T> decode(std::string_view json, KeyStyle keys = KeyStyle::fieldNames, s
 /// cannot be written: a number that is not finite, a date outside the years 0 to 9999, or text that is not
 /// UTF-8.
 ///
-/// Defined for every record, and for a list of mission records or of pointers to them.
+/// Defined for every record, and for a list of mission records or of shared pointers to them.
 template <class T>
 std::optional<std::string> encode(const T& value, KeyStyle keys = KeyStyle::fieldNames);
 

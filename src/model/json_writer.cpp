@@ -4,6 +4,7 @@
 #include <rapidjson/writer.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace velmora {
 
@@ -71,7 +72,7 @@ template <Described Record>
 bool write(Sink& sink, const Record& record);
 
 template <Described Record>
-bool write(Sink& sink, const Record* record) {
+bool write(Sink& sink, const std::shared_ptr<const Record>& record) {
     return write(sink, *record);
 }
 
@@ -122,6 +123,7 @@ template std::optional<std::string> encode(const LiveState&, KeyStyle);
 template std::optional<std::string> encode(const MissionRecord&, KeyStyle);
 template std::optional<std::string> encode(const Settings&, KeyStyle);
 template std::optional<std::string> encode(const std::vector<MissionRecord>&, KeyStyle);
-template std::optional<std::string> encode(const std::vector<const MissionRecord*>&, KeyStyle);
+template std::optional<std::string> encode(const std::vector<std::shared_ptr<const MissionRecord>>&,
+                                           KeyStyle);
 
 } // namespace velmora

@@ -236,7 +236,7 @@ QString AppStore::exportList(const std::vector<RecordKey>& keys, const QString& 
     std::vector<MissionRecord> records;
     for (const RecordKey key : keys)
         if (const HistoryEntry* entry = findRecord(key))
-            records.push_back(entry->record);
+            records.push_back(*entry->record);
     return writeExport(path, recordsCsv(records));
 }
 

@@ -32,6 +32,10 @@ public:
     /// Reads settings and history. Seeds an empty history with rehearsed missions.
     explicit AppStore(Environment environment, QObject* parent = nullptr);
 
+    /// Saves without a pause what is not on file yet, and waits for it. Returns whether everything is on file
+    /// within the limit. The destructor does the same with the limit of DataFiles.
+    bool flush(std::chrono::milliseconds limit) { return files_.flush(limit); }
+
     /// Starts the timer. Call once.
     void start();
     /// Advances to the current time of the clock. The timer calls it every 0.05 s.
@@ -68,8 +72,7 @@ public:
     /// Selects the record and shows the history.
     void openRecord(RecordKey key);
     void setShowWelcome(bool show);
-    /// Saves changed settings at once and applies them to simulator and link. Does nothing if nothing
-    /// changed.
+    /// Saves changed settings and applies them to simulator and link. Does nothing if nothing changed.
     void setSettings(const Settings& settings);
     /// Has no effect if the desktop's setting cannot be changed.
     void setStartAtLogin(bool on);

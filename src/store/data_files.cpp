@@ -2,9 +2,9 @@
 
 #include "model/json.h"
 #include "model/validation.h"
-#include "store/replace_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -14,12 +14,15 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t recordLimit = 200;
-constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-constexpr auto ownerDirectory = ownerFile | QFileDevice::ExeOwner;
+constexpr auto ownerDirectory = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 } // namespace
 
-DataFiles::DataFiles(const QDir& directory) : directory_(directory) {}
+DataFiles::DataFiles(const QDir& directory, const ReplaceFile& replace)
+    : settings_(
+          std::make_shared<StoredFile>(directory.absoluteFilePath(QStringLiteral("settings.json")), replace)),
+      history_(std::make_shared<StoredFile>(directory.absoluteFilePath(QStringLiteral("history.json")),
+                                            replace)) {}
 
 QDir DataFiles::defaultDirectory() {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
@@ -34,61 +37,48 @@ void DataFiles::makeDirectory(const QDir& directory) {
 }
 
 template <class T>
-std::optional<T> DataFiles::load(File& file, std::string_view root) {
-    QFile stored(directory_.filePath(file.name));
-    if (!stored.exists())
+std::optional<T> DataFiles::load(StoredFile& file, std::string_view root) {
+    const auto bytes = file.read();
+    if (!bytes)
         return std::nullopt;
-    file.unreadable = true;
-    if (!stored.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QByteArray bytes = stored.readAll();
     auto decoded =
-        decode<T>({bytes.constData(), static_cast<std::size_t>(bytes.size())}, KeyStyle::fieldNames, root);
-    file.unreadable = !decoded;
+        decode<T>({bytes->constData(), static_cast<std::size_t>(bytes->size())}, KeyStyle::fieldNames, root);
+    if (!decoded)
+        file.markUnreadable();
     return std::move(decoded.value);
 }
 
 std::optional<Settings> DataFiles::loadSettings() {
-    auto settings = load<Settings>(settings_, "settings");
+    auto settings = load<Settings>(*settings_, "settings");
     if (settings && !firstProblem(*settings).empty()) {
-        settings_.unreadable = true;
+        settings_->markUnreadable();
         return std::nullopt;
     }
     return settings;
 }
 
 std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {
-    return load<std::vector<MissionRecord>>(history_, "history");
+    return load<std::vector<MissionRecord>>(*history_, "history");
 }
 
 void DataFiles::saveSettings(const Settings& settings) {
-    save(settings_, encode(settings));
+    save(settings_, settings);
 }
 
-void DataFiles::saveHistory(std::vector<const MissionRecord*> history) {
+void DataFiles::saveHistory(Records history) {
     history.resize(std::min(history.size(), recordLimit));
-    save(history_, encode(history));
+    save(history_, std::move(history));
 }
 
-void DataFiles::save(File& file, const std::optional<std::string>& bytes) {
-    if (!bytes)
-        return;
-    makeDirectory(directory_);
-    const QString path = directory_.filePath(file.name);
-    if (file.unreadable && !keepCopy(path))
-        return;
-    file.unreadable = false;
-    replaceFile(path, *bytes);
-}
-
-/// Copies the file to NAME.unreadable, or to the first free one of NAME.unreadable.2, .3 and so on.
-bool DataFiles::keepCopy(const QString& path) const {
-    if (!QFile::exists(path))
-        return true;
-    QString copy = path + QStringLiteral(".unreadable");
-    for (int number = 2; QFile::exists(copy); ++number)
-        copy = path + QStringLiteral(".unreadable.%1").arg(number);
-    return QFile::copy(path, copy) && QFile::setPermissions(copy, ownerFile);
+template <class T>
+void DataFiles::save(const std::shared_ptr<StoredFile>& file, T value) {
+    thread_.save(file->path().toStdString(), [file, value = std::move(value)] {
+        const auto bytes = encode(value);
+        if (!bytes)
+            return false;
+        makeDirectory(QFileInfo(file->path()).absoluteDir());
+        return file->replace(*bytes);
+    });
 }
 
 } // namespace velmora

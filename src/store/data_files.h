@@ -2,18 +2,26 @@
 
 #include "model/mission_record.h"
 #include "model/settings.h"
+#include "store/save_thread.h"
+#include "store/stored_file.h"
 
 #include <QDir>
+
+#include <memory>
+#include <vector>
 
 namespace velmora {
 
 /// settings.json and history.json in the data directory. Errors are silent: a failed read returns nullopt, a
-/// failed write leaves the file unchanged. A file that exists but cannot be read is copied before it is
-/// overwritten.
+/// failed write leaves the file unchanged, and the next change saves everything. A file that cannot be read,
+/// or that another program replaced, is copied before it is overwritten.
 class DataFiles {
 public:
-    /// Each write creates the directory (mode 0700) and its parents if they are missing.
-    explicit DataFiles(const QDir& directory);
+    using Records = std::vector<std::shared_ptr<const MissionRecord>>;
+
+    /// Each write creates the directory (mode 0700) and its parents if they are missing. `replace` runs on
+    /// the saving thread.
+    explicit DataFiles(const QDir& directory, const ReplaceFile& replace = replaceFile);
 
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();
@@ -21,27 +29,28 @@ public:
     /// Creates the directory (mode 0700) and its parents if it is missing.
     static void makeDirectory(const QDir& directory);
 
+    /// Call these before the first save; afterwards the files belong to the saving thread.
     std::optional<Settings> loadSettings();
     std::optional<std::vector<MissionRecord>> loadHistory();
 
+    /// Saving encodes and writes on a thread of its own: at once, but at most every half second for each
+    /// file. The destructor waits for what is not on file yet, at most ten seconds for one write.
     void saveSettings(const Settings& settings);
     /// Writes the first 200 records.
-    void saveHistory(std::vector<const MissionRecord*> history);
+    void saveHistory(Records history);
+    /// Writes now what is not on file yet. Returns whether everything is on file within the limit.
+    bool flush(std::chrono::milliseconds limit) { return thread_.flush(limit); }
 
 private:
-    struct File {
-        QString name;
-        bool unreadable = false; ///< the file exists but could not be read
-    };
-
     template <class T>
-    std::optional<T> load(File& file, std::string_view root);
-    void save(File& file, const std::optional<std::string>& bytes);
-    bool keepCopy(const QString& path) const;
+    static std::optional<T> load(StoredFile& file, std::string_view root);
+    template <class T>
+    void save(const std::shared_ptr<StoredFile>& file, T value);
 
-    QDir directory_;
-    File settings_{QStringLiteral("settings.json")};
-    File history_{QStringLiteral("history.json")};
+    // shared with the jobs of the saving thread
+    std::shared_ptr<StoredFile> settings_;
+    std::shared_ptr<StoredFile> history_;
+    SaveThread thread_;
 };
 
 } // namespace velmora

@@ -11,7 +11,7 @@ History::History(DataFiles& files) : files_(files) {
 }
 
 HistoryEntry History::entryFor(MissionRecord record) {
-    return {RecordKey{++lastKey_}, std::move(record)};
+    return {RecordKey{++lastKey_}, std::make_shared<const MissionRecord>(std::move(record))};
 }
 
 const HistoryEntry* History::find(RecordKey key) const {
@@ -29,7 +29,7 @@ void History::add(std::vector<MissionRecord> records) {
 }
 
 void History::clearDemo() {
-    std::erase_if(entries_, [](const HistoryEntry& entry) { return entry.record.demo; });
+    std::erase_if(entries_, [](const HistoryEntry& entry) { return entry.record->demo; });
     save();
 }
 
@@ -45,15 +45,14 @@ std::optional<HistoryEntry> History::remove(RecordKey key) {
 
 void History::restore(HistoryEntry entry) {
     const auto older = std::ranges::find_if(
-        entries_, [&](const HistoryEntry& other) { return other.record.start < entry.record.start; });
+        entries_, [&](const HistoryEntry& other) { return other.record->start < entry.record->start; });
     entries_.insert(older, std::move(entry));
     save();
 }
 
 void History::save() {
-    std::vector<const MissionRecord*> records;
-    for (const HistoryEntry& entry : entries_)
-        records.push_back(&entry.record);
+    DataFiles::Records records(entries_.size());
+    std::ranges::transform(entries_, records.begin(), &HistoryEntry::record);
     files_.saveHistory(std::move(records));
 }
 

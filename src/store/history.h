@@ -3,6 +3,7 @@
 #include "store/data_files.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace velmora {
 
@@ -11,10 +12,10 @@ enum class RecordKey : std::uint32_t {};
 
 struct HistoryEntry {
     RecordKey key{};
-    MissionRecord record;
+    std::shared_ptr<const MissionRecord> record; ///< never null
 };
 
-/// The finished missions, newest first, in memory and in history.json. Every change is saved at once.
+/// The finished missions, newest first, in memory and in history.json. Every change is saved.
 class History {
 public:
     /// Reads the file; empty if there is none or it cannot be read. `files` must outlive the history.

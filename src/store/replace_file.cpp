@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace velmora {
@@ -33,6 +34,16 @@ bool writeNew(const QString& path, std::string_view bytes) {
            file.write(bytes.data(), size) == size && file.flush() && sync(file);
 }
 
+/// Waits until the name of a new file is on disk. Errors are ignored: the file has its new content already.
+void syncDirectoryOf(const QString& path) {
+    const QByteArray directory = QFile::encodeName(QFileInfo(path).absolutePath());
+    const int descriptor = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
 } // namespace
 
 /// Writes path + ".part" and renames it. The fixed name means that a killed process leaves at most one stray
@@ -41,8 +52,10 @@ bool replaceFile(const QString& path, std::string_view bytes) {
     const QString target = withoutLinks(path);
     const QString part = target + QStringLiteral(".part");
     QFile::remove(part);
-    if (writeNew(part, bytes) && std::rename(QFile::encodeName(part), QFile::encodeName(target)) == 0)
+    if (writeNew(part, bytes) && std::rename(QFile::encodeName(part), QFile::encodeName(target)) == 0) {
+        syncDirectoryOf(target);
         return true;
+    }
     QFile::remove(part);
     return false;
 }

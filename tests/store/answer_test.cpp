@@ -102,7 +102,7 @@ TEST_F(AnswerTest, ADemoAlertExpiresBeforeALateAnswer) {
     const AlertId seen = store().waitingAlert().value();
     now += Seconds{65};
     EXPECT_FALSE(store().answer(Command::approve, seen));
-    EXPECT_EQ(store().history().front().record.outcome, Outcome::expired);
+    EXPECT_EQ(store().history().front().record->outcome, Outcome::expired);
 }
 
 TEST_F(AnswerTest, AnswerTakesOnlyAnswersAndSendOnlyFlightCommands) {

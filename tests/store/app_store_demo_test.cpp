@@ -21,10 +21,10 @@ TEST_F(StoreTest, AFreshStartSeedsThreeDemoMissionsAndShowsTheWelcome) {
     EXPECT_TRUE(store().showWelcome());
     EXPECT_EQ(store().linkStatus().text(), "Demo mode");
     ASSERT_EQ(store().history().size(), 3u);
-    EXPECT_EQ(store().history()[0].record.outcome, Outcome::visitorLeft);
-    EXPECT_EQ(store().history()[1].record.outcome, Outcome::returnedByYou);
-    EXPECT_EQ(store().history()[2].record.outcome, Outcome::ignored);
-    EXPECT_EQ(store().history()[2].record.end, store().history()[2].record.start + Seconds{14});
+    EXPECT_EQ(store().history()[0].record->outcome, Outcome::visitorLeft);
+    EXPECT_EQ(store().history()[1].record->outcome, Outcome::returnedByYou);
+    EXPECT_EQ(store().history()[2].record->outcome, Outcome::ignored);
+    EXPECT_EQ(store().history()[2].record->end, store().history()[2].record->start + Seconds{14});
     EXPECT_TRUE(std::ranges::all_of(recorded(), &MissionRecord::demo));
     EXPECT_EQ(recordsIn(content("history.json")).size(), 3u);
     EXPECT_FALSE(QFile::exists(path("settings.json"))) << "defaults are not written back";
@@ -53,8 +53,8 @@ TEST_F(StoreTest, AnApprovedVisitFliesLandsAndIsSaved) {
     pass(60);
     EXPECT_EQ(phase(), Phase::docked);
     ASSERT_EQ(store().history().size(), 4u);
-    EXPECT_EQ(store().history()[0].record.outcome, Outcome::returnedByYou);
-    EXPECT_FALSE(store().history()[0].record.demo);
+    EXPECT_EQ(store().history()[0].record->outcome, Outcome::returnedByYou);
+    EXPECT_FALSE(store().history()[0].record->demo);
     EXPECT_EQ(recordsIn(content("history.json"))[0].id, "M-42");
 }
 
@@ -76,7 +76,7 @@ TEST_F(StoreTest, LongGapsCountAsFiveSecondsAndStepsEndNow) {
     EXPECT_NEAR(distance(start, live().visitor->pos), 5 * 1.45, 1e-9);
 
     respond(Command::ignore);
-    EXPECT_EQ(store().history()[0].record.end, now);
+    EXPECT_EQ(store().history()[0].record->end, now);
     tickAfter(-3600);
     EXPECT_EQ(phase(), Phase::docked) << "a clock that jumps back moves nothing";
 }
@@ -88,7 +88,7 @@ TEST_F(StoreTest, ArmingAddsANoticeAndADisarmedDetectionIsOnlyLogged) {
     EXPECT_EQ(live().notices[0].level, Notice::Level::caution);
     store().simulate(Scenario::front);
     EXPECT_EQ(phase(), Phase::docked);
-    EXPECT_EQ(store().history()[0].record.outcome, Outcome::disarmed);
+    EXPECT_EQ(store().history()[0].record->outcome, Outcome::disarmed);
     for (int i = 0; i < 60; ++i)
         store().setArmed(i % 2 == 0);
     EXPECT_EQ(live().notices.size(), 40u);
@@ -97,7 +97,7 @@ TEST_F(StoreTest, ArmingAddsANoticeAndADisarmedDetectionIsOnlyLogged) {
 TEST_F(StoreTest, OnlyChangedSettingsAreSavedAndApplied) {
     Settings settings = store().settings();
     store().setSettings(settings);
-    EXPECT_FALSE(QFile::exists(path("settings.json")));
+    EXPECT_EQ(content("settings.json"), "");
 
     settings.approvalSeconds = 30;
     settings.onboarded = true;
@@ -130,7 +130,7 @@ TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAfterARestart) {
     respond(Command::ignore);
     store().clearDemoHistory();
     ASSERT_EQ(store().history().size(), 1u);
-    EXPECT_FALSE(store().history()[0].record.demo);
+    EXPECT_FALSE(store().history()[0].record->demo);
     restart();
     EXPECT_EQ(store().history().size(), 1u);
     store().clearDemoHistory();
@@ -138,8 +138,9 @@ TEST_F(StoreTest, ClearingTheDemoHistoryKeepsTheOwnersMissionsAfterARestart) {
 }
 
 TEST_F(StoreTest, AnExportThatCannotBeWrittenKeepsTheFileAndNamesIt) {
-    MissionRecord record = store().history()[0].record;
+    MissionRecord record = *store().history()[0].record;
     const QString file = path("export.json");
+    ASSERT_TRUE(flush()) << "creates the directory";
     EXPECT_EQ(store().exportRecord(record, file), "");
     const QByteArray before = content("export.json");
     EXPECT_EQ(recordsIn('[' + before + ']').front().dronePath, record.dronePath);

@@ -24,7 +24,7 @@ protected:
         pass(2);
         ASSERT_EQ(phase(), Phase::awaitingApproval);
     }
-    const MissionRecord& newest() { return store().history().front().record; }
+    const MissionRecord& newest() { return *store().history().front().record; }
 };
 
 } // namespace

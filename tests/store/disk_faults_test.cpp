@@ -38,6 +38,7 @@ protected:
     }
     /// Settings and history as the next start would read them.
     auto onFile() const {
+        flush();
         DataFiles files{QDir(directory())};
         return std::pair(files.loadSettings(), files.loadHistory());
     }
@@ -46,7 +47,10 @@ protected:
         return content("settings.json").toStdString() == encode(store().settings()) &&
                content("history.json").toStdString() == encode(recorded());
     }
-    QStringList names() const { return QDir(directory()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+    QStringList names() const {
+        flush();
+        return QDir(directory()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
 
 private:
     bool mounted_ = false;
@@ -88,12 +92,14 @@ TEST_F(DiskFaultsTest, AReadOnlyDirectoryKeepsItsFilesAndTheStoreGoesOn) {
 
 TEST_F(DiskFaultsTest, ARemovedDirectoryIsCreatedAgainAndADirectoryNamedLikeAFileIsKept) {
     changeBoth();
+    flush();
     ASSERT_TRUE(QDir(directory()).removeRecursively());
     changeBoth();
     EXPECT_TRUE(isSaved());
     for (const char* name : {"settings.json", "history.json"})
         EXPECT_TRUE(QFile::remove(path(name)) && QDir(directory()).mkpath(QString(name) + "/kept"));
     changeBoth();
+    EXPECT_FALSE(flush());
     restart();
     changeBoth();
     EXPECT_TRUE(QDir(path("settings.json/kept")).exists() && QDir(path("history.json/kept")).exists());
@@ -133,8 +139,9 @@ TEST_F(DiskFaultsTest, AHistoryOfAnotherVersionIsReadOrCopiedUnchanged) {
     EXPECT_EQ(content("history.json.unreadable"), newer);
 }
 
-/// Kills a saving child process two hundred times. Each one starts with the files of the one before.
-TEST_F(DiskFaultsTest, AKillAtAnyMomentLeavesTheOldOrTheNewContent) {
+/// Kills a saving child process two hundred times. Each one starts with the files of the one before, and
+/// reports each mission that is confirmed on file.
+TEST_F(DiskFaultsTest, AKillAtAnyMomentKeepsWhatWasConfirmed) {
     std::mt19937 chance(1);
     std::uniform_int_distribution<int> moment(0, 6000); // microseconds after the first save
     changeBoth();
@@ -142,25 +149,29 @@ TEST_F(DiskFaultsTest, AKillAtAnyMomentLeavesTheOldOrTheNewContent) {
     for (int kill = 0; kill < 200; ++kill) {
         restart();
         now += Seconds{1000};
-        int ready[2];
-        ASSERT_EQ(pipe(ready), 0);
+        int reports[2];
+        ASSERT_EQ(pipe(reports), 0);
         const pid_t child = fork();
-        for (close(ready[child == 0 ? 0 : 1]); child == 0;) {
+        for (close(reports[child == 0 ? 0 : 1]); child == 0;) {
             changeBoth();
-            if (write(ready[1], "x", 1) != 1)
+            if (!flush() || write(reports[1], &now, sizeof now) != sizeof now)
                 _exit(1);
         }
-        char byte = 0;
-        ASSERT_EQ(read(ready[0], &byte, 1), 1);
+        Date confirmed;
+        ASSERT_EQ(read(reports[0], &confirmed, sizeof confirmed), sizeof confirmed);
         std::this_thread::sleep_for(std::chrono::microseconds(moment(chance)));
         ::kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
-        close(ready[0]);
+        int missions = 1;
+        while (read(reports[0], &confirmed, sizeof confirmed) == sizeof confirmed)
+            ++missions;
+        close(reports[0]);
         const auto after = onFile();
         ASSERT_TRUE(after.first && after.second);
-        EXPECT_GT(after.first->port, before.first->port);
+        EXPECT_GE(after.first->port, before.first->port + missions);
+        EXPECT_GE(after.second->front().start, confirmed);
         const auto known = std::ranges::find(*after.second, before.second->front());
-        ASSERT_NE(known, after.second->end());
+        ASSERT_GE(known - after.second->begin(), missions);
         EXPECT_TRUE(std::equal(known, after.second->end(), before.second->begin()));
         before = after;
     }

@@ -62,7 +62,7 @@ protected:
     std::vector<MissionRecord> recorded() {
         std::vector<MissionRecord> records;
         for (const HistoryEntry& entry : store().history())
-            records.push_back(entry.record);
+            records.push_back(*entry.record);
         return records;
     }
 

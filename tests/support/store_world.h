@@ -51,10 +51,14 @@ public:
         return *store_;
     }
     void restart() { store_.reset(); }
+    /// Waits until everything is saved. Returns whether it is on file.
+    bool flush() const { return !store_ || store_->flush(std::chrono::minutes(1)); }
 
     QString directory() const { return home.path() + QStringLiteral("/data/Velmora"); }
     QString path(const QString& name) const { return directory() + '/' + name; }
+    /// The content of a file after everything was saved.
     QByteArray content(const QString& name) const {
+        flush();
         QFile file(path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }

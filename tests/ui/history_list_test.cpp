@@ -101,7 +101,7 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     respond(Command::ignore);
     tickAfter(0.05);
     click("Undo");
-    EXPECT_EQ(store().history()[2].record.id, "M-2") << "below a visit that ended after the deletion";
+    EXPECT_EQ(store().history()[2].record->id, "M-2") << "below a visit that ended after the deletion";
     store().removeRecord(store().history()[0].key);
 
     click("Stayed docked");

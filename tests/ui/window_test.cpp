@@ -220,7 +220,7 @@ TEST_F(WindowTest, TheAlertClosesWhenItIsIgnoredAndWhenItExpires) {
     pass(14.8);
     EXPECT_TRUE(waitUntil([&] { return shows("Expires in, 1 s"); }));
     pass(0.3);
-    EXPECT_EQ(store().history().front().record.outcome, Outcome::expired);
+    EXPECT_EQ(store().history().front().record->outcome, Outcome::expired);
     EXPECT_TRUE(waitUntil([&] { return !shows(alertCard); }));
 
     visit(Scenario::driveway);

@@ -41,11 +41,11 @@ public:
 private:
     void close() {
         for (const auto& [key, record] : store_.history()) {
-            if (record.id != open_)
+            if (record->id != open_)
                 continue;
             ++recorded_;
-            if (deadline_ && record.outcome == Outcome::expired)
-                worstOverrun_ = std::max(worstOverrun_, (record.end - *deadline_).count());
+            if (deadline_ && record->outcome == Outcome::expired)
+                worstOverrun_ = std::max(worstOverrun_, (record->end - *deadline_).count());
         }
         open_.reset();
     }

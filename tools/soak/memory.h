@@ -22,8 +22,9 @@ inline double residentMegabytes() {
 inline double heapMegabytes(const std::vector<HistoryEntry>& history) {
     std::size_t records = history.capacity() * sizeof(HistoryEntry);
     for (const auto& [key, record] : history) {
-        records += (record.dronePath.capacity() + record.visitorPath.capacity()) * sizeof(P);
-        for (const Notice& notice : record.notices)
+        records +=
+            sizeof *record + (record->dronePath.capacity() + record->visitorPath.capacity()) * sizeof(P);
+        for (const Notice& notice : record->notices)
             records += sizeof notice + notice.text.capacity();
     }
     const auto heap = mallinfo2();

@@ -192,7 +192,8 @@ void MainWindow::updateLayers() {
 }
 
 void MainWindow::askToClearDemo() {
-    const auto demo = std::ranges::count_if(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
+    const auto demo =
+        std::ranges::count_if(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
     clearDemo_->setBody(demo == 1
                             ? tr("One rehearsed visit goes. Visits that were really flown stay.")
                             : tr("%1 rehearsed visits go. Visits that were really flown stay.").arg(demo));

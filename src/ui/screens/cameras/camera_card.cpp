@@ -82,7 +82,7 @@ void CameraCard::refresh(const CameraInfo& cam) {
         {.color = cam.online ? SB::dot : SB::alert, .halo = cam.online, .diameter = Measure::cameraDot});
     online_->setText(cam.online ? tr("Online") : tr("Offline"));
     const auto raised = std::ranges::count(store_.history(), cam.id,
-                                           [](const HistoryEntry& entry) { return entry.record.cameraId; });
+                                           [](const HistoryEntry& entry) { return entry.record->cameraId; });
     alerts_->setText(raised == 0   ? tr("No alerts in the history")
                      : raised == 1 ? tr("1 alert in the history")
                                    : tr("%1 alerts in the history").arg(raised));

@@ -211,14 +211,15 @@ void HistoryList::showCount() {
 void HistoryList::refresh() {
     QStringList cameras;
     for (const HistoryEntry& entry : store_.history())
-        if (const QString name = toQString(entry.record.cameraName); !cameras.contains(name))
+        if (const QString name = toQString(entry.record->cameraName); !cameras.contains(name))
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
     model_->updateDayNames();
     showFilters();
     showCount();
-    const bool demo = std::ranges::any_of(store_.history(), &MissionRecord::demo, &HistoryEntry::record);
+    const bool demo =
+        std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
     clearDemo_->setVisible(demo && !deleted_);
     undoLine_->setVisible(deleted_.has_value());
     footer_->setVisible(demo || deleted_);

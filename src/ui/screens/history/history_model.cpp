@@ -34,9 +34,9 @@ void HistoryModel::rebuild() {
     namedAt_ = now;
     QString day;
     for (std::size_t i = 0; i < history.size(); ++i) {
-        if (!filter_.matches(history[i].record))
+        if (!filter_.matches(*history[i].record))
             continue;
-        if (const QString name = dayName(history[i].record.start, now); name != day) {
+        if (const QString name = dayName(history[i].record->start, now); name != day) {
             day = name;
             rows_.push_back({day, i});
         }
@@ -72,7 +72,7 @@ QModelIndex HistoryModel::indexOf(RecordKey key) const {
 
 const MissionRecord* HistoryModel::recordAt(const QModelIndex& index) const {
     const HistoryEntry* entry = entryAt(index);
-    return entry ? &entry->record : nullptr;
+    return entry ? entry->record.get() : nullptr;
 }
 
 QVariant HistoryModel::data(const QModelIndex& index, int role) const {

@@ -95,7 +95,7 @@ void RecordDetail::setEntry(const HistoryEntry& entry) {
     if (key_ == entry.key)
         return;
     key_ = entry.key;
-    record_ = std::make_shared<MissionRecord>(entry.record);
+    record_ = entry.record;
     const MissionRecord& record = *record_;
     eyebrow_->setText(isolated(toQString(record.cameraName)) + QStringLiteral(" · ") +
                       dayAndTime(record.start, store_.now()));

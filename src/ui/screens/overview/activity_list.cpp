@@ -37,7 +37,7 @@ public:
 
     void setEntry(const HistoryEntry& entry, Date now) {
         key_ = entry.key;
-        const MissionRecord& record = entry.record;
+        const MissionRecord& record = *entry.record;
         const Shown shown{record.start, record.outcome, std::floor(secondsSince1970(now) / 60)};
         if (shown == shown_)
             return;
