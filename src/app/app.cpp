@@ -5,14 +5,11 @@
 
 #include <QApplication>
 
-#include <chrono>
-
 namespace velmora {
 
 namespace {
 
 constexpr int notificationWidth = 320; // pixels
-constexpr std::chrono::seconds quitLimit{10};
 
 NotificationPicture pictureOf(const QString& name) {
     const QImage picture = Art::find(name);
@@ -44,7 +41,6 @@ App::App(AppService& service, const Options& options)
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
     connect(&tray_, &Tray::openRequested, this, [this] { showWindow(); });
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { store_.flush(quitLimit); });
     if (!options.hidden)
         showWindow();
 }

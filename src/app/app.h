@@ -10,6 +10,8 @@
 #include "ui/tray/tray.h"
 #include "ui/window/main_window.h"
 
+#include <chrono>
+
 namespace velmora {
 
 /// Creates and connects the store, the window, the tray and the desktop services.
@@ -20,9 +22,11 @@ public:
     App(AppService& service, const Options& options);
 
     /// Waits until everything is on file, at most ten seconds.
-    void saveFiles() {}
+    void saveFiles() { store_.flush(longestSave); }
 
 private:
+    static constexpr std::chrono::seconds longestSave{10};
+
     /// Brings the window to the front. `activationToken` may be empty.
     void showWindow(const QString& activationToken = {});
 
