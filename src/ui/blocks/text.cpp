@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmora {
 
@@ -22,7 +23,7 @@ void Text::setText(const QString& text) {
     if (text == text_)
         return;
     text_ = text;
-    linesWidth_ = -1;
+    broken_ = {};
     setAccessibleName(text);
     updateToolTip();
     updateGeometry();
@@ -43,7 +44,7 @@ void Text::setAlignment(Qt::Alignment alignment) {
 
 void Text::setMaximumLines(int lines) {
     maximumLines_ = lines;
-    linesWidth_ = -1;
+    broken_ = {};
     updateGeometry();
 }
 
@@ -67,11 +68,13 @@ int Text::heightForWidth(int width) const {
 const QStringList& Text::lines(int width) const {
     if (wrapWidth_ > 0)
         width = std::min(width, wrapWidth_);
-    if (width != linesWidth_)
-        lines_ = maximumLines_ == 1 ? QStringList{elided(text_, style_, width)}
-                                    : brokenIntoLines(text_, style_, width, maximumLines_);
-    linesWidth_ = width;
-    return lines_;
+    if (width == broken_[0].width)
+        return broken_[0].lines;
+    std::swap(broken_[0], broken_[1]);
+    if (width != broken_[0].width)
+        broken_[0] = {width, maximumLines_ == 1 ? QStringList{elided(text_, style_, width)}
+                                                : brokenIntoLines(text_, style_, width, maximumLines_)};
+    return broken_[0].lines;
 }
 
 void Text::updateToolTip() {

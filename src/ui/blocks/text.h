@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include <array>
+
 namespace velmora {
 
 /// A paragraph in one style, wrapped to the widget's width.
@@ -42,8 +44,12 @@ private:
     Qt::Alignment alignment_ = Qt::AlignLeft;
     int maximumLines_ = 0;
     int wrapWidth_ = 0;
-    mutable QStringList lines_;   ///< cached result of lines()
-    mutable int linesWidth_ = -1; ///< width of the cached lines; -1 if they are out of date
+    /// Cached results of lines(), the newest first; layouts ask for two widths in turn.
+    struct Broken {
+        int width = -1; ///< -1 if the lines are out of date
+        QStringList lines;
+    };
+    mutable std::array<Broken, 2> broken_;
 };
 
 /// The small upper-case label above a headline.
