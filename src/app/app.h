@@ -23,6 +23,7 @@ public:
 
     /// Waits until everything is on file, at most ten seconds.
     void saveFiles() { store_.flush(longestSave); }
+    void withdrawNotifications() { notifier_.withdrawAll(); }
 
 private:
     static constexpr std::chrono::seconds longestSave{10};

@@ -90,13 +90,25 @@ void setUpApplication() {
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
 }
 
+App* runningApp = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+/// Qt calls exit() when the display goes away.
+void saveAtExit() {
+    if (runningApp)
+        runningApp->saveFiles();
+}
+
 /// Files first: a disk may take its time, everything else may not.
 int run(AppService& service, const Options& options) {
     App app(service, options);
+    runningApp = &app;
+    std::atexit(saveAtExit);
     const int exitCode = QApplication::exec();
-    QuitDeadline::stop();
+    runningApp = nullptr;
+    QuitDeadline::pause();
     app.saveFiles();
-    QuitDeadline::start();
+    QuitDeadline::resume();
+    app.withdrawNotifications();
     service.release();
     return exitCode;
 }

@@ -36,19 +36,17 @@ AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
     const QDeadlineTimer deadline(quitTime);
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
-        while (!takeName()) {
+        for (bool last = false; !takeName(); last = deadline.hasExpired(), QThread::msleep(pause)) {
+            if (last)
+                return Claim::refused;
             if (handOver(hidden))
                 return Claim::handedOver;
-            if (deadline.hasExpired())
-                return Claim::refused;
-            QThread::msleep(pause);
         }
     }
     DataFiles::makeDirectory(QDir(dataDirectory));
     lock_.emplace(dataDirectory + QStringLiteral("/lock"));
     lock_->setStaleLockTime(0);
-    const bool taken = !lock_->tryLock(static_cast<int>(deadline.remainingTime())) &&
-                       lock_->error() == QLockFile::LockFailedError;
+    const bool taken = !lock_->tryLock(quitTime) && lock_->error() == QLockFile::LockFailedError;
     return taken ? Claim::refused : Claim::granted; // an unwritable directory does not prevent the start
 }
 

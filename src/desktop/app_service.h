@@ -28,7 +28,8 @@ public:
     explicit AppService(const QDBusConnection& bus);
 
     /// Takes the bus name and the lock of the data directory, and keeps them. If another instance runs, asks
-    /// it to show its window unless `hidden`. Waits for up to two seconds for an instance that is quitting.
+    /// it to show its window unless `hidden`. Waits for an instance that is quitting, up to seven seconds for
+    /// its name and two for its lock.
     Claim claim(const QString& dataDirectory, bool hidden);
     /// Gives up the bus name, so that the next start takes it.
     void release();

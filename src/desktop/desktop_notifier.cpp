@@ -168,7 +168,7 @@ bool DesktopNotifier::isShown(const QString& identifier) const {
     return entry != posted_.end() && !entry->second.withdrawn;
 }
 
-DesktopNotifier::~DesktopNotifier() {
+void DesktopNotifier::withdrawAll() {
     QStringList identifiers;
     for (const auto& [identifier, posted] : posted_)
         identifiers.append(identifier);

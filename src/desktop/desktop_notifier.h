@@ -30,8 +30,10 @@ class DesktopNotifier final : public QObject, public Notifier {
 public:
     /// `pictureOf` looks up artwork by name; a picture without pixels is not sent.
     DesktopNotifier(const QDBusConnection& bus, std::function<NotificationPicture(const QString&)> pictureOf);
+    ~DesktopNotifier() override { withdrawAll(); }
+
     /// Closes every notification posted. Waits at most a quarter of a second for a slow service.
-    ~DesktopNotifier() override;
+    void withdrawAll();
 
     void post(const Notification& notification) override;
     void withdraw(const QString& identifier) override;

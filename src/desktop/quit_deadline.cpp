@@ -10,19 +10,16 @@ namespace velmora::QuitDeadline {
 
 namespace {
 
-constexpr long longestQuit = 700'000'000; // nanoseconds; with the rest of quitting less than a second
+constexpr itimerspec longestQuit{{}, {0, 700'000'000}}; // with the rest of quitting less than a second
+constexpr itimerspec never{};
 
 // Global, because a signal handler has no other data.
-timer_t timer; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+timer_t timer;                        // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+volatile std::sig_atomic_t isStarted; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+itimerspec left = longestQuit;        // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 void onExpiry(int) {
     _exit(0);
-}
-
-void set(long nanoseconds) {
-    itimerspec time{};
-    time.it_value.tv_nsec = nanoseconds;
-    timer_settime(timer, 0, &time, nullptr);
 }
 
 } // namespace
@@ -36,12 +33,21 @@ void install() {
         qFatal("No timer for quitting can be made.");
 }
 
+/// A second signal must not shorten the time for the files, nor extend the rest.
 void start() {
-    set(longestQuit);
+    if (isStarted)
+        return;
+    isStarted = 1;
+    timer_settime(timer, 0, &longestQuit, nullptr);
 }
 
-void stop() {
-    set(0);
+void pause() {
+    start();
+    timer_settime(timer, 0, &never, &left);
+}
+
+void resume() {
+    timer_settime(timer, 0, &left, nullptr);
 }
 
 } // namespace velmora::QuitDeadline

@@ -6,9 +6,10 @@ namespace velmora::QuitDeadline {
 
 /// Prepares the timer. Call before start().
 void install();
-/// From now on the process ends with exit code 0 after 0.7 s. Async-signal-safe.
+/// From now on the process ends with exit code 0 after 0.7 s. Only the first call counts. Async-signal-safe.
 void start();
-/// The process may take longer again.
-void stop();
+/// Starts the time if need be, and stops it until resume().
+void pause();
+void resume();
 
 } // namespace velmora::QuitDeadline

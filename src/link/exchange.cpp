@@ -41,6 +41,12 @@ Failure connectionFailure(int systemError) {
     }
 }
 
+/// libcurl would expand such a transfer, even one without any output, before a limit counts.
+bool isCompressed(const QByteArray& header) {
+    const QByteArray name = "transfer-encoding:", line = header.toLower();
+    return line.startsWith(name) && line.mid(name.size()).trimmed() != "chunked";
+}
+
 } // namespace
 
 Exchange::Exchange(Request request)
@@ -88,15 +94,16 @@ void Exchange::setPost() {
 }
 
 /// A smaller result than the size makes libcurl end the exchange.
-std::size_t Exchange::readHeader(char* line, std::size_t size, std::size_t count, void* exchange) {
+std::size_t Exchange::readHeader(const char* line, std::size_t size, std::size_t count, void* exchange) {
     auto& self = *static_cast<Exchange*>(exchange);
     const std::size_t length = size * count;
+    const QByteArray text = QByteArray(line, static_cast<qsizetype>(length)).trimmed();
     self.headBytes_ += length;
-    self.headEnded_ |= length <= 2 && line[length - 1] == '\n';
-    return self.headBytes_ <= longestHead ? length : 0;
+    self.headEnded_ = text.isEmpty() || (self.headEnded_ && !text.startsWith("HTTP/"));
+    return self.headBytes_ <= longestHead && !isCompressed(text) ? length : 0;
 }
 
-std::size_t Exchange::readBody(char* bytes, std::size_t size, std::size_t count, void* exchange) {
+std::size_t Exchange::readBody(const char* bytes, std::size_t size, std::size_t count, void* exchange) {
     auto& self = *static_cast<Exchange*>(exchange);
     const std::size_t length = size * count;
     if (static_cast<std::size_t>(self.body_.size()) + length > self.request_.replyBytes)
@@ -112,7 +119,7 @@ End Exchange::end(CURLcode result) {
     end.status = static_cast<int>(status);
     end.failure = failureOf(result, end.status);
     if (end.failure == Failure::other)
-        end.errorText = qt_error_string(systemError());
+        end.errorText = systemErrorText(result);
     end.body = std::move(body_);
     end.version = version();
     return end;
@@ -122,6 +129,11 @@ int Exchange::systemError() const {
     long number = 0;
     curl_easy_getinfo(handle_.get(), CURLINFO_OS_ERRNO, &number);
     return static_cast<int>(number);
+}
+
+QString Exchange::systemErrorText(CURLcode result) const {
+    const int number = systemError();
+    return number == 0 ? QString::fromLatin1(curl_easy_strerror(result)) : qt_error_string(number);
 }
 
 std::optional<Failure> Exchange::failureOf(CURLcode result, int status) const {

@@ -30,8 +30,8 @@ struct End {
     QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
 };
 
-/// One HTTP request and its reply. Stateless: no cookies, cache, proxy, redirects or decompression. Every
-/// part of a reply has a limit.
+/// One HTTP request and its reply. Stateless: no cookies, cache, proxy, redirects or decompression. Head
+/// and body of a reply have a limit, and the whole exchange has a time limit.
 class Exchange {
 public:
     explicit Exchange(Request request);
@@ -39,6 +39,7 @@ public:
     Exchange& operator=(const Exchange&) = delete;
 
     CURL* handle() const { return handle_.get(); }
+    bool isPost() const { return request_.json.has_value(); }
     /// The end after libcurl has reported `result`. It is late, a time-out, if the exchange was not processed
     /// within its time limit, even if a pause of the program is the cause. Call once.
     End end(CURLcode result);
@@ -49,13 +50,14 @@ private:
         void operator()(auto* resource) const { function(resource); }
     };
 
-    static std::size_t readHeader(char* line, std::size_t size, std::size_t count, void* exchange);
-    static std::size_t readBody(char* bytes, std::size_t size, std::size_t count, void* exchange);
+    static std::size_t readHeader(const char* line, std::size_t size, std::size_t count, void* exchange);
+    static std::size_t readBody(const char* bytes, std::size_t size, std::size_t count, void* exchange);
 
     void set(CURLoption option, auto value);
     void setLimits();
     void setPost();
     int systemError() const;
+    QString systemErrorText(CURLcode result) const;
     std::optional<Failure> failureOf(CURLcode result, int status) const;
     QString version() const;
 
@@ -64,7 +66,7 @@ private:
     std::unique_ptr<curl_slist, Release<curl_slist_free_all>> headers_;
     std::unique_ptr<CURL, Release<curl_easy_cleanup>> handle_;
     std::size_t headBytes_ = 0; ///< of status lines, headers and trailers
-    bool headEnded_ = false;    ///< the empty line after the headers was read
+    bool headEnded_ = false;    ///< the empty line after the last headers was read
     QByteArray body_;
 };
 

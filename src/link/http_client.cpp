@@ -83,8 +83,14 @@ void HttpClient::proceed(curl_socket_t socket, int directions) {
     closeIfIdle();
 }
 
-void HttpClient::disconnectWhenIdle() {
+void HttpClient::disconnect() {
     keepsConnections_ = false;
+    std::erase_if(running_, [this](const auto& item) {
+        if (item.second.exchange->isPost())
+            return false;
+        curl_multi_remove_handle(multi_.get(), item.first);
+        return true;
+    });
     closeIfIdle();
 }
 

@@ -28,8 +28,9 @@ public:
     /// the client is destroyed first.
     void start(Request request, Done done);
 
-    /// Closes the kept connections as soon as no exchange runs, unless another one is started before.
-    void disconnectWhenIdle();
+    /// Aborts the exchanges that post nothing, without calling back, and closes kept connections as soon as
+    /// no exchange runs, unless another one is started before.
+    void disconnect();
 
 private:
     struct Running {

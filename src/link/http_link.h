@@ -31,7 +31,7 @@ public:
     void fetchState(const Settings& settings, std::function<void(FetchResult)> done) override;
     void send(Command command, const std::optional<std::string>& mission, const Settings& settings,
               CommandDone done) override;
-    void disconnect() override { client_.disconnectWhenIdle(); }
+    void disconnect() override { client_.disconnect(); }
 
 private:
     HttpClient client_;

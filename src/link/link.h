@@ -40,7 +40,7 @@ public:
     virtual void send(Command command, const std::optional<std::string>& mission, const Settings& settings,
                       CommandDone done) = 0;
 
-    /// Closes connections that are kept for later requests, as soon as no exchange runs.
+    /// Aborts the fetches without calling back, and closes kept connections as soon as no command runs.
     virtual void disconnect() = 0;
 };
 

@@ -40,11 +40,15 @@ bool isOverPad(const LiveState& state) {
 }
 
 bool AlertId::operator==(const AlertId& other) const {
-    if (missionId && other.missionId)
+    if (missionId || other.missionId)
         return missionId == other.missionId;
-    const bool oneHasId = missionId || other.missionId;
-    return start == other.start && deadline == other.deadline && cameraId == other.cameraId &&
-           (deadline || !oneHasId);
+    return start == other.start && deadline == other.deadline && cameraId == other.cameraId;
+}
+
+bool isSameAlert(const AlertId& seen, const AlertId& current) {
+    AlertId withoutId = current;
+    withoutId.missionId.reset();
+    return seen == current || (seen == withoutId && seen.deadline);
 }
 
 std::optional<AlertId> alertId(const LiveState& state) {

@@ -106,16 +106,21 @@ inline constexpr auto fieldsOf<LiveState> =
 bool isOverPad(const LiveState& state);
 
 /// Identifies one alert, so that an answer to it is never applied to the next one. If the server sends
-/// mission ids, each alert must have a different one. Without ids, start, deadline and camera identify the
-/// alert. A server may send the id later than the alert; then the deadline must be known as well.
+/// mission ids, each alert must have a different one; otherwise start, deadline and camera identify the
+/// alert.
 struct AlertId {
     std::optional<std::string> missionId; ///< never empty
     std::optional<Date> start;
     std::optional<Date> deadline;
     std::string cameraId;
 
+    /// Compares the mission ids if there is one, otherwise the rest.
     bool operator==(const AlertId& other) const;
 };
+
+/// Whether `current` is the alert that was seen before: an equal one, or one whose mission id came late. Then
+/// the rest must be equal, with a deadline.
+bool isSameAlert(const AlertId& seen, const AlertId& current);
 
 /// The alert that waits for the owner's answer; nullopt in every phase but awaitingApproval.
 std::optional<AlertId> alertId(const LiveState& state);

@@ -115,7 +115,8 @@ void AppStore::followPhase() {
     if (state_.approvalDeadline && *state_.approvalDeadline > now())
         alertWithTime_ = alertId(state_);
     const auto alert = shownAlert();
-    const bool anotherAlert = std::exchange(lastAlert_, alert) != alert;
+    const auto previous = std::exchange(lastAlert_, alert);
+    const bool anotherAlert = previous && alert ? !isSameAlert(*previous, *alert) : previous != alert;
     if (phase() != before)
         phaseChanged(before, phase());
     else if (anotherAlert && alert)
@@ -163,7 +164,7 @@ std::optional<AlertId> AppStore::waitingAlert() const {
 bool AppStore::answer(Command command, const AlertId& seen) {
     tick();
     const auto waiting = waitingAlert();
-    if (!answersAlert(command) || waiting != seen)
+    if (!answersAlert(command) || !waiting || !isSameAlert(seen, *waiting))
         return false;
     transmit(command, waiting->missionId);
     return true;

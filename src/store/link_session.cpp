@@ -34,6 +34,7 @@ bool LinkSession::setSettings(const Settings& settings) {
         return false;
     ++generation_;
     link_.disconnect();
+    pollInFlight_ = false;
     setPending(std::nullopt);
     lastAnswerAt_.reset();
     resetStatus();
@@ -69,7 +70,7 @@ bool LinkSession::hasTakenEffect(const Pending& pending, const LiveState& state)
     switch (pending.command) {
     case Command::approve:
     case Command::ignore:
-        return alertId(state) != pending.alert;
+        return !pending.alert || !alertId(state) || !isSameAlert(*pending.alert, *alertId(state));
     case Command::hold:
         return state.phase == Phase::holding || !airborne(state.phase);
     case Command::resume:
@@ -111,9 +112,9 @@ void LinkSession::poll() {
 }
 
 void LinkSession::finishPoll(const FetchResult& result, int generation) {
-    pollInFlight_ = false;
     if (generation != generation_)
         return;
+    pollInFlight_ = false;
     if (const auto* fetched = std::get_if<FetchedState>(&result)) {
         lastAnswerAt_ = clock_();
         emit received(fetched->state);

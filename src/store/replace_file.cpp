@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velmora {
@@ -26,12 +27,20 @@ bool sync(const QFile& file) {
     return ::fsync(file.handle()) == 0 || errno == EINVAL;
 }
 
+FileStamp stampFrom(const struct stat& info) {
+    return {info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec};
+}
+
 /// Flushes and syncs, because a full disk may refuse buffered bytes only then.
-bool writeNew(const QString& path, std::string_view bytes) {
+std::optional<FileStamp> writeNew(const QString& path, std::string_view bytes) {
     QFile file(path);
     const auto size = static_cast<qint64>(bytes.size());
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerFile) &&
-           file.write(bytes.data(), size) == size && file.flush() && sync(file);
+    struct stat info {};
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerFile) &&
+        file.write(bytes.data(), size) == size && file.flush() && sync(file) &&
+        ::fstat(file.handle(), &info) == 0)
+        return stampFrom(info);
+    return std::nullopt;
 }
 
 /// Waits until the name of a new file is on disk. Errors are ignored: the file has its new content already.
@@ -46,18 +55,27 @@ void syncDirectoryOf(const QString& path) {
 
 } // namespace
 
+std::optional<FileStamp> stampOf(const QString& path) {
+    struct stat info {};
+    if (::stat(QFile::encodeName(path).constData(), &info) == 0)
+        return stampFrom(info);
+    return errno == ENOENT || errno == ENOTDIR ? std::nullopt : std::optional(FileStamp{});
+}
+
 /// Writes path + ".part" and renames it. The fixed name means that a killed process leaves at most one stray
-/// file, which the next save replaces.
-bool replaceFile(const QString& path, std::string_view bytes) {
+/// file, which the next save replaces. The stamp is that of the bytes written, even if another program
+/// replaces the file right after the rename.
+std::optional<FileStamp> replaceFile(const QString& path, std::string_view bytes) {
     const QString target = withoutLinks(path);
     const QString part = target + QStringLiteral(".part");
     QFile::remove(part);
-    if (writeNew(part, bytes) && std::rename(QFile::encodeName(part), QFile::encodeName(target)) == 0) {
+    const auto stamp = writeNew(part, bytes);
+    if (stamp && std::rename(QFile::encodeName(part), QFile::encodeName(target)) == 0) {
         syncDirectoryOf(target);
-        return true;
+        return stamp;
     }
     QFile::remove(part);
-    return false;
+    return std::nullopt;
 }
 
 } // namespace velmora

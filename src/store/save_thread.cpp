@@ -84,6 +84,7 @@ void SaveThread::Shared::run() {
         lock.lock();
         file->saved = saved;
         file->earliest = Clock::now() + limits.pause;
+        file->due = std::max(file->due, file->earliest);
         runningSince.reset();
         changed.notify_all();
     }

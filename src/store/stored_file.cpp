@@ -1,18 +1,17 @@
 #include "store/stored_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
-
-#include <cerrno>
-#include <sys/stat.h>
 
 namespace velmora {
 
 namespace {
 
+/// nullopt also for what is not a regular file: reading a pipe could wait for ever.
 std::optional<QByteArray> contentOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray bytes = file.readAll();
     return file.error() == QFileDevice::NoError ? std::optional(std::move(bytes)) : std::nullopt;
@@ -39,14 +38,6 @@ QString freeName(const QString& path) {
 StoredFile::StoredFile(const QString& path, ReplaceFile replace)
     : path_(path), replace_(std::move(replace)) {}
 
-/// nullopt if there is no file. A file that cannot be examined differs from every other one.
-std::optional<StoredFile::Stamp> StoredFile::stampOf(const QString& path) {
-    struct stat info {};
-    if (::stat(QFile::encodeName(path).constData(), &info) == 0)
-        return Stamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec};
-    return errno == ENOENT || errno == ENOTDIR ? std::nullopt : std::optional(Stamp{});
-}
-
 std::optional<QByteArray> StoredFile::read() {
     stamp_ = stampOf(path_);
     auto bytes = contentOf(path_);
@@ -56,10 +47,12 @@ std::optional<QByteArray> StoredFile::read() {
 }
 
 bool StoredFile::replace(std::string_view bytes) {
-    if (!keepCopy() || !replace_(path_, bytes))
+    const auto stamp = keepCopy() ? replace_(path_, bytes) : std::nullopt;
+    if (!stamp)
         return false;
-    stamp_ = stampOf(path_);
+    stamp_ = stamp;
     hash_ = hashOf(bytes);
+    unreadable_ = false;
     return true;
 }
 

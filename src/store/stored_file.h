@@ -5,7 +5,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 
 namespace velmora {
@@ -28,24 +27,12 @@ public:
     bool replace(std::string_view bytes);
 
 private:
-    /// Identifies one version of a file.
-    struct Stamp {
-        std::uint64_t device = 0;
-        std::uint64_t inode = 0;
-        std::int64_t size = 0;
-        std::int64_t modifiedSeconds = 0;
-        std::int64_t modifiedNanoseconds = 0;
-
-        bool operator==(const Stamp&) const = default;
-    };
-
-    static std::optional<Stamp> stampOf(const QString& path);
     bool keepCopy();
 
     QString path_;
     ReplaceFile replace_;
     // what was last read, copied or written
-    std::optional<Stamp> stamp_;      ///< nullopt: no file
+    std::optional<FileStamp> stamp_;  ///< nullopt: no file
     std::optional<std::size_t> hash_; ///< of the content; nullopt if it is unknown
     bool unreadable_ = false;         ///< the content was not understood, and is not copied
 };

@@ -68,7 +68,7 @@ TEST_F(ProgramTest, ADisplayThatCannotBeOpenedIsAnErrorWithASentence) {
     }
 }
 
-/// The display and the name server do not answer any more.
+/// The display and the name server stop answering.
 TEST_F(ProgramTest, ItEndsWithinASecondWhateverHangsAndAStartMeanwhileWaits) {
     QUdpSocket nameServer;
     if (!nameServer.bind(QHostAddress("127.0.0.9"), 53))

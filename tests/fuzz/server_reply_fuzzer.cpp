@@ -18,7 +18,7 @@ std::span<const std::uint8_t> reply; // NOLINT(cppcoreguidelines-avoid-non-const
 
 } // namespace
 
-/// Takes the place of the system's function: a TCP socket is one end of a pair whose other end has sent the
+/// Replaces the system's function: a TCP socket is one end of a pair whose other end has sent the
 /// reply and hung up.
 extern "C" int socket(int domain, int type, int protocol) {
     using Function = int (*)(int, int, int);

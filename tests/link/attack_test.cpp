@@ -15,9 +15,9 @@ std::atomic<bool> nameServerIsSilent = false; // NOLINT(cppcoreguidelines-avoid-
 
 } // namespace
 
-/// Takes the place of the system's look-up, for libraries as well.
+/// Replaces the system's look-up, for libraries as well.
 extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* hints, addrinfo** found) {
-    while (nameServerIsSilent)
+    for (int i = 0; nameServerIsSilent && i < 500; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     static const auto original = reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
     return original(name, service, hints, found);
@@ -61,14 +61,14 @@ protected:
         mostMemory_ = residentMegabytes();
         const double memoryBefore = mostMemory_;
         sinceTick_.restart();
-        QElapsedTimer whole;
-        whole.start();
+        QElapsedTimer exchange;
+        exchange.start();
         const std::string text = failure();
-        EXPECT_LT(whole.elapsed(), 3000);
+        EXPECT_LT(exchange.elapsed(), 3000);
         EXPECT_LT(longestGap_, 1000);
         EXPECT_LT(mostMemory_ - memoryBefore, 30);
         std::printf("  %4lld ms, longest gap %3lld ms, %+.1f MB: %s\n",
-                    static_cast<long long>(whole.elapsed()), static_cast<long long>(longestGap_),
+                    static_cast<long long>(exchange.elapsed()), static_cast<long long>(longestGap_),
                     mostMemory_ - memoryBefore, text.c_str());
         return text;
     }
@@ -160,6 +160,7 @@ TEST_F(AttackTest, CompressedRepliesAreNotExpanded) {
     EXPECT_THAT(failureOfBomb("Content-Encoding"),
                 testing::StartsWith("The server's state could not be read"));
     EXPECT_EQ(failureOfBomb("Transfer-Encoding"), badResponse);
+    EXPECT_EQ(failureOfBomb("Transfer-Encoding: deflate, deflate\r\nX"), badResponse) << "two layers";
 }
 
 TEST_F(AttackTest, WrongLengthsAndOtherProtocolsAreBadResponses) {

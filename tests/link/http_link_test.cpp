@@ -174,14 +174,16 @@ TEST_F(LinkTest, ADestroyedLinkNeverCallsBack) {
     EXPECT_EQ(sent, 0);
 }
 
-TEST_F(LinkTest, DisconnectingClosesTheKeptConnectionAfterTheLastExchange) {
+TEST_F(LinkTest, DisconnectingAbortsFetchesAndClosesTheKeptConnectionAfterTheLastCommand) {
     const auto connections = [this] { return server.listener().findChildren<QTcpSocket*>().size(); };
     reply = {ScriptedServer::wellFormed(200, document(), {}), false};
     EXPECT_EQ(failure(), "");
     EXPECT_EQ(connections(), 1);
+    startSend(Command::hold);
     startFetch();
     link->disconnect();
-    EXPECT_TRUE(waitUntil([&] { return results.size() == 2 && connections() == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return sent == 1 && connections() == 0; }));
+    EXPECT_EQ(results.size(), 1u) << "the fetch was aborted";
     EXPECT_EQ(failure(), "") << "the next fetch connects again";
 }
 

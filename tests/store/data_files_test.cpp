@@ -120,11 +120,35 @@ TEST_F(DataFilesTest, AFileReplacedFromOutsideIsCopiedBeforeItIsOverwritten) {
     EXPECT_FALSE(exists("settings.json.replaced.3"));
 }
 
+TEST_F(DataFilesTest, AFileReplacedRightAfterASaveIsCopiedAndOneRemovedBeforeIsNot) {
+    put("settings.json", "not ours");
+    DataFiles files(QDir(directory()), [this](const QString& file, std::string_view bytes) {
+        const auto stamp = replaceFile(file, bytes);
+        if (file.endsWith("settings.json") && !QFile::exists(path("settings.json.replaced")))
+            put("settings.json", "theirs");
+        return stamp;
+    });
+    EXPECT_FALSE(files.loadSettings());
+    ASSERT_TRUE(QFile::remove(path("settings.json")));
+    for (int save = 0; save < 2; ++save) {
+        files.saveSettings({});
+        EXPECT_TRUE(files.flush(std::chrono::minutes(1)));
+    }
+    EXPECT_EQ(content("settings.json.replaced"), "theirs");
+    EXPECT_FALSE(exists("settings.json.unreadable"));
+}
+
+TEST_F(DataFilesTest, APipeInPlaceOfAFileIsLeftAlone) {
+    QDir().mkpath(directory());
+    ASSERT_EQ(mkfifo(path("settings.json").toUtf8(), 0600), 0);
+    EXPECT_FALSE(DataFiles(QDir(directory())).loadSettings()) << "and the start does not wait";
+}
+
 TEST_F(DataFilesTest, NothingIsOverwrittenIfItsCopyFails) {
     put("settings.json", "not ours");
     bool full = true;
     DataFiles files(QDir(directory()), [&](const QString& file, std::string_view bytes) {
-        return (!full || !file.contains("settings.json.")) && replaceFile(file, bytes);
+        return full && file.contains("settings.json.") ? std::nullopt : replaceFile(file, bytes);
     });
     EXPECT_FALSE(files.loadSettings());
     files.saveSettings({});
@@ -152,8 +176,8 @@ TEST_F(DataFilesTest, ABlockedDiskDelaysNobody) {
     std::promise<void> disk;
     const auto released = disk.get_future().share();
     DataFiles files(QDir(directory()), [&](const QString& file, std::string_view bytes) {
-        return released.wait_for(std::chrono::minutes(1)) == std::future_status::ready &&
-               replaceFile(file, bytes);
+        released.wait();
+        return replaceFile(file, bytes);
     });
     History history(files);
     history.add(records(300));

@@ -73,7 +73,8 @@ TEST_F(SaveThreadTest, RunsTheNewestJobOfEachFileInTheOrderOfTheirTurns) {
     ASSERT_TRUE(log->waitFor("history 1 begins"));
     thread.save("settings", job("settings 1"));
     thread.save("art", job("art 1"));
-    for (const char* number : {"2", "3"}) { // after the others, because of the pause
+    for (const char* number :
+         {"2", "3"}) { // the history comes last: its pause begins when its first job ends
         thread.save("history", job(std::string("history ") + number));
         thread.save("settings", job(std::string("settings ") + number));
     }
@@ -88,7 +89,11 @@ TEST_F(SaveThreadTest, WritesAtOnceAndThenTheNewestValueAfterEachPause) {
     constexpr auto pause = 100ms;
     SaveThread thread({.pause = pause});
     for (int change = 0; change <= 50; ++change) {
-        thread.save("settings", job(std::to_string(change)));
+        thread.save("settings", [number = std::to_string(change), log = log] {
+            std::this_thread::sleep_for(30ms); // further changes come during a job
+            log->add(number);
+            return true;
+        });
         if (change == 0) {
             ASSERT_TRUE(log->waitFor("0"));
         }

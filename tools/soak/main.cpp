@@ -72,13 +72,14 @@ void playVisits(int hours, unsigned seed) {
             QApplication::processEvents();
         if (second % between != between - 1)
             continue;
-        const double resident = residentMegabytes();
+        const double resident = residentMegabytes() - recordMegabytes(store.history());
         settled = second / between < 3 ? resident : settled;
-        std::printf("  hour %2d: %.0f MB, %d missions\n", (second + 1) / 3600, resident, ledger.begun());
+        std::printf("  hour %2d: %.0f MB beyond the history, %d missions\n", (second + 1) / 3600, resident,
+                    ledger.begun());
         std::fflush(stdout);
     }
     store.applyLinkMode(false);
-    const double growth = residentMegabytes() - settled;
+    const double growth = residentMegabytes() - recordMegabytes(store.history()) - settled;
     std::printf("  %d missions begun, %d recorded, %d going on; memory grew by %.1f MB; worst tick %.0f ms; "
                 "worst overrun of a deadline %.3f s\n",
                 ledger.begun(), ledger.recorded(), int(ledger.isOpen()), growth, worstTick * 1000,
