@@ -19,6 +19,15 @@ target_compile_options(velmora_options INTERFACE
 if(VELMORA_WARNINGS_AS_ERRORS)
     target_compile_options(velmora_options INTERFACE -Werror)
 endif()
+
+# Hardening of the build for users. Control-flow protection exists only on x86.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection VELMORA_HAS_CF_PROTECTION)
+target_compile_options(velmora_options INTERFACE
+    $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -Wformat -Werror=format-security>
+    $<$<AND:$<CONFIG:Release>,$<BOOL:${VELMORA_HAS_CF_PROTECTION}>>:-fcf-protection>)
+target_link_options(velmora_options INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+
 if(VELMORA_SANITIZE)
     target_compile_options(velmora_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
