@@ -41,6 +41,8 @@ App::App(AppService& service, const Options& options)
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
     connect(&tray_, &Tray::openRequested, this, [this] { showWindow(); });
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
+    if (options.section)
+        store_.setSection(*options.section);
     if (!options.hidden)
         showWindow();
 }

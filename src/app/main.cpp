@@ -129,7 +129,7 @@ int main(int argc, char* argv[]) {
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, [] { QCoreApplication::exit(); });
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
-    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden)) {
+    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden, options.section)) {
     case AppService::Claim::handedOver:
         return 0;
     case AppService::Claim::refused:

@@ -1,5 +1,7 @@
 #include "app/options.h"
 
+#include "desktop/app_service.h"
+
 #include <QCommandLineParser>
 
 namespace velmora {
@@ -20,6 +22,10 @@ QStringList withoutToolkitOptions(const QStringList& arguments) {
     return own;
 }
 
+Message errorOf(const QString& text) {
+    return {text + QStringLiteral("\nTry --help.\n"), usageError};
+}
+
 } // namespace
 
 std::variant<Options, Message> readOptions(const QStringList& arguments) {
@@ -30,18 +36,27 @@ std::variant<Options, Message> readOptions(const QStringList& arguments) {
     const QCommandLineOption help({"h", "help"}, QStringLiteral("Show this text."));
     const QCommandLineOption version({"v", "version"}, QStringLiteral("Show the version."));
     const QCommandLineOption hidden("hidden", QStringLiteral("Start with no window; the tray opens it."));
-    parser.addOptions({help, version, hidden});
+    const QCommandLineOption section(
+        "section", QStringLiteral("Show this section: overview, live or history."), QStringLiteral("name"));
+    parser.addOptions({help, version, hidden, section});
     if (!parser.parse(withoutToolkitOptions(arguments)))
-        return Message{parser.errorText() + QStringLiteral("\nTry --help.\n"), usageError};
+        return errorOf(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
-        return Message{QStringLiteral("Unexpected argument '%1'.\nTry --help.\n")
-                           .arg(parser.positionalArguments().constFirst()),
-                       usageError};
+        return errorOf(
+            QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(help))
         return Message{parser.helpText()};
     if (parser.isSet(version))
         return Message{QStringLiteral("velmora " VELMORA_VERSION "\n")};
-    return Options{parser.isSet(hidden)};
+    if (!parser.isSet(section))
+        return Options{parser.isSet(hidden), std::nullopt};
+    if (parser.isSet(hidden))
+        return errorOf(
+            QStringLiteral("--section shows the window, --hidden does not: use only one of them."));
+    const QString name = parser.value(section);
+    if (const auto shown = AppService::sectionOfAction(name))
+        return Options{false, shown};
+    return errorOf(QStringLiteral("Unknown section '%1'.").arg(name));
 }
 
 } // namespace velmora

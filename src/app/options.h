@@ -1,14 +1,18 @@
 #pragma once
 
+#include "model/enums.h"
+
 #include <QStringList>
 
+#include <optional>
 #include <variant>
 
 namespace velmora {
 
 /// The command line options.
 struct Options {
-    bool hidden = false; ///< start without a window, for the autostart
+    bool hidden = false;            ///< start without a window, for the autostart
+    std::optional<Section> section; ///< show this one first; only if not hidden
 };
 
 /// The text to print instead of starting.

@@ -27,19 +27,37 @@ QString tokenFrom(const QVariantMap& platformData) {
     return token.isEmpty() ? platformData.value(QStringLiteral("desktop-startup-id")).toString() : token;
 }
 
+/// The call that shows the window of the running instance.
+QDBusMessage showCall(std::optional<Section> section) {
+    const QString method = section ? QStringLiteral("ActivateAction") : QStringLiteral("Activate");
+    QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, interfaceName, method);
+    if (section)
+        call << QString::fromUtf8(rawValue(*section)) << QVariantList();
+    call << QVariantMap{{QStringLiteral("activation-token"), qEnvironmentVariable("XDG_ACTIVATION_TOKEN")},
+                        {QStringLiteral("desktop-startup-id"), qEnvironmentVariable("DESKTOP_STARTUP_ID")}};
+    return call;
+}
+
 } // namespace
 
 AppService::AppService(const QDBusConnection& bus) : bus_(bus) {}
 
+std::optional<Section> AppService::sectionOfAction(const QString& action) {
+    const auto section = fromRawValue<Section>(action.toStdString());
+    const bool isAction = section && std::ranges::find(actionSections, *section) != std::end(actionSections);
+    return isAction ? section : std::nullopt;
+}
+
 /// Registers the object before the name, so that a client that sees the name can call it at once.
-AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden) {
+AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden,
+                                    std::optional<Section> section) {
     const QDeadlineTimer deadline(quitTime);
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
         for (bool last = false; !takeName(); last = deadline.hasExpired(), QThread::msleep(pause)) {
             if (last)
                 return Claim::refused;
-            if (handOver(hidden))
+            if (handOver(hidden, section))
                 return Claim::handedOver;
         }
     }
@@ -63,16 +81,11 @@ bool AppService::takeName() {
 }
 
 /// Returns whether the other instance has answered. A hidden start only asks whether it still does.
-bool AppService::handOver(bool hidden) {
-    QDBusMessage activate =
-        QDBusMessage::createMethodCall(busName, objectPath, interfaceName, QStringLiteral("Activate"));
-    activate << QVariantMap{
-        {QStringLiteral("activation-token"), qEnvironmentVariable("XDG_ACTIVATION_TOKEN")},
-        {QStringLiteral("desktop-startup-id"), qEnvironmentVariable("DESKTOP_STARTUP_ID")}};
-    QDBusMessage question = QDBusMessage::createMethodCall(
+bool AppService::handOver(bool hidden, std::optional<Section> section) {
+    const QDBusMessage question = QDBusMessage::createMethodCall(
         busName, objectPath, QStringLiteral("org.freedesktop.DBus.Introspectable"),
         QStringLiteral("Introspect"));
-    QDBusMessage& call = hidden ? question : activate;
+    QDBusMessage call = hidden ? question : showCall(section);
     call.setAutoStartService(false); // a name without an owner is free
     return bus_.call(call, QDBus::Block, handOverTime).type() == QDBusMessage::ReplyMessage;
 }
@@ -86,8 +99,7 @@ void AppService::Open(const QStringList&, const QVariantMap& platformData) {
 }
 
 void AppService::ActivateAction(const QString& action, const QVariantList&, const QVariantMap& platformData) {
-    const auto section = fromRawValue<Section>(action.toStdString());
-    if (section && std::ranges::find(actionSections, *section) != std::end(actionSections)) {
+    if (const auto section = sectionOfAction(action)) {
         emit sectionRequested(*section);
         emit windowRequested(tokenFrom(platformData));
     }

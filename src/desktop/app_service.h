@@ -27,10 +27,13 @@ public:
 
     explicit AppService(const QDBusConnection& bus);
 
+    /// The section that the desktop entry's action of this name opens; nullopt if there is no such action.
+    static std::optional<Section> sectionOfAction(const QString& action);
+
     /// Takes the bus name and the lock of the data directory, and keeps them. If another instance runs, asks
-    /// it to show its window unless `hidden`. Waits for an instance that is quitting, up to seven seconds for
-    /// its name and two for its lock.
-    Claim claim(const QString& dataDirectory, bool hidden);
+    /// it to show its window, with `section` if that is given, unless `hidden`. Waits for an instance that is
+    /// quitting, up to seven seconds for its name and two for its lock.
+    Claim claim(const QString& dataDirectory, bool hidden, std::optional<Section> section = std::nullopt);
     /// Gives up the bus name, so that the next start takes it.
     void release();
 
@@ -48,7 +51,7 @@ public slots:
 
 private:
     bool takeName();
-    bool handOver(bool hidden);
+    bool handOver(bool hidden, std::optional<Section> section);
 
     QDBusConnection bus_;
     std::optional<QLockFile> lock_;

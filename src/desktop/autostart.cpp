@@ -13,6 +13,7 @@ constexpr const char* entry = "[Desktop Entry]\n"
                               "Type=Application\n"
                               "Name=Velmora\n"
                               "Exec=velmora --hidden\n"
+                              "TryExec=velmora\n"
                               "Icon=org.velmora.Velmora\n"
                               "X-GNOME-Autostart-enabled=true\n";
 

@@ -43,7 +43,7 @@ TEST_F(AutostartTest, AnEntryIsOnUnlessItIsHiddenOrDisabled) {
 TEST_F(AutostartTest, CanBeSwitchedOnAndOff) {
     put("[Desktop Entry]\nHidden=true\n");
     EXPECT_TRUE(autostart.setOn(true) && autostart.isOn()) << "replaces a disabled entry";
-    EXPECT_TRUE(content().contains("\nExec=velmora --hidden\n"));
+    EXPECT_TRUE(content().contains("\nExec=velmora --hidden\nTryExec=velmora\n"));
     for (int again = 0; again < 2; ++again) {
         EXPECT_TRUE(autostart.setOn(false));
         EXPECT_FALSE(autostart.isOn() || QFile::exists(path));

@@ -61,6 +61,10 @@ protected:
         settings.onboarded = settings.linkMode = true;
         settings.host = host;
         settings.port = port;
+        write(settings);
+    }
+    /// Writes the settings file, for the next start.
+    void write(const Settings& settings) const {
         QDir().mkpath(home("data") + "/Velmora");
         QFile file(home("data") + "/Velmora/settings.json");
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -1,4 +1,5 @@
 #include "desktop/program_fixture.h"
+#include "desktop/screen_reader.h"
 
 #include <QElapsedTimer>
 #include <QUdpSocket>
@@ -19,6 +20,32 @@ TEST_F(ProgramTest, HelpVersionAndErrorsExitWithoutStarting) {
     EXPECT_EQ(exitCodeOf(*wrong), 2);
     EXPECT_TRUE(wrong->readAllStandardError().contains("launch"));
     EXPECT_EQ(exitCodeOf(*stray), 2);
+    for (const QStringList& section : {QStringList{"--section"},
+                                       {"--section", "approve"},
+                                       {"--section", "settings"},
+                                       {"--section", ""},
+                                       {"--section", "live", "--hidden"}}) {
+        const auto refused = start(section);
+        EXPECT_EQ(exitCodeOf(*refused), 2) << section.join(' ').toStdString();
+        EXPECT_TRUE(refused->readAllStandardError().contains("section"));
+    }
+}
+
+TEST_F(ProgramTest, ASectionIsShownByTheFirstStartAndHandedOverByTheNext) {
+    Settings settings;
+    settings.onboarded = true;
+    write(settings);
+    const VirtualDisplay display;
+    ScreenReader reader;
+    const auto first = run(
+        VELMORA_PROGRAM, {"--section", "history"},
+        {{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}, {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}});
+    reader.attach(first->processId());
+    EXPECT_NE(reader.button("Clear demo history"), "");
+    EXPECT_EQ(exitCodeOf(*start({"--section", "overview"})), 0);
+    EXPECT_NE(reader.button("Disarm"), "");
+    first->terminate();
+    EXPECT_EQ(exitCodeOf(*first), 0);
 }
 
 TEST_F(ProgramTest, ASecondStartHandsOverAndASignalEndsTheFirstCleanly) {
