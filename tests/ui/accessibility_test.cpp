@@ -90,7 +90,7 @@ TEST_F(AccessibilityTest, AccessibleActionsDoWhatTheMouseDoes) {
     };
     act("Settings");
     EXPECT_EQ(store().section(), Section::settings);
-    act("Alert on this Mac");
+    act("Alert on this computer");
     EXPECT_TRUE(content("settings.json").contains("\"notifyMac\":false"));
     act("DJI tracking hand-over");
     EXPECT_EQ(store().settings().tracking, TrackingMode::native);

@@ -125,8 +125,8 @@ TEST_F(OverviewTest, TheAlertsCellShowsWhereAlertsGo) {
         settle();
         return shows("Alerts, " + where + ", Unknown faces trigger an alert, Every launch needs your yes");
     };
-    EXPECT_TRUE(showsDestination(true, "", "This Mac"));
-    EXPECT_TRUE(showsDestination(true, "velmora-home", "This Mac + phone"));
+    EXPECT_TRUE(showsDestination(true, "", "This computer"));
+    EXPECT_TRUE(showsDestination(true, "velmora-home", "This computer + phone"));
     EXPECT_TRUE(showsDestination(false, "velmora-home", "Phone"));
     EXPECT_TRUE(showsDestination(false, "", "This window only"));
 }

@@ -137,7 +137,7 @@ TEST_F(SettingsTest, TheWheelMovesASliderOnlyWhileItHasTheFocus) {
 }
 
 TEST_F(SettingsTest, TheConnectionShowsTheServerOnlyInLinkMode) {
-    const QString caption = "The Mac running velmora serves the app API described in docs/APP_API.md.";
+    const QString caption = "The computer running velmora serves the app API described in docs/APP_API.md.";
     look();
     EXPECT_TRUE(shows(caption));
     EXPECT_FALSE(shows("Host") || shows("Port"));
@@ -216,7 +216,7 @@ TEST_F(SettingsTest, TrackingIsChosenWithItsNote) {
 
 TEST_F(SettingsTest, StoresWhereAlertsGo) {
     look();
-    QTest::mouseClick(find<QAbstractButton>("Alert on this Mac"), Qt::LeftButton);
+    QTest::mouseClick(find<QAbstractButton>("Alert on this computer"), Qt::LeftButton);
     EXPECT_FALSE(store().settings().notifyMac);
     EXPECT_EQ(find<QLineEdit>("Phone (ntfy topic)")->placeholderText(), "e.g. velmora-home");
     auto* topic = find<QLineEdit>("Phone (ntfy topic)");

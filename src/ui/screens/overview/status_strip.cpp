@@ -6,6 +6,7 @@
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/look/machine.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
@@ -22,7 +23,9 @@ constexpr double valueTop = 16, linesTop = 40; // pixels
 QString destination(const Settings& settings) {
     const bool phone = !settings.ntfyTopic.empty();
     if (settings.notifyMac)
-        return phone ? StatusStrip::tr("This Mac + phone") : StatusStrip::tr("This Mac");
+        return phone ? forThisMachine(StatusStrip::tr("This computer + phone"),
+                                      StatusStrip::tr("This Mac + phone"))
+                     : forThisMachine(StatusStrip::tr("This computer"), StatusStrip::tr("This Mac"));
     return phone ? StatusStrip::tr("Phone") : StatusStrip::tr("This window only");
 }
 

@@ -42,7 +42,7 @@ ConnectionForm::ConnectionForm(AppStore& store, QWidget* parent)
     column->addWidget(serverFold_);
     column->addSpacing(Measure::gap8);
     column->addWidget(new Label2(
-        tr("The Mac running velmora serves the app API described in docs/APP_API.md."), false, this));
+        tr("The computer running velmora serves the app API described in docs/APP_API.md."), false, this));
     const auto applyWhenChosen = [this](RadioChoice* choice, bool linked) {
         connect(choice, &QAbstractButton::toggled, this, [this, linked](bool on) {
             if (on && linked != store_.settings().linkMode)

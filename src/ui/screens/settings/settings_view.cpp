@@ -8,6 +8,7 @@
 #include "ui/blocks/switch.h"
 #include "ui/blocks/text.h"
 #include "ui/blocks/text_field.h"
+#include "ui/look/machine.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -28,7 +29,8 @@ QVBoxLayout* columnOf(QWidget* block) {
 }
 
 QString trackingTitle(TrackingMode mode) {
-    return mode == TrackingMode::own ? SettingsView::tr("Guided by this Mac")
+    return mode == TrackingMode::own ? forThisMachine(SettingsView::tr("Guided by this computer"),
+                                                      SettingsView::tr("Guided by this Mac"))
                                      : SettingsView::tr("DJI tracking hand-over");
 }
 
@@ -166,10 +168,11 @@ QWidget* SettingsView::buildTracking() {
 QWidget* SettingsView::buildAlerts() {
     QWidget* rows = block();
     addLimit(rows, tr("Alert expires after"), &Settings::approvalSeconds, 30, 120, tr("s"));
-    notify_ = new Switch(tr("Alert on this Mac"), rows);
+    const QString alert = forThisMachine(tr("Alert on this computer"), tr("Alert on this Mac"));
+    notify_ = new Switch(alert, rows);
     topic_ = new TextField(tr("Phone (ntfy topic)"), tr("e.g. velmora-home"), rows);
     topic_->setFixedWidth(Measure::topicField);
-    rows->layout()->addWidget(labelled(tr("Alert on this Mac"), notify_, rows));
+    rows->layout()->addWidget(labelled(alert, notify_, rows));
     rows->layout()->addWidget(labelled(tr("Phone (ntfy topic)"), topic_, rows));
     connect(notify_, &Switch::turned, this,
             [this](bool on) { change([&](Settings& settings) { settings.notifyMac = on; }); });

@@ -7,6 +7,7 @@
 #include "ui/blocks/text.h"
 #include "ui/blocks/wordmark.h"
 #include "ui/look/art.h"
+#include "ui/look/machine.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 
@@ -54,10 +55,12 @@ QWidget* WelcomeView::buildColumn() {
                   tr("UniFi Protect face and person detection. Family and friends you've added are "
                      "ignored.")));
     rows->addSpacing(Measure::gap16);
-    rows->addWidget(
-        buildStep(2, tr("You decide"),
-                  tr("An alert arrives on this Mac and your phone. The drone only launches when you say "
-                     "yes.")));
+    rows->addWidget(buildStep(
+        2, tr("You decide"),
+        forThisMachine(tr("An alert arrives on this computer and your phone. The drone only launches "
+                          "when you say yes."),
+                       tr("An alert arrives on this Mac and your phone. The drone only launches when "
+                          "you say yes."))));
     rows->addSpacing(Measure::gap16);
     rows->addWidget(
         buildStep(3, tr("The drone keeps watch, then comes home"),
