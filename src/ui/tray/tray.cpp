@@ -107,7 +107,7 @@ QAction* Tray::addCommand(const QString& text, Action action) {
 }
 
 /// Qt checks only once whether there is a tray, so create the icon when one is registered on the bus. If none
-/// appears for a while, try a legacy X11 tray.
+/// appears for a while, try a legacy X11 tray; Wayland has none, so there the icon waits for the bus.
 void Tray::watchForTray() {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected() && bus.interface()->isServiceRegistered(trayService)) {
@@ -115,6 +115,8 @@ void Tray::watchForTray() {
         return;
     }
     connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, this, &Tray::showIcon);
+    if (QGuiApplication::platformName() != QStringLiteral("xcb"))
+        return;
     connect(&legacyTrayTimer_, &UiTimer::timeout, this, &Tray::showIcon);
     legacyTrayTimer_.start();
 }
