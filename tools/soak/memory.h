@@ -18,8 +18,8 @@ inline double residentMegabytes() {
     return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-/// Heap memory of the records of the history in megabytes.
-inline double recordMegabytes(const std::vector<HistoryEntry>& history) {
+/// Allocated heap memory in megabytes, without the records of the history.
+inline double heapMegabytes(const std::vector<HistoryEntry>& history) {
     std::size_t records = history.capacity() * sizeof(HistoryEntry);
     for (const auto& [key, record] : history) {
         records +=
@@ -27,13 +27,8 @@ inline double recordMegabytes(const std::vector<HistoryEntry>& history) {
         for (const Notice& notice : record->notices)
             records += sizeof notice + notice.text.capacity();
     }
-    return static_cast<double>(records) / 1e6;
-}
-
-/// Allocated heap memory in megabytes, without the records of the history.
-inline double heapMegabytes(const std::vector<HistoryEntry>& history) {
     const auto heap = mallinfo2();
-    return static_cast<double>(heap.uordblks + heap.hblkhd) / 1e6 - recordMegabytes(history);
+    return (static_cast<double>(heap.uordblks + heap.hblkhd) - static_cast<double>(records)) / 1e6;
 }
 
 } // namespace velmora
