@@ -2,6 +2,7 @@
 #include "app/self_check.h"
 #include "desktop/quit_deadline.h"
 #include "desktop/quit_signals.h"
+#include "language/language.h"
 #include "ui/look/art.h"
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
@@ -139,6 +140,7 @@ int main(int argc, char* argv[]) {
         break;
     }
     moveQSettingsToDataDirectory();
+    const Language language;
     setUpApplication();
     return run(service, options);
 }

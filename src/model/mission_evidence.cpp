@@ -10,10 +10,10 @@ namespace velmora {
 namespace {
 
 std::optional<ResponseStep> stepOf(const Notice& notice) {
-    const auto kind = noticeKindOf(notice.text);
-    if (!kind)
+    const auto reading = readNotice(notice.text);
+    if (!reading)
         return std::nullopt;
-    switch (*kind) {
+    switch (reading->kind) {
     case NoticeKind::approved:
         return ResponseStep::answered;
     case NoticeKind::airborne:

@@ -67,10 +67,16 @@ Notice::Level noticeLevel(NoticeKind kind) {
     return formOf(kind).level;
 }
 
-std::optional<NoticeKind> noticeKindOf(std::string_view text) {
+std::optional<NoticeReading> readNotice(std::string_view text) {
     const Form* form =
         std::ranges::find_if(forms, [text](const Form& candidate) { return fits(candidate, text); });
-    return form == std::end(forms) ? std::nullopt : std::optional(form->kind);
+    if (form == std::end(forms))
+        return std::nullopt;
+    if (!form->inserts)
+        return NoticeReading{form->kind, std::nullopt};
+    text.remove_prefix(form->before.size());
+    text.remove_suffix(form->after.size());
+    return NoticeReading{form->kind, text};
 }
 
 } // namespace velmora

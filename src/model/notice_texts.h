@@ -40,7 +40,13 @@ std::string noticeText(NoticeKind kind, double inserted);
 
 Notice::Level noticeLevel(NoticeKind kind);
 
-/// The kind of the notice with this text; nullopt for any other text.
-std::optional<NoticeKind> noticeKindOf(std::string_view text);
+/// What a notice of the simulator says.
+struct NoticeReading {
+    NoticeKind kind;
+    std::optional<std::string_view> inserted; ///< part of the text that was read
+};
+
+/// The kind of the notice with this text and the value inserted into it; nullopt for any other text.
+std::optional<NoticeReading> readNotice(std::string_view text);
 
 } // namespace velmora

@@ -1,17 +1,19 @@
 #include "store/link_status.h"
 
+#include "language/language.h"
+
 namespace velmora {
 
 QString LinkStatus::text() const {
     switch (kind) {
     case Case::connected:
-        return QStringLiteral("Linked to velmora ") + payload;
+        return Words::tr("Linked to velmora %1").arg(payload);
     case Case::failed:
-        return QStringLiteral("Can't reach velmora — ") + payload;
+        return Words::tr("Can't reach velmora — %1").arg(payload);
     case Case::demo:
-        return QStringLiteral("Demo mode");
+        return Words::tr("Demo mode");
     case Case::connecting:
-        return QStringLiteral("Connecting…");
+        return Words::tr("Connecting…");
     }
     return {};
 }

@@ -1,10 +1,10 @@
 #include "store/notifications.h"
 
+#include "language/language.h"
+#include "language/stored_text.h"
 #include "model/truncated.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -15,17 +15,13 @@ namespace {
 
 const QString outageIdentifier = QStringLiteral("velmora-outage"); // no mission id of a server
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Notifications", text);
-}
-
 Notification notificationOf(const LiveState& state) {
     const std::string id = state.visitor ? state.visitor->cameraId : std::string();
     const CameraInfo* camera = findCamera(state.site, id);
-    const QString name = camera ? QString::fromStdString(camera->name) : tr("a camera");
+    const QString name = camera ? shownText(camera->name) : Words::tr("a camera");
     return {QString::fromStdString(state.missionId.value_or("det")),
-            tr("Someone you don't know is at the %1").arg(name.toLower()),
-            tr("Launch the drone to keep an eye on them?"),
+            Words::tr("Someone you don't know is at the %1").arg(nameInSentence(name)),
+            Words::tr("Launch the drone to keep an eye on them?"),
             camera ? QString::fromStdString(camera->snapshot) : QString(), alertId(state)};
 }
 
@@ -35,30 +31,30 @@ QString timeText(Date date, Date now) {
         return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(instant) * 1000));
     };
     const bool today = local(date).date() == local(now).date();
-    return QLocale(QLocale::English)
-        .toString(local(date), today ? QStringLiteral("HH:mm") : QStringLiteral("ddd d MMM, HH:mm"));
+    return displayLocale().toString(local(date), today ? QStringLiteral("HH:mm")
+                                                       : Words::tr("ddd d MMM, HH:mm", "form of a date"));
 }
 
 QString outageBody(const Outage& outage, Date now) {
     const QString since = timeText(outage.since, now);
     if (outage.serverIsSilent)
-        return tr("No answer since %1. No alert arrives until the link is back.").arg(since);
+        return Words::tr("No answer since %1. No alert arrives until the link is back.").arg(since);
     if (outage.cameras.size() == 1)
-        return tr("Offline at least since %1. It raises no alert until it is back.").arg(since);
+        return Words::tr("Offline at least since %1. It raises no alert until it is back.").arg(since);
     QStringList names;
     for (const auto& [id, name] : outage.cameras)
-        names.append(QString::fromStdString(name));
-    return tr("%1 raise no alert until they are back.").arg(names.join(QStringLiteral(", ")));
+        names.append(shownText(name));
+    return Words::tr("%1 raise no alert until they are back.").arg(names.join(QStringLiteral(", ")));
 }
 
 } // namespace
 
 QString outageTitle(const Outage& outage) {
     if (outage.serverIsSilent)
-        return tr("Velmora can't reach your server");
+        return Words::tr("Velmora can't reach your server");
     return outage.cameras.size() == 1
-               ? tr("%1 is offline").arg(QString::fromStdString(outage.cameras.begin()->second))
-               : tr("%1 cameras are offline").arg(outage.cameras.size());
+               ? Words::tr("%1 is offline").arg(shownText(outage.cameras.begin()->second))
+               : Words::tr("%1 cameras are offline").arg(outage.cameras.size());
 }
 
 void Notifications::postAlert(const LiveState& state, const Settings& settings) {

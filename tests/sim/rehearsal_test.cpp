@@ -66,7 +66,7 @@ TEST_F(Rehearsal, TheTimelineFindsEveryStepInTheSimulatorsNotices) {
     settings.returnBattery = 88;
     EXPECT_EQ(stepsOf(rehearse(Scenario::driveway, 9)), all) << "when handed over, then low on battery";
     for (const Notice& notice : rehearse(Scenario::driveway, 9).notices)
-        EXPECT_TRUE(noticeKindOf(notice.text)) << notice.text;
+        EXPECT_TRUE(readNotice(notice.text)) << notice.text;
     EXPECT_EQ(stepsOf(rehearse(Scenario::front)), (std::vector{seen, ended}));
 }
 

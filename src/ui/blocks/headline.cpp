@@ -12,13 +12,19 @@ namespace velmora {
 
 namespace {
 
+/// Whether a line may end after the character.
+bool breaksAfter(QChar character) {
+    constexpr char16_t noBreak = 0xa0, narrowNoBreak = 0x202f;
+    return character.isSpace() && character != noBreak && character != narrowNoBreak;
+}
+
 /// Splits after each space or line break, so that the widths of the words add up to the width of the text.
 QStringList wordsOf(const QString& text) {
     QStringList words;
     QString word;
     for (const QChar character : text) {
         word += character;
-        if (character.isSpace()) {
+        if (breaksAfter(character)) {
             words.append(word);
             word.clear();
         }
@@ -29,6 +35,11 @@ QStringList wordsOf(const QString& text) {
 }
 
 } // namespace
+
+Sentence Sentence::marked(const QString& text) {
+    const QStringList runs = text.split('*');
+    return {runs.value(0), runs.value(1), runs.value(2)};
+}
 
 Headline::Headline(const Sentence& sentence, const TextStyle& style, bool dark, QWidget* parent)
     : QWidget(parent), sentence_(sentence), style_(style), dark_(dark) {
@@ -87,10 +98,10 @@ std::vector<Headline::Piece> Headline::pieces(double width) const {
     int line = 0;
     for (std::size_t i = 0; i < all.size(); ++i) {
         double together = 0;
-        for (std::size_t next = i; next < all.size() && (next == i || !all[next - 1].text.back().isSpace());
-             ++next)
+        for (std::size_t next = i;
+             next < all.size() && (next == i || !breaksAfter(all[next - 1].text.back())); ++next)
             together += metrics.horizontalAdvance(all[next].text.trimmed());
-        if (x > 0 && all[i - 1].text.back().isSpace() && x + together > width) {
+        if (x > 0 && breaksAfter(all[i - 1].text.back()) && x + together > width) {
             x = 0;
             ++line;
         }

@@ -14,6 +14,9 @@ struct Sentence {
     QString emphasis;
     QString tail;
 
+    /// From a text with asterisks around the emphasis: "Your grounds are *watched*."
+    static Sentence marked(const QString& text);
+
     bool operator==(const Sentence&) const = default;
 };
 

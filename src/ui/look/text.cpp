@@ -2,6 +2,7 @@
 
 #include <QCache>
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainterPath>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -150,11 +151,11 @@ double bearingOf(QChar character, const TextStyle& style) {
     return cell + outlinesOf(character, style).boundingRect().left();
 }
 
-/// Fills outlines instead of drawing glyphs, because FreeType draws the stems of this typeface one weight too
-/// thick.
+/// On pixels, fills outlines instead of drawing glyphs, because FreeType draws the stems of this typeface one
+/// weight too thick. Any other device gets text, which can be selected and searched.
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
              const QBrush& color) {
-    if (!hasOutlines(text)) {
+    if (!hasOutlines(text) || painter.paintEngine()->type() != QPaintEngine::Raster) {
         painter.setFont(fontOf(style));
         painter.setPen(QPen(color, 0));
         painter.drawText(baseline, text);

@@ -1,10 +1,9 @@
 #include "ui/look/words.h"
 
+#include "language/language.h"
 #include "model/truncated.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
-#include <QLocale>
 
 #include <array>
 #include <charconv>
@@ -13,10 +12,6 @@
 namespace velmora {
 
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("velmora", text);
-}
 
 QString twoDigits(std::int64_t number) {
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
@@ -28,19 +23,6 @@ QDateTime localTime(Date date) {
 
 } // namespace
 
-QString toQString(std::string_view text) {
-    QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    for (QChar& character : words) {
-        const char16_t code = character.unicode();
-        const bool control = code < 0x20 || (code >= 0x7f && code < 0xa0);
-        const bool breaksLine = code == 0x2028 || code == 0x2029;
-        const bool turnsDirection = code >= 0x202a && code <= 0x202e;
-        if (control || breaksLine || turnsDirection)
-            character = ' ';
-    }
-    return words;
-}
-
 QString isolated(const QString& words) {
     constexpr char16_t begin = 0x2068, end = 0x2069;
     return words.isRightToLeft() ? QChar(begin) + words + QChar(end) : words;
@@ -49,21 +31,21 @@ QString isolated(const QString& words) {
 QString phaseWord(Phase phase) {
     switch (phase) {
     case Phase::docked:
-        return tr("Docked");
+        return Words::tr("Docked");
     case Phase::awaitingApproval:
-        return tr("Waiting for you");
+        return Words::tr("Waiting for you");
     case Phase::launching:
-        return tr("Taking off");
+        return Words::tr("Taking off");
     case Phase::enRoute:
-        return tr("On its way");
+        return Words::tr("On its way");
     case Phase::following:
-        return tr("Following");
+        return Words::tr("Following");
     case Phase::holding:
-        return tr("Holding position");
+        return Words::tr("Holding position");
     case Phase::returning:
-        return tr("Coming home");
+        return Words::tr("Coming home");
     case Phase::landing:
-        return tr("Landing");
+        return Words::tr("Landing");
     }
     return {};
 }
@@ -72,54 +54,55 @@ QString failureText(Command command, const QString& reason) {
     const auto name = [command] {
         switch (command) {
         case Command::approve:
-            return tr("Launch drone");
+            return Words::tr("Launch drone");
         case Command::ignore:
-            return tr("Ignore");
+            return Words::tr("Ignore");
         case Command::hold:
-            return tr("Hold position");
+            return Words::tr("Hold position");
         case Command::resume:
-            return tr("Resume following");
+            return Words::tr("Resume following");
         case Command::returnHome:
-            return tr("Return home");
+            return Words::tr("Return home");
         case Command::land:
             break;
         }
-        return tr("Land now");
+        return Words::tr("Land now");
     };
-    return tr("velmora did not confirm “%1”. %2.").arg(name(), reason.isEmpty() ? tr("Try again") : reason);
+    return Words::tr("velmora did not confirm “%1”. %2.")
+        .arg(name(), reason.isEmpty() ? Words::tr("Try again") : reason);
 }
 
 QString failureText(const QString& reason) {
-    return tr("%1. Try again.").arg(reason.isEmpty() ? tr("velmora has not answered") : reason);
+    return Words::tr("%1. Try again.").arg(reason.isEmpty() ? Words::tr("velmora has not answered") : reason);
 }
 
 QString sentText() {
-    return tr("Sent…");
+    return Words::tr("Sent…");
 }
 
 QString batteryReason(const Settings& settings) {
-    return tr("under your return level of %1").arg(truncated(settings.returnBattery));
+    return Words::tr("under your return level of %1").arg(truncated(settings.returnBattery));
 }
 
 QString windReason(const Settings& settings) {
-    return tr("over your limit of %1").arg(truncated(settings.maxWindKmh));
+    return Words::tr("over your limit of %1").arg(truncated(settings.maxWindKmh));
 }
 
 QString scenarioTitle(Scenario scenario) {
     switch (scenario) {
     case Scenario::driveway:
-        return tr("Visitor on the driveway");
+        return Words::tr("Visitor on the driveway");
     case Scenario::garden:
-        return tr("Visitor in the east garden");
+        return Words::tr("Visitor in the east garden");
     case Scenario::front:
-        return tr("Visitor crossing the front lawn");
+        return Words::tr("Visitor crossing the front lawn");
     }
     return {};
 }
 
 QString cameraName(const Site& site, std::string_view id) {
     const CameraInfo* camera = findCamera(site, id);
-    return camera ? toQString(camera->name) : tr("a camera");
+    return camera ? shownText(camera->name) : Words::tr("a camera");
 }
 
 QString rounded(double value) {
@@ -131,7 +114,7 @@ QString oneDecimal(double value) {
     std::array<char, 400> text{}; // the largest double has 309 digits
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 1).ptr;
-    return QString::fromLatin1(text.data(), end - text.data());
+    return QString::fromLatin1(text.data(), end - text.data()).replace('.', displayLocale().decimalPoint());
 }
 
 QString percent(double fraction) {
@@ -154,44 +137,44 @@ QString dayName(Date date, Date now) {
     const QDateTime then = localTime(date), today = localTime(now);
     const qint64 days = then.date().daysTo(today.date());
     if (days == 0)
-        return tr("Today");
+        return Words::tr("Today");
     if (days == 1)
-        return tr("Yesterday");
+        return Words::tr("Yesterday");
     const bool sameYear = then.date().year() == today.date().year();
-    return QLocale(QLocale::English)
-        .toString(then, sameYear ? QStringLiteral("dddd d MMMM") : QStringLiteral("dddd d MMMM yyyy"));
+    return displayLocale().toString(then, sameYear ? Words::tr("dddd d MMMM", "form of a date")
+                                                   : Words::tr("dddd d MMMM yyyy", "form of a date"));
 }
 
 QString dayAndTime(Date date, Date now) {
     constexpr qint64 daysInWeek = 7;
     const QDateTime then = localTime(date);
     const qint64 days = then.date().daysTo(localTime(now).date());
-    QString time = then.toString(QStringLiteral("HH:mm"));
+    const QString time = then.toString(QStringLiteral("HH:mm"));
     if (days == 0)
         return time;
     if (days == 1)
-        return tr("Yesterday") + ' ' + time;
-    const QLocale english(QLocale::English);
-    if (days > 0 && days < daysInWeek)
-        return english.toString(then, QStringLiteral("ddd ")) + time;
-    return english.toString(then, QStringLiteral("d MMM yyyy"));
+        return Words::tr("Yesterday %1").arg(time);
+    return displayLocale().toString(then, days > 0 && days < daysInWeek
+                                              ? Words::tr("ddd HH:mm", "form of a date")
+                                              : Words::tr("d MMM yyyy", "form of a date"));
 }
 
 QString duration(Seconds length) {
     const std::int64_t seconds = std::max<std::int64_t>(truncated(std::round(length.count())), 0);
     const std::int64_t minutes = seconds / 60, hours = minutes / 60;
     if (minutes == 0)
-        return tr("%1 s").arg(seconds);
+        return Words::tr("%1 s").arg(seconds);
     if (hours > 0)
-        return tr("%1 h %2 min").arg(hours).arg(minutes % 60);
-    return seconds % 60 == 0 ? tr("%1 min").arg(minutes) : tr("%1 min %2 s").arg(minutes).arg(seconds % 60);
+        return Words::tr("%1 h %2 min").arg(hours).arg(minutes % 60);
+    return seconds % 60 == 0 ? Words::tr("%1 min").arg(minutes)
+                             : Words::tr("%1 min %2 s").arg(minutes).arg(seconds % 60);
 }
 
 QString age(Seconds length) {
     const std::int64_t seconds = std::max<std::int64_t>(truncated(length.count()), 0);
     if (seconds < 120)
-        return tr("%1 s").arg(seconds);
-    return seconds < 7200 ? tr("%1 min").arg(seconds / 60) : tr("%1 h").arg(seconds / 3600);
+        return Words::tr("%1 s").arg(seconds);
+    return seconds < 7200 ? Words::tr("%1 min").arg(seconds / 60) : Words::tr("%1 h").arg(seconds / 3600);
 }
 
 } // namespace velmora

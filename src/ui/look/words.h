@@ -1,14 +1,12 @@
 #pragma once
 
+#include "language/stored_text.h"
 #include "model/live_state.h"
 #include "model/settings.h"
 
 #include <QString>
 
 namespace velmora {
-
-/// Decodes UTF-8 for display: control, line-break and bidi-override characters become spaces.
-QString toQString(std::string_view text);
 
 /// Wraps right-to-left text in Unicode isolates so that it does not reorder the rest of the line.
 QString isolated(const QString& words);
@@ -36,7 +34,7 @@ QString cameraName(const Site& site, std::string_view id);
 
 /// The integer nearest to the value, halves away from zero.
 QString rounded(double value);
-/// With one decimal, as "%.1f" writes it in the C locale.
+/// With one decimal, "3.2"; the decimal point is the chosen language's.
 QString oneDecimal(double value);
 /// The fraction in percent, rounded to an integer.
 QString percent(double fraction);

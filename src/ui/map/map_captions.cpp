@@ -1,12 +1,12 @@
 #include "ui/map/map_captions.h"
 
+#include "language/language.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/map/drone_glyph.h"
 
 #include <QCache>
-#include <QCoreApplication>
 #include <QPixmap>
 
 #include <algorithm>
@@ -22,10 +22,6 @@ constexpr double heightOffset = 16;
 constexpr double visitorLabelOffset = 10, visitorLabelRise = 24; // beside the visitor, and above or below
 constexpr double mapEdge = 4;                                    // between a caption and the map's edge
 constexpr double touching = 3, apart = 9;                        // distances to the drone
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("SiteMap", text);
-}
 
 double widthOf(const QString& text) {
     static QCache<QString, double> cache(100);
@@ -102,7 +98,7 @@ void drawCaption(QPainter& painter, const MapCaption& caption) {
 
 MapCaption padCaption(const MapScene& scene, const MapTransform& view) {
     const double below = padRadius(scene, view) + padGap;
-    return {tr("Pad"), SB::dTeal, view.map(scene.state.site.pad) + QPointF(0, below),
+    return {Words::tr("Pad"), SB::dTeal, view.map(scene.state.site.pad) + QPointF(0, below),
             Qt::AlignHCenter | Qt::AlignTop};
 }
 
@@ -114,7 +110,7 @@ double padCaptionOpacity(const MapScene& scene, const MapTransform& view) {
 }
 
 MapCaption heightCaption(const MapScene& scene, const MapTransform& view) {
-    return {tr("%1 m").arg(rounded(scene.state.drone.altitude)), SB::dTitle,
+    return {Words::tr("%1 m").arg(rounded(scene.state.drone.altitude)), SB::dTitle,
             view.map(scene.state.drone.pos) + QPointF(0, heightOffset), Qt::AlignHCenter | Qt::AlignTop};
 }
 
@@ -131,7 +127,7 @@ MapCaption captionBeside(QPointF point, double offset, const QString& text, cons
 
 MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side) {
     const QPointF at = view.map(scene.state.visitor->pos);
-    MapCaption caption{toQString(scene.state.visitor->label), SB::lilac, at, {}};
+    MapCaption caption{shownText(scene.state.visitor->label), SB::lilac, at, {}};
     const double last = std::max(view.canvas().right() - mapEdge - caption.box().width(), mapEdge);
     const double start = std::clamp(at.x(), mapEdge, last);
     switch (side) {

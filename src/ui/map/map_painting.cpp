@@ -1,5 +1,6 @@
 #include "ui/map/map_painting.h"
 
+#include "language/language.h"
 #include "model/follow_point.h"
 #include "model/truncated.h"
 #include "ui/look/art.h"
@@ -9,7 +10,6 @@
 #include "ui/map/drone_glyph.h"
 #include "ui/map/map_captions.h"
 
-#include <QCoreApplication>
 #include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
@@ -29,10 +29,6 @@ constexpr double cameraCaptionOffset = 9, markerLabelOffset = 8;
 constexpr double markerRadius = 4;
 constexpr double pathEdge = 2; // what the line below a path is wider
 constexpr double longestPath = 24'000, pathPiece = 200;
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("SiteMap", text);
-}
 
 QPen dashed(const QColor& color, double width, double on, double off, Qt::PenCapStyle cap = Qt::FlatCap) {
     QPen pen(color, width, Qt::SolidLine, cap, cap == Qt::RoundCap ? Qt::RoundJoin : Qt::MiterJoin);
@@ -92,10 +88,11 @@ public:
         painter_.drawRect(inner);
         if (!measures_.captions)
             return;
-        drawCaption(painter_, {tr("Your boundary"), SB::dTeal, outer.topLeft() + QPointF(8, 7),
+        drawCaption(painter_, {Words::tr("Your boundary"), SB::dTeal, outer.topLeft() + QPointF(8, 7),
                                Qt::AlignLeft | Qt::AlignTop});
-        drawCaption(painter_, {tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac,
-                               outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom});
+        drawCaption(painter_,
+                    {Words::tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac,
+                     outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom});
     }
 
     void drawCameras() {
@@ -109,7 +106,7 @@ public:
                 drawCross(center);
             if (measures_.captions)
                 drawCaption(painter_,
-                            {toQString(camera.name), SB::dBody, center - QPointF(0, cameraCaptionOffset),
+                            {shownText(camera.name), SB::dBody, center - QPointF(0, cameraCaptionOffset),
                              Qt::AlignHCenter | Qt::AlignBottom});
         }
     }
@@ -191,10 +188,10 @@ public:
         const auto path = scene_.replay->visitorPath();
         if (path.empty())
             return;
-        drawMarker(path.front(), tr("Arrived"));
+        drawMarker(path.front(), Words::tr("Arrived"));
         const bool left =
             scene_.replay->progress.ended && scene_.replay->record->outcome == Outcome::visitorLeft;
-        drawMarker(path.back(), left ? tr("Left") : tr("Last seen"));
+        drawMarker(path.back(), left ? Words::tr("Left") : Words::tr("Last seen"));
     }
 
 private:

@@ -55,7 +55,7 @@ public:
     void setNotice(const Notice& notice) {
         time_ = timeOfDay(notice.time);
         color_ = noticeColor(notice.level);
-        text_->setText(toQString(notice.text));
+        text_->setText(shownText(notice.text));
         (focusPolicy() == Qt::NoFocus ? static_cast<QWidget*>(text_) : this)
             ->setAccessibleName(time_ + ' ' + text_->text());
         update();

@@ -12,7 +12,7 @@ QColor outcomeColor(Outcome outcome) {
 }
 
 QString outcomeText(Outcome outcome) {
-    return toQString(rawValue(outcome));
+    return shownText(rawValue(outcome));
 }
 
 Sentence outcomeSentence(Outcome outcome) {

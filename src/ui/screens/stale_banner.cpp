@@ -80,21 +80,25 @@ std::vector<TextRun> StaleBanner::detail() const {
     const QString warning =
         overview ? tr("Commands may not arrive.") : tr("Commands may not arrive until the link is back.");
     if (!store_.lastAnswerAt())
-        return {plain(tr("No picture received yet. ") + warning)};
-    const TextRun old = strong(tr("%1 old").arg(age(store_.now() - *store_.lastAnswerAt())));
-    if (!overview)
-        return {plain(tr("This picture is ")), old,
-                plain(tr(", received %1. ").arg(timeOfDay(*store_.lastAnswerAt())) + warning)};
-    if (store_.phase() == Phase::docked)
-        return {plain(tr("Picture ")), old, plain(QStringLiteral(". ") + warning)};
-    return {strong(phaseWord(store_.phase())), plain(tr(" — picture ")), old,
-            plain(QStringLiteral(". ") + warning)};
+        return {plain(tr("No picture received yet.") + ' ' + warning)};
+    const QString old = age(store_.now() - *store_.lastAnswerAt());
+    const QString text =
+        !overview ? tr("This picture is *%1 old*, received %2.").arg(old, timeOfDay(*store_.lastAnswerAt()))
+        : store_.phase() == Phase::docked
+            ? tr("Picture *%1 old*.").arg(old)
+            : tr("*%1* — picture *%2 old*.").arg(phaseWord(store_.phase()), old);
+    std::vector<TextRun> runs;
+    for (const QString& part : text.split('*'))
+        runs.push_back(runs.size() % 2 == 0 ? plain(part) : strong(part));
+    runs.push_back(plain(' ' + warning));
+    return runs;
 }
 
 QString StaleBanner::explanation() const {
     const QString trying = tr("Velmora tries again twice a second.");
-    return store_.lastAnswerAt() ? tr("Last received at %1. ").arg(timeOfDay(*store_.lastAnswerAt())) + trying
-                                 : trying;
+    return store_.lastAnswerAt()
+               ? tr("Last received at %1.").arg(timeOfDay(*store_.lastAnswerAt())) + ' ' + trying
+               : trying;
 }
 
 void StaleBanner::showEvent(QShowEvent*) {

@@ -1,25 +1,16 @@
 #include "ui/screens/visitor_words.h"
 
+#include "language/language.h"
 #include "ui/look/words.h"
-
-#include <QCoreApplication>
 
 namespace velmora {
 
-namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("Visitor", text);
-}
-
-} // namespace
-
 QString visitorName(const Visitor& visitor) {
-    return visitor.label.empty() ? tr("Unknown person") : toQString(visitor.label);
+    return visitor.label.empty() ? Words::tr("Unknown person") : shownText(visitor.label);
 }
 
 QString visitorCamera(const Visitor& visitor, const Site& site) {
-    return findCamera(site, visitor.cameraId) ? tr("%1 camera").arg(cameraName(site, visitor.cameraId))
+    return findCamera(site, visitor.cameraId) ? Words::tr("%1 camera").arg(cameraName(site, visitor.cameraId))
                                               : cameraName(site, visitor.cameraId);
 }
 
@@ -29,7 +20,7 @@ QString visitorPicture(const Visitor& visitor, const Site& site) {
 }
 
 QString certaintyText(const Visitor& visitor) {
-    return tr("%1% sure it's no one you know").arg(percent(visitor.confidence));
+    return Words::tr("%1% sure it's no one you know").arg(percent(visitor.confidence));
 }
 
 } // namespace velmora

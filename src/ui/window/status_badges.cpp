@@ -46,7 +46,7 @@ DroneBadge::DroneBadge(AppStore& store, QWidget* parent) : QWidget(parent), stor
 void DroneBadge::refresh() {
     const LiveState* state = store_.knownState();
     const QString phase = state ? phaseWord(state->phase) : tr("No picture yet");
-    const QString battery = state ? rounded(state->drone.battery) + tr("%") : QStringLiteral("—");
+    const QString battery = state ? tr("%1%").arg(rounded(state->drone.battery)) : QStringLiteral("—");
     const bool low = state && isBatteryLow(state->drone, store_.settings());
     if (phase == phase_ && battery == battery_ && low == low_)
         return;

@@ -25,9 +25,9 @@ constexpr Seconds longestOverdue{5};
 
 QString titleFor(const LiveState& state) {
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
-    const QString location = camera ? ApprovalOverlay::tr("%1 camera").arg(toQString(camera->name).toLower())
-                                    : ApprovalOverlay::tr("grounds");
-    return ApprovalOverlay::tr("Someone you don't know is at the %1.").arg(location);
+    return camera ? ApprovalOverlay::tr("Someone you don't know is at the %1 camera.")
+                        .arg(nameInSentence(shownText(camera->name)))
+                  : ApprovalOverlay::tr("Someone you don't know is at the grounds.");
 }
 
 QString bodyFor(const Settings& settings) {

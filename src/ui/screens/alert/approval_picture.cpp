@@ -88,7 +88,7 @@ ApprovalPicture::ApprovalPicture(QWidget* parent)
 void ApprovalPicture::setState(const LiveState& state, const Settings& settings, Freshness freshness) {
     stale_ = freshness != Freshness::live;
     const CameraInfo* camera = state.visitor ? findCamera(state.site, state.visitor->cameraId) : nullptr;
-    const QString location = camera ? isolated(toQString(camera->name)) : tr("Grounds");
+    const QString location = camera ? isolated(shownText(camera->name)) : tr("Grounds");
     const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
     picture_->setName(camera ? toQString(camera->snapshot) : QString());
     chip_->setText(time.isEmpty() ? location : location + QStringLiteral(" · ") + time);

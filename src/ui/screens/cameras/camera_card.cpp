@@ -55,7 +55,7 @@ QWidget* CameraCard::buildName() {
 }
 
 ToggleRow* CameraCard::toggleRow(const QString& title, const QString& detail, Switches which) {
-    auto* row = new ToggleRow(title, detail, toQString(cam_.name), this);
+    auto* row = new ToggleRow(title, detail, shownText(cam_.name), this);
     connect(row, &ToggleRow::turned, this, [this, which](bool on) { turn(which, on); });
     return row;
 }
@@ -77,7 +77,7 @@ void CameraCard::refresh(const CameraInfo& cam) {
     cam_ = cam;
     picture_->setName(toQString(cam.snapshot));
     picture_->setFaint(!cam.online);
-    name_->setText(toQString(cam.name));
+    name_->setText(shownText(cam.name));
     dot_->setDotStyle(
         {.color = cam.online ? SB::dot : SB::alert, .halo = cam.online, .diameter = Measure::cameraDot});
     online_->setText(cam.online ? tr("Online") : tr("Offline"));

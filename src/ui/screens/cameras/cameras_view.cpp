@@ -65,7 +65,7 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, paren
     column->addLayout(grid_);
     setPage(new Page(
         {.eyebrow = tr("Cameras · UniFi Protect"),
-         .headline = {tr("What sets off "), tr("an alert"), tr(".")},
+         .headline = Sentence::marked(tr("What sets off *an alert*.")),
          .lede = tr("Each camera can alert on faces it doesn't recognise, and optionally on any person it "
                     "sees. People you've named in UniFi Protect never trigger the drone."),
          .ledeWidth = Measure::camerasLedeWidth,

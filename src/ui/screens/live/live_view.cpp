@@ -17,35 +17,32 @@ namespace velmora {
 namespace {
 
 Sentence headlineFor(const AppStore& store) {
-    const auto sentence = [](const QString& lead, const QString& emphasis) {
-        return Sentence{lead, emphasis, {}};
-    };
     if (!store.knownState())
-        return sentence(LiveView::tr("Waiting for "), LiveView::tr("velmora"));
+        return Sentence::marked(LiveView::tr("Waiting for *velmora*"));
     const LiveState& state = *store.knownState();
     switch (state.phase) {
     case Phase::docked:
-        return sentence(LiveView::tr("The drone is "), LiveView::tr("on its pad"));
+        return Sentence::marked(LiveView::tr("The drone is *on its pad*"));
     case Phase::awaitingApproval:
-        return sentence(LiveView::tr("Holding for "), LiveView::tr("your decision"));
+        return Sentence::marked(LiveView::tr("Holding for *your decision*"));
     case Phase::launching:
-        return sentence(LiveView::tr("Taking "), LiveView::tr("off"));
+        return Sentence::marked(LiveView::tr("Taking *off*"));
     case Phase::enRoute:
-        return sentence(LiveView::tr("On its way to "), LiveView::tr("the visitor"));
+        return Sentence::marked(LiveView::tr("On its way to *the visitor*"));
     case Phase::following:
-        return sentence(LiveView::tr("Following "),
-                        state.visitor ? LiveView::tr("at %1 m").arg(
-                                            rounded(distance(state.drone.pos, state.visitor->pos)))
-                                      : LiveView::tr("the visitor"));
+        return Sentence::marked(state.visitor
+                                    ? LiveView::tr("Following *at %1 m*")
+                                          .arg(rounded(distance(state.drone.pos, state.visitor->pos)))
+                                    : LiveView::tr("Following *the visitor*"));
     case Phase::holding:
-        return sentence(LiveView::tr("Holding "), LiveView::tr("position"));
+        return Sentence::marked(LiveView::tr("Holding *position*"));
     case Phase::returning:
-        return sentence(LiveView::tr("Coming "), LiveView::tr("home"));
+        return Sentence::marked(LiveView::tr("Coming *home*"));
     case Phase::landing:
         break;
     }
-    return sentence(LiveView::tr("Landing "),
-                    isOverPad(state) ? LiveView::tr("on its pad") : LiveView::tr("where it is"));
+    return Sentence::marked(isOverPad(state) ? LiveView::tr("Landing *on its pad*")
+                                             : LiveView::tr("Landing *where it is*"));
 }
 
 } // namespace

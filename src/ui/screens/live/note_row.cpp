@@ -163,7 +163,7 @@ void NoteRow::showNewest() {
         shown_.moveTo(0);
         return;
     }
-    const QString text = failure_ ? failure_->text : toQString(latest_.notice()->text);
+    const QString text = failure_ ? failure_->text : shownText(latest_.notice()->text);
     if (text == message_->text() && shown_.value() == 1)
         return;
     message_->setMessage(text, failure_ ? SB::alert : noticeColor(latest_.notice()->level));

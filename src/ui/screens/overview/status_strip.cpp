@@ -120,7 +120,8 @@ void StatusStrip::showDrone(const LiveState& state) {
     const bool onPad = state.phase == Phase::docked && isOverPad(state);
     const TextRun battery{tr("%1% battery").arg(rounded(state.drone.battery)), Type::label2, SB::muted};
     const TextRun low{battery.text, Type::label2Strong, SB::caution};
-    const TextRun signal{tr(" · signal %1%").arg(percent(state.drone.signal)), Type::label2, SB::muted};
+    const TextRun signal{QStringLiteral(" · ") + tr("signal %1%").arg(percent(state.drone.signal)),
+                         Type::label2, SB::muted};
     cells_[0]->setContent(onPad ? tr("On its pad") : phaseWord(state.phase),
                           {{isBatteryLow(state.drone, store_.settings()) ? low : battery, signal}});
 }
@@ -132,7 +133,7 @@ void StatusStrip::showCameras(const LiveState& state) {
     for (const CameraInfo& camera : cameras) {
         dots.push_back(camera.online ? SB::dot : SB::alert);
         if (!camera.online)
-            offline.append(isolated(toQString(camera.name)));
+            offline.append(isolated(shownText(camera.name)));
     }
     std::vector<Line> lines;
     if (!offline.empty())

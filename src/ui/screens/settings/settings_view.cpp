@@ -62,7 +62,7 @@ QWidget* labelled(const QString& label, QWidget* control, QWidget* parent) {
 
 SettingsView::SettingsView(AppStore& store, QWidget* parent) : Screen(store, parent) {
     setPage(new Page({.eyebrow = tr("Settings"),
-                      .headline = {tr("How the drone "), tr("behaves"), tr(".")},
+                      .headline = Sentence::marked(tr("How the drone *behaves*.")),
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
                       .width = Measure::settingsWidth,
                       .contentGap = Measure::gap20,

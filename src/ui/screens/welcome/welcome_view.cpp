@@ -47,7 +47,7 @@ QWidget* WelcomeView::buildColumn() {
     auto* rows = bareLayout<QVBoxLayout>(column);
     rows->addWidget(buildTitle());
     rows->addSpacing(Measure::gap8);
-    rows->addWidget(new Headline({tr("A second pair of eyes over "), tr("your grounds"), tr(".")},
+    rows->addWidget(new Headline(Sentence::marked(tr("A second pair of eyes over *your grounds*.")),
                                  Type::welcomeHeadline, false, column));
     rows->addSpacing(Measure::gap24);
     rows->addWidget(

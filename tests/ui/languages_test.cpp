@@ -1,0 +1,144 @@
+#include "ui/screens/alert/approval_overlay.h"
+#include "ui/screens/live/land_confirmation.h"
+#include "ui/screens/welcome/welcome_view.h"
+#include "ui/served_fixture.h"
+#include "ui/text_recorder.h"
+
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QTranslator>
+
+namespace velmora {
+
+namespace {
+
+/// A language in which every text of the program is a third longer and has an accent on each letter.
+class LongLanguage : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char* comment, int) const override {
+        const bool ours = QByteArray(context).startsWith("velmora::") || QByteArray(context) == "StoredText";
+        if (!ours || QByteArray(comment) == "form of a date")
+            return {};
+        const QString english = QString::fromUtf8(text);
+        QString translated;
+        for (qsizetype i = 0; i < english.size(); ++i) {
+            translated += accented(english[i]);
+            if (english[i] == '%' && i + 1 < english.size())
+                translated += english[++i];
+        }
+        const qsizetype added = english.size() / 3;
+        return added < 2 ? translated
+                         : '[' + translated + QStringLiteral(" öö öö").repeated(9).left(added - 2) + ']';
+    }
+
+private:
+    static QChar accented(QChar letter) {
+        static const QString plain = QStringLiteral("aceilnorstuyzACEILNORSTUYZ"),
+                             marked = QStringLiteral("áçéíĺñóŕšťúýžÁÇÉÍĹÑÓŔŠŤÚÝŽ");
+        const qsizetype index = plain.indexOf(letter);
+        return index < 0 ? letter : marked[index];
+    }
+};
+
+/// The program in the long language, at the window's least size.
+class LanguagesTest : public ServedTest {
+protected:
+    void SetUp() override {
+        QCoreApplication::installTranslator(&language_);
+        ServedTest::SetUp();
+    }
+    void TearDown() override {
+        ServedTest::TearDown();
+        QCoreApplication::removeTranslator(&language_);
+    }
+
+    void expectWellSet(QWidget& widget, const std::string& where) {
+        const auto texts = TextRecorder::textsOf(widget);
+        EXPECT_GT(texts.size(), 4u) << where;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            const DrawnText& text = texts[i];
+            EXPECT_FALSE(text.text.endsWith(QChar(0x2026)))
+                << where << ": cut off: " << text.text.toStdString();
+            EXPECT_FALSE(isEnglish(text.text)) << where << ": not translated: " << text.text.toStdString();
+            EXPECT_TRUE(text.clip.left() <= text.rect.left() + 1 &&
+                        text.rect.right() - 1 <= text.clip.right())
+                << where << ": clipped: " << text.text.toStdString();
+            for (std::size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(overlap(text.rect, texts[j].rect))
+                    << where << ": " << text.text.toStdString() << " over " << texts[j].text.toStdString();
+        }
+    }
+    /// The window, and all of what can be scrolled into view.
+    void expectWindowWellSet(const std::string& where) {
+        expectWellSet(window(), where);
+        for (const auto* area : window().findChildren<QScrollArea*>())
+            if (area->isVisible() && area->widget()->height() > area->viewport()->height())
+                expectWellSet(*area->widget(), where + ", scrolled");
+    }
+    void expectSectionsWellSet(const std::string& when) {
+        for (const auto& [section, id] : rawValuesOf<Section>) {
+            store().setSection(section);
+            settle();
+            expectWindowWellSet(when + ", " + std::string(id));
+        }
+    }
+
+private:
+    /// The letters that get no accent are too few for a word. Names of the program and of days stay.
+    static bool isEnglish(const QString& text) {
+        static const QRegularExpression word(QStringLiteral("[a-zA-Z]{3,}"));
+        static const QRegularExpression name(QStringLiteral("Velmora|velmora\\.local"));
+        return QString(text).remove(name).contains(word);
+    }
+    static bool overlap(const QRectF& one, const QRectF& other) {
+        const QRectF both = one.intersected(other);
+        return both.width() > 1 && both.height() > one.height() / 3;
+    }
+
+    LongLanguage language_;
+};
+
+TEST_F(LanguagesTest, LongerTextsFitInTheSmallestWindow) {
+    window().resize(1120, 720);
+    settle();
+    expectSectionsWellSet("docked");
+    visit(Scenario::driveway);
+    expectWellSet(*window().findChild<ApprovalOverlay*>(), "alert");
+    approve();
+    expectSectionsWellSet("taking off");
+    fly(20);
+    expectSectionsWellSet("following");
+    store().setSection(Section::live);
+    settle();
+    click(QCoreApplication::translate("velmora::FlightControls", "Land now"));
+    expectWellSet(*window().findChild<LandConfirmation*>(), "landing");
+}
+
+TEST_F(LanguagesTest, LongerTextsFitOverASilentLink) {
+    window().resize(1120, 720);
+    serve(mission(Phase::following));
+    refuse();
+    tickAfter(5);
+    settle();
+    expectSectionsWellSet("silent");
+    serve(mission(Phase::awaitingApproval));
+    refuse();
+    tickAfter(5);
+    settle();
+    expectWellSet(*window().findChild<ApprovalOverlay*>(), "silent alert");
+}
+
+TEST_F(LanguagesTest, LongerTextsFitBeforeTheFirstVisit) {
+    records({});
+    store().setShowWelcome(true);
+    window().resize(1120, 720);
+    settle();
+    expectWellSet(*window().findChild<WelcomeView*>(), "welcome");
+    store().setShowWelcome(false);
+    expectSectionsWellSet("no visits");
+}
+
+} // namespace
+
+} // namespace velmora
