@@ -1,3 +1,6 @@
+#include "language/language.h"
+#include "model/notice_texts.h"
+#include "ui/look/words.h"
 #include "ui/screens/alert/approval_overlay.h"
 #include "ui/screens/live/land_confirmation.h"
 #include "ui/screens/welcome/welcome_view.h"
@@ -137,6 +140,40 @@ TEST_F(LanguagesTest, LongerTextsFitBeforeTheFirstVisit) {
     expectWellSet(*window().findChild<WelcomeView*>(), "welcome");
     store().setShowWelcome(false);
     expectSectionsWellSet("no visits");
+}
+
+TEST(LanguageTest, GermanShowsTheTextsOfFilesAndTheFormOfDatesAndNumbers) {
+    const Date january = dateFromSeconds(1'704'110'400);
+    {
+        const Language german(QLocale("de_AT"));
+        for (int kind = 0; kind <= static_cast<int>(NoticeKind::disarmed); ++kind) {
+            const std::string text = noticeText(static_cast<NoticeKind>(kind));
+            EXPECT_NE(shownText(text), toQString(text)) << text;
+        }
+        for (const auto& [outcome, text] : rawValuesOf<Outcome>)
+            EXPECT_NE(shownText(text), toQString(text)) << text;
+        EXPECT_EQ(shownText("Driveway camera: someone you don't know"), "Kamera Einfahrt: unbekannte Person");
+        EXPECT_EQ(shownText("Gate\n%1"), "Gate %1") << "a server's own text";
+        EXPECT_EQ(oneDecimal(-3.25), "-3,2");
+        EXPECT_EQ(dayName(january, january + Seconds{3.0 * 86'400}), QString::fromUtf8("Montag, 1. Jänner"));
+        EXPECT_EQ(nameInSentence("Einfahrt"), "Einfahrt");
+    }
+    EXPECT_EQ(shownText("Driveway"), "Driveway") << "the language has gone";
+    EXPECT_EQ(oneDecimal(-3.25), "-3.2");
+}
+
+TEST(LanguageTest, TheFirstLanguageThatTheProgramSpeaksIsChosen) {
+    const struct {
+        const char* desktop;
+        QLocale::Language chosen;
+    } cases[] = {{"de_CH", QLocale::German},
+                 {"fr_CA", QLocale::French},
+                 {"en_GB", QLocale::English},
+                 {"is", QLocale::English}};
+    for (const auto& [desktop, chosen] : cases) {
+        const Language language{QLocale(desktop)};
+        EXPECT_EQ(displayLocale().language(), chosen) << desktop;
+    }
 }
 
 } // namespace
