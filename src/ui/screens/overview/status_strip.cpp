@@ -12,6 +12,9 @@
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -51,12 +54,16 @@ public:
         value_ = value;
         lines_ = lines;
         dots_ = dots;
+        neededWidth_ = widthOfTexts();
         QStringList texts{caption_, value_};
         for (const Line& line : lines_)
             texts.append(textOf(line));
         setAccessibleName(texts.join(QStringLiteral(", ")));
         update();
     }
+
+    /// Width in pixels at which no text is cut off.
+    double neededWidth() const { return neededWidth_; }
 
     /// Shows the text in a tooltip and as the accessible description.
     void setDetails(const QString& details) {
@@ -89,9 +96,17 @@ protected:
     }
 
 private:
+    double widthOfTexts() const {
+        double widest = std::max(textWidth(caption_, Type::caption), textWidth(value_, Type::statusValue));
+        for (const Line& line : lines_)
+            widest = std::max(widest, textWidth(line));
+        return std::ceil(widest);
+    }
+
     QString caption_, value_;
     std::vector<Line> lines_;
     std::vector<QColor> dots_;
+    double neededWidth_ = 0;
 };
 
 StatusStrip::StatusStrip(AppStore& store, QWidget* parent)
@@ -114,6 +129,7 @@ void StatusStrip::refresh() {
             cell->setContent(QStringLiteral("—"), {});
         cells_[1]->setDetails({});
     }
+    arrange();
 }
 
 void StatusStrip::showDrone(const LiveState& state) {
@@ -159,17 +175,59 @@ void StatusStrip::showAlerts() {
 }
 
 void StatusStrip::resizeEvent(QResizeEvent*) {
+    arrange();
+}
+
+/// Distance from the left edge of a column to the texts of its cell.
+int StatusStrip::indentOf(std::size_t cell) const {
+    return cell == 0 ? pictureRoom_ : Measure::cellPadding;
+}
+
+/// Room of a column beside its texts: the indent, and the gap to the next column.
+int StatusStrip::marginsOf(std::size_t cell) const {
+    return indentOf(cell) + (cell + 1 < cells_.size() ? Measure::gap8 : 0);
+}
+
+/// What a column has to spare; negative if texts of its cell are too long.
+double StatusStrip::spareOf(std::size_t cell) const {
+    return width() * shares[cell] / sumOfShares - indentOf(cell) - Measure::gap8 -
+           cells_[cell]->neededWidth();
+}
+
+/// Each column has its share of the strip; those with room to spare give to those whose texts are too long.
+std::array<double, 4> StatusStrip::columnWidths() const {
+    double missing = 0, spare = 0;
+    for (std::size_t i = 0; i < cells_.size(); ++i)
+        (spareOf(i) < 0 ? missing : spare) += std::abs(spareOf(i));
+    const double given = std::min(missing, spare);
+    std::array<double, 4> widths{};
+    for (std::size_t i = 0; i < cells_.size(); ++i) {
+        widths[i] = width() * shares[i] / sumOfShares;
+        if (given > 0)
+            widths[i] -= given * spareOf(i) / (spareOf(i) < 0 ? missing : spare);
+    }
+    return widths;
+}
+
+/// The picture gives way to texts that need its room.
+void StatusStrip::arrange() {
     constexpr int top = 1 + Measure::statusStripTop;
     const QSize picture =
         width() < Measure::narrowContent ? Measure::dronePictureNarrow : Measure::dronePicture;
     picture_->setGeometry(0, top + Measure::dronePictureTop, picture.width(), picture.height());
+    pictureRoom_ = picture.width() + Measure::dronePictureGap;
+    double spare = 0;
+    for (std::size_t i = 0; i < cells_.size(); ++i)
+        spare += spareOf(i);
+    if (spare < 0)
+        pictureRoom_ = 0;
+    picture_->setVisible(pictureRoom_ > 0);
     double left = 0;
+    const auto widths = columnWidths();
     for (std::size_t i = 0; i < cells_.size(); ++i) {
-        const double share = width() * shares[i] / sumOfShares;
-        const int indent = i == 0 ? picture.width() + Measure::dronePictureGap : Measure::cellPadding;
-        cells_[i]->setGeometry(static_cast<int>(left) + indent, top,
-                               static_cast<int>(share) - indent - Measure::gap8, Measure::statusStripCell);
-        left += share;
+        cells_[i]->setGeometry(static_cast<int>(left) + indentOf(i), top,
+                               static_cast<int>(widths[i]) - marginsOf(i), Measure::statusStripCell);
+        left += widths[i];
     }
 }
 

@@ -30,9 +30,15 @@ private:
     void showCameras(const LiveState& state);
     void showWind(const LiveState& state);
     void showAlerts();
+    int indentOf(std::size_t cell) const;
+    int marginsOf(std::size_t cell) const;
+    double spareOf(std::size_t cell) const;
+    std::array<double, 4> columnWidths() const;
+    void arrange();
 
     AppStore& store_;
     ArtImage* picture_;
+    int pictureRoom_ = 0;        ///< width of the picture with its gap, pixels; 0 if it is hidden
     std::array<Cell*, 4> cells_; ///< drone, cameras, wind, alerts
 };
 
