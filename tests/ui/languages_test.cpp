@@ -71,9 +71,14 @@ protected:
                     << at << " is over " << texts[j].text.toStdString();
         }
     }
-    /// The window, and all of what can be scrolled into view.
+    /// The window, all of what can be scrolled into view, and what assistive technology and tooltips say.
     void expectWindowWellSet(const std::string& where) {
         expectWellSet(window(), where);
+        for (const QWidget* widget : window().findChildren<QWidget*>())
+            for (const QString& text :
+                 {widget->accessibleName(), widget->accessibleDescription(), widget->toolTip()})
+                EXPECT_FALSE(widget->isVisible() && isEnglish(text))
+                    << where << ": " << text.toStdString() << " is not translated";
         for (const auto* area : window().findChildren<QScrollArea*>())
             if (area->isVisible() && area->widget()->height() > area->viewport()->height())
                 expectWellSet(*area->widget(), where + ", scrolled");
@@ -113,7 +118,7 @@ private:
     static bool isEnglish(const QString& text) {
         static const QRegularExpression word(QStringLiteral("[a-zA-Z]{3,}"));
         static const QRegularExpression name(
-            QStringLiteral("Velmora|velmora\\.local|(Mon|Tues|Wednes|Thurs|Fri|Satur|Sun)day|November"),
+            QStringLiteral("velmora\\.local|Velmora|\\b(Mon|Tue|Wed|Thu|Fri|Sat|Sun)[a-z]*|November"),
             QRegularExpression::CaseInsensitiveOption);
         return QString(text).remove(name).contains(word);
     }
