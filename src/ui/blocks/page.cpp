@@ -11,7 +11,9 @@
 namespace velmora {
 
 Page::Page(const Parts& parts, QWidget* parent)
-    : QWidget(parent), headline_(new Headline(parts.headline, Type::headline, false, this)) {
+    : QWidget(parent),
+      headline_(new Headline(parts.headline, Type::headline, false, this)),
+      width_(parts.width) {
     auto* frame = new QWidget(this);
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(Measure::pageMargins);
@@ -22,12 +24,8 @@ Page::Page(const Parts& parts, QWidget* parent)
     if (!parts.fills)
         column->addStretch(1);
     setContentGap(parts.contentGap);
-    const int width = parts.width > 0 ? parts.width : Measure::pageWidth;
-    frame->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
     area_ = new ScrollArea(this);
     area_->setWidget(frame);
-    auto* all = bareLayout<QVBoxLayout>(this);
-    all->addWidget(area_);
 }
 
 QWidget* Page::buildHeading(const Parts& parts) {
@@ -51,6 +49,13 @@ QWidget* Page::buildHeading(const Parts& parts) {
         row->addLayout(right);
     }
     return heading;
+}
+
+/// Without a layout of its own the page limits its content before the content is laid out.
+void Page::resizeEvent(QResizeEvent*) {
+    const int width = width_ > 0 ? width_ : Measure::pageWidthIn(window()->width());
+    area_->widget()->setMaximumWidth(width + Measure::pageMargins.left() + Measure::pageMargins.right());
+    area_->setGeometry(rect());
 }
 
 void Page::scrollToTop() {

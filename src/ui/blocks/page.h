@@ -22,7 +22,7 @@ public:
         std::optional<QString> lede = std::nullopt;
         int ledeWidth = 0;  ///< maximum in pixels; 0 for the default
         bool fills = false; ///< the content takes all the height available
-        int width = 0;      ///< maximum for heading and content, in pixels; 0 for the default
+        int width = 0;      ///< maximum for heading and content, in pixels; 0 for the window's default
         int contentGap = 0; ///< between heading and content, pixels
         QWidget* trailing = nullptr;
         QWidget* content = nullptr;
@@ -36,6 +36,9 @@ public:
     /// Sets the gap between heading and content, in pixels.
     void setContentGap(int gap);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* buildHeading(const Parts& parts);
 
@@ -43,6 +46,7 @@ private:
     Headline* headline_;
     ScrollArea* area_;
     Text* lede_ = nullptr;
+    int width_; ///< maximum of heading and content, pixels; 0 for the default
 };
 
 } // namespace velmora

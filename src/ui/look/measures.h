@@ -20,6 +20,7 @@ inline constexpr int overlayRadius = 16;
 inline constexpr QSize windowMinimum(1120, 720);
 inline constexpr QSize windowDefault(1360, 860);
 inline constexpr int narrowWindow = 1280; // narrower windows use the narrow layout
+inline constexpr int wideWindow = 1700;   // wide windows begin here
 inline constexpr int lowWindow = 760;     // lower windows use smaller gaps
 inline constexpr int resizeBand = 6;
 inline constexpr int titleStrip = 36;
@@ -55,7 +56,11 @@ inline constexpr int linkGap = 10;
 
 // Pages
 inline constexpr QMargins pageMargins(40, 20, 40, 24);
-inline constexpr int pageWidth = 1320; // content grows up to this
+inline constexpr int pageWidth = 1320, pageWidthWide = 1880; // content grows up to this
+/// The largest width of a page's content in a window of this width.
+constexpr int pageWidthIn(int window) {
+    return window < wideWindow ? pageWidth : pageWidthWide;
+}
 inline constexpr int ledeWidth = 640;
 inline constexpr int gutter = 32;
 
