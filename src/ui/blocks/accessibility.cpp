@@ -1,7 +1,11 @@
 #include "ui/blocks/accessibility.h"
 
+#include "ui/blocks/reading_order.h"
+
 #include <QAccessibleWidget>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -9,12 +13,52 @@ namespace {
 
 constexpr const char* roleProperty = "velmoraRole";
 
-QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
+/// Whether assistive technology has anything to say about the widget or about one inside it.
+bool speaks(const QWidget* widget) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    if (!interface->text(QAccessible::Name).isEmpty())
+        return true;
+    switch (interface->role()) {
+    case QAccessible::Client:
+    case QAccessible::StaticText:
+    case QAccessible::Graphic:
+    case QAccessible::AlertMessage:
+        return std::ranges::any_of(childrenInReadingOrder(*widget), speaks);
+    default:
+        return true;
+    }
+}
+
+/// Reads the children in the order of the layout and leaves out decoration.
+class ReadingWidget : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    int childCount() const override { return static_cast<int>(children().size()); }
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(children().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child ? static_cast<int>(children().indexOf(qobject_cast<QWidget*>(child->object()))) : -1;
+    }
+
+private:
+    QList<QWidget*> children() const {
+        QList<QWidget*> found = childrenInReadingOrder(*widget());
+        found.removeIf([](const QWidget* child) { return !speaks(child); });
+        return found;
+    }
+};
+
+/// Qt asks for the class of the object, then for its base classes.
+QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
-    if (!widget || !widget->property(roleProperty).isValid())
+    if (!widget)
         return nullptr;
-    return new QAccessibleWidget(widget,
-                                 static_cast<QAccessible::Role>(widget->property(roleProperty).toInt()));
+    const QVariant role = widget->property(roleProperty);
+    if (role.isValid())
+        return new ReadingWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
+    return className == QLatin1String("QWidget") ? new ReadingWidget(widget) : nullptr;
 }
 
 } // namespace

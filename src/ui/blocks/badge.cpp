@@ -1,5 +1,6 @@
 #include "ui/blocks/badge.h"
 
+#include "ui/blocks/accessibility.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -27,6 +28,7 @@ double paintBadge(QPainter& painter, double right, double y, const QString& text
 
 Badge::Badge(const QString& text, QWidget* parent) : QWidget(parent), text_(text) {
     setFixedSize(static_cast<int>(std::ceil(badgeWidth(text))), Measure::badgeHeight);
+    declareRole(this, QAccessible::StaticText);
     setAccessibleName(text);
 }
 

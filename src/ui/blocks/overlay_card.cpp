@@ -2,6 +2,7 @@
 
 #include "ui/blocks/accessibility.h"
 #include "ui/blocks/layouts.h"
+#include "ui/blocks/reading_order.h"
 #include "ui/look/measures.h"
 #include "ui/look/motion.h"
 #include "ui/look/paint.h"
@@ -129,25 +130,10 @@ void OverlayCard::keyPressEvent(QKeyEvent* event) {
         emit dismissed();
 }
 
-QList<QWidget*> OverlayCard::focusable() const {
-    QList<QWidget*> found;
-    for (QWidget* child : card_->findChildren<QWidget*>())
-        if (child->focusPolicy() & Qt::TabFocus && child->isVisible() && child->isEnabled())
-            found.append(child);
-    return found;
-}
-
-/// Cycles through the card's own controls in reading order.
 bool OverlayCard::focusNextPrevChild(bool next) {
     if (!open_)
         return QWidget::focusNextPrevChild(next);
-    const QList<QWidget*> controls = focusable();
-    if (controls.isEmpty())
-        return true;
-    const qsizetype at = controls.indexOf(QApplication::focusWidget());
-    const qsizetype count = controls.size();
-    const qsizetype to = at < 0 ? (next ? 0 : count - 1) : (at + (next ? 1 : count - 1)) % count;
-    controls[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    focusInReadingOrder(*card_, next);
     return true;
 }
 

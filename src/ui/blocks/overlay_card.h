@@ -52,7 +52,6 @@ private:
     QPainterPath veil() const;
     void returnFocus();
     void finishTransition();
-    QList<QWidget*> focusable() const;
 
     QWidget* card_;
     QVBoxLayout* column_;

@@ -10,9 +10,17 @@
 
 namespace velmora {
 
+namespace {
+
+bool isTitle(const TextStyle& style) {
+    return style.face == SBFont::Face::displayMedium || style == Type::groupHeading;
+}
+
+} // namespace
+
 Text::Text(const QString& text, const TextStyle& style, const QColor& color, QWidget* parent)
     : QWidget(parent), text_(text), style_(style), color_(color) {
-    declareRole(this, QAccessible::StaticText);
+    declareRole(this, isTitle(style) ? QAccessible::Heading : QAccessible::StaticText);
     setAccessibleName(text);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);

@@ -1,8 +1,10 @@
 #include "ui/window/main_window.h"
 
+#include "ui/blocks/accessibility.h"
 #include "ui/blocks/confirmation_card.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/layouts.h"
+#include "ui/blocks/reading_order.h"
 #include "ui/blocks/toast.h"
 #include "ui/guard/answer_guard.h"
 #include "ui/look/measures.h"
@@ -38,6 +40,7 @@ MainWindow::MainWindow(AppStore& store)
       guard_(new AnswerGuard(store, *this)),
       menus_(new CommandMenus(store, this)),
       stack_(new SectionStack(this)) {
+    declareRole(this, QAccessible::Window);
     setWindowTitle(QStringLiteral("Velmora"));
     setObjectName(QStringLiteral("main"));
     setWindowFlag(Qt::FramelessWindowHint);
@@ -219,6 +222,10 @@ void MainWindow::showSection() {
     stack_->showSection(screen);
     if (focusInSection && focusWidget() == this)
         screen->setFocus(Qt::OtherFocusReason);
+}
+
+bool MainWindow::focusNextPrevChild(bool next) {
+    return focusInReadingOrder(*this, next);
 }
 
 } // namespace velmora

@@ -32,6 +32,9 @@ class MainWindow : public QWidget {
 public:
     explicit MainWindow(AppStore& store);
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     void buildSections();
     void buildLayout();
