@@ -1,6 +1,7 @@
 #include "app/app.h"
 
 #include "app/self_check.h"
+#include "desktop/activation.h"
 #include "ui/look/art.h"
 
 #include <QApplication>
@@ -9,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int notificationWidth = 320; // pixels
+constexpr int notificationWidth = 320;                               // pixels
 
 NotificationPicture pictureOf(const QString& name) {
     const QImage picture = Art::find(name);
@@ -39,7 +40,7 @@ App::App(AppService& service, const Options& options)
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
-    connect(&tray_, &Tray::openRequested, this, [this] { showWindow(); });
+    connect(&tray_, &Tray::openRequested, this, [this] { showWindow(Activation::tokenOfNow()); });
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
     if (options.section)
         store_.setSection(*options.section);
@@ -52,8 +53,10 @@ void App::showWindow(const QString& activationToken) {
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8()); // read by Qt's Wayland plugin
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     window_.show();
+    const bool asked = Activation::activate(window_.winId(), activationToken);
     window_.raise();
-    window_.activateWindow();
+    if (!asked)
+        window_.activateWindow();
 }
 
 } // namespace velmora

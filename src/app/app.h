@@ -28,7 +28,7 @@ public:
 private:
     static constexpr std::chrono::seconds longestSave{10};
 
-    /// Brings the window to the front. `activationToken` may be empty.
+    /// Brings the window to the front. `activationToken` lets it take the focus; it may be empty.
     void showWindow(const QString& activationToken = {});
 
     SystemRandom random_;

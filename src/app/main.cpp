@@ -1,5 +1,6 @@
 #include "app/app.h"
 #include "app/self_check.h"
+#include "desktop/activation.h"
 #include "desktop/quit_deadline.h"
 #include "desktop/quit_signals.h"
 #include "language/language.h"
@@ -125,12 +126,14 @@ int main(int argc, char* argv[]) {
     const Options options = std::get<Options>(read);
     findHome();
     ignoreRelativeXdgPaths();
+    const QString activationToken = Activation::launcherToken();
     const auto application = openDisplay(argc, argv);
     const QuitSignals quitSignals; // installed before anything that a signal must clean up
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, [] { QCoreApplication::exit(); });
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
-    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden, options.section)) {
+    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden, options.section,
+                          activationToken)) {
     case AppService::Claim::handedOver:
         return 0;
     case AppService::Claim::refused:

@@ -1,5 +1,6 @@
 #include "desktop/app_service.h"
 
+#include "desktop/activation.h"
 #include "store/data_files.h"
 
 #include <QDBusConnectionInterface>
@@ -28,13 +29,14 @@ QString tokenFrom(const QVariantMap& platformData) {
 }
 
 /// The call that shows the window of the running instance.
-QDBusMessage showCall(std::optional<Section> section) {
+QDBusMessage showCall(std::optional<Section> section, const QString& activationToken) {
     const QString method = section ? QStringLiteral("ActivateAction") : QStringLiteral("Activate");
     QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, interfaceName, method);
     if (section)
         call << QString::fromUtf8(rawValue(*section)) << QVariantList();
-    call << QVariantMap{{QStringLiteral("activation-token"), qEnvironmentVariable("XDG_ACTIVATION_TOKEN")},
-                        {QStringLiteral("desktop-startup-id"), qEnvironmentVariable("DESKTOP_STARTUP_ID")}};
+    const QString token = activationToken.isEmpty() ? Activation::tokenOfNow() : activationToken;
+    call << QVariantMap{{QStringLiteral("activation-token"), token},
+                        {QStringLiteral("desktop-startup-id"), token}};
     return call;
 }
 
@@ -49,15 +51,15 @@ std::optional<Section> AppService::sectionOfAction(const QString& action) {
 }
 
 /// Registers the object before the name, so that a client that sees the name can call it at once.
-AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden,
-                                    std::optional<Section> section) {
+AppService::Claim AppService::claim(const QString& dataDirectory, bool hidden, std::optional<Section> section,
+                                    const QString& activationToken) {
     const QDeadlineTimer deadline(quitTime);
     if (bus_.isConnected()) {
         bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
         for (bool last = false; !takeName(); last = deadline.hasExpired(), QThread::msleep(pause)) {
             if (last)
                 return Claim::refused;
-            if (handOver(hidden, section))
+            if (handOver(hidden, section, activationToken))
                 return Claim::handedOver;
         }
     }
@@ -81,11 +83,11 @@ bool AppService::takeName() {
 }
 
 /// Returns whether the other instance has answered. A hidden start only asks whether it still does.
-bool AppService::handOver(bool hidden, std::optional<Section> section) {
+bool AppService::handOver(bool hidden, std::optional<Section> section, const QString& activationToken) {
     const QDBusMessage question = QDBusMessage::createMethodCall(
         busName, objectPath, QStringLiteral("org.freedesktop.DBus.Introspectable"),
         QStringLiteral("Introspect"));
-    QDBusMessage call = hidden ? question : showCall(section);
+    QDBusMessage call = hidden ? question : showCall(section, activationToken);
     call.setAutoStartService(false); // a name without an owner is free
     return bus_.call(call, QDBus::Block, handOverTime).type() == QDBusMessage::ReplyMessage;
 }

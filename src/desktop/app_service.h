@@ -31,9 +31,11 @@ public:
     static std::optional<Section> sectionOfAction(const QString& action);
 
     /// Takes the bus name and the lock of the data directory, and keeps them. If another instance runs, asks
-    /// it to show its window, with `section` if that is given, unless `hidden`. Waits for an instance that is
-    /// quitting, up to seven seconds for its name and two for its lock.
-    Claim claim(const QString& dataDirectory, bool hidden, std::optional<Section> section = std::nullopt);
+    /// it to show its window, with `section` if that is given, unless `hidden`. Its window takes the
+    /// focus with the launcher's `activationToken`, or one made now if that is empty. Waits for an instance
+    /// that is quitting, up to seven seconds for its name and two for its lock.
+    Claim claim(const QString& dataDirectory, bool hidden, std::optional<Section> section,
+                const QString& activationToken);
     /// Gives up the bus name, so that the next start takes it.
     void release();
 
@@ -51,7 +53,7 @@ public slots:
 
 private:
     bool takeName();
-    bool handOver(bool hidden, std::optional<Section> section);
+    bool handOver(bool hidden, std::optional<Section> section, const QString& activationToken);
 
     QDBusConnection bus_;
     std::optional<QLockFile> lock_;

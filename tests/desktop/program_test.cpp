@@ -1,5 +1,6 @@
 #include "desktop/program_fixture.h"
 #include "desktop/screen_reader.h"
+#include "desktop/x11_client.h"
 
 #include <QElapsedTimer>
 #include <QUdpSocket>
@@ -61,6 +62,35 @@ TEST_F(ProgramTest, ASecondStartHandsOverAndASignalEndsTheFirstCleanly) {
     ::kill(static_cast<pid_t>(first->processId()), SIGHUP);
     EXPECT_EQ(exitCodeOf(*first), 0);
     EXPECT_FALSE(owned());
+}
+
+/// A window manager that prevents focus stealing compares the time with that of the owner's last input.
+TEST_F(ProgramTest, TheWindowAsksForTheFocusAsOfTheTimeWhenTheOwnerStartedIt) {
+    const VirtualDisplay display;
+    FocusObserver observer(display);
+    const auto first = startOn(display, {"--hidden"});
+    waitForName();
+    const auto startAgain = [&](const QString& token) {
+        return exitCodeOf(
+            *run(VELMORA_PROGRAM, {},
+                 {{"DISPLAY", display.name()}, {"QT_QPA_PLATFORM", "xcb"}, {"DESKTOP_STARTUP_ID", token}}));
+    };
+    const auto activate = [](const char* key, const QString& token) {
+        return call("Activate", {QVariantMap{{key, token}}}).type();
+    };
+    EXPECT_EQ(startAgain("launcher-1_TIME1234"), 0);
+    EXPECT_EQ(observer.nextRequest(), 1234U);
+    EXPECT_EQ(observer.nextLauncherMessage(), "remove: ID=\"launcher");
+    EXPECT_EQ(startAgain({}), 0);
+    EXPECT_GT(observer.nextRequest(), 100'000U) << "the X server's time when the owner started the second";
+    EXPECT_EQ(activate("desktop-startup-id", "_TIME1235"), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(observer.nextRequest(), 1235U);
+    for (const QString& timeless : {QString(), QString("token"), QString("_TIME-1"), QString("_TIME0")})
+        EXPECT_EQ(activate("activation-token", timeless), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(activate("activation-token", "_TIME1236"), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(observer.nextRequest(), 1236U) << "without a time, the window does not ask";
+    first->terminate();
+    EXPECT_EQ(exitCodeOf(*first), 0);
 }
 
 TEST_F(ProgramTest, TwoStartsAtOnceLeaveOne) {

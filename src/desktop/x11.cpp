@@ -1,0 +1,41 @@
+#include "desktop/x11.h"
+
+#include <QGuiApplication>
+
+#include <cstring>
+
+namespace velmora::X11 {
+
+xcb_connection_t* connection() {
+    const auto* application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return application ? application->connection() : nullptr;
+}
+
+xcb_screen_t& screen(xcb_connection_t* connection) {
+    return *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+}
+
+xcb_atom_t atom(xcb_connection_t* connection, const char* name) {
+    const auto length = static_cast<uint16_t>(std::strlen(name));
+    const Owned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, length, name), nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = type;
+    return message;
+}
+
+void send(xcb_connection_t* connection, xcb_window_t to, uint32_t mask,
+          const xcb_client_message_event_t& message) {
+    const auto cookie =
+        xcb_send_event_checked(connection, 0, to, mask, reinterpret_cast<const char*>(&message));
+    xcb_discard_reply(connection, cookie.sequence);
+}
+
+} // namespace velmora::X11

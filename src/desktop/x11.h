@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace velmora::X11 {
+
+struct Free {
+    void operator()(void* reply) const { std::free(reply); }
+};
+/// A reply or an event of libxcb, which allocates them with malloc.
+template <class Type>
+using Owned = std::unique_ptr<Type, Free>;
+
+/// Qt's connection to the X server; null on other platforms.
+xcb_connection_t* connection();
+
+/// The first screen of the X server.
+xcb_screen_t& screen(xcb_connection_t* connection);
+
+/// Waits for the server's reply; XCB_ATOM_NONE if the connection is broken.
+xcb_atom_t atom(xcb_connection_t* connection, const char* name);
+
+/// A message of 32-bit values, to be filled in.
+xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type);
+
+/// Sends the message to the clients that selected `mask` on the window; to its owner if `mask` is 0. An error
+/// is ignored.
+void send(xcb_connection_t* connection, xcb_window_t to, uint32_t mask,
+          const xcb_client_message_event_t& message);
+
+} // namespace velmora::X11
