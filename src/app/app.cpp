@@ -3,6 +3,7 @@
 #include "app/self_check.h"
 #include "desktop/activation.h"
 #include "ui/look/art.h"
+#include "ui/look/words.h"
 
 #include <QApplication>
 
@@ -11,6 +12,7 @@ namespace velmora {
 namespace {
 
 constexpr int notificationWidth = 320;                               // pixels
+const QString failureIdentifier = QStringLiteral("velmora-failure"); // no mission id of a server
 
 NotificationPicture pictureOf(const QString& name) {
     const QImage picture = Art::find(name);
@@ -40,12 +42,23 @@ App::App(AppService& service, const Options& options)
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);
+    connect(&store_, &AppStore::commandFailed, this, &App::notifyOfFailure);
+    connect(&store_, &AppStore::pendingCommandChanged, this, [this] {
+        if (store_.pendingCommand())
+            notifier_.withdraw(failureIdentifier);
+    });
     connect(&tray_, &Tray::openRequested, this, [this] { showWindow(Activation::tokenOfNow()); });
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
     if (options.section)
         store_.setSection(*options.section);
     if (!options.hidden)
         showWindow();
+}
+
+/// An active window shows the failure itself.
+void App::notifyOfFailure(Command command, const QString& reason) {
+    if (!QApplication::activeWindow())
+        notifier_.post({failureIdentifier, tr("Velmora"), failureText(command, reason)});
 }
 
 void App::showWindow(const QString& activationToken) {

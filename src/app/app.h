@@ -28,6 +28,7 @@ public:
 private:
     static constexpr std::chrono::seconds longestSave{10};
 
+    void notifyOfFailure(Command command, const QString& reason);
     /// Brings the window to the front. `activationToken` lets it take the focus; it may be empty.
     void showWindow(const QString& activationToken = {});
 

@@ -1,4 +1,5 @@
 #include "desktop/deliberate_answer_fixture.h"
+#include "desktop/x11_client.h"
 
 namespace velmora {
 
@@ -115,6 +116,31 @@ TEST_F(DeliberateAnswerTest, AnAlertClosesTheHistorysMenusSoThatTheFirstClickCou
         EXPECT_EQ(windows(), 1);
         expectApproved([&] { click(launch); });
     }
+}
+
+TEST_F(DeliberateAnswerTest, AnAlertTakesNoFocusAndClosesTheMenuOfAnOldTrayWhichAnswersIt) {
+    start();
+    const RunningProgram other = openAnotherWindow();
+    QTest::qWait(guard); // Qt reports the loss of the focus late
+    OldTray tray(display);
+    ASSERT_TRUE(tray.embed());
+    const QPoint launchLine(60, 103); // of the menu, which opens at the pointer
+    const auto menuIsOpen = [&, closed = windows()] { return windows() > closed; };
+    const auto openMenu = [&] {
+        xdotool({"mousemove", "16", "16", "click", "3"});
+        return waitUntil(menuIsOpen);
+    };
+    for (const bool afterNone : {true, false}) {
+        ASSERT_TRUE(openMenu());
+        xdotool({"mousemove", "800", "900"}); // away from the icon and its tooltip
+        ASSERT_TRUE(raiseAlert(afterNone) && polled(3));
+        EXPECT_FALSE(menuIsOpen()) << "the alert closes the menu";
+        EXPECT_FALSE(isActive());
+    }
+    expectApproved([&] {
+        ASSERT_TRUE(openMenu());
+        click(launchLine);
+    });
 }
 
 TEST_F(DeliberateAnswerTest, AKeyThatOpenedAMenuIsNotTakenForHeld) {

@@ -170,6 +170,31 @@ TEST_F(ProgramTest, ATrayThatAppearsLateGetsTheIconAndItsMenuWorks) {
     EXPECT_EQ(exitCodeOf(*program), 0);
 }
 
+TEST_F(ProgramTest, ATrayOfTheOldKindHasTheIconUnlessThereIsOneOnTheBus) {
+    const VirtualDisplay display;
+    FocusObserver observer(display);
+    auto old = std::make_unique<OldTray>(display);
+    const auto program = startOn(display, {"--hidden"});
+    ASSERT_TRUE(old->embed());
+    EXPECT_TRUE(waitUntil([&] { return old->colors() > 2; })) << "it is painted";
+    old = std::make_unique<OldTray>(display); // it restarts
+    ASSERT_TRUE(old->embed());
+    {
+        const TrayHost tray;
+        EXPECT_TRUE(waitUntil([&] { return !tray.items().isEmpty() && !old->hasIcon(); }));
+    }
+    ASSERT_TRUE(old->embed());
+    {
+        const TrayHost tray;
+        EXPECT_TRUE(waitUntil([&] { return !tray.items().isEmpty() && !old->hasIcon(); }));
+    }
+    ASSERT_TRUE(old->embed());
+    display.run("xdotool", {"mousemove", "16", "16", "click", "1"})->waitForFinished();
+    EXPECT_GT(observer.nextRequest(), 100'000U) << "a click shows the window";
+    program->terminate();
+    EXPECT_EQ(exitCodeOf(*program), 0);
+}
+
 } // namespace
 
 } // namespace velmora

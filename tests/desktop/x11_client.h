@@ -3,7 +3,9 @@
 #include "desktop/virtual_display.h"
 #include "desktop/x11.h"
 
+#include <array>
 #include <optional>
+#include <set>
 
 namespace velmora {
 
@@ -63,6 +65,46 @@ public:
     QByteArray nextLauncherMessage() {
         const xcb_client_message_data_t data = next("_NET_STARTUP_INFO_BEGIN");
         return {reinterpret_cast<const char*>(data.data8), sizeof data.data8};
+    }
+};
+
+/// A tray of the old kind, at the upper left of the screen. It embeds one icon.
+class OldTray : public X11Client {
+public:
+    explicit OldTray(const VirtualDisplay& display) : X11Client(display) {
+        xcb_map_window(connection_, window_);
+        xcb_set_selection_owner(connection_, window_, atom("_NET_SYSTEM_TRAY_S0"), XCB_TIME_CURRENT_TIME);
+        auto message = X11::message(root(), atom("MANAGER"));
+        message.data.data32[1] = atom("_NET_SYSTEM_TRAY_S0");
+        message.data.data32[2] = window_;
+        X11::send(connection_, root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY, message);
+        xcb_flush(connection_);
+    }
+
+    /// Waits for an icon that asks to be embedded, and shows it.
+    bool embed() {
+        const xcb_window_t icon = next("_NET_SYSTEM_TRAY_OPCODE").data32[2];
+        constexpr std::array<std::uint32_t, 2> size{side, side};
+        xcb_configure_window(connection_, icon, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT,
+                             size.data());
+        xcb_reparent_window(connection_, icon, window_, 0, 0);
+        xcb_map_window(connection_, icon);
+        return hasIcon();
+    }
+    bool hasIcon() const {
+        const X11::Owned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection_, xcb_query_tree(connection_, window_), nullptr));
+        return tree && tree->children_len == 1;
+    }
+    /// How many colours the icon has.
+    std::size_t colors() const {
+        const auto cookie =
+            xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root(), 0, 0, side, side, ~0U);
+        const X11::Owned<xcb_get_image_reply_t> image(xcb_get_image_reply(connection_, cookie, nullptr));
+        if (!image)
+            return 0;
+        const auto* pixels = reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(image.get()));
+        return std::set<std::uint32_t>(pixels, pixels + side * side).size();
     }
 };
 

@@ -1,11 +1,13 @@
 #include "ui/tray/tray.h"
 
+#include "desktop/x11.h"
 #include "ui/look/words.h"
 
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusInterface>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -14,6 +16,7 @@ namespace velmora {
 namespace {
 
 const QString trayService = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString trayPath = QStringLiteral("/StatusNotifierWatcher");
 constexpr int iconSizes[] = {16, 18, 22, 24, 32, 48, 64};
 
 QString iconFor(Phase phase, const std::optional<Outage>& outage) {
@@ -42,6 +45,11 @@ QIcon pixmapsOf(const QString& file) {
     return icons;
 }
 
+bool hasTrayService() {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return bus.isConnected() && bus.interface()->isServiceRegistered(trayService);
+}
+
 void setText(QAction* action, const QString& text) {
     if (action->text() != text)
         action->setText(text);
@@ -52,17 +60,13 @@ void setText(QAction* action, const QString& text) {
 Tray::Tray(AppStore& store, QObject* parent)
     : QObject(parent),
       store_(store),
-      trayWatcher_(trayService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
+      trayWatcher_(trayService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange) {
     buildMenu();
     connect(&store_, &AppStore::stateChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::linkStatusChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::pendingCommandChanged, this, &Tray::refresh);
     connect(&store_, &AppStore::outageChanged, this, &Tray::refresh);
-    connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
-        if (icon_ && !QApplication::activeWindow()) // an active window shows the failure itself
-            icon_->showMessage(tr("Velmora"), failureText(command, reason), QSystemTrayIcon::Warning);
-    });
     refresh();
     watchForTray();
 }
@@ -106,34 +110,53 @@ QAction* Tray::addCommand(const QString& text, Action action) {
     return line;
 }
 
-/// Qt checks only once whether there is a tray, so create the icon when one is registered on the bus. If none
-/// appears for a while, try a legacy X11 tray; Wayland has none, so there the icon waits for the bus.
 void Tray::watchForTray() {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (bus.isConnected() && bus.interface()->isServiceRegistered(trayService)) {
-        showIcon();
-        return;
-    }
-    connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, this, &Tray::showIcon);
-    if (QGuiApplication::platformName() != QStringLiteral("xcb"))
-        return;
-    connect(&legacyTrayTimer_, &UiTimer::timeout, this, &Tray::showIcon);
-    legacyTrayTimer_.start();
+    connect(&trayWatcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &Tray::findTray);
+    for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
+        QDBusConnection::sessionBus().connect(trayService, trayPath, trayService, QString::fromLatin1(signal),
+                                              this, SLOT(findTray()));
+    findTray();
 }
 
-void Tray::showIcon() {
-    legacyTrayTimer_.stop();
-    if (icon_)
+/// Qt checks only once whether the bus has a tray, so create its icon when there is one.
+void Tray::findTray() {
+    if (!hasTrayService()) {
+        setXEmbedIconShown(true);
         return;
+    }
+    if (!icon_)
+        createIcon();
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        trayService, trayPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << trayService << QStringLiteral("IsStatusNotifierHostRegistered");
+    auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QVariant> hasHost = *watcher;
+        setXEmbedIconShown(hasHost.isValid() ? !hasHost.value().toBool() : !hasTrayService());
+        watcher->deleteLater();
+    });
+}
+
+void Tray::createIcon() {
     icon_ = std::make_unique<QSystemTrayIcon>();
     icon_->setContextMenu(&menu_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
             emit openRequested();
     });
-    shownIcon_.clear();
-    refresh();
+    showStatus();
     icon_->show();
+}
+
+void Tray::setXEmbedIconShown(bool shown) {
+    if (!shown)
+        xembedIcon_.reset();
+    if (!shown || xembedIcon_ || !X11::connection())
+        return;
+    xembedIcon_ = std::make_unique<XEmbedIcon>();
+    connect(xembedIcon_.get(), &XEmbedIcon::clicked, this, &Tray::openRequested);
+    connect(xembedIcon_.get(), &XEmbedIcon::menuRequested, this, [this] { menu_.popup(QCursor::pos()); });
+    showStatus();
 }
 
 /// Hides and shows lines instead of rebuilding the menu, which may be open.
@@ -151,20 +174,28 @@ void Tray::refresh() {
     for (QAction* action : {home_, afterHome_})
         action->setVisible(airborne(phase));
     setText(arming_, isArmed() ? tr("Disarm") : tr("Arm"));
-    if (!icon_)
-        return;
     QStringList tip{status};
     if (store_.settings().linkMode)
         tip.append(store_.linkStatus().text());
     if (store_.outage())
         tip.append(toQString(outageTitle(*store_.outage()).toStdString()));
-    if (icon_->toolTip() != tip.join('\n'))
-        icon_->setToolTip(tip.join('\n'));
     const QString icon = iconFor(phase, store_.outage());
-    if (icon == shownIcon_)
+    if (tip.join('\n') == toolTip_ && icon == iconFile_)
         return;
-    shownIcon_ = icon;
-    icon_->setIcon(pixmapsOf(icon));
+    toolTip_ = tip.join('\n');
+    iconFile_ = icon;
+    showStatus();
+}
+
+void Tray::showStatus() {
+    const auto show = [icon = pixmapsOf(iconFile_), this](auto& trayIcon) {
+        trayIcon.setToolTip(toolTip_);
+        trayIcon.setIcon(icon);
+    };
+    if (icon_)
+        show(*icon_);
+    if (xembedIcon_)
+        show(*xembedIcon_);
 }
 
 } // namespace velmora

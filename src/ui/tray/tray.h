@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/app_store.h"
-#include "ui/look/ui_clock.h"
+#include "ui/tray/xembed_icon.h"
 
 #include <QDBusServiceWatcher>
 #include <QMenu>
@@ -12,7 +12,7 @@
 namespace velmora {
 
 /// The tray icon and its menu: the phase, the answers to an alert, "Return home". The icon appears as soon as
-/// the desktop has a tray.
+/// the desktop has a tray: one on the bus (StatusNotifier) or else, on X11, one of the old kind (XEmbed).
 class Tray : public QObject {
     Q_OBJECT
 
@@ -23,14 +23,20 @@ signals:
     void openRequested();
     void quitRequested();
 
+private slots:
+    /// Shows the icon in the tray on the bus or, if there is none, in one of the old kind.
+    void findTray();
+
 private:
     void buildMenu();
     QAction* addLine();
     template <class Action>
     QAction* addCommand(const QString& text, Action action);
     void watchForTray();
-    void showIcon();
+    void createIcon();
+    void setXEmbedIconShown(bool shown);
     void refresh();
+    void showStatus();
     void answer(Command command);
     bool isArmed() const;
 
@@ -45,10 +51,10 @@ private:
     QAction* afterHome_;
     QAction* arming_;
     QDBusServiceWatcher trayWatcher_;
-    UiTimer legacyTrayTimer_{std::chrono::minutes(1),
-                             UiTimer::Mode::singleShot}; ///< until the icon tries a legacy X11 tray
-    std::unique_ptr<QSystemTrayIcon> icon_;
-    QString shownIcon_;
+    std::unique_ptr<QSystemTrayIcon> icon_;  ///< in the tray on the bus; null until there was one
+    std::unique_ptr<XEmbedIcon> xembedIcon_; ///< on X11, while there is no tray on the bus
+    QString iconFile_;
+    QString toolTip_;
     std::optional<AlertId> openedFor_; ///< the alert that waited when the menu was opened
 };
 
