@@ -213,15 +213,15 @@ void AppStore::clearDemoHistory() {
     emit historyChanged();
 }
 
-std::optional<HistoryEntry> AppStore::removeRecord(RecordKey key) {
+std::optional<RemovedEntry> AppStore::removeRecord(RecordKey key) {
     auto removed = history_.remove(key);
     if (removed)
         emit historyChanged();
     return removed;
 }
 
-void AppStore::restoreRecord(HistoryEntry entry) {
-    history_.restore(std::move(entry));
+void AppStore::restoreRecord(RemovedEntry removed) {
+    history_.restore(std::move(removed));
     emit historyChanged();
 }
 

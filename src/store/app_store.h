@@ -106,9 +106,9 @@ public:
     /// Removes the rehearsed missions.
     void clearDemoHistory();
     /// Removes one record and returns it; nullopt if there is none with this key.
-    std::optional<HistoryEntry> removeRecord(RecordKey key);
-    /// Inserts a removed record again, before the older ones.
-    void restoreRecord(HistoryEntry entry);
+    std::optional<RemovedEntry> removeRecord(RecordKey key);
+    /// Inserts a removed record again where it was.
+    void restoreRecord(RemovedEntry removed);
 
     /// Each export writes a complete file, or changes nothing on failure. It returns an empty text, or names
     /// the file and the reason of the failure in words for the owner.

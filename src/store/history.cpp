@@ -1,6 +1,7 @@
 #include "store/history.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace velmora {
 
@@ -33,20 +34,20 @@ void History::clearDemo() {
     save();
 }
 
-std::optional<HistoryEntry> History::remove(RecordKey key) {
+std::optional<RemovedEntry> History::remove(RecordKey key) {
     const auto found = std::ranges::find(entries_, key, &HistoryEntry::key);
     if (found == entries_.end())
         return std::nullopt;
-    HistoryEntry removed = std::move(*found);
-    entries_.erase(found);
+    RemovedEntry removed{std::move(*found), {}};
+    const auto next = entries_.erase(found);
+    std::ranges::transform(next, entries_.end(), std::back_inserter(removed.below), &HistoryEntry::key);
     save();
     return removed;
 }
 
-void History::restore(HistoryEntry entry) {
-    const auto older = std::ranges::find_if(
-        entries_, [&](const HistoryEntry& other) { return other.record->start < entry.record->start; });
-    entries_.insert(older, std::move(entry));
+void History::restore(RemovedEntry removed) {
+    const auto below = std::ranges::find_first_of(entries_, removed.below, {}, &HistoryEntry::key);
+    entries_.insert(below, std::move(removed.entry));
     save();
 }
 

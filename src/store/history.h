@@ -15,6 +15,12 @@ struct HistoryEntry {
     std::shared_ptr<const MissionRecord> record; ///< never null
 };
 
+/// A removed record and its place in the history.
+struct RemovedEntry {
+    HistoryEntry entry;
+    std::vector<RecordKey> below; ///< the records that followed it, in order
+};
+
 /// The finished missions, newest first, in memory and in history.json. Every change is saved.
 class History {
 public:
@@ -30,9 +36,9 @@ public:
     /// Removes the rehearsed missions.
     void clearDemo();
     /// Removes one record and returns it; nullopt if there is none with this key.
-    std::optional<HistoryEntry> remove(RecordKey key);
-    /// Inserts a removed record again, with its key, before the older ones.
-    void restore(HistoryEntry entry);
+    std::optional<RemovedEntry> remove(RecordKey key);
+    /// Inserts a removed record again, with its key, above the records that followed it.
+    void restore(RemovedEntry removed);
 
 private:
     void save();

@@ -47,6 +47,19 @@ TEST_F(RecordsTest, EveryChangeIsSaved) {
     EXPECT_THAT(idsOnFile(), ElementsAre("a"));
 }
 
+TEST_F(RecordsTest, ARestoredRecordIsWhereItWas) {
+    history.add({visit("d", 10), visit("c", 10), visit("b", 20), visit("a", 10)}); // not in order of time
+    for (std::size_t index = 0; index < 4; ++index) {
+        history.restore(history.remove(keyOf(index)).value());
+        EXPECT_THAT(idsOnFile(), ElementsAre("d", "c", "b", "a")) << index;
+    }
+    auto removed = history.remove(keyOf(1)).value();
+    history.add({visit("new", 30, true)});
+    history.remove(keyOf(2));
+    history.restore(std::move(removed));
+    EXPECT_THAT(idsOf(history), ElementsAre("new", "d", "c", "a"));
+}
+
 TEST_F(RecordsTest, AKeyIdentifiesItsRecordAfterEveryChange) {
     history.add({visit("same", 20), visit("same", 10)});
     const RecordKey older = keyOf(1);
@@ -57,7 +70,7 @@ TEST_F(RecordsTest, AKeyIdentifiesItsRecordAfterEveryChange) {
     history.add({visit("new", 30)});
     EXPECT_NE(keyOf(0), older);
     history.restore(std::move(*removed));
-    EXPECT_EQ(keyOf(2), older) << "after the newer ones";
+    EXPECT_EQ(keyOf(2), older);
     EXPECT_EQ(history.find(older)->record->start, dateFromSeconds(10));
 }
 

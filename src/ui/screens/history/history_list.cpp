@@ -249,8 +249,8 @@ void HistoryList::focusRecords() {
     records_->setFocus(Qt::OtherFocusReason);
 }
 
-void HistoryList::offerUndo(HistoryEntry entry) {
-    deleted_ = std::move(entry);
+void HistoryList::offerUndo(RemovedEntry removed) {
+    deleted_ = std::move(removed);
     undoTime_.start();
     refresh();
 }
@@ -258,10 +258,10 @@ void HistoryList::offerUndo(HistoryEntry entry) {
 void HistoryList::undo() {
     if (!deleted_)
         return;
-    HistoryEntry entry = std::move(*std::exchange(deleted_, std::nullopt));
-    const RecordKey key = entry.key;
+    RemovedEntry removed = std::move(*std::exchange(deleted_, std::nullopt));
+    const RecordKey key = removed.entry.key;
     undoTime_.stop();
-    store_.restoreRecord(std::move(entry));
+    store_.restoreRecord(std::move(removed));
     emit selected(key);
 }
 

@@ -34,7 +34,7 @@ public:
     /// Moves the keyboard focus to the records.
     void focusRecords();
     /// Offers for ten seconds to restore the deleted record.
-    void offerUndo(HistoryEntry entry);
+    void offerUndo(RemovedEntry removed);
 
 signals:
     void selected(velmora::RecordKey key);
@@ -77,7 +77,7 @@ private:
     SBButton* clearDemo_;
     QWidget* undoLine_;
     UiTimer undoTime_{std::chrono::seconds(10), UiTimer::Mode::singleShot};
-    std::optional<HistoryEntry> deleted_;
+    std::optional<RemovedEntry> deleted_;
     QStringList cameras_; ///< names in the camera filter
 };
 
