@@ -3,9 +3,13 @@
 #include "ui/linked_ui_fixture.h"
 
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QListView>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
+#include <QToolTip>
 
 namespace velmora {
 
@@ -45,6 +49,18 @@ protected:
         return made;
     }
 
+    /// So many visits that the list scrolls, a minute apart.
+    std::vector<MissionRecord> many() {
+        std::vector<MissionRecord> made;
+        while (made.size() < 200)
+            made.push_back(visitAt("Driveway", "M-1", Outcome::expired, false));
+        return made;
+    }
+    void resize(QSize size) {
+        window().resize(size);
+        settle();
+    }
+
     QListView& list() { return *window().findChild<QListView*>(); }
     QModelIndex rowOf(const QString& text) {
         for (int row = 0; row < list().model()->rowCount(); ++row)
@@ -56,6 +72,13 @@ protected:
     bool lists(const QString& count, const QStringList& rows) {
         return shows(count) &&
                std::ranges::all_of(rows, [&](const QString& row) { return rowOf(row).isValid(); });
+    }
+    /// The tooltip of a row that is in view.
+    QString toolTip(const QModelIndex& row) {
+        const QPoint at = list().visualRect(row).center();
+        QHelpEvent event(QEvent::ToolTip, at, list().viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list().viewport(), &event);
+        return QToolTip::text();
     }
     /// Ids of the store's records; expects the same records in the file.
     std::vector<std::string> onFile() {
@@ -102,6 +125,20 @@ protected:
         delete dialog;
         QFile file(name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// The scroll area of the record's details.
+    QScrollArea& detail() {
+        for (auto* area : window().findChildren<QScrollArea*>())
+            if (area->isAncestorOf(&slider()))
+                return *area;
+        qFatal("No details are shown.");
+    }
+    /// The row of the log with this text.
+    QWidget& notice(const QString& text) {
+        for (auto* row : window().findChildren<QWidget*>())
+            if (row->isVisible() && row->accessibleName().endsWith(' ' + text))
+                return *row;
+        qFatal("No such notice is shown.");
     }
     QAbstractSlider& slider() { return *find<QAbstractSlider>("Replay time"); }
 

@@ -1,5 +1,7 @@
 #include "ui/history_fixture.h"
 
+#include "ui/look/measures.h"
+
 namespace velmora {
 
 namespace {
@@ -33,6 +35,67 @@ TEST_F(HistoryTest, FiltersNarrowTheListAndShowTheCount) {
     click("Show all");
     EXPECT_TRUE(lists("3 visits", {"Came home"}) && shows("With demo") && shows("All cameras"));
     EXPECT_FALSE(shows("No visits match."));
+}
+
+TEST_F(HistoryTest, AFilterEndsWithTheLastVisitThatItOffers) {
+    look(four());
+    click("All cameras");
+    pick("Driveway");
+    click("With demo");
+    pick("Only demo");
+    choose("Visitor left");
+    press(Qt::Key_Delete);
+    EXPECT_TRUE(lists("1 of 3", {"You ignored"}) && shows("All cameras"));
+    store().clearDemoHistory();
+    settle();
+    EXPECT_TRUE(lists("2 visits", {"Came home", "Alert expired"}));
+    EXPECT_FALSE(shows("Only demo"));
+}
+
+TEST_F(HistoryTest, TheNarrowListCutsNoOutcomeAndExplainsCutFacts) {
+    std::vector<MissionRecord> each;
+    for (const auto& [outcome, text] : rawValuesOf<Outcome>)
+        each.push_back(visitAt("Front", "M-1", outcome, true));
+    each.back().cameraName = "A camera with a name that is too long for the narrow list";
+    look(each);
+    resize(Measure::windowMinimum);
+    QString tip;
+    for (const auto& [outcome, text] : rawValuesOf<Outcome>) {
+        const QModelIndex row = rowOf(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        list().scrollTo(row);
+        tip = toolTip(row);
+        EXPECT_FALSE(tip.contains(row.data().toString().section(',', 0, 0))) << tip.toStdString();
+    }
+    EXPECT_TRUE(tip.startsWith("A camera with a name that is too long for the narrow list · "));
+}
+
+TEST_F(HistoryTest, TheListKeepsItsPlace) {
+    look(many());
+    QScrollBar& bar = *list().verticalScrollBar();
+    visit(Scenario::driveway);
+    respond(Command::ignore);
+    tickAfter(0.05);
+    EXPECT_EQ(bar.value(), 0) << "the new visit is in view";
+    bar.setValue(3000);
+    const QModelIndex row = list().indexAt({20, 100});
+    const QString shown = row.data().toString();
+    const int top = list().visualRect(row).top();
+    for (const Section section : {Section::history, Section::overview}) {
+        store().setSection(section);
+        visit(Scenario::driveway);
+        respond(Command::ignore);
+        tickAfter(0.05);
+        store().setSection(Section::history);
+        settle();
+        EXPECT_EQ(list().visualRect(rowOf(shown)).top(), top);
+    }
+    click("Flown");
+    click("All");
+    EXPECT_TRUE(list().viewport()->rect().contains(list().visualRect(list().currentIndex())));
+    bar.setValue(3000);
+    store().openRecord(store().history()[150].key);
+    settle();
+    EXPECT_TRUE(list().viewport()->rect().contains(list().visualRect(list().currentIndex())));
 }
 
 TEST_F(HistoryTest, TheSearchCoversCamerasLabelsOutcomesNoticesAndIds) {
@@ -121,6 +184,22 @@ TEST_F(HistoryTest, UndoPutsADeletedVisitBackWhereItWas) {
     click("Undo");
     EXPECT_EQ(onFile(), std::vector<std::string>{"M-1"}) << "only the last deletion is undone";
     EXPECT_TRUE(shows("Visitor left your grounds"));
+}
+
+TEST_F(HistoryTest, UndoLeavesTheKeyboardFocusToTheRecords) {
+    look(four());
+    const auto focusUndo = [&] {
+        press(Qt::Key_Delete);
+        find("Undo")->setFocus(Qt::TabFocusReason);
+    };
+    focusUndo();
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &list());
+    focusUndo();
+    clock.advance(std::chrono::seconds(11));
+    settle();
+    EXPECT_FALSE(shows("Undo"));
+    EXPECT_EQ(QApplication::focusWidget(), &list());
 }
 
 TEST_F(HistoryTest, DayCaptionsChangeAtMidnight) {

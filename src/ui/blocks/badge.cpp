@@ -10,20 +10,15 @@
 
 namespace velmora {
 
-namespace {
-
 double badgeWidth(const QString& text) {
     return textWidth(text, Type::badge) + 2 * Measure::badgePadding;
 }
 
-} // namespace
-
-double paintBadge(QPainter& painter, double right, double y, const QString& text) {
+void paintBadge(QPainter& painter, double right, double y, const QString& text) {
     const double width = badgeWidth(text);
     const QRectF badge(right - width, y - Measure::badgeHeight / 2.0, width, Measure::badgeHeight);
     fillRounded(painter, badge, Measure::badgeRadius, Qt::NoBrush, SB::rule);
     drawText(painter, badge, text, Type::badge, SB::muted, Qt::AlignCenter);
-    return width;
 }
 
 Badge::Badge(const QString& text, QWidget* parent) : QWidget(parent), text_(text) {

@@ -7,8 +7,10 @@ class QPainter;
 
 namespace velmora {
 
-/// Draws a badge with its right edge at `right`, vertically centred on `y`. Returns its width in pixels.
-double paintBadge(QPainter& painter, double right, double y, const QString& text);
+/// Width of a badge with this text in pixels.
+double badgeWidth(const QString& text);
+/// Draws a badge with its right edge at `right`, vertically centred on `y`.
+void paintBadge(QPainter& painter, double right, double y, const QString& text);
 
 /// A short text in a frame.
 class Badge : public QWidget {

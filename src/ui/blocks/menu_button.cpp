@@ -29,6 +29,7 @@ void MenuButton::setOptions(const QStringList& options, int chosen) {
         return;
     setText(text);
     setAccessibleName(text);
+    updateToolTip();
     updateGeometry();
     update();
 }
@@ -60,11 +61,23 @@ void MenuButton::keyPressEvent(QKeyEvent* event) {
         QAbstractButton::keyPressEvent(event);
 }
 
+QRectF MenuButton::textArea() const {
+    return QRectF(rect()).adjusted(0, 0, -Measure::gap4 - Measure::chevron, 0);
+}
+
+void MenuButton::updateToolTip() {
+    const bool fits = elided(text(), Type::compactRow, textArea().width()) == text();
+    setToolTip(fits ? QString() : plainToolTip(text()));
+}
+
+void MenuButton::resizeEvent(QResizeEvent*) {
+    updateToolTip();
+}
+
 void MenuButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor color = underMouse() ? SB::blue : SB::ink;
-    const QRectF words = QRectF(rect()).adjusted(0, 0, -Measure::gap4 - Measure::chevron, 0);
-    drawText(painter, words, text(), Type::compactRow, color, Qt::AlignVCenter);
+    drawText(painter, textArea(), text(), Type::compactRow, color, Qt::AlignVCenter);
     paintIcon(painter, {width() - Measure::chevron / 2.0, height() / 2.0}, Measure::chevron, Icon::chevron,
               color);
 }

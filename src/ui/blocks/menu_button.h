@@ -4,7 +4,8 @@
 
 namespace velmora {
 
-/// A drop-down choice: the chosen text and a chevron. Space, Enter and the down arrow open the menu.
+/// A drop-down choice: the chosen text, in a tooltip if it does not fit, and a chevron. Space, Enter and the
+/// down arrow open the menu.
 class MenuButton : public QAbstractButton {
     Q_OBJECT
 
@@ -23,9 +24,12 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void open();
+    QRectF textArea() const;
+    void updateToolTip();
 
     QStringList options_;
 };

@@ -163,12 +163,16 @@ inline constexpr int historyLeft = 40, historyLeftNarrow = 28, historyRight = 24
 inline constexpr int recordRow = 60, dayRow = 30, recordInset = 12, recordTitleTop = 10;
 inline constexpr int selectionBar = 3;
 inline constexpr QSize thumbnail(36, 24);
+inline constexpr int thumbnailTop = 28; // in the row, beside the second line
 inline constexpr int chevron = 14;
 inline constexpr int menuButtonMinimum = 60;
 inline constexpr double menuText = 320; // longer options are elided
 inline constexpr int detailLeft = 32, detailRight = 40;
-inline constexpr int detailLog = 138; // height that the replay map leaves for the log
-inline constexpr QSize alertPicture(192, 108);
+inline constexpr int detailLog = 120;         // height that the replay map leaves for the log
+inline constexpr int detailTwoColumns = 1100; // from this width on
+inline constexpr int detailSecondColumn = 400;
+inline constexpr QSize alertPicture(192, 108), alertPictureWide(384, 216);
+inline constexpr int responseBar = 6, responseGap = 2, responseRow = 25, responseTextX = 16;
 inline constexpr int emptyIcon = 40, emptyWidth = 340;
 inline constexpr int replaySlider = 28;
 inline constexpr double replayTrack = 4, replayThumb = 14, replayMark = 6;

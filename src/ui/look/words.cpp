@@ -159,6 +159,10 @@ QString dayAndTime(Date date, Date now) {
                                               : Words::tr("d MMM yyyy", "form of a date"));
 }
 
+QString dayNameAndTime(Date date, Date now) {
+    return tr("%1 %2").arg(dayName(date, now), localTime(date).toString(QStringLiteral("HH:mm")));
+}
+
 QString duration(Seconds length) {
     const std::int64_t seconds = std::max<std::int64_t>(truncated(std::round(length.count())), 0);
     const std::int64_t minutes = seconds / 60, hours = minutes / 60;

@@ -47,6 +47,8 @@ QString timeOfDay(Date date);
 QString dayName(Date date, Date now);
 /// Short: "14:31" today, "Yesterday 22:47", "Wed 06:12" within a week, else "19 Nov 2025".
 QString dayAndTime(Date date, Date now);
+/// Long: "Today 14:31" or "Wednesday 19 November 22:47".
+QString dayNameAndTime(Date date, Date now);
 /// "2 min 20 s", "14 s" or "1 h 5 min".
 QString duration(Seconds length);
 /// An age that keeps growing: "12 s", "3 min" or "2 h".

@@ -17,6 +17,7 @@
 #include "ui/look/words.h"
 #include "ui/screens/history/record_delegate.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QListView>
 #include <QScrollBar>
@@ -52,9 +53,11 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addWidget(records, 1);
     column->addStretch();
     column->addWidget(footer_);
+    connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &HistoryList::keepPlace);
     connect(model_, &QAbstractItemModel::modelReset, this, [this] {
         showCount();
         showSelection();
+        restorePlace();
     });
     connect(&undoTime_, &UiTimer::timeout, this, [this] {
         deleted_.reset();
@@ -79,7 +82,7 @@ QWidget* HistoryList::buildFilters() {
     menus->addWidget(camera_);
     menus->addWidget(demo_);
     menus->addStretch(1);
-    menus->addWidget(count_);
+    menus->addWidget(count_, 0, Qt::AlignVCenter);
     auto* column = bareLayout<QVBoxLayout>(block, Measure::gap12);
     column->addWidget(search_);
     column->addWidget(flight_);
@@ -90,14 +93,12 @@ QWidget* HistoryList::buildFilters() {
     connect(camera_, &MenuButton::chose, this, [this](int option) {
         HistoryFilter filter = model_->filter();
         filter.camera = option == 0 ? QString() : cameras_.value(option - 1);
-        model_->setFilter(filter);
-        showFilters();
+        setFilter(filter);
     });
     connect(demo_, &MenuButton::chose, this, [this](int option) {
         HistoryFilter filter = model_->filter();
         filter.demo = static_cast<HistoryFilter::Demo>(option);
-        model_->setFilter(filter);
-        showFilters();
+        setFilter(filter);
     });
     return block;
 }
@@ -109,6 +110,7 @@ QWidget* HistoryList::buildRecords() {
     records_->setFrameShape(QFrame::NoFrame);
     records_->setAccessibleName(tr("Visits"));
     records_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    records_->setAutoScroll(false); // showSelection() scrolls
     records_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     records_->installEventFilter(this);
@@ -155,7 +157,7 @@ QWidget* HistoryList::buildFooter() {
     auto* undo = new LinkButton(tr("Undo"), undoLine_);
     auto* line = new QHBoxLayout(undoLine_);
     line->setContentsMargins(Measure::recordInset, 0, 0, 0);
-    line->addWidget(new Text(tr("Visit deleted."), Type::body, SB::body, undoLine_));
+    line->addWidget(new Text(tr("Visit deleted."), Type::body, SB::body, undoLine_), 0, Qt::AlignVCenter);
     line->addWidget(undo);
     line->addStretch(1);
     auto* row = new QHBoxLayout;
@@ -178,21 +180,38 @@ void HistoryList::applyFilter() {
     HistoryFilter filter = model_->filter();
     filter.text = search_->text();
     filter.flight = static_cast<HistoryFilter::Flight>(flight_->currentIndex());
-    model_->setFilter(filter);
+    setFilter(filter);
 }
 
 void HistoryList::clearFilters() {
     search_->clear();
     flight_->setCurrentIndex(0);
-    model_->setFilter({});
-    showFilters();
+    setFilter({});
     records_->setFocus(Qt::OtherFocusReason);
+}
+
+/// Other records are in view then, so the list scrolls to the selected one, or to its top.
+void HistoryList::setFilter(const HistoryFilter& filter) {
+    model_->setFilter(filter);
+    showFilters();
+    records_->scrollToTop();
+    reveal(records_->currentIndex());
+}
+
+/// A filter that the menus do not offer any more would hide records without a visible reason.
+void HistoryList::dropFiltersWithoutRecords(bool demo) {
+    HistoryFilter filter = model_->filter();
+    if (!cameras_.contains(filter.camera))
+        filter.camera.clear();
+    if (!demo)
+        filter.demo = HistoryFilter::Demo::with;
+    model_->setFilter(filter);
 }
 
 void HistoryList::showFilters() {
     const HistoryFilter& filter = model_->filter();
     camera_->setOptions(QStringList{tr("All cameras")} + cameras_,
-                        filter.camera.isEmpty() ? 0 : static_cast<int>(cameras_.indexOf(filter.camera)) + 1);
+                        static_cast<int>(cameras_.indexOf(filter.camera)) + 1);
     demo_->setOptions({tr("With demo"), tr("No demo"), tr("Only demo")}, static_cast<int>(filter.demo));
 }
 
@@ -215,11 +234,21 @@ void HistoryList::refresh() {
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
+    const bool demo =
+        std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
+    dropFiltersWithoutRecords(demo);
+    demo_->setVisible(demo);
     model_->updateDayNames();
     showFilters();
     showCount();
-    const bool demo =
-        std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
+    showFooter(demo);
+}
+
+/// Hiding the focused "Undo" would move the focus to another control, which the next key press would
+/// trigger.
+void HistoryList::showFooter(bool demo) {
+    if (!deleted_ && undoLine_->isAncestorOf(QApplication::focusWidget()))
+        (records_->isVisible() ? records_ : window())->setFocus(Qt::OtherFocusReason);
     clearDemo_->setVisible(demo && !deleted_);
     undoLine_->setVisible(deleted_.has_value());
     footer_->setVisible(demo || deleted_);
@@ -229,16 +258,36 @@ void HistoryList::showSelection() {
     const auto& key = store_.selectedRecord();
     const QModelIndex index = key ? model_->indexOf(*key) : QModelIndex();
     records_->setCurrentIndex(index);
-    if (index.isValid())
-        scrollTo(index);
+    if (isVisible() && std::exchange(highlighted_, key) != key)
+        reveal(index);
 }
 
 /// Also reveals the day's caption when scrolling to the first record of a day.
-void HistoryList::scrollTo(const QModelIndex& index) {
+void HistoryList::reveal(const QModelIndex& index) {
     const QModelIndex above = index.siblingAtRow(index.row() - 1);
     if (above.isValid() && !model_->keyAt(above))
         records_->scrollTo(above);
     records_->scrollTo(index);
+}
+
+void HistoryList::keepPlace() {
+    place_.reset();
+    if (records_->verticalScrollBar()->value() == 0)
+        return;
+    QModelIndex first = records_->indexAt({0, 0});
+    if (first.isValid() && !model_->keyAt(first))
+        first = first.siblingAtRow(first.row() + 1);
+    if (const auto key = model_->keyAt(first))
+        place_ = {*key, records_->visualRect(first).top()};
+}
+
+void HistoryList::restorePlace() {
+    const QModelIndex index = place_ ? model_->indexOf(place_->record) : QModelIndex();
+    if (!index.isValid())
+        return;
+    records_->doItemsLayout();
+    QScrollBar& bar = *records_->verticalScrollBar();
+    bar.setValue(bar.value() + records_->visualRect(index).top() - place_->top);
 }
 
 void HistoryList::focusSearch() {
@@ -265,10 +314,14 @@ void HistoryList::undo() {
     emit selected(key);
 }
 
-bool HistoryList::handleListKey(int key) {
+bool HistoryList::handleListKey(const QKeyEvent& event) {
     const QModelIndex current = records_->currentIndex();
     const int last = model_->rowCount() - 1;
-    switch (key) {
+    switch (event.key()) {
+    case Qt::Key_Space:
+        if (!event.isAutoRepeat())
+            emit playRequested();
+        return true;
     case Qt::Key_Delete:
         if (const auto record = model_->keyAt(current))
             emit deleteRequested(*record);
@@ -283,6 +336,7 @@ bool HistoryList::handleListKey(int key) {
         return true;
     case Qt::Key_End:
         records_->setCurrentIndex(model_->index(last));
+        records_->scrollToBottom();
         return true;
     case Qt::Key_Escape:
         search_->clear();
@@ -294,8 +348,9 @@ bool HistoryList::handleListKey(int key) {
 
 bool HistoryList::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (watched == records_ && handleListKey(key))
+        const auto& press = static_cast<const QKeyEvent&>(*event);
+        const int key = press.key();
+        if (watched == records_ && handleListKey(press))
             return true;
         const bool leavesSearch = key == Qt::Key_Escape || key == Qt::Key_Down || key == Qt::Key_Return;
         if (watched == search_ && leavesSearch) {

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class QKeyEvent;
 class QListView;
 
 namespace velmora {
@@ -27,7 +28,7 @@ public:
     /// The records shown, in order.
     const std::vector<RecordKey>& shown() const { return model_->shown(); }
     void refresh();
-    /// Highlights the selected record of the store.
+    /// Highlights the selected record of the store, and scrolls to it when another one was selected.
     void showSelection();
     /// Moves the keyboard focus to the search field.
     void focusSearch();
@@ -41,6 +42,8 @@ signals:
     void deleteRequested(velmora::RecordKey key);
     /// The owner pressed Enter on a record.
     void opened();
+    /// The owner pressed Space on a record.
+    void playRequested();
     void clearDemoRequested();
 
 protected:
@@ -56,11 +59,16 @@ private:
     QWidget* buildFooter();
     void applyFilter();
     void clearFilters();
+    void setFilter(const HistoryFilter& filter);
+    void dropFiltersWithoutRecords(bool demo);
     void showFilters();
     void showCount();
-    void scrollTo(const QModelIndex& index);
+    void showFooter(bool demo);
+    void keepPlace();
+    void restorePlace();
+    void reveal(const QModelIndex& index);
     void undo();
-    bool handleListKey(int key);
+    bool handleListKey(const QKeyEvent& event);
 
     AppStore& store_;
     HistoryModel* model_;
@@ -79,6 +87,13 @@ private:
     UiTimer undoTime_{std::chrono::seconds(10), UiTimer::Mode::singleShot};
     std::optional<RemovedEntry> deleted_;
     QStringList cameras_; ///< names in the camera filter
+    std::optional<RecordKey> highlighted_;
+    /// The first record in view and its distance from the view's top, in pixels.
+    struct Place {
+        RecordKey record;
+        int top;
+    };
+    std::optional<Place> place_; ///< nullopt while the list is at its top
 };
 
 } // namespace velmora

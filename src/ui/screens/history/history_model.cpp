@@ -29,19 +29,18 @@ void HistoryModel::rebuild() {
     beginResetModel();
     rows_.clear();
     shown_.clear();
-    const auto& history = store_.history();
     const Date now = store_.now();
     namedAt_ = now;
     QString day;
-    for (std::size_t i = 0; i < history.size(); ++i) {
-        if (!filter_.matches(*history[i].record))
+    for (const HistoryEntry& entry : store_.history()) {
+        if (!filter_.matches(*entry.record))
             continue;
-        if (const QString name = dayName(history[i].record->start, now); name != day) {
+        if (const QString name = dayName(entry.record->start, now); name != day) {
             day = name;
-            rows_.push_back({day, i});
+            rows_.push_back({day, {}});
         }
-        rows_.push_back({{}, i});
-        shown_.push_back(history[i].key);
+        rows_.push_back({{}, entry.key});
+        shown_.push_back(entry.key);
     }
     endResetModel();
 }
@@ -50,28 +49,22 @@ int HistoryModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-const HistoryEntry* HistoryModel::entryAt(const QModelIndex& index) const {
-    if (!index.isValid())
-        return nullptr;
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
-    const bool isRecord = row.caption.isEmpty() && row.entry < store_.history().size();
-    return isRecord ? &store_.history()[row.entry] : nullptr;
-}
-
 std::optional<RecordKey> HistoryModel::keyAt(const QModelIndex& index) const {
-    const HistoryEntry* entry = entryAt(index);
-    return entry ? std::optional(entry->key) : std::nullopt;
+    if (!index.isValid())
+        return std::nullopt;
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    return row.caption.isEmpty() ? std::optional(row.key) : std::nullopt;
 }
 
 QModelIndex HistoryModel::indexOf(RecordKey key) const {
-    const auto row = std::ranges::find_if(rows_, [&](const Row& candidate) {
-        return candidate.caption.isEmpty() && store_.history()[candidate.entry].key == key;
-    });
+    const auto row = std::ranges::find_if(
+        rows_, [&](const Row& candidate) { return candidate.caption.isEmpty() && candidate.key == key; });
     return row == rows_.end() ? QModelIndex() : index(static_cast<int>(row - rows_.begin()));
 }
 
 const MissionRecord* HistoryModel::recordAt(const QModelIndex& index) const {
-    const HistoryEntry* entry = entryAt(index);
+    const auto key = keyAt(index);
+    const HistoryEntry* entry = key ? store_.findRecord(*key) : nullptr;
     return entry ? entry->record.get() : nullptr;
 }
 
@@ -88,7 +81,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
         return row.caption;
     const QString text =
         QStringList{outcomeText(record->outcome), toQString(record->cameraName),
-                    dayAndTime(record->start, store_.now()), duration(Seconds{durationOf(*record)})}
+                    dayNameAndTime(record->start, store_.now()), duration(Seconds{durationOf(*record)})}
             .join(QStringLiteral(", "));
     return record->demo ? text + tr(", demo") : text;
 }

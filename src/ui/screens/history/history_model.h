@@ -42,11 +42,10 @@ public:
 private:
     struct Row {
         QString caption;
-        std::size_t entry = 0; ///< index in the store's history; rows are rebuilt whenever it changes
+        RecordKey key{}; ///< of a record
     };
 
     void rebuild();
-    const HistoryEntry* entryAt(const QModelIndex& index) const;
 
     AppStore& store_;
     HistoryFilter filter_;

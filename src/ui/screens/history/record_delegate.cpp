@@ -11,9 +11,10 @@
 #include "ui/screens/history/path_thumbnail.h"
 #include "ui/screens/outcomes.h"
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
-
-#include <algorithm>
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace velmora {
 
@@ -36,36 +37,70 @@ void paintSelection(QPainter& painter, const QRectF& row) {
     fillRounded(painter, bar, Measure::selectionBar / 2.0, gradient);
 }
 
-/// Paints the path thumbnail at the right, and above it the badge of a demo visit. Returns the width used, in
-/// pixels.
-double paintThumbnail(QPainter& painter, const QRectF& inner, const MissionRecord& record) {
-    QRectF thumbnail({}, QSizeF(Measure::thumbnail));
-    thumbnail.moveCenter(inner.center());
-    thumbnail.moveRight(inner.right());
-    double width = thumbnail.width();
-    if (record.demo) {
-        thumbnail.translate(0, (Measure::badgeHeight + Measure::gap4) / 2.0);
-        const double middle = thumbnail.top() - Measure::gap4 - Measure::badgeHeight / 2.0;
-        width = std::max(width, paintBadge(painter, inner.right(), middle,
-                                           QCoreApplication::translate("History", "Demo")));
+/// One line of text in a record's row.
+struct Line {
+    QString text;
+    TextStyle style;
+    QColor color;
+    QRectF rect;
+};
+
+/// The parts of a record's row and where they are.
+struct RecordRow {
+    RecordRow(const QRectF& row, const MissionRecord& record);
+
+    QPointF dot;
+    Line title, facts;
+    QRectF thumbnail; ///< null if the drone did not fly
+    QString badge;    ///< empty if there is none
+    double badgeRight = 0;
+};
+
+/// Thumbnail and badge stand beside the second line, so that the first has the whole width.
+RecordRow::RecordRow(const QRectF& row, const MissionRecord& record) {
+    const bool narrow = row.width() < Measure::historyPaneNarrow;
+    const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
+    const QRectF words = inner.adjusted(Measure::activityTitleX, 0, 0, 0);
+    title = {outcomeText(record.outcome), narrow ? Type::compactRow : Type::rowTitle, SB::ink,
+             QRectF(words.left(), row.top() + Measure::recordTitleTop, words.width(), Type::rowTitle.line)};
+    dot = {inner.left() + Measure::activityDotX, title.rect.center().y()};
+    double right = inner.right();
+    if (flew(record.outcome)) {
+        thumbnail = QRectF({}, QSizeF(Measure::thumbnail));
+        thumbnail.moveTopRight({right, row.top() + Measure::thumbnailTop});
+        right = thumbnail.left() - Measure::gap8;
     }
-    paintPathThumbnail(painter, thumbnail, record);
-    return width;
+    badgeRight = right;
+    if (record.demo) {
+        badge = QCoreApplication::translate("History", "Demo");
+        right -= badgeWidth(badge) + Measure::gap8;
+    }
+    facts = {factsOf(record), Type::label2, SB::muted,
+             QRectF(words.left(), title.rect.bottom(), right - words.left(), Type::label2.line)};
 }
 
-void paintRecord(QPainter& painter, const QRectF& row, const MissionRecord& record, bool selected) {
+void paintRecord(QPainter& painter, const QRectF& area, const MissionRecord& record, bool selected) {
     if (selected)
-        paintSelection(painter, row);
-    const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);
-    const double thumbnailWidth = paintThumbnail(painter, inner, record);
-    const QRectF textArea = inner.adjusted(Measure::activityTitleX, 0, -thumbnailWidth - Measure::gap8, 0);
-    QRectF title(textArea.left(), row.top() + Measure::recordTitleTop, textArea.width(), Type::rowTitle.line);
-    paintStatusDot(painter, {inner.left() + Measure::activityDotX, title.center().y()},
+        paintSelection(painter, area);
+    const RecordRow row(area, record);
+    paintStatusDot(painter, row.dot,
                    {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
-    drawText(painter, title, outcomeText(record.outcome), Type::rowTitle, SB::ink, Qt::AlignVCenter);
+    for (const Line& line : {row.title, row.facts})
+        drawText(painter, line.rect, line.text, line.style, line.color, Qt::AlignVCenter);
+    if (!row.thumbnail.isNull())
+        paintPathThumbnail(painter, row.thumbnail, record);
+    if (!row.badge.isEmpty())
+        paintBadge(painter, row.badgeRight,
+                   area.top() + Measure::thumbnailTop + Measure::thumbnail.height() / 2.0, row.badge);
+}
 
-    const QRectF facts(textArea.left(), title.bottom(), textArea.width(), Type::label2.line);
-    drawText(painter, facts, factsOf(record), Type::label2, SB::muted, Qt::AlignVCenter);
+/// The lines of the row that do not fit, in full.
+QString cutText(const RecordRow& row) {
+    QStringList cut;
+    for (const Line& line : {row.title, row.facts})
+        if (elided(line.text, line.style, line.rect.width()) != line.text)
+            cut.append(line.text);
+    return cut.join('\n');
 }
 
 } // namespace
@@ -75,6 +110,16 @@ RecordDelegate::RecordDelegate(const HistoryModel& model, QObject* parent)
 
 QSize RecordDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
     return {0, model_.recordAt(index) ? Measure::recordRow : Measure::dayRow};
+}
+
+bool RecordDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip)
+        return false;
+    const MissionRecord* record = model_.recordAt(index);
+    const QString cut = record ? cutText(RecordRow(option.rect, *record)) : QString();
+    QToolTip::showText(event->globalPos(), plainToolTip(cut), view->viewport(), option.rect);
+    return true;
 }
 
 void RecordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

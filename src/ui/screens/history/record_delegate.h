@@ -6,7 +6,8 @@ namespace velmora {
 
 class HistoryModel;
 
-/// Paints the rows of the history list: day captions, and records with outcome, facts and a path thumbnail.
+/// Paints the rows of the history list: day captions, and records with outcome, facts and, if the drone flew,
+/// a path thumbnail. Texts that do not fit have a tooltip.
 class RecordDelegate : public QAbstractItemDelegate {
     Q_OBJECT
 
@@ -16,6 +17,8 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
 
 private:
     const HistoryModel& model_;
