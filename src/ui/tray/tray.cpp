@@ -163,7 +163,7 @@ void Tray::setXEmbedIconShown(bool shown) {
 void Tray::refresh() {
     const Phase phase = store_.phase();
     const QString status =
-        tr("Velmora — ") + (store_.knownState() ? phaseWord(phase) : tr("Waiting for velmora"));
+        tr("Velmora — %1").arg(store_.knownState() ? phaseWord(phase) : tr("Waiting for velmora"));
     setText(phase_, status);
     setText(armed_, isArmed() ? tr("Armed") : tr("Disarmed"));
     armed_->setVisible(store_.knownState());
@@ -178,7 +178,7 @@ void Tray::refresh() {
     if (store_.settings().linkMode)
         tip.append(store_.linkStatus().text());
     if (store_.outage())
-        tip.append(toQString(outageTitle(*store_.outage()).toStdString()));
+        tip.append(outageTitle(*store_.outage()));
     const QString icon = iconFor(phase, store_.outage());
     if (tip.join('\n') == toolTip_ && icon == iconFile_)
         return;
