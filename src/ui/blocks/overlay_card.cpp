@@ -39,6 +39,8 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
       appearance_(*this, Motion::cardIn, QEasingCurve::OutCubic) {
     declareRole(this, QAccessible::Dialog);
     setFocusPolicy(Qt::StrongFocus);
+    // Qt would activate the window for a widget that gets the focus just after another window became active.
+    setAttribute(Qt::WA_DontCreateNativeAncestors);
     card_->setFixedWidth(cardWidth);
     QSizePolicy policy = card_->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // for the shadow and the picture during a transition
