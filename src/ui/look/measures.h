@@ -35,6 +35,7 @@ inline constexpr int menuPadding = 14;
 inline constexpr int menuSeparatorGap = 5;
 inline constexpr int menuEdge = 6; // above the first and below the last row
 inline constexpr int menuRowInset = 5;
+inline constexpr QMargins menuShadow(10, 4, 10, 16); // room around the menu
 
 // The sidebar
 inline constexpr int sidebar = 232;
@@ -63,6 +64,7 @@ constexpr int pageWidthIn(int window) {
 }
 inline constexpr int ledeWidth = 640;
 inline constexpr int gutter = 32;
+inline constexpr int railWide = 360; // least width in wide windows
 
 // Building blocks
 inline constexpr int buttonHeight = 36, buttonHeightLarge = 40;
@@ -137,7 +139,7 @@ inline constexpr int legendSample = 22, legendGap = 8;
 inline constexpr int statusStripTop = 16, statusStripCell = 76, cellPadding = 20;
 inline constexpr QSize dronePicture(88, 36), dronePictureNarrow(58, 36);
 inline constexpr int dronePictureTop = 16, dronePictureGap = 14;
-inline constexpr int activityRows = 5, activityRowsMinimum = 2;
+inline constexpr int activityRows = 5, activityRowsWide = 10, activityRowsMinimum = 2;
 inline constexpr int activityOverhang = 20; // below the map in low windows
 inline constexpr QSize nowPicture(96, 72);
 inline constexpr double nowCrop = 0.24; // of the camera picture's width
@@ -156,6 +158,7 @@ inline constexpr int cameraMinimum = 300, cameraRowGap = 32;
 inline constexpr double cameraRatio = 16.0 / 9;
 inline constexpr double cameraDot = 7;
 inline constexpr int toggleRow = 66;
+inline constexpr int cameraColumns = 3; // fewer cameras leave columns empty
 
 // History
 inline constexpr int historyPane = 376, historyPaneNarrow = 320;
@@ -179,6 +182,8 @@ inline constexpr double replayTrack = 4, replayThumb = 14, replayMark = 6;
 
 // Settings
 inline constexpr int settingsWidth = 860;
+inline constexpr QSize limitsSketch(150, 100);
+inline constexpr int limitsSketchGap = 38, limitsSketchWords = 8; // gaps left of the map and below it
 inline constexpr int radioIndent = 26;
 inline constexpr int hostField = 220, portField = 70, topicField = 240;
 inline constexpr int trackingWidth = 560;
@@ -189,7 +194,7 @@ inline constexpr int ruleTextX = 17, ruleLine = 28;
 // Welcome
 inline constexpr int welcomeColumn = 560, welcomeSteps = 520;
 inline constexpr int welcomeBottom = 32;
-inline constexpr int heroMinimum = 136, heroFade = 88;
+inline constexpr int heroMinimum = 136, heroFade = 88, heroFadeLow = 40;
 inline constexpr int welcomeShield = 22;
 
 // The approval card

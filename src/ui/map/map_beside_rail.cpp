@@ -75,7 +75,9 @@ int MapBesideRail::hiddenHeight() const {
 void MapBesideRail::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
     const QRect room = rect.marginsRemoved(contentsMargins());
-    const int widest = std::max(room.width() - Measure::gutter - railMinimum_, 0);
+    const bool wide = parentWidget()->window()->width() >= Measure::wideWindow;
+    const int rail = wide ? Measure::railWide : railMinimum_;
+    const int widest = std::max(room.width() - Measure::gutter - rail, 0);
     const QSize panel = panel_->fitted({widest, room.height() - hiddenHeight()});
     panel_->setGeometry({room.topLeft(), panel});
     const int left = panel.width() + Measure::gutter;

@@ -42,7 +42,7 @@ private:
 /// A rail that is higher than the page shows makes the page scroll, but not the panel higher.
 class MapBesideRail : public ItemLayout {
 public:
-    /// `railMinimum` is the width that the panel leaves the rail.
+    /// `railMinimum` is the width that the panel leaves the rail, except in wide windows.
     MapBesideRail(MapPanel* panel, QWidget* rail, int railMinimum);
 
     QSize sizeHint() const override { return minimumSize(); }

@@ -91,7 +91,7 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     column->addLayout(heading);
     column->addSpacing(Measure::gap4);
     column->addWidget(nothing_);
-    for (int i = 0; i < Measure::activityRows; ++i) {
+    for (int i = 0; i < Measure::activityRowsWide; ++i) {
         auto* row = new ActivityRow(this);
         column->addWidget(row);
         connect(row, &QAbstractButton::clicked, this, [this, row] { store_.openRecord(row->key()); });
@@ -105,7 +105,9 @@ int ActivityList::headingHeight() {
 }
 
 void ActivityList::setRows(int rows) {
-    rows = std::clamp(rows, Measure::activityRowsMinimum, Measure::activityRows);
+    const bool wide = window()->width() >= Measure::wideWindow;
+    rows = std::clamp(rows, Measure::activityRowsMinimum,
+                      wide ? Measure::activityRowsWide : Measure::activityRows);
     if (static_cast<std::size_t>(rows) == shown_)
         return;
     shown_ = static_cast<std::size_t>(rows);

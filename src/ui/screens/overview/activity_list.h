@@ -19,7 +19,8 @@ public:
     ActivityList(AppStore& store, QWidget* parent);
 
     void refresh();
-    /// Sets how many rows there is room for. The list shows at least two and at most five.
+    /// Sets how many rows there is room for. The list shows at least two, and at most five or, in a wide
+    /// window, ten.
     void setRows(int rows);
     /// Height above the first row, in pixels.
     static int headingHeight();
