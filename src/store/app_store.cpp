@@ -58,7 +58,7 @@ AppStore::AppStore(Environment environment, QObject* parent)
         history_.add({finished});
         emit historyChanged();
     };
-    connect(&session_, &LinkSession::received, this, &AppStore::setState);
+    connect(&session_, &LinkSession::received, this, &AppStore::receive);
     connect(&session_, &LinkSession::statusChanged, this, &AppStore::linkStatusChanged);
     connect(&session_, &LinkSession::freshnessChanged, this, &AppStore::freshnessChanged);
     connect(&session_, &LinkSession::pendingCommandChanged, this, &AppStore::pendingCommandChanged);
@@ -249,6 +249,20 @@ void AppStore::setStartAtLogin(bool on) {
     environment_.loginItem.setOn(on);
 }
 
+void AppStore::receive(const LiveState& state) {
+    std::erase_if(camerasLastOnline_,
+                  [&](const auto& camera) { return !findCamera(state.site, camera.first); });
+    for (const CameraInfo& camera : state.site.cameras)
+        if (camera.online)
+            camerasLastOnline_[camera.id] = now();
+    setState(state);
+}
+
+std::optional<Date> AppStore::cameraLastOnline(const std::string& id) const {
+    const auto camera = camerasLastOnline_.find(id);
+    return camera == camerasLastOnline_.end() ? std::nullopt : std::optional(camera->second);
+}
+
 void AppStore::setState(const LiveState& state) {
     if (state == state_)
         return;
@@ -267,6 +281,7 @@ void AppStore::setSettings(const Settings& settings) {
     if (leavesLink)
         setState(sim_.state); // before the session reports the state as live
     if (session_.setSettings(settings_)) {
+        camerasLastOnline_.clear();
         notifications_.withdrawAlert();
         outageWatch_.restart(now());
     }
@@ -289,6 +304,11 @@ void AppStore::setSelectedRecord(const std::optional<RecordKey>& key) {
 void AppStore::openRecord(RecordKey key) {
     setSelectedRecord(key);
     setSection(Section::history);
+}
+
+void AppStore::openConnection() {
+    setSection(Section::settings);
+    emit connectionRequested();
 }
 
 void AppStore::setShowWelcome(bool show) {

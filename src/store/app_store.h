@@ -57,6 +57,8 @@ public:
     Freshness freshness() const { return session_.freshness(); }
     /// When the server last answered with a state; nullopt in demo mode and before its first answer.
     const std::optional<Date>& lastAnswerAt() const { return session_.lastAnswerAt(); }
+    /// When the server last showed this camera online; nullopt if it never has.
+    std::optional<Date> cameraLastOnline(const std::string& id) const;
     /// What keeps the armed system from watching in link mode; nullopt while all is well.
     const std::optional<Outage>& outage() const { return outageWatch_.outage(); }
     bool showWelcome() const { return showWelcome_; }
@@ -71,6 +73,8 @@ public:
     void setSelectedRecord(const std::optional<RecordKey>& key);
     /// Selects the record and shows the history.
     void openRecord(RecordKey key);
+    /// Shows the connection settings.
+    void openConnection();
     void setShowWelcome(bool show);
     /// Saves changed settings and applies them to simulator and link. Does nothing if nothing changed.
     void setSettings(const Settings& settings);
@@ -127,6 +131,8 @@ signals:
     void historyChanged();
     void sectionChanged();
     void selectedRecordChanged();
+    /// The settings are to show the connection.
+    void connectionRequested();
     void linkStatusChanged();
     void freshnessChanged();
     void showWelcomeChanged();
@@ -139,6 +145,7 @@ signals:
     void commandFailed(velmora::Command command, const QString& reason);
 
 private:
+    void receive(const LiveState& state);
     void setState(const LiveState& state);
     void advanceSimulator(Date now, double elapsed);
     void transmit(Command command, const std::optional<std::string>& mission);
@@ -156,6 +163,7 @@ private:
     Notifications notifications_;
     OutageWatch outageWatch_;
     LiveState state_;
+    std::map<std::string, Date> camerasLastOnline_; ///< by id; only cameras of the server's site
     Section section_ = Section::overview;
     std::optional<RecordKey> selectedRecord_;
     bool showWelcome_ = false;

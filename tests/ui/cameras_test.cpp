@@ -1,4 +1,5 @@
 #include "ui/linked_ui_fixture.h"
+#include "ui/look/words.h"
 
 #include <QAbstractButton>
 
@@ -114,6 +115,35 @@ TEST_F(CamerasTest, CardsSurviveStateChangesAndFollowTheSite) {
     state.site.cameras.clear();
     serve(state);
     EXPECT_TRUE(shows("No cameras yet"));
+    click("Connection settings");
+    EXPECT_EQ(store().section(), Section::settings);
+}
+
+TEST_F(CamerasTest, AnOfflineCameraSaysWhatItMeansAndWhenItWasLastOnline) {
+    const QString warning = "Will not alert while offline";
+    store().applyLinkMode(true);
+    look();
+    LiveState state = LiveState::initial();
+    state.site.cameras[2].online = false;
+    serve(state);
+    EXPECT_FALSE(shows("Last seen " + dayAndTime(now, now))) << "it never was online";
+    state.site.cameras[2].online = true;
+    serve(state);
+    EXPECT_EQ(count(warning), 0);
+    const Date seen = now;
+    state.site.cameras[2].online = false;
+    for (int i = 0; i < 300; ++i)
+        serve(state);
+    EXPECT_EQ(count(warning), 2);
+    EXPECT_TRUE(shows("Last seen " + dayAndTime(seen, now)));
+    QAbstractButton* alerts = theSwitch(faces, "East garden");
+    EXPECT_TRUE(alerts->accessibleDescription().endsWith(warning));
+    QTest::mouseClick(alerts, Qt::LeftButton);
+    EXPECT_FALSE(store().settings().alertUnknownFaces.at("garden")) << "the switches still work";
+    state.site.cameras[2].online = true;
+    serve(state);
+    EXPECT_EQ(count(warning), 0);
+    EXPECT_FALSE(shows("Last seen " + dayAndTime(seen, now)));
 }
 
 } // namespace

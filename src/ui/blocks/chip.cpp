@@ -32,18 +32,21 @@ void Chip::setText(const QString& text) {
     update();
 }
 
-void Chip::setDotColor(const QColor& color) {
-    if (color == dot_)
+void Chip::setDot(const QColor& color, bool ring) {
+    if (color == dot_ && ring == ring_)
         return;
     dot_ = color;
+    ring_ = ring;
     update();
 }
 
 void Chip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillRounded(painter, rect(), Measure::thumbnailRadius, SB::faded(SB::navy, plate));
-    paintStatusDot(painter, {Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0},
-                   {.color = dot_, .diameter = Measure::statusDotInRow});
+    const QPointF center(Measure::chipPadding + Measure::statusDotInRow / 2, height() / 2.0);
+    if (ring_)
+        fillDisc(painter, center, Measure::statusDotInRow + 2, SB::dTitle);
+    paintStatusDot(painter, center, {.color = dot_, .diameter = Measure::statusDotInRow});
     drawText(painter, QRectF(textX, 0, width() - textX - Measure::chipPadding + 1, height()),
              accessibleName(), Type::caption.withTabularDigits(), SB::dTitle, Qt::AlignVCenter);
 }

@@ -14,13 +14,15 @@ public:
 
     /// Also resizes the chip to fit the text.
     void setText(const QString& text);
-    void setDotColor(const QColor& color);
+    /// A ring sets off a dark dot from the plate.
+    void setDot(const QColor& color, bool ring = false);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QColor dot_;
+    bool ring_ = false;
 };
 
 } // namespace velmora

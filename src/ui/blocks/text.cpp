@@ -38,6 +38,15 @@ void Text::setText(const QString& text) {
     update();
 }
 
+void Text::setStyle(const TextStyle& style) {
+    if (style == style_)
+        return;
+    style_ = style;
+    broken_ = {};
+    updateGeometry();
+    update();
+}
+
 void Text::setColor(const QColor& color) {
     if (color == color_)
         return;

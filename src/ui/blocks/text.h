@@ -18,6 +18,7 @@ public:
 
     const QString& text() const { return text_; }
     void setText(const QString& text);
+    void setStyle(const TextStyle& style);
     void setColor(const QColor& color);
     void setAlignment(Qt::Alignment alignment);
     /// Cuts longer text with an ellipsis and shows it in full in a tooltip; 0 for any number of lines.

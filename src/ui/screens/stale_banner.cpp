@@ -36,7 +36,7 @@ StaleBanner::StaleBanner(AppStore& store, QWidget* parent, Section screen)
     row->addSpacing(Measure::gap8);
     row->addWidget(settings, 0, Qt::AlignVCenter);
     row->addWidget(open_, 0, Qt::AlignVCenter);
-    connect(settings, &SBButton::clicked, this, [this] { store_.setSection(Section::settings); });
+    connect(settings, &SBButton::clicked, this, [this] { store_.openConnection(); });
     connect(open_, &SBButton::clicked, this, [this] { store_.setSection(Section::live); });
     connect(&store_, &AppStore::linkStatusChanged, this, &StaleBanner::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &StaleBanner::refresh);

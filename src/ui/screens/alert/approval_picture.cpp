@@ -92,7 +92,7 @@ void ApprovalPicture::setState(const LiveState& state, const Settings& settings,
     const QString time = state.missionStart ? timeOfDay(*state.missionStart) : QString();
     picture_->setName(camera ? toQString(camera->snapshot) : QString());
     chip_->setText(time.isEmpty() ? location : location + QStringLiteral(" · ") + time);
-    chip_->setDotColor(stale_ ? SB::faded(SB::dLabel, staleDot) : SB::dTeal);
+    chip_->setDot(stale_ ? SB::faded(SB::dLabel, staleDot) : SB::dTeal);
     inset_->setVisible(state.visitor.has_value());
     if (state.visitor)
         inset_->setState(state, settings, freshness);

@@ -1,6 +1,7 @@
 #include "ui/screens/cameras/camera_card.h"
 
 #include "ui/blocks/art_image.h"
+#include "ui/blocks/chip.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/status_dot.h"
@@ -22,6 +23,9 @@ CameraCard::CameraCard(AppStore& store, const CameraInfo& cam, QWidget* parent)
       cam_(cam),
       picture_(new ArtImage(toQString(cam.snapshot), ArtImage::Mode::fill, Measure::cardRadius, this)) {
     picture_->setRatio(Measure::cameraRatio);
+    lastSeen_ = new Chip(picture_);
+    lastSeen_->setDot(SB::alert, true);
+    lastSeen_->move(Measure::gap12, Measure::gap12);
     auto* column = bareLayout<QVBoxLayout>(this);
     column->addWidget(picture_);
     column->addSpacing(Measure::gap16);
@@ -76,11 +80,7 @@ bool CameraCard::isOn(Switches which, bool defaultValue) const {
 void CameraCard::refresh(const CameraInfo& cam) {
     cam_ = cam;
     picture_->setName(toQString(cam.snapshot));
-    picture_->setFaint(!cam.online);
     name_->setText(shownText(cam.name));
-    dot_->setDotStyle(
-        {.color = cam.online ? SB::dot : SB::alert, .halo = cam.online, .diameter = Measure::cameraDot});
-    online_->setText(cam.online ? tr("Online") : tr("Offline"));
     const auto raised = std::ranges::count(store_.history(), cam.id,
                                            [](const HistoryEntry& entry) { return entry.record->cameraId; });
     alerts_->setText(raised == 0   ? tr("No alerts in the history")
@@ -88,6 +88,23 @@ void CameraCard::refresh(const CameraInfo& cam) {
                                    : tr("%1 alerts in the history").arg(raised));
     faces_->setChecked(isOn(&Settings::alertUnknownFaces, true));
     people_->setChecked(isOn(&Settings::alertPeople, false));
+    showConnection();
+}
+
+void CameraCard::showConnection() {
+    const bool online = cam_.online;
+    picture_->setFaint(!online);
+    dot_->setDotStyle(
+        {.color = online ? SB::dot : SB::alert, .halo = online, .diameter = Measure::cameraDot});
+    online_->setText(online ? tr("Online") : tr("Offline"));
+    online_->setStyle(online ? Type::label2 : Type::label2Strong);
+    online_->setColor(online ? SB::muted : SB::alert);
+    const auto seen = online ? std::nullopt : store_.cameraLastOnline(cam_.id);
+    lastSeen_->setVisible(seen.has_value());
+    if (seen)
+        lastSeen_->setText(tr("Last seen %1").arg(dayAndTime(*seen, store_.now())));
+    for (ToggleRow* row : {faces_, people_})
+        row->setOffline(!online);
 }
 
 } // namespace velmora

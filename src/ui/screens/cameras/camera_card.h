@@ -7,6 +7,7 @@
 namespace velmora {
 
 class ArtImage;
+class Chip;
 class StatusDot;
 class Switch;
 class Text;
@@ -28,11 +29,13 @@ private:
     QWidget* buildName();
     ToggleRow* toggleRow(const QString& title, const QString& detail, Switches which);
     void turn(Switches which, bool on);
+    void showConnection();
     bool isOn(Switches which, bool defaultValue) const;
 
     AppStore& store_;
     CameraInfo cam_;
     ArtImage* picture_;
+    Chip* lastSeen_; ///< on the picture of an offline camera
     Text* name_;
     Text* alerts_;
     StatusDot* dot_;

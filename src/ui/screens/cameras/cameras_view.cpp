@@ -1,10 +1,10 @@
 #include "ui/screens/cameras/cameras_view.h"
 
+#include "ui/blocks/empty_state.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/page.h"
-#include "ui/blocks/text.h"
+#include "ui/blocks/sb_button.h"
 #include "ui/look/measures.h"
-#include "ui/look/tokens.h"
 #include "ui/screens/cameras/camera_card.h"
 
 #include <QVBoxLayout>
@@ -20,7 +20,7 @@ bool sameCameras(const std::vector<CameraInfo>& cameras, const std::vector<Camer
     return std::ranges::equal(cameras, cards, {}, &CameraInfo::id, &CameraCard::id);
 }
 
-/// A grid of equal cards in as many equal columns as fit.
+/// A grid of equal cards in as many equal columns as fit and the cards fill.
 class CardGrid : public ItemLayout {
 public:
     QSize sizeHint() const override { return minimumSize(); }
@@ -42,10 +42,11 @@ public:
     }
 
 private:
-    static int columns(int width) {
-        return std::max((width + Measure::gap24) / (Measure::cameraMinimum + Measure::gap24), 1);
+    int columns(int width) const {
+        const int fitting = (width + Measure::gap24) / (Measure::cameraMinimum + Measure::gap24);
+        return std::max(std::min(fitting, std::max(count(), Measure::cameraColumns)), 1);
     }
-    static double cardWidth(int width) {
+    double cardWidth(int width) const {
         return (width - (columns(width) - 1.0) * Measure::gap24) / columns(width);
     }
     /// Distance between the tops of two rows, in pixels.
@@ -59,16 +60,23 @@ private:
 
 CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, parent), grid_(new CardGrid) {
     auto* content = new QWidget(this);
-    noCamera_ = new Text({}, Type::emptyTitle, SB::ink, content);
+    auto* connection = new SBButton(tr("Connection settings"), {.kind = SBButtonKind::secondary}, content);
+    connect(connection, &SBButton::clicked, &store_, &AppStore::openConnection);
+    empty_ = new EmptyState(Icon::cameras, connection, content);
+    shown_ = new QWidget(content);
+    auto* cards = bareLayout<QVBoxLayout>(shown_);
+    cards->addLayout(grid_);
+    cards->addStretch(1);
     auto* column = bareLayout<QVBoxLayout>(content);
-    column->addWidget(noCamera_);
-    column->addLayout(grid_);
+    column->addWidget(empty_, 1);
+    column->addWidget(shown_, 1);
     setPage(new Page(
         {.eyebrow = tr("Cameras · UniFi Protect"),
          .headline = Sentence::marked(tr("What sets off *an alert*.")),
          .lede = tr("Each camera can alert on faces it doesn't recognise, and optionally on any person it "
                     "sees. People you've named in UniFi Protect never trigger the drone."),
          .ledeWidth = Measure::camerasLedeWidth,
+         .fills = true,
          .contentGap = Measure::gap32,
          .content = content},
         this));
@@ -83,7 +91,7 @@ void CamerasView::setCameras(const std::vector<CameraInfo>& cameras) {
     }
     cards_.clear();
     for (const CameraInfo& cam : cameras) {
-        cards_.push_back(new CameraCard(store_, cam, this));
+        cards_.push_back(new CameraCard(store_, cam, shown_));
         grid_->addWidget(cards_.back());
     }
 }
@@ -92,8 +100,15 @@ void CamerasView::refresh() {
     static const std::vector<CameraInfo> unknown;
     const LiveState* known = store_.knownState();
     const auto& cameras = known ? known->site.cameras : unknown;
-    noCamera_->setText(known ? tr("No cameras yet") : tr("Waiting for velmora"));
-    noCamera_->setVisible(cameras.empty());
+    if (known)
+        empty_->setTexts(tr("No cameras yet"),
+                         tr("velmora's config has no cameras, so nobody on your grounds is noticed and you "
+                            "get no alerts. Add them there, and they appear here."));
+    else
+        empty_->setTexts(tr("Waiting for velmora"),
+                         tr("Your cameras appear here as soon as velmora answers."));
+    empty_->setVisible(cameras.empty());
+    shown_->setVisible(!cameras.empty());
     if (!sameCameras(cameras, cards_))
         setCameras(cameras);
     for (std::size_t i = 0; i < cards_.size(); ++i)

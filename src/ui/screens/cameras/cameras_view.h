@@ -9,7 +9,7 @@ class QLayout;
 namespace velmora {
 
 class CameraCard;
-class Text;
+class EmptyState;
 
 /// Cameras: what triggers an alert at each camera.
 class CamerasView : public Screen {
@@ -24,7 +24,8 @@ protected:
 private:
     void setCameras(const std::vector<CameraInfo>& cameras);
 
-    Text* noCamera_; ///< shown instead of the cards if there are none
+    EmptyState* empty_; ///< shown instead of the cards if there are none
+    QWidget* shown_;    ///< holds the grid
     QLayout* grid_;
     std::vector<CameraCard*> cards_;
 };

@@ -13,16 +13,19 @@
 namespace velmora {
 
 ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString& where, QWidget* parent)
-    : QWidget(parent), switch_(new Switch(title, this)) {
+    : QWidget(parent),
+      detail_(detail),
+      where_(where),
+      switch_(new Switch(title, this)),
+      detailText_(new Text({}, Type::label2, SB::muted, this)) {
     setFixedHeight(Measure::toggleRow + 1);
-    switch_->setAccessibleDescription(where + ", " + detail);
     auto* titleText = new Text(title, Type::rowTitle, SB::ink, this);
     titleText->setMaximumLines(1);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
     texts->addStretch(1);
     texts->addWidget(titleText);
-    texts->addWidget(new Label2(detail, false, this));
+    texts->addWidget(detailText_);
     texts->addStretch(1);
     auto* row = new QHBoxLayout;
     row->addLayout(texts, 1);
@@ -31,10 +34,24 @@ ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString&
     column->addLayout(row, 1);
     column->addWidget(new Hairline(this, Hairline::Tone::between));
     connect(switch_, &Switch::turned, this, &ToggleRow::turned);
+    showDetail();
 }
 
 void ToggleRow::setChecked(bool on) {
     switch_->setChecked(on);
+    showDetail();
+}
+
+void ToggleRow::setOffline(bool offline) {
+    offline_ = offline;
+    showDetail();
+}
+
+void ToggleRow::showDetail() {
+    detailText_->setText(offline_ ? tr("Will not alert while offline") : detail_);
+    detailText_->setStyle(offline_ ? Type::label2Medium : Type::label2);
+    detailText_->setColor(offline_ && switch_->isChecked() ? SB::alert : SB::muted);
+    switch_->setAccessibleDescription(where_ + ", " + detailText_->text());
 }
 
 void ToggleRow::mousePressEvent(QMouseEvent*) {}

@@ -5,6 +5,7 @@
 namespace velmora {
 
 class Switch;
+class Text;
 
 /// A switch with a title and a detail text. Clicking the text also turns the switch.
 class ToggleRow : public QWidget {
@@ -16,6 +17,8 @@ public:
 
     /// Does not emit `turned`.
     void setChecked(bool on);
+    /// The switch has no effect while the camera is offline; the detail says so.
+    void setOffline(bool offline);
 
 signals:
     void turned(bool on);
@@ -25,7 +28,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void showDetail();
+
+    QString detail_, where_;
     Switch* switch_;
+    Text* detailText_;
+    bool offline_ = false;
 };
 
 } // namespace velmora
