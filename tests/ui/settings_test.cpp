@@ -1,7 +1,11 @@
 #include "ui/linked_ui_fixture.h"
+#include "ui/screens/settings/limits_sketch.h"
+#include "ui/screens/settings/settings_view.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QWheelEvent>
 
@@ -226,6 +230,39 @@ TEST_F(SettingsTest, StoresWhereAlertsGo) {
     QTest::keyClick(topic, Qt::Key_Home);
     QTest::keyClicks(topic, "ab");
     EXPECT_EQ(store().settings().ntfyTopic, "ab my/topic ") << "the cursor keeps its position";
+}
+
+TEST_F(SettingsTest, TheSketchFollowsTheLimitsStepByStep) {
+    look();
+    auto* sketch = window().findChild<LimitsSketch*>();
+    const auto says = [&](const QString& words) { return sketch->accessibleName() == words; };
+    EXPECT_TRUE(says("15 m up, 15 m back, 5 m inside your boundary"));
+    QImage last = sketch->grab().toImage();
+    for (const auto& [limit, words] :
+         {std::pair("Flight height", "16 m up, 15 m back, 5 m inside your boundary"),
+          {"Follow distance", "16 m up, 16 m back, 5 m inside your boundary"},
+          {"Stay this far inside", "16 m up, 16 m back, 6 m inside your boundary"}}) {
+        QTest::keyClick(&slider(limit), Qt::Key_Right);
+        EXPECT_TRUE(says(words)) << words;
+        const QImage picture = sketch->grab().toImage();
+        EXPECT_NE(picture.copy(0, 0, 150, 100), last.copy(0, 0, 150, 100)) << limit;
+        last = picture;
+    }
+}
+
+TEST_F(SettingsTest, TheSectionKeepsItsPlaceUnlessTheConnectionIsAskedFor) {
+    look();
+    auto* bar = window().findChild<SettingsView*>()->findChild<QScrollArea*>()->verticalScrollBar();
+    bar->setValue(300);
+    store().setSection(Section::overview);
+    settle();
+    store().setSection(Section::settings);
+    settle();
+    EXPECT_EQ(bar->value(), 300);
+    store().setSection(Section::overview);
+    store().openConnection();
+    settle();
+    EXPECT_EQ(bar->value(), 0);
 }
 
 TEST_F(SettingsTest, TheLoginSwitchShowsWhatTheDesktopAccepted) {

@@ -63,6 +63,7 @@ inline constexpr TextStyle controlsNote{Face::regular, 12.5, 18};
 inline constexpr TextStyle log{Face::regular, 12.5, 18};
 inline constexpr TextStyle logTime{Face::regular, 12, 18, 0, false, true};
 inline constexpr TextStyle legend{Face::regular, 11.5, 16};
+inline constexpr TextStyle legendStrong{Face::semiBold, 11.5, 16};
 inline constexpr TextStyle insetStrong{Face::semiBold, 11, 15};
 inline constexpr TextStyle inset{Face::medium, 11, 15};
 inline constexpr TextStyle overlayNote{Face::regular, 11.5, 18};

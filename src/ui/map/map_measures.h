@@ -11,11 +11,13 @@ struct MapMeasures {
     double cornerRadius = Measure::cardRadius;
     bool squareBottom = false; ///< the bottom corners are not rounded
     double boundaryDash = 6, boundaryGap = 5;
+    double bufferBand = 0.16, bufferLine = 0.35; ///< opacities
     double cameraRadius = 4.5, cameraLine = 1.5;
     double padMinimum = 0; ///< smallest radius of the pad's ring
     double visitorRadius = 5, visitorLine = 1.5;
     double pulseFrom = 6, pulseTo = 20; ///< radii of the ring around the visitor
     double droneScale = 1;
+    double followRing = 0.18; ///< opacity
     double pathWidth = 1.8;
     double holdRadius = 0; ///< of the point where the drone would hold; 0: not shown
 

@@ -79,12 +79,13 @@ public:
         band.setFillRule(Qt::OddEvenFill);
         band.addRect(outer);
         band.addRect(inner);
-        painter_.fillPath(band, SB::faded(SB::lilac, 0.16));
+        painter_.fillPath(band, SB::faded(SB::lilac, measures_.bufferBand));
         painter_.setBrush(Qt::NoBrush);
         painter_.setPen(
             dashed(SB::faded(SB::dTeal, 0.9), 1.4, measures_.boundaryDash, measures_.boundaryGap));
         painter_.drawRect(outer);
-        painter_.setPen(QPen(SB::faded(SB::lilac, 0.35), 0.8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        painter_.setPen(
+            QPen(SB::faded(SB::lilac, measures_.bufferLine), 0.8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter_.drawRect(inner);
         if (!measures_.captions)
             return;
@@ -149,7 +150,7 @@ public:
         const QPointF at = view_.map(scene_.state.visitor->pos);
         if (airborne(scene_.state.phase)) {
             drawCircle(painter_, at, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
-                       dashed(SB::faded(Qt::white, 0.18), 1, 2, 4));
+                       dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));
             painter_.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
             painter_.drawLine(view_.map(scene_.state.drone.pos), at);
         }
@@ -267,6 +268,18 @@ private:
 };
 
 } // namespace
+
+void drawPlan(QPainter& painter, const MapScene& scene, QSizeF canvas) {
+    MapPass pass(painter, scene, canvas);
+    pass.drawPlan();
+    pass.drawVeil();
+}
+
+void drawLimits(QPainter& painter, const MapScene& scene, QSizeF canvas) {
+    MapPass pass(painter, scene, canvas);
+    pass.drawBoundary();
+    pass.drawPad();
+}
 
 void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas) {
     MapPass pass(painter, scene, canvas);

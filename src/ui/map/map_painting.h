@@ -10,6 +10,10 @@ namespace velmora {
 /// with the site, the buffer and the camera that sees someone, so SiteMap caches them.
 void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
+/// Parts of the grounds: the plan with its veil, and the boundary with its buffer and the pad's ring.
+void drawPlan(QPainter& painter, const MapScene& scene, QSizeF canvas);
+void drawLimits(QPainter& painter, const MapScene& scene, QSizeF canvas);
+
 /// Draws the trails, or a replay's paths with start and end markers, onto a transparent layer that SiteMap
 /// caches.
 void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas);

@@ -13,12 +13,17 @@
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/screens/settings/connection_form.h"
+#include "ui/screens/settings/limits_sketch.h"
 #include "ui/screens/settings/rule_line.h"
 #include "ui/screens/settings/slider_line.h"
 
+#include <QApplication>
 #include <QDesktopServices>
+#include <QEvent>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -27,6 +32,8 @@ namespace {
 QVBoxLayout* columnOf(QWidget* block) {
     return static_cast<QVBoxLayout*>(block->layout());
 }
+
+constexpr int pageWidth = Measure::settingsWidth + Measure::limitsSketchGap + Measure::limitsSketch.width();
 
 QString trackingTitle(TrackingMode mode) {
     return mode == TrackingMode::own ? forThisMachine(SettingsView::tr("Guided by this computer"),
@@ -64,27 +71,71 @@ SettingsView::SettingsView(AppStore& store, QWidget* parent) : Screen(store, par
     setPage(new Page({.eyebrow = tr("Settings"),
                       .headline = Sentence::marked(tr("How the drone *behaves*.")),
                       .lede = tr("These limits are enforced by velmora's safety layer, not just shown here."),
-                      .width = Measure::settingsWidth,
+                      .width = pageWidth,
                       .contentGap = Measure::gap20,
-                      .content = buildForm()},
+                      .content = buildContent()},
                      this));
     refreshOn({&AppStore::settingsChanged});
+    connect(&store_, &AppStore::stateChanged, this, &SettingsView::showLimits);
+    connect(&store_, &AppStore::connectionRequested, this, [this] { page().scrollToTop(); });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* focused) { followFocus(focused); });
 }
 
-QWidget* SettingsView::buildForm() {
-    form_ = block();
+/// The form, and right of it the sketch, which is no part of the layout: it keeps level with the first limit.
+QWidget* SettingsView::buildContent() {
+    auto* content = new QWidget(this);
+    form_ = new QWidget(content);
+    bareLayout<QVBoxLayout>(form_);
+    form_->setMaximumWidth(Measure::settingsWidth);
+    auto* row = bareLayout<QHBoxLayout>(content);
+    row->addWidget(form_, 1);
+    row->addStretch();
+    buildForm();
+    sketch_ = new LimitsSketch(content);
+    for (QWidget* moved : {content, flight_})
+        moved->installEventFilter(this);
+    return content;
+}
+
+bool SettingsView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        placeSketch();
+    return Screen::eventFilter(watched, event);
+}
+
+void SettingsView::placeSketch() {
+    QWidget* content = sketch_->parentWidget();
+    sketch_->move(Measure::settingsWidth + Measure::limitsSketchGap,
+                  limits_.front().line->mapTo(content, QPoint()).y());
+    sketch_->setVisible(content->width() >= pageWidth);
+}
+
+void SettingsView::showLimits() {
+    if (const LiveState* known = store_.knownState())
+        sketch_->setSite(known->site);
+    sketch_->setLimits(store_.settings());
+}
+
+/// Emphasises the limit whose slider has the focus.
+void SettingsView::followFocus(const QWidget* focused) {
+    const auto changing = std::ranges::find_if(
+        limits_, [focused](const Limit& limit) { return focused && limit.line->isAncestorOf(focused); });
+    sketch_->setChanging(changing == limits_.end() ? nullptr : changing->field);
+}
+
+void SettingsView::buildForm() {
     constexpr int sliderLead = (Measure::sliderRow - Measure::gap24) / 2;
     constexpr int radioLead = (Measure::radioRow - Measure::gap24) / 2;
     constexpr int segmentLead = (Measure::segmentedHeight - Measure::gap24) / 2;
     addRow(tr("Connection"), buildConnection(), radioLead);
-    addRow(tr("Flight"), buildFlight(), sliderLead);
+    flight_ = addRow(tr("Flight"), buildFlight(), sliderLead);
     addRow(tr("Boundary"), buildBoundary(), sliderLead);
     addRow(tr("Coming home"), buildComingHome(), sliderLead);
     addRow(tr("Tracking"), buildTracking(), segmentLead);
     addRow(tr("Alerts"), buildAlerts(), sliderLead);
     addRow(tr("The rules"), buildRules(), radioLead);
     addRow(tr("About"), buildAbout(), 0);
-    return form_;
 }
 
 QWidget* SettingsView::block() {
@@ -93,9 +144,11 @@ QWidget* SettingsView::block() {
     return widget;
 }
 
-void SettingsView::addRow(const QString& label, QWidget* content, int lead) {
+QWidget* SettingsView::addRow(const QString& label, QWidget* content, int lead) {
     const bool first = form_->layout()->isEmpty();
-    form_->layout()->addWidget(new SBRow(label, false, content, first, lead, form_));
+    auto* row = new SBRow(label, false, content, first, lead, form_);
+    form_->layout()->addWidget(row);
+    return row;
 }
 
 /// Applies `edit` to a copy of the settings; the store compares and saves it.
@@ -194,6 +247,7 @@ QWidget* SettingsView::buildRules() {
 
 QWidget* SettingsView::buildAbout() {
     QWidget* rows = block();
+    columnOf(rows)->addSpacing(static_cast<int>(Type::groupHeading.line - Type::body.line) / 2);
     columnOf(rows)->addWidget(
         new Text(tr("Velmora 1.0 · consumer app for the velmora framework"), Type::body, SB::body, rows));
     columnOf(rows)->addSpacing(Measure::gap4);
@@ -224,6 +278,7 @@ QWidget* SettingsView::buildAbout() {
 void SettingsView::refresh() {
     const Settings& settings = store_.settings();
     connection_->refresh();
+    showLimits();
     for (const Limit& limit : limits_)
         limit.line->setValue(settings.*limit.field);
     tracking_->setCurrentIndex(static_cast<int>(settings.tracking));
@@ -231,12 +286,6 @@ void SettingsView::refresh() {
     notify_->setChecked(settings.notifyMac);
     topic_->setText(toQString(settings.ntfyTopic));
     startAtLogin_->setChecked(store_.startsAtLogin());
-}
-
-/// Scrolls to the connection settings, which are at the top.
-void SettingsView::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
-    page().scrollToTop();
 }
 
 } // namespace velmora

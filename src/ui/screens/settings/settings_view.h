@@ -7,6 +7,7 @@
 namespace velmora {
 
 class ConnectionForm;
+class LimitsSketch;
 class SegmentedChoice;
 class SliderLine;
 class Switch;
@@ -22,7 +23,7 @@ public:
 
 protected:
     void refresh() override;
-    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// A setting and the slider that edits it.
@@ -31,8 +32,9 @@ private:
         SliderLine* line;
     };
 
-    QWidget* buildForm();
-    void addRow(const QString& label, QWidget* content, int lead);
+    QWidget* buildContent();
+    void buildForm();
+    QWidget* addRow(const QString& label, QWidget* content, int lead);
     QWidget* block();
     void addLimit(QWidget* block, const QString& label, double Settings::*field, int lower, int upper,
                   const QString& unit);
@@ -46,8 +48,13 @@ private:
     QWidget* buildAbout();
     template <class Edit>
     void change(Edit edit);
+    void placeSketch();
+    void showLimits();
+    void followFocus(const QWidget* focused);
 
     QWidget* form_ = nullptr;
+    QWidget* flight_ = nullptr; ///< the row with the first limit
+    LimitsSketch* sketch_ = nullptr;
     std::vector<Limit> limits_;
     ConnectionForm* connection_ = nullptr;
     SegmentedChoice* tracking_ = nullptr;
