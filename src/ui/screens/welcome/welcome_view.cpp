@@ -14,9 +14,14 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
+
+// The house in the picture, as shares of its height: from above the chimneys to the foot of the walls
+constexpr double houseTop = 0.169, houseBottom = 0.62;
 
 /// The shield next to the title.
 class Shield : public QWidget {
@@ -49,24 +54,7 @@ QWidget* WelcomeView::buildColumn() {
     rows->addSpacing(Measure::gap8);
     rows->addWidget(new Headline(Sentence::marked(tr("A second pair of eyes over *your grounds*.")),
                                  Type::welcomeHeadline, false, column));
-    rows->addSpacing(Measure::gap24);
-    rows->addWidget(
-        buildStep(1, tr("Your cameras spot someone they don't recognise"),
-                  tr("UniFi Protect face and person detection. Family and friends you've added are "
-                     "ignored.")));
-    rows->addSpacing(Measure::gap16);
-    rows->addWidget(buildStep(
-        2, tr("You decide"),
-        forThisMachine(tr("An alert arrives on this computer and your phone. The drone only launches "
-                          "when you say yes."),
-                       tr("An alert arrives on this Mac and your phone. The drone only launches when "
-                          "you say yes."))));
-    rows->addSpacing(Measure::gap16);
-    rows->addWidget(
-        buildStep(3, tr("The drone keeps watch, then comes home"),
-                  tr("It follows from about 15 m at 15 m high, never leaves your boundary, rides out gusts "
-                     "and lands on its pad.")));
-    rows->addSpacing(Measure::gap28);
+    rows->addWidget(buildSteps());
     rows->addWidget(buildButtons());
     rows->addSpacing(Measure::gap12);
     rows->addWidget(
@@ -82,6 +70,26 @@ QWidget* WelcomeView::buildTitle() {
     row->addWidget(new Shield(title));
     row->addWidget(new Text(tr("Welcome to Velmora"), Type::groupHeading, SB::ink, title), 1);
     return title;
+}
+
+QWidget* WelcomeView::buildSteps() {
+    auto* steps = new QWidget(this);
+    steps_ = new QVBoxLayout(steps);
+    steps_->addWidget(
+        buildStep(1, tr("Your cameras spot someone they don't recognise"),
+                  tr("UniFi Protect face and person detection. Family and friends you've added are "
+                     "ignored.")));
+    steps_->addWidget(buildStep(
+        2, tr("You decide"),
+        forThisMachine(tr("An alert arrives on this computer and your phone. The drone only launches "
+                          "when you say yes."),
+                       tr("An alert arrives on this Mac and your phone. The drone only launches when "
+                          "you say yes."))));
+    steps_->addWidget(
+        buildStep(3, tr("The drone keeps watch, then comes home"),
+                  tr("It follows from about 15 m at 15 m high, never leaves your boundary, rides out gusts "
+                     "and lands on its pad.")));
+    return steps;
 }
 
 QWidget* WelcomeView::buildStep(int number, const QString& title, const QString& text) {
@@ -119,25 +127,64 @@ void WelcomeView::finish(bool link) {
     store_.setSettings(settings);
     store_.setShowWelcome(false);
     if (link)
-        store_.setSection(Section::settings);
+        store_.openConnection();
 }
 
-/// Scales the picture to the area above the column and crops it around its centre.
+/// In a low window the texts move together, which leaves more room for the picture.
+void WelcomeView::resizeEvent(QResizeEvent*) {
+    const bool low = window()->height() < Measure::lowWindow;
+    steps_->setContentsMargins(0, low ? Measure::gap16 : Measure::gap24, 0,
+                               low ? Measure::gap20 : Measure::gap28);
+    steps_->setSpacing(low ? Measure::gap12 : Measure::gap16);
+    layout()->setContentsMargins(0, Measure::heroMinimum, 0, low ? Measure::gap24 : Measure::welcomeBottom);
+    layout()->activate();
+}
+
+/// Where a picture of this size lies in the area above the column, in pixels: it covers the area, but the
+/// house is not higher than the area without its fade, and its roof is never cut off.
+QRectF WelcomeView::heroArea(QSizeF picture) const {
+    const QSizeF area(width(), column_->y());
+    const double covering = std::max(area.width() / picture.width(), area.height() / picture.height());
+    const double room = area.height() - Measure::heroFadeLow / 2.0;
+    const double whole = room / ((houseBottom - houseTop) * picture.height());
+    const QSizeF size = picture * std::min(covering, whole);
+    const double top = std::max((area.height() - size.height()) / 2, -houseTop * size.height());
+    return {QPointF((area.width() - size.width()) / 2, top), size};
+}
+
 void WelcomeView::loadHero() {
     const QSize pixels = QSize(width(), column_->y()) * devicePixelRatioF();
     if (hero_.size() == pixels)
         return;
     hero_ = QPixmap(pixels);
-    hero_.fill(SB::panel);
-    QPainter painter(&hero_);
-    if (const QImage picture = Art::find(QStringLiteral("welcome-hero")); !picture.isNull()) {
-        const QImage scaled =
-            picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-        painter.drawImage((pixels.width() - scaled.width()) / 2, (pixels.height() - scaled.height()) / 2,
-                          scaled);
-    }
-    painter.end();
+    hero_.fill(SB::page);
     hero_.setDevicePixelRatio(devicePixelRatioF());
+    const QImage picture = Art::find(QStringLiteral("welcome-hero"));
+    if (picture.isNull())
+        return;
+    shown_ = heroArea(picture.size());
+    QPainter painter(&hero_);
+    const QSize scaled = (shown_.size() * devicePixelRatioF()).toSize();
+    painter.drawImage(shown_, picture.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+/// Fades the picture into the page: below, down to the foot of the house at most, and at the sides where it
+/// does not reach the window's edges.
+void WelcomeView::paintFades(QPainter& painter) const {
+    const double end = column_->y(), foot = shown_.top() + houseBottom * shown_.height();
+    const double below = std::clamp<double>(end - foot, Measure::heroFadeLow, Measure::heroFade);
+    const double beside = std::min<double>(shown_.left(), Measure::heroFade);
+    const auto fade = [&](QPointF from, QPointF to) {
+        QLinearGradient gradient(from, to);
+        gradient.setColorAt(0, SB::faded(SB::page, 0));
+        gradient.setColorAt(1, SB::page);
+        painter.fillRect(QRectF(0, 0, width(), end), gradient);
+    };
+    fade({0, end - below}, {0, end});
+    if (beside <= 0)
+        return;
+    fade({shown_.left() + beside, 0}, {shown_.left(), 0});
+    fade({shown_.right() - beside, 0}, {shown_.right(), 0});
 }
 
 void WelcomeView::paintEvent(QPaintEvent*) {
@@ -145,11 +192,7 @@ void WelcomeView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), SB::page);
     painter.drawPixmap(0, 0, hero_);
-    const QRectF end(0, column_->y() - Measure::heroFade, width(), Measure::heroFade);
-    QLinearGradient fade(end.topLeft(), end.bottomLeft());
-    fade.setColorAt(0, SB::faded(SB::page, 0));
-    fade.setColorAt(1, SB::page);
-    painter.fillRect(end, fade);
+    paintFades(painter);
 }
 
 } // namespace velmora

@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+class QVBoxLayout;
+
 namespace velmora {
 
 class SBButton;
@@ -18,18 +20,24 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildColumn();
     QWidget* buildTitle();
+    QWidget* buildSteps();
     QWidget* buildStep(int number, const QString& title, const QString& text);
     QWidget* buildButtons();
     void finish(bool link);
+    QRectF heroArea(QSizeF picture) const;
     void loadHero();
+    void paintFades(QPainter& painter) const;
 
     AppStore& store_;
+    QVBoxLayout* steps_ = nullptr;
     QWidget* column_;
-    QPixmap hero_; ///< scaled to the area above the column
+    QPixmap hero_; ///< of the area above the column
+    QRectF shown_; ///< where the picture lies in that area
 };
 
 } // namespace velmora
