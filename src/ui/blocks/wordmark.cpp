@@ -29,7 +29,7 @@ void paintShield(QPainter& painter, const QRectF& rect) {
     painter.restore();
 }
 
-Wordmark::Wordmark(QWidget* parent) : QWidget(parent) {
+Wordmark::Wordmark(double indent, QWidget* parent) : QWidget(parent), indent_(indent) {
     setFixedHeight(Measure::wordmarkRow);
     declareRole(this, QAccessible::StaticText);
     setAccessibleName(QStringLiteral("Velmora"));
@@ -37,7 +37,7 @@ Wordmark::Wordmark(QWidget* parent) : QWidget(parent) {
 
 void Wordmark::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    QRectF shield(Measure::sectionPadding, 0, Measure::wordmarkShield, Measure::wordmarkShield);
+    QRectF shield(indent_, 0, Measure::wordmarkShield, Measure::wordmarkShield);
     shield.moveTop((height() - shield.height()) / 2);
     paintShield(painter, shield);
     const QRectF name(shield.right() + Measure::wordmarkGap, 0, width(), height());

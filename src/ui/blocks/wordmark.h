@@ -7,15 +7,18 @@ namespace velmora {
 /// Draws the shield with its chevron, scaled to the rectangle.
 void paintShield(QPainter& painter, const QRectF& rect);
 
-/// The shield and the name.
+/// The shield and the name, `indent` pixels from the left edge.
 class Wordmark : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Wordmark(QWidget* parent);
+    Wordmark(double indent, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    double indent_;
 };
 
 } // namespace velmora

@@ -11,11 +11,17 @@
 
 namespace velmora {
 
+namespace {
+
+constexpr double shieldEdge = Measure::wordmarkShield / 10.0; // empty, left of the shield in its square
+
+} // namespace
+
 AboutCard::AboutCard(QWidget* window) : OverlayCard(Measure::confirmationCard, window) {
     setAccessibleName(tr("About Velmora"));
     auto* close = new SBButton(tr("Close"), {.kind = SBButtonKind::secondary}, card());
     column()->setContentsMargins(Measure::confirmationMargins);
-    column()->addWidget(new Wordmark(card()));
+    column()->addWidget(new Wordmark(-shieldEdge, card()));
     column()->addSpacing(Measure::gap16);
     column()->addWidget(new Text(tr("Velmora %1").arg(QCoreApplication::applicationVersion()),
                                  Type::confirmationTitle, SB::ink, card()));

@@ -18,7 +18,7 @@ Sidebar::Sidebar(AppStore& store, QWidget* parent) : QWidget(parent), store_(sto
     column->setContentsMargins(Measure::sidebarSide, Measure::sidebarTop, Measure::sidebarSide + 1,
                                Measure::sidebarBottom);
     column->setSpacing(Measure::gap4);
-    column->addWidget(new Wordmark(this));
+    column->addWidget(new Wordmark(Measure::sectionPadding, this));
     column->addSpacing(Measure::gap20 - Measure::gap4);
     addSections();
     column->addStretch(1);
