@@ -1,9 +1,11 @@
 #include "ui/look/motion.h"
 #include "ui/look/style.h"
+#include "ui/look/tokens.h"
 #include "ui/served_fixture.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
 
@@ -103,6 +105,25 @@ TEST_F(WindowTest, AFailedCommandIsReportedInEverySection) {
                           QString::fromUtf8(id.data()) + ": timed out."))
             << id;
     }
+}
+
+TEST_F(WindowTest, AMenuHasAWholeBorderAndItsShadowMovesNothing) {
+    QMenu menu;
+    menu.addAction("Line");
+    menu.ensurePolished();
+    const QPoint at = window().mapToGlobal(QPoint(300, 300));
+    menu.popup(at);
+    settle();
+    const QRect panel = menu.contentsRect();
+    EXPECT_EQ(menu.mapToGlobal(panel.topLeft()), at);
+    const QImage shot = menu.grab().toImage();
+    for (const QPoint& edge : {QPoint(panel.left(), panel.center().y()),
+                               {panel.right(), panel.center().y()},
+                               {panel.center().x(), panel.top()},
+                               {panel.center().x(), panel.bottom()}})
+        EXPECT_EQ(shot.pixelColor(edge), SB::rule);
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, {panel.center().x(), panel.bottom() + 4});
+    EXPECT_FALSE(menu.isVisible()) << "a click on the shadow is one beside the menu";
 }
 
 TEST_F(WindowTest, SectionsOpenByNumberAndByClick) {

@@ -1,14 +1,15 @@
 #include "ui/look/style.h"
 
+#include "ui/look/compositing.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
-#include <QEvent>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QBitmap>
 #include <QMenu>
-#include <QPainterPath>
+#include <QMouseEvent>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -20,15 +21,49 @@ namespace {
 
 constexpr double disabledText = 0.55;
 
-/// Without an X11 compositor transparent corners render black, so mask them off.
-bool cutsCorners() {
-    return QGuiApplication::platformName() == QLatin1String("xcb");
+constexpr Shadow menuShadow{6, 20, 0.2};
+
+/// A menu has contents margins for its shadow while windows are composited.
+bool hasShadow(const QWidget& menu) {
+    return !menu.contentsMargins().isNull();
 }
 
-void paintMenuPanel(QPainter& painter, const QRect& rect) {
-    if (cutsCorners())
-        painter.fillRect(rect, SB::page);
-    fillRounded(painter, rect, Measure::cardRadius, SB::page, SB::rule);
+/// Makes room for the shadow, or takes it away, before the menu is shown.
+void fitShadow(QMenu& menu) {
+    const QMargins room = isComposited() ? Measure::menuShadow : QMargins();
+    if (room == menu.contentsMargins())
+        return;
+    menu.setContentsMargins(room);
+    QEvent change(QEvent::StyleChange); // after which the menu arranges its items again
+    QApplication::sendEvent(&menu, &change);
+}
+
+/// Cuts off the corners of a menu without a shadow: transparent ones would be black.
+void cutCorners(QWidget& menu) {
+    if (hasShadow(menu)) {
+        menu.clearMask();
+        return;
+    }
+    QBitmap shape(menu.size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(menu.rect(), Measure::cardRadius, Measure::cardRadius);
+    painter.end();
+    menu.setMask(shape);
+}
+
+/// Under a mask, which has no half transparent pixels, everything outside the inner edge is border.
+void paintMenuPanel(QPainter& painter, const QWidget& menu) {
+    const QRect panel = menu.contentsRect();
+    if (hasShadow(menu)) {
+        paintShadow(painter, panel, Measure::cardRadius, menuShadow);
+        fillRounded(painter, panel, Measure::cardRadius, SB::page, SB::rule);
+    } else {
+        painter.fillRect(panel, SB::rule);
+        fillRounded(painter, panel.adjusted(1, 1, -1, -1), Measure::cardRadius - 1, SB::page);
+    }
 }
 
 /// Splits the item at the tab between text and shortcut, and removes the ampersands of mnemonics.
@@ -97,21 +132,32 @@ QPalette Style::lightPalette() {
     return palette;
 }
 
-/// Menus have round corners, so their windows need a translucent background.
+/// Menus have round corners and a shadow, so their windows need a translucent background.
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
-    if (!qobject_cast<QMenu*>(widget))
+    auto* menu = qobject_cast<QMenu*>(widget);
+    if (!menu || menu->testAttribute(Qt::WA_TranslucentBackground))
         return;
-    widget->setAttribute(Qt::WA_TranslucentBackground);
-    widget->installEventFilter(this);
+    menu->setAttribute(Qt::WA_TranslucentBackground);
+    menu->installEventFilter(this);
+    connect(menu, &QMenu::aboutToShow, this, [menu] { fitShadow(*menu); });
 }
 
+/// Puts the panel where a menu without a shadow would be, and treats clicks on the shadow as clicks beside
+/// the menu.
 bool Style::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && cutsCorners()) {
-        auto* menu = static_cast<QWidget*>(watched);
-        QPainterPath outline;
-        outline.addRoundedRect(menu->rect(), Measure::cardRadius, Measure::cardRadius);
-        menu->setMask(outline.toFillPolygon().toPolygon());
+    auto* menu = static_cast<QMenu*>(watched);
+    if (event->type() == QEvent::Resize) {
+        cutCorners(*menu);
+    } else if (event->type() == QEvent::Show && !event->spontaneous()) {
+        const QMargins shadow = menu->contentsMargins();
+        menu->move(menu->pos() - QPoint(shadow.left(), shadow.top()));
+    } else if (event->type() == QEvent::MouseButtonPress) {
+        const QPoint at = static_cast<QMouseEvent*>(event)->pos();
+        if (menu->rect().contains(at) && !menu->contentsRect().contains(at)) {
+            menu->close();
+            return true;
+        }
     }
     return QProxyStyle::eventFilter(watched, event);
 }
@@ -119,7 +165,7 @@ bool Style::eventFilter(QObject* watched, QEvent* event) {
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
     if (element == PE_PanelMenu)
-        paintMenuPanel(*painter, option->rect);
+        paintMenuPanel(*painter, *widget);
     else if (element != PE_FrameMenu && element != PE_FrameFocusRect)
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
