@@ -119,6 +119,7 @@ protected:
         if (!dialog)
             return {};
         EXPECT_EQ(QFileInfo(dialog->selectedFiles().value(0)).fileName(), proposed);
+        EXPECT_EQ(dialog->defaultSuffix(), QFileInfo(proposed).suffix());
         const QString name = folder.isEmpty() ? home.filePath(proposed) : folder + proposed;
         dialog->selectFile(name);
         static_cast<QDialog*>(dialog)->accept();

@@ -3,6 +3,7 @@
 #include "model/csv.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 
 namespace velmora {
 
@@ -16,6 +17,12 @@ TEST_F(HistoryTest, ARecordShowsItsFiguresAndFacts) {
           "The drone stayed at least 32.6 m inside the boundary and was 0 s in the 5 m buffer.",
           "Unknown person · M-1"})
         EXPECT_TRUE(shows(fact)) << fact;
+    Settings settings = store().settings();
+    settings.boundaryBuffer = 40;
+    store().setSettings(settings);
+    settle();
+    EXPECT_TRUE(
+        shows("The drone stayed at least 32.6 m inside the boundary and was 5 s in the 40 m buffer."));
     choose("You ignored");
     for (const char* fact :
          {"Furthest out, —", "Battery used, —", "Seen → 10 s → ended", "The drone did not fly."})
@@ -34,21 +41,68 @@ TEST_F(HistoryTest, TheReplayStepsByHalfASecondAndTheMapFollows) {
     EXPECT_EQ(slider().value(), 1);
     press(Qt::Key_Right);
     EXPECT_TRUE(shows("0:01 / 0:10")) << "two steps are one second";
-    QWidget* notice = nullptr;
-    for (auto* text : window().findChildren<QWidget*>())
-        if (text->isVisible() && text->accessibleName().endsWith(" Battery below 30% — coming home"))
-            notice = text;
-    ASSERT_NE(notice, nullptr);
-    QTest::mouseClick(notice, Qt::LeftButton);
+    QTest::mouseClick(&notice("Battery below 30% — coming home"), Qt::LeftButton);
     settle();
     EXPECT_TRUE(shows("0:07 / 0:10") && shows(fullReplay)) << "the drone has taken off by then";
 }
 
+TEST_F(HistoryTest, TheLogFollowsTheReplay) {
+    look({flight()});
+    const auto highlighted = [&](const QString& text) { // by the halo of its dot
+        const int x = (Measure::logTime + Measure::logTextX) / 2 - 6;
+        return notice(text).grab().toImage().pixelColor(x, 9) == SB::dotBg;
+    };
+    for (const auto& [steps, first, second] : {std::tuple(5, false, false), std::tuple(6, true, false),
+                                               std::tuple(14, false, true), std::tuple(20, false, false)}) {
+        slider().setValue(steps);
+        settle();
+        EXPECT_EQ(highlighted("You approved the launch"), first) << steps;
+        EXPECT_EQ(highlighted("Battery below 30% — coming home"), second) << steps;
+    }
+}
+
+TEST_F(HistoryTest, AnotherRecordStartsAtItsTopWithDayAndTime) {
+    auto history = four();
+    history[3].start -= Seconds{30 * 86400};
+    history[3].end = history[3].start + Seconds{10};
+    look(history);
+    resize(Measure::windowMinimum);
+    detail().verticalScrollBar()->setValue(50);
+    choose("Alert expired");
+    EXPECT_EQ(detail().verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(shows("Garden · " + dayNameAndTime(history[3].start, now)));
+}
+
+TEST_F(HistoryTest, AWideWindowShowsTheRecordInTwoColumns) {
+    look({flight()});
+    const auto at = [&](const QString& name) {
+        QWidget* widget = find(name);
+        return widget ? QRect(widget->mapTo(&window(), QPoint()), widget->size()) : QRect();
+    };
+    const QString map = "Replay of the visitor's path and of the drone's, at most 42 m from its pad.";
+    resize(Measure::windowDefault);
+    EXPECT_EQ(at(map), QRect(640, 128, 680, 453));
+    for (const auto& [size, width] :
+         {std::pair(QSize(1920, 1200), 808), std::pair(QSize(2560, 1440), 1080)}) {
+        resize(size);
+        EXPECT_EQ(at(map), QRect(640, 128, width, (width * 2 + 1) / 3));
+        EXPECT_EQ(at("Duration, 0:10 min").topLeft(), QPoint(640 + width + 32, 128));
+        EXPECT_EQ(at("Match, 88 % unknown").topLeft(), QPoint(640 + width + 32 + 200, 198));
+        EXPECT_EQ(at("Delete this visit").right(), 640 + width + 32 + 400 - 1);
+    }
+    const QImage response =
+        find("Seen → 3 s → answered → 4 s → coming home → 3 s → landed")->grab().toImage();
+    for (const auto& [x, color] : {std::pair(115, SB::purple), std::pair(285, SB::dot)})
+        EXPECT_EQ(response.pixelColor(x, Measure::gap8 + Measure::responseBar / 2), color) << x;
+    resize(Measure::windowMinimum);
+    EXPECT_EQ(at(map).size(), QSize(496, 331)) << "no bars beside the plan";
+}
+
 TEST_F(HistoryTest, SpacePlaysFromTheStartAndAnAlertPausesTheReplay) {
     look({flight()});
-    slider().setFocus();
     press(Qt::Key_Space);
-    EXPECT_TRUE(shows("Pause"));
+    EXPECT_TRUE(shows("Pause")) << "from the list, too";
+    slider().setFocus();
     EXPECT_TRUE(waitUntil([&] { return slider().value() > 0 && slider().value() < slider().maximum(); }));
     press(Qt::Key_Space);
     EXPECT_TRUE(shows("Play"));
@@ -98,7 +152,7 @@ TEST_F(HistoryTest, ExportsWriteTheOfferedFormats) {
     EXPECT_EQ(exported("Paths and notices as CSV…", "velmora-M----1.csv").toStdString(),
               pathsCsv(history[0]));
     click("Flown");
-    EXPECT_EQ(exported("The list as CSV…", "velmora-M----1-list.csv").toStdString(),
+    EXPECT_EQ(exported("The list as CSV…", "velmora-visits.csv").toStdString(),
               recordsCsv({history[0], history[2]}));
     const QWidget* map = find("Replay of the visitor's path and of the drone's, at most 42 m from its pad.");
     EXPECT_EQ(QImage::fromData(exported("Map as a picture…", "velmora-M----1.png")).size(), map->size() * 2);

@@ -44,6 +44,11 @@ void ArtImage::setName(const QString& name) {
     update();
 }
 
+void ArtImage::setRadius(double radius) {
+    radius_ = radius;
+    update();
+}
+
 void ArtImage::setCrop(const Crop& crop) {
     if (crop == crop_)
         return;

@@ -18,6 +18,7 @@ public:
     ArtImage(const QString& name, Mode mode, double radius, QWidget* parent);
 
     void setName(const QString& name);
+    void setRadius(double radius);
     /// Which part of the picture the mode `fill` shows. A picture without a focus is shown as a whole.
     struct Crop {
         double share = 1;     ///< of the picture's width; less where the focus would not reach its point

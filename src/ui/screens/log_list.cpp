@@ -61,22 +61,31 @@ public:
         update();
     }
 
+    void setCurrent(bool current) {
+        current_ = current;
+        updateColor();
+        update();
+    }
+
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const QRectF time(0, 0, Measure::logTime, Type::logTime.line);
         drawText(painter, time, time_, Type::logTime, SB::muted, Qt::AlignLeft);
         const QPointF dot((Measure::logTime + Measure::logTextX) / 2.0, Type::log.line / 2);
-        paintStatusDot(painter, dot, {.color = color_, .diameter = Measure::statusDotInRow});
+        paintStatusDot(painter, dot,
+                       {.color = color_, .halo = current_, .diameter = Measure::statusDotInRow});
     }
 
-    void enterEvent(QEnterEvent*) override {
-        if (focusPolicy() != Qt::NoFocus)
-            text_->setColor(SB::ink);
-    }
-    void leaveEvent(QEvent*) override { text_->setColor(SB::body); }
+    void enterEvent(QEnterEvent*) override { updateColor(); }
+    void leaveEvent(QEvent*) override { updateColor(); }
 
 private:
+    void updateColor() {
+        const bool hovered = underMouse() && focusPolicy() != Qt::NoFocus;
+        text_->setColor(current_ || hovered ? SB::ink : SB::body);
+    }
+
     void makeClickable() {
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
@@ -91,6 +100,7 @@ private:
     Text* text_;
     QString time_;
     QColor color_;
+    bool current_ = false;
 };
 
 LogList::LogList(Interaction interaction, QWidget* parent)
@@ -113,6 +123,16 @@ void LogList::setNotices(const std::vector<Notice>& notices) {
     }
     column_->setEnabled(true);
     column_->invalidate();
+}
+
+void LogList::setCurrent(std::optional<std::size_t> index) {
+    if (index == current_)
+        return;
+    if (current_)
+        rows_[*current_]->setCurrent(false);
+    current_ = index;
+    if (current_)
+        rows_[*current_]->setCurrent(true);
 }
 
 void LogList::addRow() {

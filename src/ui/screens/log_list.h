@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 class QVBoxLayout;
@@ -26,6 +27,8 @@ public:
     LogList(Interaction interaction, QWidget* parent);
 
     void setNotices(const std::vector<Notice>& notices);
+    /// Highlights the notice at this index; nullopt for none.
+    void setCurrent(std::optional<std::size_t> index);
 
 signals:
     /// The owner clicked a notice.
@@ -38,6 +41,7 @@ private:
     QVBoxLayout* column_;
     std::vector<LogRow*> rows_;
     std::vector<Notice> notices_;
+    std::optional<std::size_t> current_;
 };
 
 } // namespace velmora

@@ -55,6 +55,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
     connect(list_, &HistoryList::opened, detail_, &RecordDetail::focusReplay);
+    connect(list_, &HistoryList::playRequested, detail_, &RecordDetail::togglePlaying);
     connect(list_, &HistoryList::clearDemoRequested, this, &HistoryView::clearDemoRequested);
     connect(detail_, &RecordDetail::exportRequested, this, &HistoryView::offerExports);
     connect(detail_, &RecordDetail::deleteRequested, this, [this] {
@@ -143,35 +144,35 @@ void HistoryView::remove(RecordKey key) {
         list_->offerUndo(std::move(*removed));
 }
 
-void HistoryView::offerExports(QPoint below) {
+void HistoryView::offerExports(QRect above) {
     const MissionRecord record = *detail_->record();
-    const QString name = fileNameFor(record);
+    const QString name = fileNameFor(record), csv = QStringLiteral("csv");
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto offer = [&](const QString& title, const QString& suffix, const QString& filter, auto write) {
-        connect(menu->addAction(title), &QAction::triggered, this,
-                [=, this] { saveAs(title, name + suffix, filter, write()); });
+    const auto offer = [&](const Export& offered, auto prepare) {
+        connect(menu->addAction(offered.title), &QAction::triggered, this,
+                [=, this] { saveAs(offered, prepare()); });
     };
-    offer(tr("Record as JSON…"), QStringLiteral(".json"), tr("JSON (*.json)"),
+    offer({tr("Record as JSON…"), name, QStringLiteral("json"), tr("JSON (*.json)")},
           [=, this] { return std::bind_front(&AppStore::exportRecord, &store_, record); });
-    offer(tr("Paths and notices as CSV…"), QStringLiteral(".csv"), tr("CSV (*.csv)"),
+    offer({tr("Paths and notices as CSV…"), name, csv, tr("CSV (*.csv)")},
           [=, this] { return std::bind_front(&AppStore::exportPaths, &store_, record); });
-    offer(tr("Map as a picture…"), QStringLiteral(".png"), tr("PNG (*.png)"), [this] {
+    offer({tr("Map as a picture…"), name, QStringLiteral("png"), tr("PNG (*.png)")}, [this] {
         return std::bind_front(&AppStore::exportPicture, &store_, pngOf(detail_->mapPicture()));
     });
     menu->addSeparator();
-    offer(tr("The list as CSV…"), QStringLiteral("-list.csv"), tr("CSV (*.csv)"),
+    offer({tr("The list as CSV…"), QStringLiteral("velmora-visits"), csv, tr("CSV (*.csv)")},
           [this] { return std::bind_front(&AppStore::exportList, &store_, list_->shown()); });
-    menu->popup(below);
+    const int left = std::min(above.left(), above.left() + above.width() - menu->sizeHint().width());
+    menu->popup({left, above.top() + above.height() + Measure::gap4});
 }
 
-/// Asks for a path and calls `write` with it, which returns an error text, or an empty string on success.
-void HistoryView::saveAs(const QString& title, const QString& name, const QString& filter,
-                         std::function<QString(const QString& path)> write) {
+void HistoryView::saveAs(const Export& chosen, Write write) {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    auto* dialog = new QFileDialog(window(), title, documents, filter);
+    auto* dialog = new QFileDialog(window(), chosen.title, documents, chosen.filter);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->selectFile(name);
+    dialog->setDefaultSuffix(chosen.suffix);
+    dialog->selectFile(chosen.name + '.' + chosen.suffix);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QFileDialog::fileSelected, this, [this, write = std::move(write)](const QString& path) {
         if (const QString why = write(path); !why.isEmpty())

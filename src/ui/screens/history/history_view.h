@@ -40,9 +40,16 @@ private:
     void showSelection();
     void remove(RecordKey key);
     std::optional<RecordKey> neighbour(RecordKey key) const;
-    void offerExports(QPoint below);
-    void saveAs(const QString& title, const QString& name, const QString& filter,
-                std::function<QString(const QString& path)> write);
+    struct Export {
+        QString title;
+        QString name;   ///< proposed for the file, without suffix
+        QString suffix; ///< without a dot
+        QString filter; ///< of the file dialog
+    };
+    /// Writes the file; returns an error text, or an empty one on success.
+    using Write = std::function<QString(const QString& path)>;
+    void offerExports(QRect above);
+    void saveAs(const Export& chosen, Write write);
 
     HistoryList* list_;
     RecordDetail* detail_;

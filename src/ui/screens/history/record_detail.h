@@ -14,6 +14,7 @@ class RecordFacts;
 class ReplayBar;
 class ReplayPlayer;
 class SBButton;
+class ScrollArea;
 class SiteMap;
 class Text;
 
@@ -24,17 +25,21 @@ class RecordDetail : public QWidget {
 public:
     RecordDetail(AppStore& store, QWidget* parent);
 
+    /// Shows the record, or what changed around it if it is shown already.
     void setEntry(const HistoryEntry& entry);
     /// The record shown; never null, empty before the first setEntry().
     const std::shared_ptr<const MissionRecord>& record() const { return record_; }
     /// Moves the keyboard focus to the replay.
     void focusReplay();
     void pause();
+    /// Plays or pauses the replay.
+    void togglePlaying();
     /// The map at the current replay position, at twice its size.
     QPixmap mapPicture() const;
 
 signals:
-    void exportRequested(QPoint below);
+    /// The menu belongs below this rectangle, in screen coordinates, and not right of it.
+    void exportRequested(QRect above);
     void deleteRequested();
 
 protected:
@@ -43,8 +48,9 @@ protected:
 
 private:
     QWidget* buildHeading(QWidget* parent);
+    QWidget* buildReplay(QWidget* parent);
     void showMoment();
-    void fitMap();
+    void arrange();
 
     AppStore& store_;
     std::optional<RecordKey> key_; ///< of the record shown
@@ -53,6 +59,8 @@ private:
     Text* eyebrow_;
     Headline* title_;
     SBButton* export_;
+    QWidget* content_;
+    ScrollArea* area_;
     SiteMap* map_;
     ReplayBar* bar_;
     RecordFacts* facts_;

@@ -9,9 +9,15 @@
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
+#include "ui/screens/history/response_times.h"
 #include "ui/screens/log_list.h"
 
+#include <QGridLayout>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
 
 namespace velmora {
 
@@ -19,107 +25,165 @@ namespace {
 
 const QString absent = QStringLiteral("—");
 
-QString stepName(ResponseStep step) {
-    switch (step) {
-    case ResponseStep::seen:
-        return RecordFacts::tr("Seen");
-    case ResponseStep::answered:
-        return RecordFacts::tr("answered");
-    case ResponseStep::airborne:
-        return RecordFacts::tr("airborne");
-    case ResponseStep::onStation:
-        return RecordFacts::tr("on station");
-    case ResponseStep::comingHome:
-        return RecordFacts::tr("coming home");
-    case ResponseStep::ended:
-        return RecordFacts::tr("ended");
-    }
-    return {};
+Metric* newMetric(const QString& label, QWidget* parent) {
+    auto* metric = new Metric(label, Metric::Size::regular, false, parent);
+    metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return metric;
 }
 
-/// "Seen → 8 s → answered → 5 s → airborne".
-QString responseText(const MissionRecord& record) {
-    const auto moments = responseTimeline(record);
-    QString text = stepName(moments.front().step);
-    for (std::size_t i = 1; i < moments.size(); ++i) {
-        const bool landed = moments[i].step == ResponseStep::ended && flew(record.outcome);
-        text += QStringLiteral(" → ") + duration(moments[i].time - moments[i - 1].time) +
-                QStringLiteral(" → ") + (landed ? RecordFacts::tr("landed") : stepName(moments[i].step));
-    }
-    return text;
+/// Replaces the widget's layout; the widgets in it stay.
+template <class Layout>
+Layout* newLayout(QWidget* parent, int spacing = 0) {
+    delete parent->layout();
+    return bareLayout<Layout>(parent, spacing);
 }
 
-Text* addSection(QVBoxLayout* column, const QString& heading, QWidget* parent) {
-    auto* text = new Text({}, Type::log, SB::body, parent);
-    column->addWidget(new Text(heading, Type::groupHeading, SB::ink, parent));
-    column->addSpacing(Measure::gap4);
-    column->addWidget(text);
-    column->addSpacing(Measure::gap20);
-    return text;
+/// Adds a hairline with these distances to what is above and below it.
+void addLine(QVBoxLayout& column, Hairline* line, int above, int below) {
+    column.addSpacing(above);
+    column.addWidget(line);
+    column.addSpacing(below - line->minimumHeight());
 }
 
 } // namespace
 
-RecordFacts::RecordFacts(QWidget* parent) : QWidget(parent) {
+RecordFacts::RecordFacts(QWidget* replay, QWidget* parent)
+    : QWidget(parent),
+      replay_(replay),
+      metrics_(new QWidget(this)),
+      duration_(newMetric(tr("Duration"), metrics_)),
+      furthest_(newMetric(tr("Furthest out"), metrics_)),
+      battery_(newMetric(tr("Battery used"), metrics_)),
+      match_(newMetric(tr("Match"), metrics_)),
+      response_(new ResponseTimes(this)),
+      log_(new LogList(LogList::Interaction::clickable, this)),
+      logSection_(section(tr("What happened"), log_, Measure::gap8)),
+      boundary_(new Text({}, Type::log, SB::body, this)),
+      boundarySection_(section(tr("Boundary"), boundary_, Measure::gap4)),
+      visitor_(new QWidget(this)),
+      picture_(new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, visitor_)),
+      identity_(new Text({}, Type::label2, SB::muted, visitor_)),
+      times_(new Text({}, Type::label2, SB::muted, visitor_)) {
+    replay_->setParent(this);
+    for (QWidget* block : std::initializer_list<QWidget*>{response_, logSection_, boundarySection_})
+        block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the columns decide the width
+    for (Hairline*& line : lines_)
+        line = new Hairline(this, Hairline::Tone::between);
+    connect(log_, &LogList::activated, this,
+            [this](const Notice& notice) { emit momentRequested((notice.time - start_).count()); });
+    setTwoColumns(false);
+}
+
+QWidget* RecordFacts::section(const QString& heading, QWidget* content, int gap) {
+    auto* section = new QWidget(this);
+    auto* column = bareLayout<QVBoxLayout>(section, gap);
+    column->addWidget(new Text(heading, Type::groupHeading, SB::ink, section));
+    column->addWidget(content);
+    return section;
+}
+
+void RecordFacts::setTwoColumns(bool two) {
+    if (twoColumns_ == two)
+        return;
+    twoColumns_ = two;
+    response_->setChartShown(two);
+    for (std::size_t i = 1; i < lines_.size(); ++i)
+        lines_[i]->setVisible(two);
+    layMetrics(two ? 2 : 4);
+    layVisitor(two);
+    if (two)
+        layTwoColumns();
+    else
+        layOneColumn();
+}
+
+void RecordFacts::layMetrics(int columns) {
+    auto* grid = newLayout<QGridLayout>(metrics_);
+    grid->setVerticalSpacing(Measure::gap24);
+    int index = 0;
+    for (Metric* metric : {duration_, furthest_, battery_, match_}) {
+        grid->setColumnStretch(index % columns, 1);
+        grid->addWidget(metric, index / columns, index % columns);
+        ++index;
+    }
+}
+
+void RecordFacts::layVisitor(bool wide) {
+    const QSize size = wide ? Measure::alertPictureWide : Measure::alertPicture;
+    visitor_->setFixedWidth(size.width());
+    picture_->setFixedSize(size);
+    picture_->setRadius(wide ? Measure::cardRadius : Measure::thumbnailRadius);
+    auto* column = newLayout<QVBoxLayout>(visitor_);
+    column->addWidget(picture_);
+    column->addSpacing(wide ? Measure::gap8 : Measure::gap4);
+    column->addWidget(identity_);
+    column->addSpacing(wide ? 0 : Measure::gap4);
+    column->addWidget(times_);
+}
+
+void RecordFacts::layOneColumn() {
     auto* texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    log_ = new LogList(LogList::Interaction::clickable, this);
-    texts->addWidget(new Text(tr("What happened"), Type::groupHeading, SB::ink, this));
-    texts->addSpacing(Measure::gap8);
-    texts->addWidget(log_);
-    texts->addSpacing(Measure::gap24);
-    response_ = addSection(texts, tr("Response"), this);
-    boundary_ = addSection(texts, tr("Boundary"), this);
+    texts->setSpacing(Measure::gap20);
+    texts->addWidget(logSection_);
+    texts->addSpacing(Measure::gap4);
+    texts->addWidget(response_);
+    texts->addWidget(boundarySection_);
     texts->addStretch(1);
     auto* row = new QHBoxLayout;
     row->setSpacing(Measure::gap24);
     row->addLayout(texts, 1);
-    row->addWidget(buildVisitor(), 0, Qt::AlignTop);
-    auto* column = bareLayout<QVBoxLayout>(this, Measure::gap20);
-    column->addWidget(buildMetrics());
-    column->addWidget(new Hairline(this, Hairline::Tone::between));
+    row->addWidget(visitor_, 0, Qt::AlignTop);
+    auto* column = newLayout<QVBoxLayout>(this, Measure::gap20);
+    column->addWidget(replay_);
+    column->addWidget(metrics_);
+    column->addWidget(lines_[0]);
     column->addLayout(row);
-    connect(log_, &LogList::activated, this,
-            [this](const Notice& notice) { emit momentRequested((notice.time - start_).count()); });
 }
 
-QWidget* RecordFacts::buildMetrics() {
-    auto* row = new QWidget(this);
-    auto* layout = bareLayout<QHBoxLayout>(row);
-    const auto add = [&](const QString& label) {
-        auto* metric = new Metric(label, Metric::Size::regular, false, row);
-        metric->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        layout->addWidget(metric, 1);
-        return metric;
-    };
-    duration_ = add(tr("Duration"));
-    furthest_ = add(tr("Furthest out"));
-    battery_ = add(tr("Battery used"));
-    match_ = add(tr("Match"));
-    return row;
+void RecordFacts::layTwoColumns() {
+    auto* visit = new QHBoxLayout;
+    visit->setSpacing(Measure::gap32);
+    auto* picture = new QVBoxLayout;
+    picture->addSpacing(Measure::gap4); // level with the capitals of the heading beside it
+    picture->addWidget(visitor_);
+    visit->addLayout(picture);
+    visit->addWidget(boundarySection_, 1, Qt::AlignTop);
+    auto* left = new QVBoxLayout;
+    left->setSpacing(0);
+    left->addWidget(replay_);
+    addLine(*left, lines_[0], Measure::gap24, Measure::gap20);
+    left->addLayout(visit);
+    left->addStretch(1);
+    auto* side = new QVBoxLayout;
+    side->setSpacing(0);
+    side->addStrut(Measure::detailSecondColumn);
+    side->addWidget(metrics_);
+    addLine(*side, lines_[1], Measure::gap24, Measure::gap20);
+    side->addWidget(response_);
+    addLine(*side, lines_[2], Measure::gap20, Measure::gap20);
+    side->addWidget(logSection_);
+    side->addStretch(1);
+    auto* columns = newLayout<QHBoxLayout>(this);
+    columns->addLayout(left, 1);
+    columns->addSpacing(Measure::gutter);
+    columns->addLayout(side);
 }
 
-QWidget* RecordFacts::buildVisitor() {
-    auto* visitor = new QWidget(this);
-    visitor->setFixedWidth(Measure::alertPicture.width());
-    picture_ = new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, visitor);
-    picture_->setFixedSize(Measure::alertPicture);
-    identity_ = new Text({}, Type::label2, SB::muted, visitor);
-    times_ = new Text({}, Type::label2, SB::muted, visitor);
-    auto* column = bareLayout<QVBoxLayout>(visitor, Measure::gap4);
-    column->addWidget(picture_);
-    column->addWidget(identity_);
-    column->addWidget(times_);
-    return visitor;
-}
-
-void RecordFacts::setRecord(const MissionRecord& record, const Site& site, const Settings& settings) {
+void RecordFacts::setRecord(const MissionRecord& record) {
     start_ = record.start;
     showMetrics(record);
     log_->setNotices(record.notices);
-    response_->setText(responseText(record));
-    showBoundary(record, site, settings);
+    response_->setRecord(record);
     showVisitor(record);
+}
+
+void RecordFacts::setMoment(const MissionRecord& record, const std::optional<double>& seconds) {
+    const auto happened = [&](const Notice& notice) {
+        return seconds && (notice.time - record.start).count() <= *seconds;
+    };
+    const auto last = std::find_if(record.notices.rbegin(), record.notices.rend(), happened);
+    const auto count = static_cast<std::size_t>(record.notices.rend() - last);
+    log_->setCurrent(count > 0 ? std::optional(count - 1) : std::nullopt);
 }
 
 void RecordFacts::showMetrics(const MissionRecord& record) {
@@ -135,7 +199,7 @@ void RecordFacts::showMetrics(const MissionRecord& record) {
     match_->setValue(percent(record.confidence), tr("% unknown"));
 }
 
-void RecordFacts::showBoundary(const MissionRecord& record, const Site& site, const Settings& settings) {
+void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, const Settings& settings) {
     const auto evidence = boundaryEvidence(record, site, settings.boundaryBuffer);
     if (!evidence) {
         boundary_->setText(tr("The drone did not fly."));

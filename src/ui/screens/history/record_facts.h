@@ -4,44 +4,64 @@
 
 #include <QWidget>
 
+#include <array>
+
 namespace velmora {
 
 class ArtImage;
+class Hairline;
 class LogList;
 class Metric;
+class ResponseTimes;
 class Text;
 
-/// The facts of a record: four metrics, the response times, the distance kept from the boundary, the notices,
-/// and the visitor. Clicking a notice moves the replay to its time.
+/// A record below its heading, in one column or in two: the replay, four metrics, the response times, the
+/// distance kept from the boundary, the notices, and the visitor. Clicking a notice moves the replay to its
+/// time.
 class RecordFacts : public QWidget {
     Q_OBJECT
 
 public:
-    explicit RecordFacts(QWidget* parent);
+    /// Takes ownership of the replay.
+    RecordFacts(QWidget* replay, QWidget* parent);
 
-    void setRecord(const MissionRecord& record, const Site& site, const Settings& settings);
+    void setTwoColumns(bool two);
+    void setRecord(const MissionRecord& record);
+    void setBoundary(const MissionRecord& record, const Site& site, const Settings& settings);
+    /// Highlights the last notice up to this time after the start of the record, in seconds; nullopt for
+    /// none.
+    void setMoment(const MissionRecord& record, const std::optional<double>& seconds);
 
 signals:
     /// The owner clicked a notice; `seconds` counts from the start of the record.
     void momentRequested(double seconds);
 
 private:
-    QWidget* buildMetrics();
-    QWidget* buildVisitor();
+    QWidget* section(const QString& heading, QWidget* content, int gap);
+    void layMetrics(int columns);
+    void layOneColumn();
+    void layTwoColumns();
+    void layVisitor(bool wide);
     void showMetrics(const MissionRecord& record);
-    void showBoundary(const MissionRecord& record, const Site& site, const Settings& settings);
     void showVisitor(const MissionRecord& record);
 
+    QWidget* replay_;
+    QWidget* metrics_;
     Metric* duration_;
     Metric* furthest_;
     Metric* battery_;
     Metric* match_;
+    ResponseTimes* response_;
     LogList* log_;
-    Text* response_;
+    QWidget* logSection_;
     Text* boundary_;
+    QWidget* boundarySection_;
+    QWidget* visitor_;
     ArtImage* picture_;
     Text* identity_;
     Text* times_;
+    std::array<Hairline*, 3> lines_{};
+    std::optional<bool> twoColumns_;
     Date start_;
 };
 

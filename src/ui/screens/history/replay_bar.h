@@ -23,13 +23,14 @@ public:
     void setRecord(const MissionRecord& record);
     /// Moves the keyboard focus to the slider.
     void focusSlider();
+    /// Plays or pauses.
+    void toggle();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void refresh();
-    void toggle();
 
     ReplayPlayer& player_;
     IconButton* play_;
