@@ -1,5 +1,7 @@
 #include "ui/blocks/headline.h"
+#include "ui/blocks/sb_button.h"
 #include "ui/look/art.h"
+#include "ui/look/style.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
@@ -132,6 +134,75 @@ TEST(LookTest, ArtIsFoundByNameAndNeverOutsideItsFolder) {
         EXPECT_FALSE(Art::find(name).isNull()) << name;
     for (const char* name : {"", "nothing", "../art/plan-base", ".plan-base", "/etc/passwd"})
         EXPECT_TRUE(Art::find(name).isNull()) << name;
+}
+
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+QColor painted(QColor over, const QColor& under) {
+    const double share = over.alphaF();
+    over.setAlphaF(1);
+    return SB::mixed(under, over, share);
+}
+
+/// Contrast ratio by WCAG 2, of a colour that may be translucent.
+double contrast(const QColor& front, const QColor& behind) {
+    const auto [dark, light] = std::minmax({luminance(painted(front, behind)), luminance(behind)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+constexpr double ofTexts = 4.5, ofEdges = 3; // least contrast
+
+TEST(LookTest, TextsAndEdgesOfControlsStandOutFromWhatIsBehindThem) {
+    const QColor hoveredRow = painted(SB::faded(SB::rule2, 0.5), SB::panel);
+    const QColor placeholder = Style::lightPalette().color(QPalette::PlaceholderText);
+    const QColor chip = painted(SB::faded(SB::navy, 0.72), Qt::white);
+    const QColor warning = painted(SB::faded(SB::alert, 0.05), SB::page);
+    const struct {
+        QColor behind;
+        std::vector<QColor> texts, edges;
+    } surfaces[] = {
+        {SB::page,
+         {SB::ink, SB::body, SB::muted, SB::teal, SB::blue, SB::purple, SB::alert, SB::caution, placeholder},
+         {SB::edge, SB::teal, SB::blue, SB::alert}},
+        {SB::panel, {SB::ink, SB::body, SB::muted, SB::teal, SB::blue, SB::caution}, {SB::edge, SB::blue}},
+        {hoveredRow, {SB::ink, SB::muted}, {}},
+        {warning, {SB::ink, SB::body, SB::alert, SB::blue}, {}},
+        {SB::rule2, {SB::ink}, {SB::muted}},
+        {SB::ink, {SB::page}, {}},
+        {SB::caution, {SB::page}, {}},
+        {SB::alert, {SB::page}, {}},
+        {chip, {SB::dTitle}, {}},
+        {SB::navy,
+         {SB::dTitle, SB::dBody, SB::dLabel, SB::dTeal, SB::lilac, SB::softBlue, SB::faded(SB::dLabel, 0.75)},
+         {SB::softBlue}}};
+    for (const auto& [behind, texts, edges] : surfaces) {
+        for (const QColor& text : texts)
+            EXPECT_GE(contrast(text, behind), ofTexts)
+                << text.name().toStdString() << " on " << behind.name().toStdString();
+        for (const QColor& edge : edges)
+            EXPECT_GE(contrast(edge, behind), ofEdges)
+                << edge.name().toStdString() << " on " << behind.name().toStdString();
+    }
+}
+
+TEST(LookTest, ButtonsThatCanBePressedStandOut) {
+    using State = SBButton::State;
+    for (const auto kind : {SBButtonKind::primary, SBButtonKind::secondary, SBButtonKind::quiet,
+                            SBButtonKind::danger, SBButtonKind::onDark})
+        for (const State state : {State::normal, State::hover, State::pressed}) {
+            const QColor behind = kind == SBButtonKind::onDark ? SB::navy : SB::page;
+            const SBButtonColors colors = SBButton::colorsOf(kind, state);
+            const QColor fill = painted(colors.fill, behind);
+            EXPECT_GE(contrast(colors.text, fill), ofTexts) << int(kind) << ' ' << int(state);
+            const QColor edge = colors.border.alpha() > 0 ? colors.border : fill;
+            EXPECT_TRUE(kind == SBButtonKind::quiet || contrast(edge, behind) >= ofEdges)
+                << int(kind) << ' ' << int(state);
+        }
 }
 
 /// Colours and fonts are defined only in ui/look.

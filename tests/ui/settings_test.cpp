@@ -1,4 +1,5 @@
 #include "ui/linked_ui_fixture.h"
+#include "ui/look/measures.h"
 #include "ui/screens/settings/limits_sketch.h"
 #include "ui/screens/settings/settings_view.h"
 
@@ -129,7 +130,23 @@ TEST_F(SettingsTest, ClicksAndDragsMoveASlider) {
     EXPECT_EQ(store().settings().flightHeight, 30);
 }
 
-TEST_F(SettingsTest, TheWheelMovesASliderOnlyWhileItHasTheFocus) {
+TEST_F(SettingsTest, APressBesideTheMiddleOfAThumbMovesItOnlyWhenDragged) {
+    look();
+    QSlider& wind = slider("Don't launch if wind is over");
+    const int thumb = Measure::sliderThumb, middle = wind.height() / 2;
+    const auto xOf = [&](int value) {
+        return thumb / 2 +
+               (wind.width() - thumb) * (value - wind.minimum()) / (wind.maximum() - wind.minimum());
+    };
+    const QPoint beside(xOf(30) + thumb / 2 - 2, middle);
+    QTest::mousePress(&wind, Qt::LeftButton, {}, beside);
+    EXPECT_EQ(store().settings().maxWindKmh, 30);
+    QTest::mouseMove(&wind, beside + QPoint(xOf(32) - xOf(30), 0));
+    QTest::mouseRelease(&wind, Qt::LeftButton, {}, beside);
+    EXPECT_EQ(store().settings().maxWindKmh, 32);
+}
+
+TEST_F(SettingsTest, ANotchOfTheWheelMovesASliderByOneOnlyWhileItHasTheFocus) {
     look();
     QSlider& distance = slider("Follow distance");
     slider("Flight height");
@@ -137,7 +154,7 @@ TEST_F(SettingsTest, TheWheelMovesASliderOnlyWhileItHasTheFocus) {
     EXPECT_EQ(store().settings().followDistance, 15);
     slider("Follow distance");
     turnWheel(distance);
-    EXPECT_GT(store().settings().followDistance, 15);
+    EXPECT_EQ(store().settings().followDistance, 16);
 }
 
 TEST_F(SettingsTest, TheConnectionShowsTheServerOnlyInLinkMode) {

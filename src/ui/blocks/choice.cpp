@@ -35,8 +35,7 @@ void RadioChoice::paintEvent(QPaintEvent*) {
     if (isChecked())
         fillDisc(painter, center, Measure::radioCircle, SB::page, SB::teal, Measure::radioRing);
     else
-        fillDisc(painter, center, Measure::radioCircle, SB::page,
-                 SB::faded(SB::muted, underMouse() ? 0.8 : 0.55));
+        fillDisc(painter, center, Measure::radioCircle, SB::page, underMouse() ? SB::muted : SB::edge);
     const QRectF words(Measure::radioCircle + Measure::radioGap, 0, width(), height());
     drawText(painter, words, text(), Type::compactRow, SB::ink, Qt::AlignVCenter);
 }
@@ -64,7 +63,7 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         if (isChecked())
-            fillRounded(painter, rect(), Measure::thumbnailRadius, SB::page, SB::rule);
+            fillRounded(painter, rect(), Measure::thumbnailRadius, SB::page, SB::edge);
         drawText(painter, rect(), text(), isChecked() ? Type::segmentChosen : Type::segment,
                  isChecked() || underMouse() ? SB::ink : SB::muted, Qt::AlignCenter);
     }
@@ -102,7 +101,7 @@ void SegmentedChoice::setCurrentIndex(int index) {
 
 void SegmentedChoice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    fillRounded(painter, rect(), Measure::buttonRadius, SB::panel, SB::rule);
+    fillRounded(painter, rect(), Measure::buttonRadius, SB::panel, SB::edge);
 }
 
 } // namespace velmora

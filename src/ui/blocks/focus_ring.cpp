@@ -60,6 +60,9 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         focusHidden_ = !widget->isVisible();
         if (watched_.contains(widget))
             detach();
+    } else if (target_ == widget && event->type() == QEvent::DynamicPropertyChange) {
+        style_ = ringStyleOf(widget).value_or(style_);
+        updatePosition();
     } else if (target_ && moves(event->type()) && watched_.contains(widget)) {
         updatePosition();
     }
@@ -89,7 +92,8 @@ void FocusRing::updatePosition() {
         hide();
         return;
     }
-    const QRect around(target_->mapTo(window(), QPoint()), target_->size());
+    const QRect part = style_.part.isNull() ? target_->rect() : style_.part;
+    const QRect around(target_->mapTo(window(), part.topLeft()), part.size());
     clip_ = window()->rect();
     for (QWidget* one = target_->parentWidget(); one && one != window(); one = one->parentWidget())
         if (auto* area = qobject_cast<QAbstractScrollArea*>(one->parentWidget());

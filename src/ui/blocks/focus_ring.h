@@ -19,9 +19,12 @@ public:
         bool dark = false;        ///< on a navy surface
         bool field = false;       ///< a text field: a halo at its border, also after a click
         bool roundParent = false; ///< ring the parent, for one part of a larger control
+        QRect part = {};          ///< ring only this part of the widget, such as a slider's thumb
+
+        bool operator==(const RingStyle&) const = default;
     };
 
-    /// A widget without a style gets no ring.
+    /// A widget without a style gets no ring. The style can change while the widget has the focus.
     static void setRingStyle(QWidget* widget, const RingStyle& style);
 
     explicit FocusRing(QWidget* window);

@@ -28,7 +28,7 @@ void IconButton::setIcon(Icon icon, const QString& name) {
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor fill = isDown() ? SB::rule2 : underMouse() ? SB::panel : SB::page;
-    fillRounded(painter, rect(), Measure::buttonRadius, fill, SB::rule);
+    fillRounded(painter, rect(), Measure::buttonRadius, fill, SB::edge);
     paintIcon(painter, QRectF(rect()).center(), Measure::buttonIcon, icon_,
               isEnabled() ? SB::ink : SB::faded(SB::muted, 0.6));
 }

@@ -46,7 +46,7 @@ void OverlayScrollBar::paintEvent(QPaintEvent*) {
     if (!visibleTimer_.isActive() && !underMouse() && !dragging_)
         return;
     QPainter painter(this);
-    fillRounded(painter, thumb(), Measure::scrollBar / 2.0, SB::rule);
+    fillRounded(painter, thumb(), Measure::scrollBar / 2.0, SB::edge);
 }
 
 void OverlayScrollBar::enterEvent(QEnterEvent*) {

@@ -48,21 +48,21 @@ SBButtonColors SBButton::colorsOf(SBButtonKind kind, State state) {
         return choose({SB::ink, none, SB::page}, {SB::mixed(SB::page, SB::ink, 0.88), none, SB::page},
                       {SB::navy, none, SB::page}, {SB::rule2, none, faded(SB::muted, 0.8)});
     case SBButtonKind::secondary:
-        return choose({SB::page, SB::rule, SB::ink}, {SB::panel, faded(SB::muted, 0.45), SB::ink},
-                      {SB::rule2, faded(SB::muted, 0.45), SB::ink}, outlineOff);
+        return choose({SB::page, SB::edge, SB::ink}, {SB::panel, SB::muted, SB::ink},
+                      {SB::rule2, SB::muted, SB::ink}, outlineOff);
     case SBButtonKind::quiet:
-        return choose({none, none, SB::blue}, {SB::panel, none, SB::blue}, {SB::rule2, none, SB::blue},
+        return choose({none, none, SB::blue}, {SB::panel, none, SB::blue}, {SB::rule2, none, SB::ink},
                       {none, none, faded(SB::muted, 0.6)});
     case SBButtonKind::danger:
-        return choose({SB::mixed(SB::page, SB::alert, 0.07), faded(SB::alert, 0.28), SB::alert},
+        return choose({SB::mixed(SB::page, SB::alert, 0.07), faded(SB::alert, 0.6), SB::alert},
                       {SB::alert, SB::alert, SB::page},
                       {SB::mixed(SB::alert, SB::navy, 0.25), none, SB::page}, outlineOff);
     case SBButtonKind::onDark:
         break;
     }
-    return choose({faded(SB::dTitle, 0.1), faded(SB::dTitle, 0.2), SB::dTitle},
-                  {faded(SB::dTitle, 0.16), faded(SB::dTitle, 0.32), SB::dTitle},
-                  {faded(SB::dTitle, 0.24), faded(SB::dTitle, 0.32), SB::dTitle},
+    return choose({faded(SB::dTitle, 0.1), faded(SB::dTitle, 0.4), SB::dTitle},
+                  {faded(SB::dTitle, 0.16), faded(SB::dTitle, 0.5), SB::dTitle},
+                  {faded(SB::dTitle, 0.24), faded(SB::dTitle, 0.5), SB::dTitle},
                   {faded(SB::dTitle, 0.05), faded(SB::dTitle, 0.1), faded(SB::dLabel, 0.55)});
 }
 

@@ -33,6 +33,9 @@ class SBButton : public QAbstractButton {
     Q_OBJECT
 
 public:
+    enum class State { normal, hover, pressed, disabled };
+    static SBButtonColors colorsOf(SBButtonKind kind, State state);
+
     SBButton(const QString& text, const SBButtonStyle& style, QWidget* parent);
 
     /// Draws the button as if it were disabled; it can still be clicked.
@@ -52,9 +55,6 @@ protected:
     bool hitButton(const QPoint& at) const override;
 
 private:
-    enum class State { normal, hover, pressed, disabled };
-
-    static SBButtonColors colorsOf(SBButtonKind kind, State state);
     State wantedState() const;
     void fadeToState();
 

@@ -19,7 +19,7 @@ Slider::Slider(const QString& name, int lower, int upper, QWidget* parent) : QSl
     setPageStep(5);
     setFixedHeight(Measure::sliderThumb + 2);
     setFocusPolicy(Qt::StrongFocus);
-    FocusRing::setRingStyle(this, {.radius = Measure::buttonRadius});
+    placeRing();
     connect(this, &QSlider::valueChanged, this, &Slider::moved);
 }
 
@@ -29,26 +29,31 @@ void Slider::setValue(int value) {
     update();
 }
 
-double Slider::thumbX() const {
+QRectF Slider::thumb() const {
+    constexpr double side = Measure::sliderThumb;
     const double share = maximum() > minimum() ? double(value() - minimum()) / (maximum() - minimum()) : 0;
-    return Measure::sliderThumb / 2.0 + share * (width() - Measure::sliderThumb);
+    return {share * (width() - side), (height() - side) / 2, side, side};
 }
 
+/// Moves the thumb's middle.
 void Slider::moveTo(double x) {
     const double share = (x - Measure::sliderThumb / 2.0) / std::max(width() - Measure::sliderThumb, 1);
     QSlider::setValue(minimum() + static_cast<int>(std::lround(share * (maximum() - minimum()))));
 }
 
+/// A press on the track moves the thumb there, one on the thumb takes hold of it.
 void Slider::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     setSliderDown(true);
-    moveTo(event->position().x());
+    const double x = event->position().x();
+    grip_ = thumb().contains(event->position()) ? x - thumb().center().x() : 0;
+    moveTo(x - grip_);
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event) {
     if (isSliderDown())
-        moveTo(event->position().x());
+        moveTo(event->position().x() - grip_);
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent*) {
@@ -56,22 +61,39 @@ void Slider::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void Slider::wheelEvent(QWheelEvent* event) {
-    if (hasFocus())
-        QSlider::wheelEvent(event);
-    else
+    if (!hasFocus()) {
         event->ignore();
+        return;
+    }
+    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+    wheel_ += event->angleDelta().y();
+    QSlider::setValue(value() + wheel_ / notch);
+    wheel_ %= notch;
+}
+
+void Slider::resizeEvent(QResizeEvent*) {
+    placeRing();
+}
+
+void Slider::sliderChange(SliderChange change) {
+    QSlider::sliderChange(change);
+    placeRing();
+}
+
+void Slider::placeRing() {
+    FocusRing::setRingStyle(this, {.radius = Measure::sliderThumb / 2.0, .part = thumb().toRect()});
 }
 
 void Slider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QPointF thumb(thumbX(), height() / 2.0);
-    QRectF track(0, thumb.y() - Measure::sliderTrack / 2.0, width(), Measure::sliderTrack);
-    const double radius = track.height() / 2;
-    fillRounded(painter, track, radius, SB::rule2);
-    track.setRight(thumb.x());
-    fillRounded(painter, track, radius, SB::teal);
-    fillDisc(painter, thumb + QPointF(0, 1), Measure::sliderThumb + 1, SB::faded(SB::navy, 0.08));
-    fillDisc(painter, thumb, Measure::sliderThumb, SB::page, SB::rule);
+    const QPointF middle = thumb().center();
+    const auto track = [&](double right, double thickness, const QColor& color) {
+        fillRounded(painter, {0, middle.y() - thickness / 2, right, thickness}, thickness / 2, color);
+    };
+    track(width(), Measure::sliderTrack / 2.0, SB::edge);
+    track(middle.x(), Measure::sliderTrack, SB::teal);
+    fillDisc(painter, middle + QPointF(0, 1), Measure::sliderThumb + 1, SB::faded(SB::navy, 0.08));
+    fillDisc(painter, middle, Measure::sliderThumb, SB::page, SB::edge);
 }
 
 } // namespace velmora

@@ -4,8 +4,8 @@
 
 namespace velmora {
 
-/// A slider in steps of 1: arrow keys move it by one, page keys by five. The wheel moves it only while it has
-/// the focus, so that scrolling a page never changes a value.
+/// A slider in steps of 1: arrow keys move it by one, page keys by five. A notch of the wheel moves it
+/// by one too, but only while it has the focus, so that scrolling a page never changes a value.
 class Slider : public QSlider {
     Q_OBJECT
 
@@ -25,10 +25,16 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void sliderChange(SliderChange change) override;
 
 private:
-    double thumbX() const;
+    QRectF thumb() const;
     void moveTo(double x);
+    void placeRing();
+
+    double grip_ = 0; ///< from the thumb's middle to the mouse, while it is dragged
+    int wheel_ = 0;   ///< turned since the last step, in eighths of a degree
 };
 
 } // namespace velmora

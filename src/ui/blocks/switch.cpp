@@ -42,7 +42,7 @@ void Switch::paintEvent(QPaintEvent*) {
         painter.setOpacity(0.5);
     const double on = position_.value();
     const double middle = height() / 2.0, travel = width() - height();
-    fillRounded(painter, rect(), middle, SB::mixed(SB::rule, SB::teal, on));
+    fillRounded(painter, rect(), middle, SB::mixed(SB::edge, SB::teal, on));
     fillDisc(painter, {middle + travel * on, middle}, Measure::switchThumb, SB::page);
 }
 

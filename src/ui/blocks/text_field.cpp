@@ -44,7 +44,7 @@ void TextField::paintEvent(QPaintEvent* event) {
         fillRounded(painter, rect(), Measure::thumbnailRadius, isEnabled() ? SB::page : SB::panel,
                     invalid_     ? SB::alert
                     : hasFocus() ? SB::blue
-                                 : SB::rule);
+                                 : SB::edge);
     }
     QLineEdit::paintEvent(event);
 }

@@ -125,7 +125,7 @@ QPalette Style::lightPalette() {
     palette.setColor(QPalette::ButtonText, SB::ink);
     palette.setColor(QPalette::Highlight, SB::ink);
     palette.setColor(QPalette::HighlightedText, SB::page);
-    palette.setColor(QPalette::PlaceholderText, SB::faded(SB::muted, 0.75));
+    palette.setColor(QPalette::PlaceholderText, SB::muted);
     palette.setColor(QPalette::ToolTipBase, SB::ink);
     palette.setColor(QPalette::ToolTipText, SB::page);
     palette.setColor(QPalette::Link, SB::blue);

@@ -11,6 +11,7 @@ inline constexpr QColor body{75, 99, 116};
 inline constexpr QColor muted{82, 107, 122};
 inline constexpr QColor rule{202, 219, 228};
 inline constexpr QColor rule2{214, 226, 232};
+inline constexpr QColor edge{126, 145, 157}; ///< of controls, 3 : 1 on page and panel
 inline constexpr QColor panel{245, 248, 251};
 inline constexpr QColor page{255, 255, 255};
 inline constexpr QColor teal{19, 126, 124};

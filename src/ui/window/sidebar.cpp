@@ -77,7 +77,7 @@ void Sidebar::showFlight() {
     const Phase phase = store_.phase();
     std::optional<SectionMark> mark;
     if (store_.freshness() != Freshness::live)
-        mark = SectionMark{SB::rule, false};
+        mark = SectionMark{SB::edge, false};
     else if (phase == Phase::awaitingApproval)
         mark = SectionMark{SB::caution, false};
     else if (airborne(phase))

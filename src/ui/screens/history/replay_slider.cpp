@@ -79,7 +79,7 @@ void ReplaySlider::paintEvent(QPaintEvent*) {
         fillRounded(painter, {xOf(from), middle - half, xOf(to) - xOf(from), Measure::replayTrack}, half,
                     color);
     };
-    track(0, length_, SB::rule2);
+    track(0, length_, SB::edge);
     track(0, shown_, SB::teal);
     for (const TimeSpan& gap : gaps_)
         painter.fillRect(
@@ -87,7 +87,7 @@ void ReplaySlider::paintEvent(QPaintEvent*) {
             SB::page);
     for (const double mark : marks_)
         painter.fillRect(QRectF(xOf(mark) - 0.5, middle + half + 2, 1, Measure::replayMark), SB::muted);
-    fillDisc(painter, {xOf(shown_), middle}, Measure::replayThumb, SB::page, SB::rule);
+    fillDisc(painter, {xOf(shown_), middle}, Measure::replayThumb, SB::page, SB::edge);
 }
 
 } // namespace velmora
