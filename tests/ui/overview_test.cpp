@@ -3,6 +3,7 @@
 #include "ui/look/words.h"
 
 #include <QAbstractButton>
+#include <QEnterEvent>
 
 namespace velmora {
 
@@ -51,6 +52,23 @@ TEST_F(OverviewTest, HeadlineAndLedeSummariseTheState) {
     store().setSection(Section::overview);
     fly(4);
     EXPECT_TRUE(shows("Your drone is on patrol."));
+}
+
+TEST_F(OverviewTest, TextsThatDoNotFitAreInTheTooltip) {
+    window();
+    QList<QWidget*> painted{rows(Outcome::visitorLeft).front(), find("Live flight")};
+    for (QWidget* widget : window().findChildren<QWidget*>())
+        if (widget->isVisible() && widget->accessibleName().startsWith("Wind, "))
+            painted.append(widget);
+    for (QWidget* widget : painted) {
+        QEnterEvent enters({}, {}, {});
+        QApplication::sendEvent(widget, &enters);
+        EXPECT_EQ(widget->toolTip(), "") << widget->accessibleName().toStdString();
+        widget->resize(50, widget->height());
+        QApplication::sendEvent(widget, &enters);
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->accessibleName().toStdString();
+    }
+    EXPECT_EQ(painted.front()->toolTip(), "Visitor left your grounds");
 }
 
 TEST_F(OverviewTest, ADoubleClickSwitchesOnlyOnceAndTheFocusFollows) {

@@ -1,7 +1,7 @@
 #include "ui/blocks/text.h"
 
 #include "ui/blocks/accessibility.h"
-#include "ui/look/text.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/tokens.h"
 
 #include <algorithm>
@@ -96,7 +96,7 @@ const QStringList& Text::lines(int width) const {
 
 void Text::updateToolTip() {
     if (maximumLines_ > 0)
-        setToolTip(lines(width()).join(' ').endsWith(QChar(0x2026)) ? plainToolTip(text_) : QString());
+        setToolTipIfElided(*this, text_, lines(width()).join(' ').endsWith(QChar(0x2026)));
 }
 
 void Text::resizeEvent(QResizeEvent*) {

@@ -1,6 +1,7 @@
 #include "ui/blocks/text_line.h"
 
 #include "ui/blocks/accessibility.h"
+#include "ui/blocks/tool_tip.h"
 
 #include <cmath>
 
@@ -26,7 +27,7 @@ QSize TextLine::sizeHint() const {
 }
 
 void TextLine::updateToolTip() {
-    setToolTip(sizeHint().width() > width() ? plainToolTip(textOf(runs_)) : QString());
+    setToolTipIfElided(*this, textOf(runs_), sizeHint().width() > width());
 }
 
 void TextLine::resizeEvent(QResizeEvent*) {

@@ -3,6 +3,7 @@
 #include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -35,11 +36,15 @@ void SectionRow::paintEvent(QPaintEvent*) {
     constexpr double icon = Measure::sectionIcon;
     paintIcon(painter, {Measure::sectionPadding + icon / 2, height() / 2.0}, icon, icon_,
               isChecked() ? SB::teal : SB::muted);
-    const QRectF title = QRectF(rect()).adjusted(2 * Measure::sectionPadding + icon, 0, 0, 0);
-    drawText(painter, title, text(), Type::rowTitle, isChecked() ? SB::ink : SB::muted,
+    drawText(painter, titleBox(), text(), Type::rowTitle, isChecked() ? SB::ink : SB::muted,
              Qt::AlignLeft | Qt::AlignVCenter);
     if (mark_)
         paintMark(painter);
+}
+
+QRectF SectionRow::titleBox() const {
+    const int right = mark_ ? 2 * Measure::sectionMarkInset : Measure::sectionPadding;
+    return QRectF(rect()).adjusted(2 * Measure::sectionPadding + Measure::sectionIcon, 0, -right, 0);
 }
 
 void SectionRow::paintSurface(QPainter& painter) const {
@@ -56,6 +61,7 @@ void SectionRow::paintMark(QPainter& painter) const {
 }
 
 void SectionRow::enterEvent(QEnterEvent*) {
+    setToolTipIfElided(*this, text(), textWidth(text(), Type::rowTitle) > titleBox().width());
     update();
 }
 

@@ -32,6 +32,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    QRectF titleBox() const;
     void paintSurface(QPainter& painter) const;
     void paintMark(QPainter& painter) const;
 

@@ -5,6 +5,7 @@
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
@@ -55,6 +56,9 @@ void DroneBadge::refresh() {
     charge_ = state ? state->drone.battery / 100 : 0;
     low_ = low;
     setAccessibleName(phase_ + ", " + tr("battery %1").arg(battery_));
+    constexpr double words = Measure::sidebar - 2.0 * (Measure::sidebarSide + Measure::sectionPadding) -
+                             Measure::droneBadgeCircle - Measure::gap12;
+    setToolTipIfElided(*this, phase_, textWidth(phase_, Type::bodyStrong) > words);
     update();
 }
 

@@ -7,6 +7,7 @@
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
@@ -46,23 +47,31 @@ public:
         time_ = dayAndTime(record.start, now);
         setText(outcomeText(record.outcome));
         setAccessibleName(text() + ", " + time_);
+        updateToolTip();
         update();
     }
 
 protected:
+    void resizeEvent(QResizeEvent*) override { updateToolTip(); }
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         paintStatusDot(painter, {Measure::activityDotX, height() / 2.0},
                        {.color = color_, .diameter = Measure::statusDotInRow});
-        const double timeWidth = textWidth(time_, Type::label2);
         const QRectF line = QRectF(rect()).adjusted(Measure::activityTitleX, 0, 0, 0);
-        drawText(painter, line.adjusted(0, 0, -timeWidth - Measure::gap12, 0), text(), Type::compactRow,
+        drawText(painter, QRectF(line.topLeft(), QSizeF(titleWidth(), height())), text(), Type::compactRow,
                  underMouse() ? SB::blue : SB::ink, Qt::AlignVCenter);
         drawText(painter, line, time_, Type::label2, SB::muted, Qt::AlignVCenter | Qt::AlignRight);
         paintHairline(painter, {0, height() - 1, width(), 1}, SB::rule2);
     }
 
 private:
+    double titleWidth() const {
+        return width() - Measure::activityTitleX - textWidth(time_, Type::label2) - Measure::gap12;
+    }
+    void updateToolTip() {
+        setToolTipIfElided(*this, text(), textWidth(text(), Type::compactRow) > titleWidth());
+    }
+
     /// Inputs of the texts, which are expensive to format. Relative days can change only from minute to
     /// minute.
     struct Shown {

@@ -5,6 +5,7 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -52,7 +53,7 @@ MissionFacts::MissionFacts(QWidget* parent) : QWidget(parent) {
     declareRole(this, QAccessible::StaticText);
 }
 
-/// The accessible name holds all facts.
+/// The accessible name holds all facts, and so does the tooltip if some do not fit.
 void MissionFacts::setFacts(const std::vector<MissionFact>& facts) {
     if (facts == facts_)
         return;
@@ -61,7 +62,16 @@ void MissionFacts::setFacts(const std::vector<MissionFact>& facts) {
     for (const MissionFact& fact : facts_)
         texts.append(fact.text);
     setAccessibleName(texts.join(QStringLiteral(", ")));
+    updateToolTip();
     update();
+}
+
+void MissionFacts::updateToolTip() {
+    setToolTipIfElided(*this, accessibleName(), fitting() < facts_.size());
+}
+
+void MissionFacts::resizeEvent(QResizeEvent*) {
+    updateToolTip();
 }
 
 std::size_t MissionFacts::fitting() const {

@@ -24,8 +24,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void updateToolTip();
     std::vector<MissionFact> facts_;
 };
 

@@ -6,6 +6,7 @@
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/machine.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -59,21 +60,23 @@ public:
         for (const Line& line : lines_)
             texts.append(textOf(line));
         setAccessibleName(texts.join(QStringLiteral(", ")));
+        updateToolTip();
         update();
     }
 
     /// Width in pixels at which no text is cut off.
     double neededWidth() const { return neededWidth_; }
 
-    /// Shows the text in a tooltip and as the accessible description.
+    /// Shows the text in the tooltip and as the accessible description.
     void setDetails(const QString& details) {
         if (details == accessibleDescription())
             return;
-        setToolTip(plainToolTip(details));
         setAccessibleDescription(details);
+        updateToolTip();
     }
 
 protected:
+    void resizeEvent(QResizeEvent*) override { updateToolTip(); }
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const auto line = [&](double top, double height) { return QRectF(0, top, width(), height); };
@@ -101,6 +104,16 @@ private:
         for (const Line& line : lines_)
             widest = std::max(widest, textWidth(line));
         return std::ceil(widest);
+    }
+
+    /// Shows the details, or else the texts if one of them is elided.
+    void updateToolTip() {
+        QStringList texts{value_};
+        for (const Line& line : lines_)
+            texts.append(textOf(line));
+        const QString& details = accessibleDescription();
+        setToolTipIfElided(*this, details.isEmpty() ? texts.join('\n') : details,
+                           !details.isEmpty() || neededWidth_ > width());
     }
 
     QString caption_, value_;

@@ -1,6 +1,7 @@
 #include "ui/screens/settings/rule_line.h"
 
 #include "ui/blocks/accessibility.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -17,8 +18,15 @@ RuleLine::RuleLine(const QString& rule, QWidget* parent) : QWidget(parent) {
 void RuleLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillDisc(painter, {Measure::ruleBullet / 2, height() / 2.0}, Measure::ruleBullet, SB::teal);
-    drawText(painter, QRectF(Measure::ruleTextX, 0, width() - Measure::ruleTextX, height()), accessibleName(),
-             Type::body, SB::body, Qt::AlignVCenter);
+    drawText(painter, textBox(), accessibleName(), Type::body, SB::body, Qt::AlignVCenter);
+}
+
+void RuleLine::resizeEvent(QResizeEvent*) {
+    setToolTipIfElided(*this, accessibleName(), textWidth(accessibleName(), Type::body) > textBox().width());
+}
+
+QRectF RuleLine::textBox() const {
+    return QRectF(rect()).adjusted(Measure::ruleTextX, 0, 0, 0);
 }
 
 } // namespace velmora

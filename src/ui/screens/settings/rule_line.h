@@ -13,6 +13,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QRectF textBox() const;
 };
 
 } // namespace velmora
