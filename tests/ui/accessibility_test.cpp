@@ -152,6 +152,64 @@ TEST_F(AccessibilityTest, PaintedWidgetsHaveNamesAndRoles) {
     }
 }
 
+struct Spoken {
+    QObject* object;
+    QString name;
+};
+
+/// What is visible, in the order in which a screen reader meets it.
+void read(QAccessibleInterface* node, std::vector<Spoken>& spoken) {
+    if (node->state().invisible)
+        return;
+    spoken.push_back({node->object(), node->text(QAccessible::Name)});
+    EXPECT_TRUE(node->childCount() > 0 || !spoken.back().name.isEmpty())
+        << "an empty " << node->object()->metaObject()->className();
+    for (int i = 0; i < node->childCount(); ++i)
+        read(node->child(i), spoken);
+}
+
+TEST_F(AccessibilityTest, TabAndScreenReadersFollowTheSameOrder) {
+    QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&window());
+    EXPECT_EQ(all->role(), QAccessible::Window);
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        store().setSection(section);
+        settle();
+        std::vector<Spoken> spoken;
+        read(all, spoken);
+        const auto indexOfFocus = [&] {
+            return std::ranges::find(spoken, QApplication::focusWidget(), &Spoken::object) - spoken.begin();
+        };
+        window().setFocus();
+        press(Qt::Key_Tab);
+        const auto first = indexOfFocus();
+        for (auto index = first, next = first;; index = next) {
+            press(Qt::Key_Tab);
+            next = indexOfFocus();
+            if (next <= index) {
+                EXPECT_EQ(next, first) << id;
+                break;
+            }
+            press(Qt::Key_Backtab);
+            EXPECT_EQ(indexOfFocus(), index) << id;
+            press(Qt::Key_Tab);
+        }
+        EXPECT_EQ(spoken[static_cast<std::size_t>(first)].object->parent()->metaObject()->className(),
+                  std::string("velmora::Sidebar"));
+    }
+}
+
+TEST_F(AccessibilityTest, ScreenReadersReadFromTopToBottom) {
+    std::vector<Spoken> spoken;
+    read(QAccessible::queryAccessibleInterface(&window()), spoken);
+    auto at = spoken.begin();
+    for (const char* name :
+         {"Minimise", "Velmora", "Overview", "Docked", "Your grounds are watched.", "3 cameras are", "Disarm",
+          "Map of", "Recent activity", "All activity", "Wind, "}) {
+        at = std::find_if(at, spoken.end(), [&](const Spoken& one) { return one.name.startsWith(name); });
+        ASSERT_NE(at, spoken.end()) << name;
+    }
+}
+
 /// In a group of choices, Tab reaches only one.
 TEST_F(AccessibilityTest, TabReachesEverythingInEverySection) {
     for (const auto& [section, id] : rawValuesOf<Section>) {

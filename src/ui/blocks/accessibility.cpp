@@ -3,6 +3,7 @@
 #include "ui/blocks/reading_order.h"
 
 #include <QAccessibleWidget>
+#include <QMenu>
 #include <QWidget>
 
 #include <algorithm>
@@ -29,11 +30,16 @@ bool speaks(const QWidget* widget) {
     }
 }
 
-/// Reads the children in the order of the layout and leaves out decoration.
+/// Reads the children in the order of the layout, then open menus, and leaves out decoration.
 class ReadingWidget : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
 
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.modal = role() == QAccessible::Dialog;
+        return state;
+    }
     int childCount() const override { return static_cast<int>(children().size()); }
     QAccessibleInterface* child(int index) const override {
         return QAccessible::queryAccessibleInterface(children().value(index));
@@ -46,6 +52,9 @@ private:
     QList<QWidget*> children() const {
         QList<QWidget*> found = childrenInReadingOrder(*widget());
         found.removeIf([](const QWidget* child) { return !speaks(child); });
+        for (QObject* child : widget()->children())
+            if (auto* menu = qobject_cast<QMenu*>(child); menu && menu->isVisible())
+                found.append(menu);
         return found;
     }
 };

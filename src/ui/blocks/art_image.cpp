@@ -1,5 +1,6 @@
 #include "ui/blocks/art_image.h"
 
+#include "ui/blocks/accessibility.h"
 #include "ui/look/art.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
@@ -34,7 +35,14 @@ QImage withoutTransparentEdges(const QImage& picture) {
 } // namespace
 
 ArtImage::ArtImage(const QString& name, Mode mode, double radius, QWidget* parent)
-    : QWidget(parent), name_(name), mode_(mode), radius_(radius) {}
+    : QWidget(parent), name_(name), mode_(mode), radius_(radius) {
+    declareRole(this, QAccessible::Graphic);
+}
+
+void ArtImage::setDescription(const QString& description) {
+    if (description != accessibleName())
+        setAccessibleName(description);
+}
 
 void ArtImage::setName(const QString& name) {
     if (name == name_)

@@ -19,6 +19,8 @@ public:
 
     void setName(const QString& name);
     void setRadius(double radius);
+    /// What assistive technology reads. A picture without a description is decoration.
+    void setDescription(const QString& description);
     /// Which part of the picture the mode `fill` shows. A picture without a focus is shown as a whole.
     struct Crop {
         double share = 1;     ///< of the picture's width; less where the focus would not reach its point

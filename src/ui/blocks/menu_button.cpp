@@ -44,7 +44,7 @@ QSize MenuButton::minimumSizeHint() const {
 }
 
 void MenuButton::open() {
-    auto* menu = new QMenu(this);
+    auto* menu = new QMenu(parentWidget()); // a button hides its children from assistive technology
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (int i = 0; i < options_.size(); ++i)
         connect(

@@ -132,7 +132,8 @@ QPalette Style::lightPalette() {
     return palette;
 }
 
-/// Menus have round corners and a shadow, so their windows need a translucent background.
+/// Menus have round corners and a shadow, so their windows need a translucent background. An accessible press triggers
+/// an action, but would leave its menu open.
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     auto* menu = qobject_cast<QMenu*>(widget);
@@ -141,6 +142,10 @@ void Style::polish(QWidget* widget) {
     menu->setAttribute(Qt::WA_TranslucentBackground);
     menu->installEventFilter(this);
     connect(menu, &QMenu::aboutToShow, this, [menu] { fitShadow(*menu); });
+    connect(menu, &QMenu::triggered, menu, [menu] {
+        if (menu->isVisible())
+            menu->close();
+    });
 }
 
 /// Puts the panel where a menu without a shadow would be, and treats clicks on the shadow as clicks beside

@@ -81,6 +81,7 @@ void CameraCard::refresh(const CameraInfo& cam) {
     cam_ = cam;
     picture_->setName(toQString(cam.snapshot));
     name_->setText(shownText(cam.name));
+    picture_->setDescription(tr("Picture of %1").arg(name_->text()));
     const auto raised = std::ranges::count(store_.history(), cam.id,
                                            [](const HistoryEntry& entry) { return entry.record->cameraId; });
     alerts_->setText(raised == 0   ? tr("No alerts in the history")

@@ -118,6 +118,11 @@ QWidget* HistoryList::buildRecords() {
     auto* onRecords = new QHBoxLayout(records_);
     onRecords->setContentsMargins(0, 0, Measure::scrollBarEdge, 0);
     onRecords->addWidget(new OverlayScrollBar(records_->verticalScrollBar(), records_), 0, Qt::AlignRight);
+    connect(records_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection& chosen) { // assistive technology selects only
+                if (!chosen.isEmpty())
+                    records_->setCurrentIndex(chosen.indexes().front());
+            });
     connect(records_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
                 if (const auto key = model_->keyAt(index); key && key != store_.selectedRecord())

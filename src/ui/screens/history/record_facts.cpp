@@ -217,6 +217,7 @@ void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, con
 
 void RecordFacts::showVisitor(const MissionRecord& record) {
     picture_->setName(toQString(record.snapshot));
+    picture_->setDescription(tr("Picture of %1").arg(isolated(toQString(record.cameraName))));
     const QString label = record.label.empty() ? tr("Unknown person") : toQString(record.label);
     identity_->setText(label + QStringLiteral(" · ") + toQString(record.id));
     times_->setText(tr("Detected %1, ended %2").arg(timeOfDay(record.start), timeOfDay(record.end)));

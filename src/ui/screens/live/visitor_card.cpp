@@ -35,6 +35,7 @@ void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
     picture_->setName(visitorPicture(visitor, site));
     label_->setText(visitorName(visitor));
     camera_->setText(visitorCamera(visitor, site));
+    picture_->setDescription(tr("Picture of %1").arg(camera_->text()));
     certainty_->setText(certaintyText(visitor) + QStringLiteral(" ·"));
     inside_->setVisible(visitor.inside);
     outside_->setVisible(!visitor.inside);

@@ -1,7 +1,6 @@
 #include "ui/screens/overview/now_group.h"
 
 #include "model/flight_limits.h"
-#include "ui/blocks/accessibility.h"
 #include "ui/blocks/art_image.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
@@ -59,7 +58,6 @@ QWidget* NowGroup::buildVisitor() {
     picture_ = new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, row);
     picture_->setFixedSize(Measure::nowPicture);
     picture_->setCrop({Measure::nowCrop});
-    declareRole(picture_, QAccessible::Graphic);
     name_ = new Text({}, Type::rowTitleStrong, SB::ink, row);
     camera_ = new Text({}, Type::label2, SB::muted, row);
     certainty_ = new Text({}, Type::label2, SB::muted, row);
@@ -145,8 +143,7 @@ void NowGroup::showVisitor(const LiveState& state) {
     camera_->setText(visitorCamera(visitor, state.site));
     certainty_->setText(certaintyText(visitor));
     location_->setText(visitor.inside ? tr("Inside your boundary") : tr("Outside your boundary"));
-    if (const QString name = tr("Picture of %1").arg(camera_->text()); name != picture_->accessibleName())
-        picture_->setAccessibleName(name);
+    picture_->setDescription(tr("Picture of %1").arg(camera_->text()));
     name_->setColor(stale ? SB::muted : SB::ink);
     location_->setColor(stale ? SB::muted : visitor.inside ? SB::teal : SB::ink);
 }
