@@ -2,13 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>History</name>
-    <message>
-        <source>Demo</source>
-        <translation>Demo</translation>
-    </message>
-</context>
-<context>
     <name>StoredText</name>
     <message>
         <source>%1 camera: someone you don&apos;t know</source>
@@ -227,6 +220,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::App</name>
+    <message>
+        <source>Velmora</source>
+        <translation>Velmora</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AppStore</name>
     <message>
         <source>%1 could not be written: %2.</source>
@@ -367,6 +367,14 @@
         <source>%1 alerts in the history</source>
         <translation>%1 Alarme im Verlauf</translation>
     </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Bild: %1</translation>
+    </message>
+    <message>
+        <source>Last seen %1</source>
+        <translation>Zuletzt %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CamerasView</name>
@@ -389,6 +397,18 @@
     <message>
         <source>Waiting for velmora</source>
         <translation>Warten auf velmora</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>Zu den Einstellungen</translation>
+    </message>
+    <message>
+        <source>velmora&apos;s config has no cameras, so nobody on your grounds is noticed and you get no alerts. Add them there, and they appear here.</source>
+        <translation>In der Konfiguration von velmora stehen keine Kameras: Niemand auf Ihrem Grundstück wird bemerkt, und Sie erhalten keine Alarme. Tragen Sie dort Kameras ein, dann erscheinen sie hier.</translation>
+    </message>
+    <message>
+        <source>Your cameras appear here as soon as velmora answers.</source>
+        <translation>Ihre Kameras erscheinen hier, sobald velmora antwortet.</translation>
     </message>
 </context>
 <context>
@@ -533,20 +553,6 @@
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>Every visit,
-</source>
-        <translation>Jeder Besuch,
-</translation>
-    </message>
-    <message>
-        <source>on record</source>
-        <translation>festgehalten</translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation>.</translation>
-    </message>
-    <message>
         <source>Search the history</source>
         <translation>Verlauf durchsuchen</translation>
     </message>
@@ -634,12 +640,18 @@
         <source>%1 visits</source>
         <translation>%1 Besuche</translation>
     </message>
+    <message>
+        <source>Every visit,
+*on record*.</source>
+        <translation>Jeder Besuch,
+*festgehalten*.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::HistoryModel</name>
     <message>
-        <source>, demo</source>
-        <translation>, Demo</translation>
+        <source>%1, demo</source>
+        <translation>%1, Demo</translation>
     </message>
 </context>
 <context>
@@ -706,6 +718,21 @@
     <message>
         <source>%1 m up · %2 m from the pad</source>
         <translation>%1 m hoch · %2 m vom Landeplatz</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LimitsSketch</name>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 up, %2 back,</source>
+        <translation>%1 hoch, %2 Abstand,</translation>
+    </message>
+    <message>
+        <source>%1 inside your boundary</source>
+        <translation>%1 innerhalb der Grenze</translation>
     </message>
 </context>
 <context>
@@ -957,40 +984,8 @@
 <context>
     <name>velmora::RecordFacts</name>
     <message>
-        <source>Seen</source>
-        <translation>Gesehen</translation>
-    </message>
-    <message>
-        <source>answered</source>
-        <translation>beantwortet</translation>
-    </message>
-    <message>
-        <source>airborne</source>
-        <translation>in der Luft</translation>
-    </message>
-    <message>
-        <source>on station</source>
-        <translation>vor Ort</translation>
-    </message>
-    <message>
-        <source>coming home</source>
-        <translation>kehrt heim</translation>
-    </message>
-    <message>
-        <source>ended</source>
-        <translation>beendet</translation>
-    </message>
-    <message>
-        <source>landed</source>
-        <translation>gelandet</translation>
-    </message>
-    <message>
         <source>What happened</source>
         <translation>Ablauf</translation>
-    </message>
-    <message>
-        <source>Response</source>
-        <translation>Reaktion</translation>
     </message>
     <message>
         <source>Boundary</source>
@@ -1033,24 +1028,24 @@
         <translation>Die Drohne ist nicht geflogen.</translation>
     </message>
     <message>
-        <source>The drone was %1 m outside the boundary at the furthest</source>
-        <translation>Die Drohne kam bis zu %1 m über die Grenze hinaus</translation>
-    </message>
-    <message>
-        <source>The drone stayed at least %1 m inside the boundary</source>
-        <translation>Die Drohne blieb mindestens %1 m innerhalb der Grenze</translation>
-    </message>
-    <message>
-        <source> and was %1 in the %2 m buffer.</source>
-        <translation> und war %1 im Puffer von %2 m.</translation>
-    </message>
-    <message>
         <source>Unknown person</source>
         <translation>Unbekannte Person</translation>
     </message>
     <message>
         <source>Detected %1, ended %2</source>
         <translation>Erkannt %1, beendet %2</translation>
+    </message>
+    <message>
+        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
+        <translation>Die Drohne kam bis zu %1 m über die Grenze hinaus und war %2 im Puffer von %3 m.</translation>
+    </message>
+    <message>
+        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
+        <translation>Die Drohne blieb mindestens %1 m innerhalb der Grenze und war %2 im Puffer von %3 m.</translation>
+    </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Bild: %1</translation>
     </message>
 </context>
 <context>
@@ -1077,6 +1072,81 @@
     <message>
         <source>Replay time</source>
         <translation>Wiedergabezeit</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ResponseTimes</name>
+    <message>
+        <source>Seen</source>
+        <translation>Gesehen</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>beantwortet</translation>
+    </message>
+    <message>
+        <source>airborne</source>
+        <translation>in der Luft</translation>
+    </message>
+    <message>
+        <source>on station</source>
+        <translation>vor Ort</translation>
+    </message>
+    <message>
+        <source>coming home</source>
+        <translation>kehrt heim</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>landed</source>
+        <translation>gelandet</translation>
+    </message>
+    <message>
+        <source>Seen to your answer</source>
+        <translation>Bis zu Ihrer Antwort</translation>
+    </message>
+    <message>
+        <source>Seen to the end</source>
+        <translation>Bis zum Ende</translation>
+    </message>
+    <message>
+        <source>Your answer to take-off</source>
+        <translation>Antwort bis Start</translation>
+    </message>
+    <message>
+        <source>After your answer</source>
+        <translation>Nach Ihrer Antwort</translation>
+    </message>
+    <message>
+        <source>On its way to the visitor</source>
+        <translation>Unterwegs zum Besucher</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <translation>Folgt</translation>
+    </message>
+    <message>
+        <source>Following and landing</source>
+        <translation>Verfolgung und Landung</translation>
+    </message>
+    <message>
+        <source>Coming home and landing</source>
+        <translation>Heimflug und Landung</translation>
+    </message>
+    <message>
+        <source>Response</source>
+        <translation>Reaktion</translation>
+    </message>
+    <message>
+        <source>Seen to landed %1</source>
+        <translation>Bis zur Landung %1</translation>
+    </message>
+    <message>
+        <source>Seen to the end %1</source>
+        <translation>Bis zum Ende %1</translation>
     </message>
 </context>
 <context>
@@ -1477,11 +1547,14 @@
     </message>
 </context>
 <context>
-    <name>velmora::Tray</name>
+    <name>velmora::ToggleRow</name>
     <message>
-        <source>Velmora</source>
-        <translation>Velmora</translation>
+        <source>Will not alert while offline</source>
+        <translation>Kein Alarm, solange offline</translation>
     </message>
+</context>
+<context>
+    <name>velmora::Tray</name>
     <message>
         <source>Launch drone</source>
         <translation>Drohne starten</translation>
@@ -1503,10 +1576,6 @@
         <translation>Velmora beenden</translation>
     </message>
     <message>
-        <source>Velmora — </source>
-        <translation>Velmora – </translation>
-    </message>
-    <message>
         <source>Waiting for velmora</source>
         <translation>Warten auf velmora</translation>
     </message>
@@ -1526,6 +1595,10 @@
         <source>Arm</source>
         <translation>Scharf schalten</translation>
     </message>
+    <message>
+        <source>Velmora — %1</source>
+        <translation>Velmora – %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::VisitOffers</name>
@@ -1543,6 +1616,10 @@
     <message>
         <source>outside your boundary</source>
         <translation>außerhalb Ihrer Grenze</translation>
+    </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Bild: %1</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2055,15 @@
     <message>
         <source>%1% sure it&apos;s no one you know</source>
         <translation>Zu %1 % niemand Bekanntes</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>day, time</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Demo</source>
+        <translation>Demo</translation>
     </message>
 </context>
 </TS>

@@ -2,13 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>History</name>
-    <message>
-        <source>Demo</source>
-        <translation>Démo</translation>
-    </message>
-</context>
-<context>
     <name>StoredText</name>
     <message>
         <source>%1 camera: someone you don&apos;t know</source>
@@ -227,6 +220,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::App</name>
+    <message>
+        <source>Velmora</source>
+        <translation>Velmora</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AppStore</name>
     <message>
         <source>%1 could not be written: %2.</source>
@@ -367,6 +367,14 @@
         <source>%1 alerts in the history</source>
         <translation>%1 alertes dans l’historique</translation>
     </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Image : %1</translation>
+    </message>
+    <message>
+        <source>Last seen %1</source>
+        <translation>Vue à %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CamerasView</name>
@@ -389,6 +397,18 @@
     <message>
         <source>Waiting for velmora</source>
         <translation>En attente de velmora</translation>
+    </message>
+    <message>
+        <source>Connection settings</source>
+        <translation>Réglages de connexion</translation>
+    </message>
+    <message>
+        <source>velmora&apos;s config has no cameras, so nobody on your grounds is noticed and you get no alerts. Add them there, and they appear here.</source>
+        <translation>La configuration de velmora ne contient aucune caméra : personne n’est remarqué sur votre terrain et vous ne recevez aucune alerte. Ajoutez-en là-bas, elles apparaîtront ici.</translation>
+    </message>
+    <message>
+        <source>Your cameras appear here as soon as velmora answers.</source>
+        <translation>Vos caméras apparaîtront ici dès que velmora répondra.</translation>
     </message>
 </context>
 <context>
@@ -533,20 +553,6 @@
         <translation>Historique</translation>
     </message>
     <message>
-        <source>Every visit,
-</source>
-        <translation>Chaque visite,
-</translation>
-    </message>
-    <message>
-        <source>on record</source>
-        <translation>consignée</translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation>.</translation>
-    </message>
-    <message>
         <source>Search the history</source>
         <translation>Rechercher dans l’historique</translation>
     </message>
@@ -634,12 +640,18 @@
         <source>%1 visits</source>
         <translation>%1 visites</translation>
     </message>
+    <message>
+        <source>Every visit,
+*on record*.</source>
+        <translation>Chaque visite,
+*consignée*.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::HistoryModel</name>
     <message>
-        <source>, demo</source>
-        <translation>, démo</translation>
+        <source>%1, demo</source>
+        <translation>%1, démo</translation>
     </message>
 </context>
 <context>
@@ -706,6 +718,21 @@
     <message>
         <source>%1 m up · %2 m from the pad</source>
         <translation>Hauteur %1 m · à %2 m de la base</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LimitsSketch</name>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 up, %2 back,</source>
+        <translation>à %1 de haut, %2 derrière,</translation>
+    </message>
+    <message>
+        <source>%1 inside your boundary</source>
+        <translation>%1 dans votre limite</translation>
     </message>
 </context>
 <context>
@@ -957,40 +984,8 @@
 <context>
     <name>velmora::RecordFacts</name>
     <message>
-        <source>Seen</source>
-        <translation>Vu</translation>
-    </message>
-    <message>
-        <source>answered</source>
-        <translation>réponse</translation>
-    </message>
-    <message>
-        <source>airborne</source>
-        <translation>en vol</translation>
-    </message>
-    <message>
-        <source>on station</source>
-        <translation>en position</translation>
-    </message>
-    <message>
-        <source>coming home</source>
-        <translation>retour</translation>
-    </message>
-    <message>
-        <source>ended</source>
-        <translation>fin</translation>
-    </message>
-    <message>
-        <source>landed</source>
-        <translation>posé</translation>
-    </message>
-    <message>
         <source>What happened</source>
         <translation>Déroulement</translation>
-    </message>
-    <message>
-        <source>Response</source>
-        <translation>Réponse</translation>
     </message>
     <message>
         <source>Boundary</source>
@@ -1033,24 +1028,24 @@
         <translation>Le drone n’a pas volé.</translation>
     </message>
     <message>
-        <source>The drone was %1 m outside the boundary at the furthest</source>
-        <translation>Le drone s’est trouvé jusqu’à %1 m hors de la limite</translation>
-    </message>
-    <message>
-        <source>The drone stayed at least %1 m inside the boundary</source>
-        <translation>Le drone est resté à %1 m au moins à l’intérieur de la limite</translation>
-    </message>
-    <message>
-        <source> and was %1 in the %2 m buffer.</source>
-        <translation> et a passé %1 dans la marge de %2 m.</translation>
-    </message>
-    <message>
         <source>Unknown person</source>
         <translation>Personne inconnue</translation>
     </message>
     <message>
         <source>Detected %1, ended %2</source>
         <translation>Détecté à %1, terminé à %2</translation>
+    </message>
+    <message>
+        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
+        <translation>Le drone s’est trouvé jusqu’à %1 m hors de la limite et a passé %2 dans la marge de %3 m.</translation>
+    </message>
+    <message>
+        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
+        <translation>Le drone est resté à %1 m au moins à l’intérieur de la limite et a passé %2 dans la marge de %3 m.</translation>
+    </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Image : %1</translation>
     </message>
 </context>
 <context>
@@ -1077,6 +1072,81 @@
     <message>
         <source>Replay time</source>
         <translation>Position de relecture</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ResponseTimes</name>
+    <message>
+        <source>Seen</source>
+        <translation>Vu</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>réponse</translation>
+    </message>
+    <message>
+        <source>airborne</source>
+        <translation>en vol</translation>
+    </message>
+    <message>
+        <source>on station</source>
+        <translation>en position</translation>
+    </message>
+    <message>
+        <source>coming home</source>
+        <translation>retour</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>fin</translation>
+    </message>
+    <message>
+        <source>landed</source>
+        <translation>posé</translation>
+    </message>
+    <message>
+        <source>Seen to your answer</source>
+        <translation>Jusqu’à votre réponse</translation>
+    </message>
+    <message>
+        <source>Seen to the end</source>
+        <translation>Jusqu’à la fin</translation>
+    </message>
+    <message>
+        <source>Your answer to take-off</source>
+        <translation>De la réponse au décollage</translation>
+    </message>
+    <message>
+        <source>After your answer</source>
+        <translation>Après votre réponse</translation>
+    </message>
+    <message>
+        <source>On its way to the visitor</source>
+        <translation>En route vers le visiteur</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <translation>En suivi</translation>
+    </message>
+    <message>
+        <source>Following and landing</source>
+        <translation>Suivi et atterrissage</translation>
+    </message>
+    <message>
+        <source>Coming home and landing</source>
+        <translation>Retour et atterrissage</translation>
+    </message>
+    <message>
+        <source>Response</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>Seen to landed %1</source>
+        <translation>Jusqu’à l’atterrissage : %1</translation>
+    </message>
+    <message>
+        <source>Seen to the end %1</source>
+        <translation>Jusqu’à la fin : %1</translation>
     </message>
 </context>
 <context>
@@ -1477,11 +1547,14 @@
     </message>
 </context>
 <context>
-    <name>velmora::Tray</name>
+    <name>velmora::ToggleRow</name>
     <message>
-        <source>Velmora</source>
-        <translation>Velmora</translation>
+        <source>Will not alert while offline</source>
+        <translation>Aucune alerte tant qu’elle est hors ligne</translation>
     </message>
+</context>
+<context>
+    <name>velmora::Tray</name>
     <message>
         <source>Launch drone</source>
         <translation>Lancer le drone</translation>
@@ -1503,10 +1576,6 @@
         <translation>Quitter Velmora</translation>
     </message>
     <message>
-        <source>Velmora — </source>
-        <translation>Velmora – </translation>
-    </message>
-    <message>
         <source>Waiting for velmora</source>
         <translation>En attente de velmora</translation>
     </message>
@@ -1526,6 +1595,10 @@
         <source>Arm</source>
         <translation>Armer</translation>
     </message>
+    <message>
+        <source>Velmora — %1</source>
+        <translation>Velmora – %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::VisitOffers</name>
@@ -1543,6 +1616,10 @@
     <message>
         <source>outside your boundary</source>
         <translation>hors de votre limite</translation>
+    </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Image : %1</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2055,15 @@
     <message>
         <source>%1% sure it&apos;s no one you know</source>
         <translation>Inconnu avec %1 % de certitude</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>day, time</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Demo</source>
+        <translation>Démo</translation>
     </message>
 </context>
 </TS>

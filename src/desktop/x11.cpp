@@ -22,6 +22,18 @@ xcb_atom_t atom(xcb_connection_t* connection, const char* name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+xcb_window_t ownerOf(xcb_connection_t* connection, xcb_atom_t selection) {
+    const Owned<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr));
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+/// A compositing manager owns this selection of the first screen.
+bool isComposited() {
+    xcb_connection_t* const server = connection();
+    return !server || ownerOf(server, atom(server, "_NET_WM_CM_S0")) != XCB_WINDOW_NONE;
+}
+
 xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;

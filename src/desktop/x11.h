@@ -22,6 +22,12 @@ xcb_screen_t& screen(xcb_connection_t* connection);
 /// Waits for the server's reply; XCB_ATOM_NONE if the connection is broken.
 xcb_atom_t atom(xcb_connection_t* connection, const char* name);
 
+/// The window that owns the selection; XCB_WINDOW_NONE if no program does.
+xcb_window_t ownerOf(xcb_connection_t* connection, xcb_atom_t selection);
+
+/// Whether windows may be translucent: a compositing manager runs, or the platform is not X11.
+bool isComposited();
+
 /// A message of 32-bit values, to be filled in.
 xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type);
 

@@ -1,6 +1,6 @@
 #include "ui/look/style.h"
 
-#include "ui/look/compositing.h"
+#include "desktop/x11.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -30,7 +30,7 @@ bool hasShadow(const QWidget& menu) {
 
 /// Makes room for the shadow, or takes it away, before the menu is shown.
 void fitShadow(QMenu& menu) {
-    const QMargins room = isComposited() ? Measure::menuShadow : QMargins();
+    const QMargins room = X11::isComposited() ? Measure::menuShadow : QMargins();
     if (room == menu.contentsMargins())
         return;
     menu.setContentsMargins(room);
@@ -132,8 +132,8 @@ QPalette Style::lightPalette() {
     return palette;
 }
 
-/// Menus have round corners and a shadow, so their windows need a translucent background. An accessible press triggers
-/// an action, but would leave its menu open.
+/// Menus have round corners and a shadow, so their windows need a translucent background. An accessible press
+/// triggers an action, but would leave its menu open.
 void Style::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     auto* menu = qobject_cast<QMenu*>(widget);

@@ -160,7 +160,8 @@ QString dayAndTime(Date date, Date now) {
 }
 
 QString dayNameAndTime(Date date, Date now) {
-    return Words::tr("%1 %2", "day, time").arg(dayName(date, now), localTime(date).toString(QStringLiteral("HH:mm")));
+    return Words::tr("%1 %2", "day, time")
+        .arg(dayName(date, now), localTime(date).toString(QStringLiteral("HH:mm")));
 }
 
 QString duration(Seconds length) {

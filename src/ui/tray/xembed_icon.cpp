@@ -77,10 +77,8 @@ void XEmbedIcon::setIcon(const QIcon& icon) {
 /// Asks the tray for a place; without a tray, waits for the message of the next one.
 void XEmbedIcon::dock() {
     undock();
-    const X11::Owned<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-        connection_, xcb_get_selection_owner(connection_, selection_), nullptr));
-    tray_ = owner ? owner->owner : 0;
-    if (tray_ == 0)
+    tray_ = X11::ownerOf(connection_, selection_);
+    if (tray_ == XCB_WINDOW_NONE)
         return;
     const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY; // for its end
     ignoreError(connection_,

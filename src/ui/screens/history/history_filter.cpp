@@ -19,17 +19,17 @@ bool matchesDemo(HistoryFilter::Demo wanted, bool demo) {
 
 bool matchesText(const QString& wanted, const MissionRecord& record) {
     const auto holds = [&](const QString& text) { return text.contains(wanted, Qt::CaseInsensitive); };
-    return wanted.isEmpty() || holds(toQString(record.cameraName)) || holds(toQString(record.label)) ||
+    return wanted.isEmpty() || holds(shownText(record.cameraName)) || holds(shownText(record.label)) ||
            holds(outcomeText(record.outcome)) || holds(toQString(record.id)) ||
            std::ranges::any_of(record.notices,
-                               [&](const Notice& notice) { return holds(toQString(notice.text)); });
+                               [&](const Notice& notice) { return holds(shownText(notice.text)); });
 }
 
 } // namespace
 
 bool HistoryFilter::matches(const MissionRecord& record) const {
     return matchesFlight(flight, record.outcome) && matchesDemo(demo, record.demo) &&
-           (camera.isEmpty() || camera == toQString(record.cameraName)) &&
+           (camera.isEmpty() || camera == shownText(record.cameraName)) &&
            matchesText(text.trimmed(), record);
 }
 

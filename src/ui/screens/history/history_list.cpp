@@ -42,7 +42,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     above->addWidget(new Eyebrow(tr("History"), false, this));
     above->addSpacing(Measure::gap4);
     above->addWidget(
-        new Headline({tr("Every visit,\n"), tr("on record"), tr(".")}, Type::historyHeadline, false, this));
+        new Headline(Sentence::marked(tr("Every visit,\n*on record*.")), Type::historyHeadline, false, this));
     above->addSpacing(Measure::gap20);
     above->addWidget(filters_);
     above->addWidget(nothing_);
@@ -235,7 +235,7 @@ void HistoryList::showCount() {
 void HistoryList::refresh() {
     QStringList cameras;
     for (const HistoryEntry& entry : store_.history())
-        if (const QString name = toQString(entry.record->cameraName); !cameras.contains(name))
+        if (const QString name = shownText(entry.record->cameraName); !cameras.contains(name))
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;

@@ -80,10 +80,10 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
     if (!record)
         return row.caption;
     const QString text =
-        QStringList{outcomeText(record->outcome), toQString(record->cameraName),
+        QStringList{outcomeText(record->outcome), shownText(record->cameraName),
                     dayNameAndTime(record->start, store_.now()), duration(Seconds{durationOf(*record)})}
             .join(QStringLiteral(", "));
-    return record->demo ? text + tr(", demo") : text;
+    return record->demo ? tr("%1, demo").arg(text) : text;
 }
 
 Qt::ItemFlags HistoryModel::flags(const QModelIndex& index) const {

@@ -1,5 +1,6 @@
 #include "ui/screens/history/record_delegate.h"
 
+#include "language/language.h"
 #include "model/mission_evidence.h"
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
@@ -12,7 +13,6 @@
 #include "ui/screens/outcomes.h"
 
 #include <QAbstractItemView>
-#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QToolTip>
 
@@ -21,7 +21,7 @@ namespace velmora {
 namespace {
 
 QString factsOf(const MissionRecord& record) {
-    QStringList facts{isolated(toQString(record.cameraName)),
+    QStringList facts{isolated(shownText(record.cameraName)),
                       timeOfDay(record.start).chopped(3)}; // without the seconds
     if (durationOf(record) >= 1)
         facts.append(duration(Seconds{durationOf(record)}));
@@ -72,7 +72,7 @@ RecordRow::RecordRow(const QRectF& row, const MissionRecord& record) {
     }
     badgeRight = right;
     if (record.demo) {
-        badge = QCoreApplication::translate("History", "Demo");
+        badge = Words::tr("Demo");
         right -= badgeWidth(badge) + Measure::gap8;
     }
     facts = {factsOf(record), Type::label2, SB::muted,

@@ -108,8 +108,8 @@ void RecordDetail::setEntry(const HistoryEntry& entry) {
         bar_->setRecord(*record_);
         area_->verticalScrollBar()->setValue(0);
     }
-    eyebrow_->setText(tr("%1 · %2").arg(isolated(toQString(record_->cameraName)),
-                                        dayNameAndTime(record_->start, store_.now())));
+    eyebrow_->setText(isolated(shownText(record_->cameraName)) + QStringLiteral(" · ") +
+                      dayNameAndTime(record_->start, store_.now()));
     facts_->setBoundary(*record_, groundsFor(store_).site, store_.settings());
     showMoment();
     arrange();

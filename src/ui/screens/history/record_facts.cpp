@@ -205,20 +205,20 @@ void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, con
         boundary_->setText(tr("The drone did not fly."));
         return;
     }
-    const QString nearest = evidence->leastDistance < 0
-                                ? tr("The drone was %1 m outside the boundary at the furthest")
-                                      .arg(rounded(-evidence->leastDistance))
-                                : tr("The drone stayed at least %1 m inside the boundary")
-                                      .arg(oneDecimal(evidence->leastDistance));
+    const QString inBuffer = duration(Seconds{evidence->secondsInBuffer});
+    const QString buffer = rounded(settings.boundaryBuffer);
     boundary_->setText(
-        nearest + tr(" and was %1 in the %2 m buffer.")
-                      .arg(duration(Seconds{evidence->secondsInBuffer}), rounded(settings.boundaryBuffer)));
+        evidence->leastDistance < 0
+            ? tr("The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.")
+                  .arg(rounded(-evidence->leastDistance), inBuffer, buffer)
+            : tr("The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.")
+                  .arg(oneDecimal(evidence->leastDistance), inBuffer, buffer));
 }
 
 void RecordFacts::showVisitor(const MissionRecord& record) {
     picture_->setName(toQString(record.snapshot));
-    picture_->setDescription(tr("Picture of %1").arg(isolated(toQString(record.cameraName))));
-    const QString label = record.label.empty() ? tr("Unknown person") : toQString(record.label);
+    picture_->setDescription(tr("Picture of %1").arg(isolated(shownText(record.cameraName))));
+    const QString label = record.label.empty() ? tr("Unknown person") : shownText(record.label);
     identity_->setText(label + QStringLiteral(" · ") + toQString(record.id));
     times_->setText(tr("Detected %1, ended %2").arg(timeOfDay(record.start), timeOfDay(record.end)));
 }
