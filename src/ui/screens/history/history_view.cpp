@@ -1,12 +1,10 @@
 #include "ui/screens/history/history_view.h"
 
+#include "ui/blocks/empty_state.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
-#include "ui/blocks/text.h"
 #include "ui/look/measures.h"
-#include "ui/look/tokens.h"
 #include "ui/look/words.h"
-#include "ui/screens/history/empty_icon.h"
 #include "ui/screens/history/history_list.h"
 #include "ui/screens/history/record_detail.h"
 
@@ -77,28 +75,13 @@ void HistoryView::focusSearch() {
 }
 
 QWidget* HistoryView::buildEmpty() {
-    auto* empty = new QWidget(this);
-    auto* title = new Text(tr("No visit to replay yet"), Type::emptyTitle, SB::ink, empty);
-    auto* body = new Text(
-        tr("Every alert ends as a record here, with its paths on the map, its log and how it ended."),
-        Type::confirmationBody, SB::body, empty);
-    for (Text* text : {title, body}) {
-        text->setAlignment(Qt::AlignHCenter);
-        text->setFixedSize(Measure::emptyWidth, text->heightForWidth(Measure::emptyWidth));
-    }
-    simulate_ = new SBButton(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary}, empty);
+    simulate_ = new SBButton(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary}, this);
     connect(simulate_, &SBButton::clicked, this,
             [this] { store_.simulate(rawValuesOf<Scenario>.front().first); });
-    auto* column = new QVBoxLayout(empty);
-    column->setSpacing(Measure::gap8);
-    column->addStretch(1);
-    column->addWidget(new EmptyIcon(empty), 0, Qt::AlignHCenter);
-    column->addSpacing(Measure::gap16);
-    column->addWidget(title, 0, Qt::AlignHCenter);
-    column->addWidget(body, 0, Qt::AlignHCenter);
-    column->addSpacing(Measure::gap16);
-    column->addWidget(simulate_, 0, Qt::AlignHCenter);
-    column->addStretch(1);
+    auto* empty = new EmptyState(Icon::history, simulate_, this);
+    empty->setTexts(
+        tr("No visit to replay yet"),
+        tr("Every alert ends as a record here, with its paths on the map, its log and how it ended."));
     return empty;
 }
 
