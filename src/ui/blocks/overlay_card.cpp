@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace velmora {
 
@@ -39,8 +40,6 @@ OverlayCard::OverlayCard(int cardWidth, QWidget* window)
       appearance_(*this, Motion::cardIn, QEasingCurve::OutCubic) {
     declareRole(this, QAccessible::Dialog);
     setFocusPolicy(Qt::StrongFocus);
-    // Qt would activate the window for a widget that gets the focus just after another window became active.
-    setAttribute(Qt::WA_DontCreateNativeAncestors);
     card_->setFixedWidth(cardWidth);
     QSizePolicy policy = card_->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // for the shadow and the picture during a transition
@@ -85,7 +84,7 @@ void OverlayCard::open() {
     card_->hide();
     raise();
     show();
-    setFocus(Qt::OtherFocusReason);
+    focusWithoutActivating();
     appearance_.setDuration(Motion::cardIn);
     appearance_.move(0, 1);
     emit openChanged();
@@ -101,6 +100,18 @@ void OverlayCard::close() {
     appearance_.setDuration(Motion::cardOut);
     appearance_.move(1, 0);
     emit openChanged();
+}
+
+/// Qt hears late that the window has lost the focus. Until then it would activate the window again for a
+/// widget that gets the focus.
+void OverlayCard::focusWithoutActivating() {
+    if (!open_)
+        return;
+    if (isActiveWindow() && QGuiApplication::focusWindow() != window()->windowHandle())
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &OverlayCard::focusWithoutActivating,
+                static_cast<Qt::ConnectionType>(Qt::UniqueConnection | Qt::SingleShotConnection));
+    else
+        setFocus(Qt::OtherFocusReason);
 }
 
 /// Call before the card is hidden: Qt moves the focus of a hidden widget to another control, which the next

@@ -33,12 +33,25 @@ void AlertInset::setState(const LiveState& state, const Settings& settings, Fres
     distance_ = tr("%1 m from the pad").arg(rounded(distance(state.visitor->pos, state.site.pad)));
     place_ = inside_ ? tr("inside your boundary") : tr("outside your boundary");
     setAccessibleName(distance_ + QStringLiteral(" · ") + place_);
+    arrange();
     update();
 }
 
 void AlertInset::setMapSize(QSize size) {
-    setFixedSize(size + QSize(2 * margin, 2 * margin + Measure::insetWords));
-    map_->setGeometry(QRect({margin, margin}, size).adjusted(1, 1, -1, 0)); // inside the frame's line
+    mapSize_ = size;
+    arrange();
+}
+
+int AlertInset::wordsHeight() const {
+    return Measure::insetWords +
+           static_cast<int>(placeLines_.size() - 1) * static_cast<int>(Type::inset.line);
+}
+
+/// A long text below the map takes more lines.
+void AlertInset::arrange() {
+    placeLines_ = brokenIntoLines(place_, Type::inset, mapSize_.width() - 2 * Measure::insetWordsIndent);
+    setFixedSize(mapSize_ + QSize(2 * margin, 2 * margin + wordsHeight()));
+    map_->setGeometry(QRect({margin, margin}, mapSize_).adjusted(1, 1, -1, 0)); // inside the frame's line
 }
 
 void AlertInset::paintEvent(QPaintEvent*) {
@@ -47,12 +60,13 @@ void AlertInset::paintEvent(QPaintEvent*) {
     fillRounded(painter, frame(), Measure::insetRadius, SB::navy, SB::faded(SB::dTitle, frameOpacity));
     const QColor quiet = SB::faded(SB::dLabel, staleWords);
     const QColor place = inside_ ? SB::dTeal : SB::lilac;
-    QRectF line(frame().left() + Measure::insetWordsIndent,
-                frame().bottom() + 1 - Measure::insetWords + wordsTop,
+    QRectF line(frame().left() + Measure::insetWordsIndent, frame().bottom() + 1 - wordsHeight() + wordsTop,
                 frame().width() - 2 * Measure::insetWordsIndent, Type::inset.line);
     drawText(painter, line, distance_, Type::insetStrong, stale_ ? quiet : SB::dTitle, Qt::AlignLeft);
-    line.translate(0, Type::inset.line);
-    drawText(painter, line, place_, Type::inset, stale_ ? quiet : place, Qt::AlignLeft);
+    for (const QString& words : placeLines_) {
+        line.translate(0, Type::inset.line);
+        drawText(painter, line, words, Type::inset, stale_ ? quiet : place, Qt::AlignLeft);
+    }
 }
 
 } // namespace velmora

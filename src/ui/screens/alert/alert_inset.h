@@ -4,6 +4,7 @@
 #include "model/live_state.h"
 #include "model/settings.h"
 
+#include <QStringList>
 #include <QWidget>
 
 namespace velmora {
@@ -28,11 +29,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void arrange();
+    int wordsHeight() const; ///< of the texts below the map, pixels
     QRect frame() const { return rect().adjusted(margin, margin, -margin, -margin); }
 
     SiteMap* map_;
+    QSize mapSize_;
     QString distance_;
     QString place_;
+    QStringList placeLines_;
     bool inside_ = false;
     bool stale_ = false;
 };

@@ -156,7 +156,7 @@ void ApprovalOverlay::updateAlert() {
     answers_->reset();
     countdown_.start();
     if (isOpen())
-        setFocus(Qt::OtherFocusReason);
+        focusWithoutActivating();
     open();
     emit asked();
 }
