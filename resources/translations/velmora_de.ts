@@ -306,7 +306,7 @@
     <name>velmora::ArmSwitch</name>
     <message>
         <source>Disarm</source>
-        <translation>Unscharf schalten</translation>
+        <translation>Unscharf</translation>
     </message>
     <message>
         <source>Arm system</source>
@@ -1028,10 +1028,6 @@
         <translation>Die Drohne ist nicht geflogen.</translation>
     </message>
     <message>
-        <source>Unknown person</source>
-        <translation>Unbekannte Person</translation>
-    </message>
-    <message>
         <source>Detected %1, ended %2</source>
         <translation>Erkannt %1, beendet %2</translation>
     </message>
@@ -1285,7 +1281,7 @@
     </message>
     <message>
         <source>Keep the drone in sight while it flies (UK Open category).</source>
-        <translation>Behalten Sie die fliegende Drohne stets im Blick (offene Kategorie, UK).</translation>
+        <translation>Behalten Sie die fliegende Drohne stets im Blick (offene Kategorie, Großbritannien).</translation>
     </message>
     <message>
         <source>Flying with no one in control would need a CAA Operational Authorisation.</source>
@@ -1626,7 +1622,7 @@
     <name>velmora::WelcomeView</name>
     <message>
         <source>A second pair of eyes over *your grounds*.</source>
-        <translation>Ein zweites Paar Augen für *Ihr Grundstück*.</translation>
+        <translation>Ein zweites Paar Augen für *Ihr Grundstück*.</translation>
     </message>
     <message>
         <source>Your cameras spot someone they don&apos;t recognise</source>
@@ -1838,11 +1834,11 @@
     </message>
     <message>
         <source>under your return level of %1</source>
-        <translation>unter Ihrem Heimkehrwert (%1)</translation>
+        <translation>unter Ihrem Heimkehrwert (%1)</translation>
     </message>
     <message>
         <source>over your limit of %1</source>
-        <translation>über Ihrem Limit (%1)</translation>
+        <translation>über Ihrem Limit (%1)</translation>
     </message>
     <message>
         <source>Visitor on the driveway</source>
@@ -2054,12 +2050,12 @@
     </message>
     <message>
         <source>%1% sure it&apos;s no one you know</source>
-        <translation>Zu %1 % niemand Bekanntes</translation>
+        <translation>Zu %1 % unbekannt</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <comment>day, time</comment>
-        <translation>%1, %2</translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Demo</source>

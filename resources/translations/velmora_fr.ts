@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>Last seen %1</source>
-        <translation>Vue à %1</translation>
+        <translation>Dernière image %1</translation>
     </message>
 </context>
 <context>
@@ -728,7 +728,7 @@
     </message>
     <message>
         <source>%1 up, %2 back,</source>
-        <translation>à %1 de haut, %2 derrière,</translation>
+        <translation>%1 de haut, %2 d’écart,</translation>
     </message>
     <message>
         <source>%1 inside your boundary</source>
@@ -1026,10 +1026,6 @@
     <message>
         <source>The drone did not fly.</source>
         <translation>Le drone n’a pas volé.</translation>
-    </message>
-    <message>
-        <source>Unknown person</source>
-        <translation>Personne inconnue</translation>
     </message>
     <message>
         <source>Detected %1, ended %2</source>
@@ -1626,7 +1622,7 @@
     <name>velmora::WelcomeView</name>
     <message>
         <source>A second pair of eyes over *your grounds*.</source>
-        <translation>Une deuxième paire d’yeux sur *votre terrain*.</translation>
+        <translation>Une deuxième paire d’yeux sur *votre terrain*.</translation>
     </message>
     <message>
         <source>Your cameras spot someone they don&apos;t recognise</source>
@@ -1709,7 +1705,7 @@
     </message>
     <message>
         <source>Can&apos;t reach velmora — %1</source>
-        <translation>velmora injoignable – %1</translation>
+        <translation>velmora injoignable. %1</translation>
     </message>
     <message>
         <source>Demo mode</source>
@@ -1842,7 +1838,7 @@
     </message>
     <message>
         <source>over your limit of %1</source>
-        <translation>limite de %1 dépassée</translation>
+        <translation>au-delà de %1</translation>
     </message>
     <message>
         <source>Visitor on the driveway</source>

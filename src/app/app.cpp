@@ -47,7 +47,7 @@ App::App(AppService& service, const Options& options)
         if (store_.pendingCommand())
             notifier_.withdraw(failureIdentifier);
     });
-    connect(&tray_, &Tray::openRequested, this, [this] { showWindow(Activation::tokenOfNow()); });
+    connect(&tray_, &Tray::openRequested, this, &App::showWindow);
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
     if (options.section)
         store_.setSection(*options.section);

@@ -1,6 +1,6 @@
 #include "desktop/activation.h"
 
-#include "desktop/x11.h"
+#include "x11/x11.h"
 
 #include <QCoreApplication>
 
@@ -57,11 +57,12 @@ void endStartup(xcb_connection_t* connection, xcb_window_t window, QByteArray to
     auto message = X11::message(window, X11::atom(connection, "_NET_STARTUP_INFO_BEGIN"));
     message.format = 8;
     constexpr qsizetype piece = sizeof message.data.data8;
+    const xcb_atom_t next = X11::atom(connection, "_NET_STARTUP_INFO");
     for (qsizetype at = 0; at < text.size(); at += piece) {
         const QByteArray bytes = text.mid(at, piece).leftJustified(piece, '\0');
         std::ranges::copy(bytes, message.data.data8);
         X11::send(connection, X11::screen(connection).root, XCB_EVENT_MASK_PROPERTY_CHANGE, message);
-        message.type = X11::atom(connection, "_NET_STARTUP_INFO");
+        message.type = next;
     }
 }
 
@@ -72,10 +73,13 @@ QString launcherToken() {
     return token.isEmpty() ? qEnvironmentVariable("DESKTOP_STARTUP_ID") : token;
 }
 
+QString tokenOf(std::uint32_t time) {
+    return QStringLiteral("velmora-%1_TIME%2").arg(QCoreApplication::applicationPid()).arg(time);
+}
+
 QString tokenOfNow() {
     const auto time = X11::connection() ? serverTime() : std::nullopt;
-    return time ? QStringLiteral("velmora-%1_TIME%2").arg(QCoreApplication::applicationPid()).arg(*time)
-                : QString();
+    return time ? tokenOf(*time) : QString();
 }
 
 bool activate(WId window, const QString& token) {

@@ -20,7 +20,7 @@ except ImportError:
 if not shutil.which("openbox") or not os.path.exists("/usr/libexec/at-spi-bus-launcher"):
     sys.exit(77)
 
-PATIENCE = 60  # seconds for an effect on a slow machine
+TIMEOUT = 60  # seconds for an effect on a slow machine
 CARD = "Someone you don't know is at the "
 LAND = "Land the drone where it is now?"
 WATCHED = "Your grounds are watched."
@@ -40,7 +40,7 @@ ACTIVE, CHECKED, SENSITIVE, SHOWING = 1 << 1, 1 << 4, 1 << 24, 1 << 25
 
 def wait(condition, what):
     """Returns the first true value of the condition."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + TIMEOUT
     while not (value := condition()):
         assert time.monotonic() < end, "waited in vain: " + what
         time.sleep(0.05)

@@ -25,14 +25,25 @@ public:
         bool enabled = true;
     };
 
-    TrayHost() : bus_(QDBusConnection::sessionBus()) {
+    explicit TrayHost(bool hasHost = true) : bus_(QDBusConnection::sessionBus()), hasHost_(hasHost) {
         bus_.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                            QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAllProperties);
+                            QDBusConnection::ExportScriptableSlots |
+                                QDBusConnection::ExportScriptableSignals |
+                                QDBusConnection::ExportAllProperties);
         bus_.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
     }
-    ~TrayHost() override { bus_.unregisterService(QStringLiteral("org.kde.StatusNotifierWatcher")); }
+    ~TrayHost() override { leave(); }
 
-    bool isHost() const { return true; }
+    void leave() { bus_.unregisterService(QStringLiteral("org.kde.StatusNotifierWatcher")); }
+    void registerHost() {
+        hasHost_ = true;
+        emit StatusNotifierHostRegistered();
+    }
+    bool wasAskedForHost() const { return wasAsked_; }
+    bool isHost() const {
+        wasAsked_ = true;
+        return hasHost_;
+    }
     int version() const { return 0; }
     QStringList items() const { return items_; }
 
@@ -73,6 +84,9 @@ public:
                      {entry.id, QStringLiteral("clicked"), QVariant::fromValue(QDBusVariant(QString())), 0U});
     }
 
+signals:
+    Q_SCRIPTABLE void StatusNotifierHostRegistered();
+
 public slots:
     Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString& service, const QDBusMessage& message) {
         items_.append(service.startsWith('/') ? message.service() : service);
@@ -100,6 +114,8 @@ private:
     }
 
     QDBusConnection bus_;
+    bool hasHost_;
+    mutable bool wasAsked_ = false;
     QStringList items_;
 };
 

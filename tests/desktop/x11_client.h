@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/virtual_display.h"
-#include "desktop/x11.h"
+#include "x11/x11.h"
 
 #include <array>
 #include <optional>
@@ -57,6 +57,21 @@ public:
         xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, root(), atom("_NET_SUPPORTING_WM_CHECK"),
                             XCB_ATOM_WINDOW, 32, 1, &window_);
         xcb_flush(connection_);
+    }
+
+    /// The X server's current time.
+    xcb_timestamp_t time() {
+        xcb_change_property(connection_, XCB_PROP_MODE_APPEND, root(), XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
+                            0, nullptr);
+        xcb_flush(connection_);
+        xcb_timestamp_t found = 0;
+        waitUntil([&] {
+            while (const X11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_)})
+                if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY)
+                    found = reinterpret_cast<const xcb_property_notify_event_t&>(*event).time;
+            return found != 0;
+        });
+        return found;
     }
 
     /// Waits for the next request and returns its time stamp; 0 if none comes.

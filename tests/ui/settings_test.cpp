@@ -150,11 +150,16 @@ TEST_F(SettingsTest, ANotchOfTheWheelMovesASliderByOneOnlyWhileItHasTheFocus) {
     look();
     QSlider& distance = slider("Follow distance");
     slider("Flight height");
+    QTest::mouseMove(&distance);
     turnWheel(distance);
     EXPECT_EQ(store().settings().followDistance, 15);
     slider("Follow distance");
     turnWheel(distance);
     EXPECT_EQ(store().settings().followDistance, 16);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&distance, &leave);
+    turnWheel(distance);
+    EXPECT_EQ(store().settings().followDistance, 16) << "the page was scrolled and brought the slider here";
 }
 
 TEST_F(SettingsTest, TheConnectionShowsTheServerOnlyInLinkMode) {

@@ -15,7 +15,7 @@ namespace {
 constexpr const char* roleProperty = "velmoraRole";
 
 /// Whether assistive technology has anything to say about the widget or about one inside it.
-bool speaks(const QWidget* widget) {
+bool isAccessible(const QWidget* widget) {
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
     if (!interface->text(QAccessible::Name).isEmpty())
         return true;
@@ -24,7 +24,7 @@ bool speaks(const QWidget* widget) {
     case QAccessible::StaticText:
     case QAccessible::Graphic:
     case QAccessible::AlertMessage:
-        return std::ranges::any_of(childrenInReadingOrder(*widget), speaks);
+        return std::ranges::any_of(childrenInReadingOrder(*widget), isAccessible);
     default:
         return true;
     }
@@ -51,7 +51,7 @@ public:
 private:
     QList<QWidget*> children() const {
         QList<QWidget*> found = childrenInReadingOrder(*widget());
-        found.removeIf([](const QWidget* child) { return !speaks(child); });
+        found.removeIf([](const QWidget* child) { return !isAccessible(child); });
         for (QObject* child : widget()->children())
             if (auto* menu = qobject_cast<QMenu*>(child); menu && menu->isVisible())
                 found.append(menu);

@@ -53,6 +53,8 @@ void ArtImage::setName(const QString& name) {
 }
 
 void ArtImage::setRadius(double radius) {
+    if (radius == radius_)
+        return;
     radius_ = radius;
     update();
 }

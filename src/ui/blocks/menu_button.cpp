@@ -46,11 +46,13 @@ QSize MenuButton::minimumSizeHint() const {
 void MenuButton::open() {
     auto* menu = new QMenu(parentWidget()); // a button hides its children from assistive technology
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (int i = 0; i < options_.size(); ++i)
-        connect(
-            menu->addAction(
-                elided(options_[i], Type::compactRow, Measure::menuText).replace('&', QStringLiteral("&&"))),
-            &QAction::triggered, this, [this, i] { emit chose(i); });
+    menu->setToolTipsVisible(true);
+    for (int i = 0; i < options_.size(); ++i) {
+        const QString shown = elided(options_[i], Type::compactRow, Measure::menuText);
+        QAction* action = menu->addAction(QString(shown).replace('&', QStringLiteral("&&")));
+        action->setToolTip(shown == options_[i] ? QString() : plainToolTip(options_[i]));
+        connect(action, &QAction::triggered, this, [this, i] { emit chose(i); });
+    }
     menu->popup(mapToGlobal(QPoint(0, height() + Measure::gap4)));
 }
 

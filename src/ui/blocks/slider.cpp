@@ -19,6 +19,7 @@ Slider::Slider(const QString& name, int lower, int upper, QWidget* parent) : QSl
     setPageStep(5);
     setFixedHeight(Measure::sliderThumb + 2);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     placeRing();
     connect(this, &QSlider::valueChanged, this, &Slider::moved);
 }
@@ -46,12 +47,14 @@ void Slider::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     setSliderDown(true);
+    pointed_ = true;
     const double x = event->position().x();
     grip_ = thumb().contains(event->position()) ? x - thumb().center().x() : 0;
     moveTo(x - grip_);
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event) {
+    pointed_ = true;
     if (isSliderDown())
         moveTo(event->position().x() - grip_);
 }
@@ -60,8 +63,13 @@ void Slider::mouseReleaseEvent(QMouseEvent*) {
     setSliderDown(false);
 }
 
+void Slider::leaveEvent(QEvent*) {
+    pointed_ = false;
+}
+
+/// Scrolls the page if that has brought the slider under the mouse.
 void Slider::wheelEvent(QWheelEvent* event) {
-    if (!hasFocus()) {
+    if (!hasFocus() || !pointed_) {
         event->ignore();
         return;
     }

@@ -24,6 +24,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void sliderChange(SliderChange change) override;
@@ -33,8 +34,9 @@ private:
     void moveTo(double x);
     void placeRing();
 
-    double grip_ = 0; ///< from the thumb's middle to the mouse, while it is dragged
-    int wheel_ = 0;   ///< turned since the last step, in eighths of a degree
+    double grip_ = 0;      ///< from the thumb's middle to the mouse, while it is dragged
+    bool pointed_ = false; ///< the mouse came by itself, and not because the page scrolled
+    int wheel_ = 0;        ///< turned since the last step, in eighths of a degree
 };
 
 } // namespace velmora

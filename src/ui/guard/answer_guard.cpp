@@ -1,8 +1,8 @@
 #include "ui/guard/answer_guard.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 #include <utility>
 
@@ -107,8 +107,8 @@ void AnswerGuard::followWindow(const QEvent& event) {
 }
 
 bool AnswerGuard::dropsKey(QKeyEvent& key) {
-    if (KeyPresses::isAnswerKey(key.key()))
-        return dropsAnswerKey(key);
+    if (KeyPresses::isAnswerKey(key.key()) || key.key() == Qt::Key_Delete)
+        return dropsPress(key);
     if (key.type() != QEvent::ShortcutOverride)
         return false;
     const bool repeats =
@@ -119,7 +119,7 @@ bool AnswerGuard::dropsKey(QKeyEvent& key) {
     return drops;
 }
 
-bool AnswerGuard::dropsAnswerKey(QKeyEvent& key) {
+bool AnswerGuard::dropsPress(QKeyEvent& key) {
     const bool judged = key.type() == QEvent::KeyPress && verdict_ && verdict_->key == key.key() &&
                         (clock_.stampOf(key) == 0 || clock_.stampOf(key) == verdict_->stamp);
     const bool drops = judged ? !verdict_->mayPress : !mayPress(key);
@@ -134,10 +134,10 @@ bool AnswerGuard::dropsAnswerKey(QKeyEvent& key) {
 bool AnswerGuard::mayPress(const QKeyEvent& key) {
     const KeyPresses::Press press =
         keys_.pressed(eventOf(key, eventClock_.began(clock_.stampOf(key), clock_.now())));
-    if (alert_)
+    if (alert_ && KeyPresses::isAnswerKey(key.key()))
         return !press.isRepeat && press.othersUp && admit(clock_.stampOf(key));
-    const bool onButton = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
-    return !press.isRepeat || !onButton;
+    const bool types = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    return !press.isRepeat || types;
 }
 
 KeyPresses::Event AnswerGuard::eventOf(const QKeyEvent& key, EventTime time) const {

@@ -12,8 +12,8 @@ namespace velmora {
 
 /// Guards every answer that the window can give: by its buttons, its menu, its shortcuts and its accessible
 /// actions. It filters the program's input events, drops key presses that may not answer, and passes the
-/// owner's answer to the store with the alert that was shown. Repeats of a held key trigger no button and no
-/// shortcut.
+/// owner's answer to the store with the alert that was shown. Repeats of a held key trigger no button, no
+/// shortcut and no deletion.
 class AnswerGuard : public QObject {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private:
     void invalidatePresses();
     void update();
     bool dropsKey(QKeyEvent& key);
-    bool dropsAnswerKey(QKeyEvent& key);
+    bool dropsPress(QKeyEvent& key);
     bool mayPress(const QKeyEvent& key);
     KeyPresses::Event eventOf(const QKeyEvent& key, EventTime time) const;
 

@@ -1,10 +1,10 @@
 #include "ui/look/style.h"
 
-#include "desktop/x11.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
+#include "x11/x11.h"
 
 #include <QApplication>
 #include <QBitmap>

@@ -100,6 +100,10 @@ QString scenarioTitle(Scenario scenario) {
     return {};
 }
 
+QString personName(std::string_view label) {
+    return label.empty() ? Words::tr("Unknown person") : shownText(label);
+}
+
 QString cameraName(const Site& site, std::string_view id) {
     const CameraInfo* camera = findCamera(site, id);
     return camera ? shownText(camera->name) : Words::tr("a camera");

@@ -29,6 +29,9 @@ QString windReason(const Settings& settings);
 /// Title of the demo visit, such as "Visitor on the driveway".
 QString scenarioTitle(Scenario scenario);
 
+/// The label of a person, or "Unknown person" without one.
+QString personName(std::string_view label);
+
 /// Display name of the camera, or "a camera" for an id that the site does not have.
 QString cameraName(const Site& site, std::string_view id);
 

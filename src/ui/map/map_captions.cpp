@@ -19,6 +19,7 @@ namespace {
 constexpr double edgeWidth = 3; // behind the letters
 constexpr double padGap = 4;    // pixels, as everything here
 constexpr double heightOffset = 16;
+constexpr double cameraCaptionOffset = 9;
 constexpr double visitorLabelOffset = 10, visitorLabelRise = 24; // beside the visitor, and above or below
 constexpr double mapEdge = 4;                                    // between a caption and the map's edge
 constexpr double touching = 3, apart = 9;                        // distances to the drone
@@ -96,6 +97,11 @@ void drawCaption(QPainter& painter, const MapCaption& caption) {
                        pictureOf(caption, scale));
 }
 
+MapCaption cameraCaption(const CameraInfo& camera, const MapTransform& view) {
+    return {shownText(camera.name), SB::dBody, view.map(camera.pos) - QPointF(0, cameraCaptionOffset),
+            Qt::AlignHCenter | Qt::AlignBottom};
+}
+
 MapCaption padCaption(const MapScene& scene, const MapTransform& view) {
     const double below = padRadius(scene, view) + padGap;
     return {Words::tr("Pad"), SB::dTeal, view.map(scene.state.site.pad) + QPointF(0, below),
@@ -155,10 +161,18 @@ LabelSide freeLabelSide(const MapScene& scene, const MapTransform& view) {
     const auto fits = [&](LabelSide side) {
         return view.canvas().contains(visitorCaption(scene, view, side).box());
     };
-    for (const LabelSide side :
-         {scene.labelSide, LabelSide::right, LabelSide::left, LabelSide::above, LabelSide::below})
-        if (fits(side) && gapToDrone(visitorCaption(scene, view, side).box(), scene, view) > touching)
-            return side;
+    const auto meetsCamera = [&](LabelSide side) {
+        return std::ranges::any_of(scene.state.site.cameras, [&](const CameraInfo& camera) {
+            return gapBetween(cameraCaption(camera, view).box(), visitorCaption(scene, view, side).box()) <=
+                   touching;
+        });
+    };
+    for (const bool avoidsCameras : {true, false})
+        for (const LabelSide side :
+             {scene.labelSide, LabelSide::right, LabelSide::left, LabelSide::above, LabelSide::below})
+            if (fits(side) && gapToDrone(visitorCaption(scene, view, side).box(), scene, view) > touching &&
+                !(avoidsCameras && meetsCamera(side)))
+                return side;
     return fits(scene.labelSide) ? scene.labelSide : LabelSide::above;
 }
 

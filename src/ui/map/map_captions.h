@@ -24,6 +24,8 @@ struct MapCaption {
 /// Draws the caption with a dark edge around its letters.
 void drawCaption(QPainter& painter, const MapCaption& caption);
 
+/// Above the camera.
+MapCaption cameraCaption(const CameraInfo& camera, const MapTransform& view);
 /// Below the pad.
 MapCaption padCaption(const MapScene& scene, const MapTransform& view);
 /// How much of the pad's caption is drawn, 0 to 1: it fades out before a flying drone or its height reaches
@@ -35,8 +37,8 @@ MapCaption heightCaption(const MapScene& scene, const MapTransform& view);
 /// The visitor's label on this side of the visitor. Call only with a visitor.
 MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side);
 /// The side for the visitor's label: the scene's as long as the label fits there into the map and meets
-/// neither the drone nor its height, so that it does not change back and forth. Otherwise the first side that
-/// is free.
+/// neither the drone nor its height nor a camera's caption, so that it does not change back and forth.
+/// Otherwise the first side that is free; if none is, a camera's caption counts less than the drone.
 LabelSide freeLabelSide(const MapScene& scene, const MapTransform& view);
 
 /// To the right of a point, or above and left of it if the map ends too soon.

@@ -29,7 +29,7 @@ QString describeDrone(const LiveState& state) {
 
 QString describeVisitor(const Visitor& visitor, const LiveState& state) {
     const Bounds bounds = boundsOf(state.site);
-    const QString name = visitor.label.empty() ? Words::tr("Unknown person") : shownText(visitor.label);
+    const QString name = personName(visitor.label);
     const QString toDrone = rounded(distance(visitor.pos, state.drone.pos));
     return bounds.contains(visitor.pos)
                ? Words::tr("%1 is %2 m from the drone, %3 m inside the boundary.")

@@ -25,7 +25,7 @@ constexpr double fieldOfView = 32; // degrees to each side of a camera's heading
 constexpr double viewRange = 34;   // metres
 constexpr double seeingView = 0.3, idleView = 0.16, offlineView = 0.05;
 constexpr double crossReach = 2, crossLine = 1.2; // of an offline camera, in pixels as everything below
-constexpr double cameraCaptionOffset = 9, markerLabelOffset = 8;
+constexpr double markerLabelOffset = 8;
 constexpr double markerRadius = 4;
 constexpr double pathEdge = 2; // what the line below a path is wider
 constexpr double longestPath = 24'000, pathPiece = 200;
@@ -106,9 +106,7 @@ public:
             if (!camera.online)
                 drawCross(center);
             if (measures_.captions)
-                drawCaption(painter_,
-                            {shownText(camera.name), SB::dBody, center - QPointF(0, cameraCaptionOffset),
-                             Qt::AlignHCenter | Qt::AlignBottom});
+                drawCaption(painter_, cameraCaption(camera, view_));
         }
     }
 

@@ -5,10 +5,6 @@
 
 namespace velmora {
 
-QString visitorName(const Visitor& visitor) {
-    return visitor.label.empty() ? Words::tr("Unknown person") : shownText(visitor.label);
-}
-
 QString visitorCamera(const Visitor& visitor, const Site& site) {
     return findCamera(site, visitor.cameraId) ? Words::tr("%1 camera").arg(cameraName(site, visitor.cameraId))
                                               : cameraName(site, visitor.cameraId);

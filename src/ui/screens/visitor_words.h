@@ -6,8 +6,6 @@
 
 namespace velmora {
 
-/// The visitor's label, or "Unknown person" without one.
-QString visitorName(const Visitor& visitor);
 /// "Front lawn camera"; "a camera" for an id that the site does not have.
 QString visitorCamera(const Visitor& visitor, const Site& site);
 /// The name of the camera's picture; empty for an id that the site does not have.

@@ -1,7 +1,8 @@
 #include "ui/tray/tray.h"
 
-#include "desktop/x11.h"
+#include "desktop/activation.h"
 #include "ui/look/words.h"
+#include "x11/x11.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -81,7 +82,7 @@ void Tray::buildMenu() {
     home_ = addCommand(tr("Return home"), [this] { store_.send(Command::returnHome); });
     afterHome_ = menu_.addSeparator();
     arming_ = addCommand({}, [this] { store_.setArmed(!isArmed()); });
-    addCommand(tr("Open Velmora"), [this] { emit openRequested(); });
+    addCommand(tr("Open Velmora"), [this] { emit openRequested(Activation::tokenOfNow()); });
     menu_.addSeparator();
     addCommand(tr("Quit Velmora"), [this] { emit quitRequested(); });
     connect(&menu_, &QMenu::aboutToShow, this, [this] { openedFor_ = store_.waitingAlert(); });
@@ -94,7 +95,7 @@ bool Tray::isArmed() const {
 /// If the alert changed since the menu was opened, does not answer it but shows the window.
 void Tray::answer(Command command) {
     if (!openedFor_ || !store_.answer(command, *openedFor_))
-        emit openRequested();
+        emit openRequested(Activation::tokenOfNow());
 }
 
 QAction* Tray::addLine() {
@@ -118,21 +119,22 @@ void Tray::watchForTray() {
     findTray();
 }
 
-/// Qt checks only once whether the bus has a tray, so create its icon when there is one.
+/// Qt checks only once whether the bus has a tray with a host, so create its icon when there is one.
 void Tray::findTray() {
     if (!hasTrayService()) {
         setXEmbedIconShown(true);
         return;
     }
-    if (!icon_)
-        createIcon();
     QDBusMessage question = QDBusMessage::createMethodCall(
         trayService, trayPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     question << trayService << QStringLiteral("IsStatusNotifierHostRegistered");
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QVariant> hasHost = *watcher;
-        setXEmbedIconShown(hasHost.isValid() ? !hasHost.value().toBool() : !hasTrayService());
+        const QDBusPendingReply<QVariant> reply = *watcher;
+        const bool hasHost = reply.isValid() && reply.value().toBool();
+        if (hasHost && !icon_)
+            createIcon();
+        setXEmbedIconShown(!hasHost);
         watcher->deleteLater();
     });
 }
@@ -142,7 +144,7 @@ void Tray::createIcon() {
     icon_->setContextMenu(&menu_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
-            emit openRequested();
+            emit openRequested(Activation::tokenOfNow());
     });
     showStatus();
     icon_->show();
@@ -154,7 +156,8 @@ void Tray::setXEmbedIconShown(bool shown) {
     if (!shown || xembedIcon_ || !X11::connection())
         return;
     xembedIcon_ = std::make_unique<XEmbedIcon>();
-    connect(xembedIcon_.get(), &XEmbedIcon::clicked, this, &Tray::openRequested);
+    connect(xembedIcon_.get(), &XEmbedIcon::clicked, this,
+            [this](std::uint32_t time) { emit openRequested(Activation::tokenOf(time)); });
     connect(xembedIcon_.get(), &XEmbedIcon::menuRequested, this, [this] { menu_.popup(QCursor::pos()); });
     showStatus();
 }

@@ -20,7 +20,8 @@ public:
     explicit Tray(AppStore& store, QObject* parent = nullptr);
 
 signals:
-    void openRequested();
+    /// The owner wants to see the window; the token lets it take the focus.
+    void openRequested(const QString& activationToken);
     void quitRequested();
 
 private slots:

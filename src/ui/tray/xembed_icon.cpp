@@ -1,6 +1,6 @@
 #include "ui/tray/xembed_icon.h"
 
-#include "desktop/x11.h"
+#include "x11/x11.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -183,7 +183,7 @@ void XEmbedIcon::handleOwn(std::uint8_t type, const void* event) {
     case XCB_BUTTON_RELEASE:
         if (const auto& button = *static_cast<const xcb_button_press_event_t*>(event);
             button.event == window_)
-            handleButton(type == XCB_BUTTON_PRESS, button.detail);
+            handleButton(type == XCB_BUTTON_PRESS, button.detail, button.time);
         break;
     case XCB_ENTER_NOTIFY:
     case XCB_LEAVE_NOTIFY:
@@ -199,12 +199,12 @@ void XEmbedIcon::handleOwn(std::uint8_t type, const void* event) {
 
 /// Acts on the release, when the X server lets the menu grab the pointer. The release of a press that closed
 /// the menu counts for nothing.
-void XEmbedIcon::handleButton(bool press, std::uint8_t button) {
+void XEmbedIcon::handleButton(bool press, std::uint8_t button, std::uint32_t time) {
     hideToolTip();
     if (std::exchange(pressed_, press ? button : 0) != button || press)
         return;
     if (button == mouseLeft)
-        emit clicked();
+        emit clicked(time);
     else if (button == mouseRight)
         emit menuRequested();
 }

@@ -25,14 +25,15 @@ public:
     void setToolTip(const QString& text) { toolTip_ = text; }
 
 signals:
-    void clicked();
+    /// `time` is the X server's, in milliseconds.
+    void clicked(std::uint32_t time);
     /// The menu should open at the pointer.
     void menuRequested();
 
 private:
     bool nativeEventFilter(const QByteArray& type, void* event, qintptr* result) override;
     void handleOwn(std::uint8_t type, const void* event);
-    void handleButton(bool press, std::uint8_t button);
+    void handleButton(bool press, std::uint8_t button, std::uint32_t time);
     void dock();
     void undock();
     void createWindow();

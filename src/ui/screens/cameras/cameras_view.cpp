@@ -63,13 +63,13 @@ CamerasView::CamerasView(AppStore& store, QWidget* parent) : Screen(store, paren
     auto* connection = new SBButton(tr("Connection settings"), {.kind = SBButtonKind::secondary}, content);
     connect(connection, &SBButton::clicked, &store_, &AppStore::openConnection);
     empty_ = new EmptyState(Icon::cameras, connection, content);
-    shown_ = new QWidget(content);
-    auto* cards = bareLayout<QVBoxLayout>(shown_);
+    cardArea_ = new QWidget(content);
+    auto* cards = bareLayout<QVBoxLayout>(cardArea_);
     cards->addLayout(grid_);
     cards->addStretch(1);
     auto* column = bareLayout<QVBoxLayout>(content);
     column->addWidget(empty_, 1);
-    column->addWidget(shown_, 1);
+    column->addWidget(cardArea_, 1);
     setPage(new Page(
         {.eyebrow = tr("Cameras · UniFi Protect"),
          .headline = Sentence::marked(tr("What sets off *an alert*.")),
@@ -91,7 +91,7 @@ void CamerasView::setCameras(const std::vector<CameraInfo>& cameras) {
     }
     cards_.clear();
     for (const CameraInfo& cam : cameras) {
-        cards_.push_back(new CameraCard(store_, cam, shown_));
+        cards_.push_back(new CameraCard(store_, cam, cardArea_));
         grid_->addWidget(cards_.back());
     }
 }
@@ -108,7 +108,7 @@ void CamerasView::refresh() {
         empty_->setTexts(tr("Waiting for velmora"),
                          tr("Your cameras appear here as soon as velmora answers."));
     empty_->setVisible(cameras.empty());
-    shown_->setVisible(!cameras.empty());
+    cardArea_->setVisible(!cameras.empty());
     if (!sameCameras(cameras, cards_))
         setCameras(cameras);
     for (std::size_t i = 0; i < cards_.size(); ++i)

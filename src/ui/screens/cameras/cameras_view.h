@@ -25,7 +25,7 @@ private:
     void setCameras(const std::vector<CameraInfo>& cameras);
 
     EmptyState* empty_; ///< shown instead of the cards if there are none
-    QWidget* shown_;    ///< holds the grid
+    QWidget* cardArea_; ///< holds the grid
     QLayout* grid_;
     std::vector<CameraCard*> cards_;
 };

@@ -33,16 +33,21 @@ ToggleRow::ToggleRow(const QString& title, const QString& detail, const QString&
     auto* column = bareLayout<QVBoxLayout>(this);
     column->addLayout(row, 1);
     column->addWidget(new Hairline(this, Hairline::Tone::between));
+    connect(switch_, &Switch::turned, this, &ToggleRow::showDetail);
     connect(switch_, &Switch::turned, this, &ToggleRow::turned);
     showDetail();
 }
 
 void ToggleRow::setChecked(bool on) {
+    if (on == switch_->isChecked())
+        return;
     switch_->setChecked(on);
     showDetail();
 }
 
 void ToggleRow::setOffline(bool offline) {
+    if (offline == offline_)
+        return;
     offline_ = offline;
     showDetail();
 }

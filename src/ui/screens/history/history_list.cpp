@@ -53,11 +53,10 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addWidget(records, 1);
     column->addStretch();
     column->addWidget(footer_);
-    connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &HistoryList::keepPlace);
+    connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &HistoryList::saveScrollPosition);
     connect(model_, &QAbstractItemModel::modelReset, this, [this] {
-        showCount();
         showSelection();
-        restorePlace();
+        restoreScrollPosition();
     });
     connect(&undoTime_, &UiTimer::timeout, this, [this] {
         deleted_.reset();
@@ -199,6 +198,7 @@ void HistoryList::clearFilters() {
 void HistoryList::setFilter(const HistoryFilter& filter) {
     model_->setFilter(filter);
     showFilters();
+    showCount();
     records_->scrollToTop();
     reveal(records_->currentIndex());
 }
@@ -206,11 +206,12 @@ void HistoryList::setFilter(const HistoryFilter& filter) {
 /// A filter that the menus do not offer any more would hide records without a visible reason.
 void HistoryList::dropFiltersWithoutRecords(bool demo) {
     HistoryFilter filter = model_->filter();
-    if (!cameras_.contains(filter.camera))
+    if (!filter.camera.isEmpty() && !cameras_.contains(filter.camera))
         filter.camera.clear();
     if (!demo)
         filter.demo = HistoryFilter::Demo::with;
-    model_->setFilter(filter);
+    if (filter != model_->filter())
+        setFilter(filter);
 }
 
 void HistoryList::showFilters() {
@@ -226,6 +227,7 @@ void HistoryList::showCount() {
     count_->setText(shown < all ? tr("%1 of %2").arg(shown).arg(all)
                     : all == 1  ? tr("1 visit")
                                 : tr("%1 visits").arg(all));
+    count_->setMinimumWidth(count_->sizeHint().width());
     filters_->setVisible(all > 0);
     nothing_->setVisible(all == 0);
     noMatch_->setVisible(all > 0 && shown == 0);
@@ -235,7 +237,8 @@ void HistoryList::showCount() {
 void HistoryList::refresh() {
     QStringList cameras;
     for (const HistoryEntry& entry : store_.history())
-        if (const QString name = shownText(entry.record->cameraName); !cameras.contains(name))
+        if (const QString name = shownText(entry.record->cameraName);
+            !name.isEmpty() && !cameras.contains(name))
             cameras.append(name);
     cameras.sort(Qt::CaseInsensitive);
     cameras_ = cameras;
@@ -275,24 +278,24 @@ void HistoryList::reveal(const QModelIndex& index) {
     records_->scrollTo(index);
 }
 
-void HistoryList::keepPlace() {
-    place_.reset();
+void HistoryList::saveScrollPosition() {
+    scrollPosition_.reset();
     if (records_->verticalScrollBar()->value() == 0)
         return;
     QModelIndex first = records_->indexAt({0, 0});
     if (first.isValid() && !model_->keyAt(first))
         first = first.siblingAtRow(first.row() + 1);
     if (const auto key = model_->keyAt(first))
-        place_ = {*key, records_->visualRect(first).top()};
+        scrollPosition_ = {*key, records_->visualRect(first).top()};
 }
 
-void HistoryList::restorePlace() {
-    const QModelIndex index = place_ ? model_->indexOf(place_->record) : QModelIndex();
+void HistoryList::restoreScrollPosition() {
+    const QModelIndex index = scrollPosition_ ? model_->indexOf(scrollPosition_->record) : QModelIndex();
     if (!index.isValid())
         return;
     records_->doItemsLayout();
     QScrollBar& bar = *records_->verticalScrollBar();
-    bar.setValue(bar.value() + records_->visualRect(index).top() - place_->top);
+    bar.setValue(bar.value() + records_->visualRect(index).top() - scrollPosition_->top);
 }
 
 void HistoryList::focusSearch() {
@@ -324,8 +327,7 @@ bool HistoryList::handleListKey(const QKeyEvent& event) {
     const int last = model_->rowCount() - 1;
     switch (event.key()) {
     case Qt::Key_Space:
-        if (!event.isAutoRepeat())
-            emit playRequested();
+        emit playRequested();
         return true;
     case Qt::Key_Delete:
         if (const auto record = model_->keyAt(current))

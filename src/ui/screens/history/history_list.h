@@ -64,8 +64,8 @@ private:
     void showFilters();
     void showCount();
     void showFooter(bool demo);
-    void keepPlace();
-    void restorePlace();
+    void saveScrollPosition();
+    void restoreScrollPosition();
     void reveal(const QModelIndex& index);
     void undo();
     bool handleListKey(const QKeyEvent& event);
@@ -89,11 +89,11 @@ private:
     QStringList cameras_; ///< names in the camera filter
     std::optional<RecordKey> highlighted_;
     /// The first record in view and its distance from the view's top, in pixels.
-    struct Place {
+    struct ScrollPosition {
         RecordKey record;
         int top;
     };
-    std::optional<Place> place_; ///< nullopt while the list is at its top
+    std::optional<ScrollPosition> scrollPosition_; ///< nullopt while the list is at its top
 };
 
 } // namespace velmora

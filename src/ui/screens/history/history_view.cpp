@@ -63,7 +63,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged});
-    connect(&everyMinute_, &UiTimer::timeout, list_, &HistoryList::refresh);
+    connect(&everyMinute_, &UiTimer::timeout, this, &HistoryView::refresh);
 }
 
 void HistoryView::focusRecords() {

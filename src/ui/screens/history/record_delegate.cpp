@@ -20,12 +20,14 @@ namespace velmora {
 
 namespace {
 
+const QString between = QStringLiteral(" · ");
+
 QString factsOf(const MissionRecord& record) {
     QStringList facts{isolated(shownText(record.cameraName)),
                       timeOfDay(record.start).chopped(3)}; // without the seconds
     if (durationOf(record) >= 1)
         facts.append(duration(Seconds{durationOf(record)}));
-    return facts.join(QStringLiteral(" · "));
+    return facts.join(between);
 }
 
 void paintSelection(QPainter& painter, const QRectF& row) {
@@ -43,6 +45,12 @@ struct Line {
     TextStyle style;
     QColor color;
     QRectF rect;
+
+    /// Without the last fact if that does not fit: a part of a duration would read as another one.
+    QString shown() const {
+        const QString shorter = text.section(between, 0, 1);
+        return textWidth(text, style) > rect.width() ? elided(shorter, style, rect.width()) : text;
+    }
 };
 
 /// The parts of a record's row and where they are.
@@ -86,7 +94,7 @@ void paintRecord(QPainter& painter, const QRectF& area, const MissionRecord& rec
     paintStatusDot(painter, row.dot,
                    {.color = outcomeColor(record.outcome), .diameter = Measure::statusDotInRow});
     for (const Line& line : {row.title, row.facts})
-        drawText(painter, line.rect, line.text, line.style, line.color, Qt::AlignVCenter);
+        drawText(painter, line.rect, line.shown(), line.style, line.color, Qt::AlignVCenter);
     if (!row.thumbnail.isNull())
         paintPathThumbnail(painter, row.thumbnail, record);
     if (!row.badge.isEmpty())
@@ -98,7 +106,7 @@ void paintRecord(QPainter& painter, const QRectF& area, const MissionRecord& rec
 QString cutText(const RecordRow& row) {
     QStringList cut;
     for (const Line& line : {row.title, row.facts})
-        if (elided(line.text, line.style, line.rect.width()) != line.text)
+        if (line.shown() != line.text)
             cut.append(line.text);
     return cut.join('\n');
 }

@@ -89,15 +89,15 @@ void RecordFacts::setTwoColumns(bool two) {
     response_->setChartShown(two);
     for (std::size_t i = 1; i < lines_.size(); ++i)
         lines_[i]->setVisible(two);
-    layMetrics(two ? 2 : 4);
-    layVisitor(two);
+    layoutMetrics(two ? 2 : 4);
+    layoutVisitor(two);
     if (two)
-        layTwoColumns();
+        layoutTwoColumns();
     else
-        layOneColumn();
+        layoutOneColumn();
 }
 
-void RecordFacts::layMetrics(int columns) {
+void RecordFacts::layoutMetrics(int columns) {
     auto* grid = newLayout<QGridLayout>(metrics_);
     grid->setVerticalSpacing(Measure::gap24);
     int index = 0;
@@ -108,7 +108,7 @@ void RecordFacts::layMetrics(int columns) {
     }
 }
 
-void RecordFacts::layVisitor(bool wide) {
+void RecordFacts::layoutVisitor(bool wide) {
     const QSize size = wide ? Measure::alertPictureWide : Measure::alertPicture;
     visitor_->setFixedWidth(size.width());
     picture_->setFixedSize(size);
@@ -121,7 +121,7 @@ void RecordFacts::layVisitor(bool wide) {
     column->addWidget(times_);
 }
 
-void RecordFacts::layOneColumn() {
+void RecordFacts::layoutOneColumn() {
     auto* texts = new QVBoxLayout;
     texts->setSpacing(Measure::gap20);
     texts->addWidget(logSection_);
@@ -140,7 +140,7 @@ void RecordFacts::layOneColumn() {
     column->addLayout(row);
 }
 
-void RecordFacts::layTwoColumns() {
+void RecordFacts::layoutTwoColumns() {
     auto* visit = new QHBoxLayout;
     visit->setSpacing(Measure::gap32);
     auto* picture = new QVBoxLayout;
@@ -218,8 +218,7 @@ void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, con
 void RecordFacts::showVisitor(const MissionRecord& record) {
     picture_->setName(toQString(record.snapshot));
     picture_->setDescription(tr("Picture of %1").arg(isolated(shownText(record.cameraName))));
-    const QString label = record.label.empty() ? tr("Unknown person") : shownText(record.label);
-    identity_->setText(label + QStringLiteral(" · ") + toQString(record.id));
+    identity_->setText(personName(record.label) + QStringLiteral(" · ") + toQString(record.id));
     times_->setText(tr("Detected %1, ended %2").arg(timeOfDay(record.start), timeOfDay(record.end)));
 }
 

@@ -38,10 +38,10 @@ signals:
 
 private:
     QWidget* section(const QString& heading, QWidget* content, int gap);
-    void layMetrics(int columns);
-    void layOneColumn();
-    void layTwoColumns();
-    void layVisitor(bool wide);
+    void layoutMetrics(int columns);
+    void layoutOneColumn();
+    void layoutTwoColumns();
+    void layoutVisitor(bool wide);
     void showMetrics(const MissionRecord& record);
     void showVisitor(const MissionRecord& record);
 

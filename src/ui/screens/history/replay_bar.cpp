@@ -65,7 +65,7 @@ void ReplayBar::toggle() {
 }
 
 void ReplayBar::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
+    if (event->key() == Qt::Key_Space)
         toggle();
     else
         QWidget::keyPressEvent(event);

@@ -5,6 +5,7 @@
 #include "ui/blocks/text.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
+#include "ui/look/words.h"
 #include "ui/screens/visitor_words.h"
 
 #include <QHBoxLayout>
@@ -33,7 +34,7 @@ VisitorCard::VisitorCard(QWidget* parent) : QWidget(parent) {
 
 void VisitorCard::setVisitor(const Visitor& visitor, const Site& site) {
     picture_->setName(visitorPicture(visitor, site));
-    label_->setText(visitorName(visitor));
+    label_->setText(personName(visitor.label));
     camera_->setText(visitorCamera(visitor, site));
     picture_->setDescription(tr("Picture of %1").arg(camera_->text()));
     certainty_->setText(certaintyText(visitor) + QStringLiteral(" ·"));

@@ -139,7 +139,7 @@ void NowGroup::showVisitor(const LiveState& state) {
     const bool stale = store_.freshness() == Freshness::stale;
     picture_->setName(visitorPicture(visitor, state.site));
     picture_->setOpacity(stale ? Measure::staleOpacity : 1);
-    name_->setText(visitorName(visitor));
+    name_->setText(personName(visitor.label));
     camera_->setText(visitorCamera(visitor, state.site));
     certainty_->setText(certaintyText(visitor));
     location_->setText(visitor.inside ? tr("Inside your boundary") : tr("Outside your boundary"));

@@ -55,7 +55,7 @@ public:
         value_ = value;
         lines_ = lines;
         dots_ = dots;
-        neededWidth_ = widthOfTexts();
+        neededWidth_ = std::max(neededWidth_, widthOfTexts()); // columns must not move with the values
         QStringList texts{caption_, value_};
         for (const Line& line : lines_)
             texts.append(textOf(line));
@@ -64,7 +64,7 @@ public:
         update();
     }
 
-    /// Width in pixels at which no text is cut off.
+    /// Width in pixels at which no text is cut off, of all texts so far.
     double neededWidth() const { return neededWidth_; }
 
     /// Shows the text in the tooltip and as the accessible description.
@@ -113,7 +113,7 @@ private:
             texts.append(textOf(line));
         const QString& details = accessibleDescription();
         setToolTipIfElided(*this, details.isEmpty() ? texts.join('\n') : details,
-                           !details.isEmpty() || neededWidth_ > width());
+                           !details.isEmpty() || widthOfTexts() > width());
     }
 
     QString caption_, value_;

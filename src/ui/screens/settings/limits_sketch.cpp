@@ -42,7 +42,9 @@ std::vector<TextRun> withValues(const QString& sentence, const std::vector<TextR
     qsizetype from = 0;
     for (qsizetype at = sentence.indexOf('%'); at >= 0; at = sentence.indexOf('%', from)) {
         add(sentence.mid(from, at - from));
-        runs.push_back(values[static_cast<std::size_t>(sentence[at + 1].digitValue() - 1)]);
+        const auto index = static_cast<std::size_t>(sentence.mid(at + 1, 1).toInt() - 1);
+        if (index < values.size())
+            runs.push_back(values[index]);
         from = at + 2;
     }
     add(sentence.mid(from));

@@ -82,6 +82,11 @@ SettingsView::SettingsView(AppStore& store, QWidget* parent) : Screen(store, par
             [this](const QWidget*, const QWidget* focused) { followFocus(focused); });
 }
 
+/// The controls are destroyed after the members, and lose the focus then.
+SettingsView::~SettingsView() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 /// The form, and right of it the sketch, which is no part of the layout: it keeps level with the first limit.
 QWidget* SettingsView::buildContent() {
     auto* content = new QWidget(this);

@@ -20,6 +20,7 @@ class SettingsView : public Screen {
 
 public:
     SettingsView(AppStore& store, QWidget* parent);
+    ~SettingsView() override;
 
 protected:
     void refresh() override;

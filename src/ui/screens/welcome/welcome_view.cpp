@@ -162,18 +162,18 @@ void WelcomeView::loadHero() {
     const QImage picture = Art::find(QStringLiteral("welcome-hero"));
     if (picture.isNull())
         return;
-    shown_ = heroArea(picture.size());
+    pictureRect_ = heroArea(picture.size());
     QPainter painter(&hero_);
-    const QSize scaled = (shown_.size() * devicePixelRatioF()).toSize();
-    painter.drawImage(shown_, picture.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const QSize scaled = (pictureRect_.size() * devicePixelRatioF()).toSize();
+    painter.drawImage(pictureRect_, picture.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 /// Fades the picture into the page: below, down to the foot of the house at most, and at the sides where it
 /// does not reach the window's edges.
 void WelcomeView::paintFades(QPainter& painter) const {
-    const double end = column_->y(), foot = shown_.top() + houseBottom * shown_.height();
+    const double end = column_->y(), foot = pictureRect_.top() + houseBottom * pictureRect_.height();
     const double below = std::clamp<double>(end - foot, Measure::heroFadeLow, Measure::heroFade);
-    const double beside = std::min<double>(shown_.left(), Measure::heroFade);
+    const double beside = std::min<double>(pictureRect_.left(), Measure::heroFade);
     const auto fade = [&](QPointF from, QPointF to) {
         QLinearGradient gradient(from, to);
         gradient.setColorAt(0, SB::faded(SB::page, 0));
@@ -183,8 +183,8 @@ void WelcomeView::paintFades(QPainter& painter) const {
     fade({0, end - below}, {0, end});
     if (beside <= 0)
         return;
-    fade({shown_.left() + beside, 0}, {shown_.left(), 0});
-    fade({shown_.right() - beside, 0}, {shown_.right(), 0});
+    fade({pictureRect_.left() + beside, 0}, {pictureRect_.left(), 0});
+    fade({pictureRect_.right() - beside, 0}, {pictureRect_.right(), 0});
 }
 
 void WelcomeView::paintEvent(QPaintEvent*) {

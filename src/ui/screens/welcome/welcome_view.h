@@ -36,8 +36,8 @@ private:
     AppStore& store_;
     QVBoxLayout* steps_ = nullptr;
     QWidget* column_;
-    QPixmap hero_; ///< of the area above the column
-    QRectF shown_; ///< where the picture lies in that area
+    QPixmap hero_;       ///< of the area above the column
+    QRectF pictureRect_; ///< where the picture lies in that area
 };
 
 } // namespace velmora

@@ -1,4 +1,4 @@
-#include "desktop/x11.h"
+#include "x11/x11.h"
 
 #include <QGuiApplication>
 
