@@ -150,7 +150,9 @@ TEST_F(SettingsTest, ANotchOfTheWheelMovesASliderByOneOnlyWhileItHasTheFocus) {
     look();
     QSlider& distance = slider("Follow distance");
     slider("Flight height");
-    QTest::mouseMove(&distance);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&distance, &move);
     turnWheel(distance);
     EXPECT_EQ(store().settings().followDistance, 15);
     slider("Follow distance");
