@@ -116,10 +116,15 @@ void FocusRing::paintEvent(QPaintEvent*) {
     const QColor color = style_.field  ? SB::faded(SB::blue, haloOpacity)
                          : style_.dark ? SB::softBlue
                                        : SB::blue;
-    const double inset = gap + width / 2;
+    const double inset = gap + (style_.edged ? width : width / 2);
     const double radius = style_.radius + outset - inset;
+    const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    if (style_.edged) {
+        painter.setPen(QPen(SB::navy, 2 * width));
+        painter.drawRoundedRect(ring, radius, radius);
+    }
     painter.setPen(QPen(color, width));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.drawRoundedRect(ring, radius, radius);
 }
 
 } // namespace velmora

@@ -17,6 +17,7 @@ public:
     struct RingStyle {
         double radius = 0;
         bool dark = false;        ///< on a navy surface
+        bool edged = false;       ///< on a picture: with a navy edge, so that it stands out from any colour
         bool field = false;       ///< a text field: a halo at its border, also after a click
         bool roundParent = false; ///< ring the parent, for one part of a larger control
         QRect part = {};          ///< ring only this part of the widget, such as a slider's thumb

@@ -151,7 +151,9 @@ void Style::polish(QWidget* widget) {
 /// Puts the panel where a menu without a shadow would be, and treats clicks on the shadow as clicks beside
 /// the menu.
 bool Style::eventFilter(QObject* watched, QEvent* event) {
-    auto* menu = static_cast<QMenu*>(watched);
+    auto* menu = qobject_cast<QMenu*>(watched);
+    if (!menu) // it is being destroyed
+        return QProxyStyle::eventFilter(watched, event);
     if (event->type() == QEvent::Resize) {
         cutCorners(*menu);
     } else if (event->type() == QEvent::Show && !event->spontaneous()) {

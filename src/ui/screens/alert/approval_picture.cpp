@@ -66,7 +66,6 @@ ApprovalPicture::ApprovalPicture(QWidget* parent)
       inset_(new AlertInset(picture_)),
       bar_(new Bar(this)) {
     setFocusPolicy(Qt::StrongFocus);
-    FocusRing::setRingStyle(this, {.radius = Measure::overlayRadius});
     picture_->setSquareBottom(true);
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
     bar_->setFixedHeight(Measure::approvalBar);
@@ -110,6 +109,16 @@ void ApprovalPicture::setPictureSize(QSize size, double enlarged) {
     const QSizeF map =
         QSizeF(Measure::insetMap) * (1 - enlarged) + QSizeF(Measure::insetMapEnlarged) * enlarged;
     inset_->setMapSize(map.toSize());
+}
+
+/// The focus ring lies inside the picture: around it, veil and countdown would hide it.
+void ApprovalPicture::resizeEvent(QResizeEvent*) {
+    constexpr int inside = Measure::gap8;
+    FocusRing::setRingStyle(
+        this, {.radius = Measure::overlayRadius - inside,
+               .dark = true,
+               .edged = true,
+               .part = rect().adjusted(inside, inside, -inside, -inside - Measure::approvalBar)});
 }
 
 QSize ApprovalPicture::sizeHint() const {

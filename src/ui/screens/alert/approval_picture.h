@@ -29,6 +29,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {} // the children draw everything
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     class Bar;
