@@ -121,6 +121,7 @@ TEST_F(DeliberateAnswerTest, AnAlertClosesTheHistorysMenusSoThatTheFirstClickCou
 TEST_F(DeliberateAnswerTest, AnAlertTakesNoFocusAndClosesTheMenuOfAnOldTrayWhichAnswersIt) {
     start();
     const RunningProgram other = openAnotherWindow();
+    QTest::qWait(guard); // Qt reports the loss of the focus late
     OldTray tray(display);
     ASSERT_TRUE(tray.embed());
     const QPoint launchLine(60, 103); // of the menu, which opens at the pointer

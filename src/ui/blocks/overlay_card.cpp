@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace velmora {
 
@@ -84,7 +83,7 @@ void OverlayCard::open() {
     card_->hide();
     raise();
     show();
-    focusWithoutActivating();
+    setFocus(Qt::OtherFocusReason);
     appearance_.setDuration(Motion::cardIn);
     appearance_.move(0, 1);
     emit openChanged();
@@ -100,18 +99,6 @@ void OverlayCard::close() {
     appearance_.setDuration(Motion::cardOut);
     appearance_.move(1, 0);
     emit openChanged();
-}
-
-/// Qt hears late that the window has lost the focus. Until then it would activate the window again for a
-/// widget that gets the focus.
-void OverlayCard::focusWithoutActivating() {
-    if (!open_)
-        return;
-    if (isActiveWindow() && QGuiApplication::focusWindow() != window()->windowHandle())
-        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &OverlayCard::focusWithoutActivating,
-                static_cast<Qt::ConnectionType>(Qt::UniqueConnection | Qt::SingleShotConnection));
-    else
-        setFocus(Qt::OtherFocusReason);
 }
 
 /// Call before the card is hidden: Qt moves the focus of a hidden widget to another control, which the next

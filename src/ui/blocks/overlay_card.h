@@ -43,8 +43,6 @@ protected:
     /// Focuses a control when the card has opened. By default none: the card itself keeps the focus, so that
     /// no key triggers a button by accident.
     virtual void focusFirst();
-    /// Gives the open card the focus within its window, at once or when the window's own focus is known.
-    void focusWithoutActivating();
 
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -156,7 +156,7 @@ void ApprovalOverlay::updateAlert() {
     answers_->reset();
     countdown_.start();
     if (isOpen())
-        focusWithoutActivating();
+        setFocus(Qt::OtherFocusReason);
     open();
     emit asked();
 }
