@@ -15,7 +15,7 @@ struct HistoryEntry {
     std::shared_ptr<const MissionRecord> record; ///< never null
 };
 
-/// A removed record and its place in the history.
+/// A removed record and its position in the history.
 struct RemovedEntry {
     HistoryEntry entry;
     std::vector<RecordKey> below; ///< the records that followed it, in order

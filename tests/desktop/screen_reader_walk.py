@@ -2,7 +2,7 @@
 """Walks through the running program as a screen reader does.
 
 Presses every control of every screen by its accessible action and waits until assistive technology sees the effect.
-Needs an X server and a session bus of its own. The argument is the program. Exits with 77 if the tools are missing.
+Needs an X server and a D-Bus daemon of its own. The argument is the program. Exits with 77 if the tools are missing.
 """
 
 import os

@@ -8,7 +8,7 @@ namespace velmora {
 
 class Text;
 
-/// What stands in the middle of an empty screen: an icon, what its emptiness means, and a control that helps.
+/// The centre of an empty screen: an icon, an explanation, and a control that helps.
 class EmptyState : public QWidget {
     Q_OBJECT
 

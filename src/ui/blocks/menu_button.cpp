@@ -1,6 +1,7 @@
 #include "ui/blocks/menu_button.h"
 
 #include "ui/blocks/focus_ring.h"
+#include "ui/blocks/tool_tip.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -68,8 +69,7 @@ QRectF MenuButton::textArea() const {
 }
 
 void MenuButton::updateToolTip() {
-    const bool fits = elided(text(), Type::compactRow, textArea().width()) == text();
-    setToolTip(fits ? QString() : plainToolTip(text()));
+    setToolTipIfElided(*this, text(), elided(text(), Type::compactRow, textArea().width()) != text());
 }
 
 void MenuButton::resizeEvent(QResizeEvent*) {

@@ -74,7 +74,7 @@ void XEmbedIcon::setIcon(const QIcon& icon) {
     paint();
 }
 
-/// Asks the tray for a place; without a tray, waits for the message of the next one.
+/// Asks the tray to embed the icon. Without a tray, the icon docks when the next one announces itself.
 void XEmbedIcon::dock() {
     undock();
     tray_ = X11::ownerOf(connection_, selection_);

@@ -31,9 +31,12 @@ void AlertInset::setState(const LiveState& state, const Settings& settings, Fres
     stale_ = freshness != Freshness::live;
     inside_ = state.visitor->inside;
     distance_ = tr("%1 m from the pad").arg(rounded(distance(state.visitor->pos, state.site.pad)));
-    place_ = inside_ ? tr("inside your boundary") : tr("outside your boundary");
+    if (const QString place = inside_ ? tr("inside your boundary") : tr("outside your boundary");
+        place != place_) {
+        place_ = place;
+        arrange();
+    }
     setAccessibleName(distance_ + QStringLiteral(" · ") + place_);
-    arrange();
     update();
 }
 

@@ -322,10 +322,10 @@ void HistoryList::undo() {
     emit selected(key);
 }
 
-bool HistoryList::handleListKey(const QKeyEvent& event) {
+bool HistoryList::handleListKey(int key) {
     const QModelIndex current = records_->currentIndex();
     const int last = model_->rowCount() - 1;
-    switch (event.key()) {
+    switch (key) {
     case Qt::Key_Space:
         emit playRequested();
         return true;
@@ -355,9 +355,8 @@ bool HistoryList::handleListKey(const QKeyEvent& event) {
 
 bool HistoryList::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
-        const auto& press = static_cast<const QKeyEvent&>(*event);
-        const int key = press.key();
-        if (watched == records_ && handleListKey(press))
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (watched == records_ && handleListKey(key))
             return true;
         const bool leavesSearch = key == Qt::Key_Escape || key == Qt::Key_Down || key == Qt::Key_Return;
         if (watched == search_ && leavesSearch) {

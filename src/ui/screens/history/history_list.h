@@ -6,7 +6,6 @@
 
 #include <QWidget>
 
-class QKeyEvent;
 class QListView;
 
 namespace velmora {
@@ -68,7 +67,7 @@ private:
     void restoreScrollPosition();
     void reveal(const QModelIndex& index);
     void undo();
-    bool handleListKey(const QKeyEvent& event);
+    bool handleListKey(int key);
 
     AppStore& store_;
     HistoryModel* model_;

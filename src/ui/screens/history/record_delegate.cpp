@@ -64,7 +64,7 @@ struct RecordRow {
     double badgeRight = 0;
 };
 
-/// Thumbnail and badge stand beside the second line, so that the first has the whole width.
+/// The thumbnail and the badge are level with the second line, so the first line has the full width.
 RecordRow::RecordRow(const QRectF& row, const MissionRecord& record) {
     const bool narrow = row.width() < Measure::historyPaneNarrow;
     const QRectF inner = row.adjusted(Measure::recordInset, 0, -Measure::recordInset, 0);

@@ -203,8 +203,7 @@ int StatusStrip::marginsOf(std::size_t cell) const {
 
 /// What a column has to spare; negative if texts of its cell are too long.
 double StatusStrip::spareOf(std::size_t cell) const {
-    return width() * shares[cell] / sumOfShares - indentOf(cell) - Measure::gap8 -
-           cells_[cell]->neededWidth();
+    return width() * shares[cell] / sumOfShares - marginsOf(cell) - cells_[cell]->neededWidth();
 }
 
 /// Each column has its share of the strip; those with room to spare give to those whose texts are too long.

@@ -18,7 +18,7 @@ namespace velmora {
 
 namespace {
 
-constexpr P visitorShare{0.76, 0.53}; // of the site: where the sample visitor stands
+constexpr P visitorShare{0.76, 0.53}; // of the site: position of the sample visitor
 constexpr double heightGap = 3;       // between the drone and its height, pixels
 constexpr int planDetail = 4;         // the plan is drawn larger and scaled down, which keeps its thin lines
 constexpr MapMeasures measures{.captions = false,
@@ -35,7 +35,7 @@ constexpr MapMeasures measures{.captions = false,
                                .droneScale = 0.5,
                                .followRing = 0.75};
 
-/// The sentence with styled values in place of %1, %2 and so on.
+/// The sentence; styled values replace %1, %2 and so on.
 std::vector<TextRun> withValues(const QString& sentence, const std::vector<TextRun>& values) {
     std::vector<TextRun> runs;
     const auto add = [&](const QString& text) { runs.push_back({text, Type::legend, SB::muted}); };

@@ -76,7 +76,10 @@ SettingsView::SettingsView(AppStore& store, QWidget* parent) : Screen(store, par
                       .content = buildContent()},
                      this));
     refreshOn({&AppStore::settingsChanged});
-    connect(&store_, &AppStore::stateChanged, this, &SettingsView::showLimits);
+    connect(&store_, &AppStore::stateChanged, this, [this] {
+        if (isVisible())
+            showLimits();
+    });
     connect(&store_, &AppStore::connectionRequested, this, [this] { page().scrollToTop(); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* focused) { followFocus(focused); });
