@@ -67,7 +67,7 @@ void recording(benchmark::State& run) {
     world.follow();
     store.setSection(Section::history);
     QTest::qWait(500);
-    store.send(Command::land);
+    store.send(Command::land, CommandSource::live);
     while (store.knownState()->drone.altitude > 1)
         world.tick();
     const TickWatch watch;

@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Airborne at %1 m — heading to the visitor</source>
-        <translation>In %1 m Höhe – unterwegs zum Besucher</translation>
+        <translation>In %1&#xa0;m Höhe – unterwegs zum Besucher</translation>
     </message>
     <message>
         <source>Following at %1 m</source>
-        <translation>Folgt mit %1 m Abstand</translation>
+        <translation>Folgt mit %1&#xa0;m Abstand</translation>
     </message>
     <message>
         <source>Following — handed over to DJI tracking</source>
@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>At your boundary — holding inside the %1 m buffer</source>
-        <translation>An Ihrer Grenze – hält den Puffer von %1 m ein</translation>
+        <translation>An Ihrer Grenze – hält den Puffer von %1&#xa0;m ein</translation>
     </message>
     <message>
         <source>Gust of %1 km/h — recovered and back on station</source>
-        <translation>Böe mit %1 km/h – abgefangen, wieder in Position</translation>
+        <translation>Böe mit %1&#xa0;km/h – abgefangen, wieder in Position</translation>
     </message>
     <message>
         <source>Visitor has crossed your boundary</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Holding position at %1 m</source>
-        <translation>Hält Position in %1 m Höhe</translation>
+        <translation>Hält Position in %1&#xa0;m Höhe</translation>
     </message>
     <message>
         <source>Following again</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Battery below %1% — coming home</source>
-        <translation>Akku unter %1 % – kehrt heim</translation>
+        <translation>Akku unter %1&#xa0;% – kehrt heim</translation>
     </message>
     <message>
         <source>Landing now where it is — you asked</source>
@@ -185,7 +185,7 @@
     <name>velmora::AlertInset</name>
     <message>
         <source>%1 m from the pad</source>
-        <translation>%1 m vom Landeplatz</translation>
+        <translation>%1&#xa0;m vom Landeplatz</translation>
     </message>
     <message>
         <source>inside your boundary</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, stay inside your boundary and come home on its own.</source>
-        <translation>Drohne starten und die Person im Auge behalten? Die Drohne fliegt in %1 m Höhe, folgt mit etwa %2 m Abstand, bleibt innerhalb Ihrer Grenze und kehrt von selbst heim.</translation>
+        <translation>Drohne starten und die Person im Auge behalten? Die Drohne fliegt in %1&#xa0;m Höhe, folgt mit etwa %2&#xa0;m Abstand, bleibt innerhalb Ihrer Grenze und kehrt von selbst heim.</translation>
     </message>
 </context>
 <context>
@@ -504,7 +504,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>battery %1</source>
@@ -717,14 +717,14 @@
     </message>
     <message>
         <source>%1 m up · %2 m from the pad</source>
-        <translation>%1 m hoch · %2 m vom Landeplatz</translation>
+        <translation>%1&#xa0;m hoch · %2&#xa0;m vom Landeplatz</translation>
     </message>
 </context>
 <context>
     <name>velmora::LimitsSketch</name>
     <message>
         <source>%1 m</source>
-        <translation>%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>%1 up, %2 back,</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Following *at %1 m*</source>
-        <translation>Folgt *mit %1 m Abstand*</translation>
+        <translation>Folgt *mit %1&#xa0;m Abstand*</translation>
     </message>
     <message>
         <source>Following *the visitor*</source>
@@ -847,7 +847,7 @@
     </message>
     <message>
         <source>%1 m buffer inside your boundary</source>
-        <translation>%1 m Puffer innerhalb Ihrer Grenze</translation>
+        <translation>%1&#xa0;m Puffer innerhalb Ihrer Grenze</translation>
     </message>
     <message>
         <source>Drone</source>
@@ -1033,11 +1033,11 @@
     </message>
     <message>
         <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
-        <translation>Die Drohne kam bis zu %1 m über die Grenze hinaus und war %2 im Puffer von %3 m.</translation>
+        <translation>Die Drohne kam bis zu %1&#xa0;m über die Grenze hinaus und war %2 im Puffer von %3&#xa0;m.</translation>
     </message>
     <message>
         <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
-        <translation>Die Drohne blieb mindestens %1 m innerhalb der Grenze und war %2 im Puffer von %3 m.</translation>
+        <translation>Die Drohne blieb mindestens %1&#xa0;m innerhalb der Grenze und war %2 im Puffer von %3&#xa0;m.</translation>
     </message>
     <message>
         <source>Picture of %1</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>e.g. velmora-home</source>
-        <translation>z. B. velmora-home</translation>
+        <translation>z.&#xa0;B. velmora-home</translation>
     </message>
     <message>
         <source>Every launch needs your approval. There is no automatic launch.</source>
@@ -1306,6 +1306,10 @@
     <message>
         <source>Open data folder</source>
         <translation>Datenordner öffnen</translation>
+    </message>
+    <message>
+        <source>Every command for the drone is in journal.jsonl, in the data folder.</source>
+        <translation>Jeder Befehl an die Drohne steht in journal.jsonl im Datenordner.</translation>
     </message>
 </context>
 <context>
@@ -1429,11 +1433,11 @@
     </message>
     <message>
         <source>%1% battery</source>
-        <translation>Akku %1 %</translation>
+        <translation>Akku %1&#xa0;%</translation>
     </message>
     <message>
         <source>signal %1%</source>
-        <translation>Signal %1 %</translation>
+        <translation>Signal %1&#xa0;%</translation>
     </message>
     <message>
         <source>On its pad</source>
@@ -1453,7 +1457,7 @@
     </message>
     <message>
         <source>%1 km/h</source>
-        <translation>%1 km/h</translation>
+        <translation>%1&#xa0;km/h</translation>
     </message>
     <message>
         <source>Too windy to fly</source>
@@ -1461,7 +1465,7 @@
     </message>
     <message>
         <source>Fine to fly (limit %1 km/h)</source>
-        <translation>Flug möglich (bis %1 km/h)</translation>
+        <translation>Flug möglich (bis %1&#xa0;km/h)</translation>
     </message>
     <message>
         <source>Unknown faces trigger an alert</source>
@@ -1622,7 +1626,7 @@
     <name>velmora::WelcomeView</name>
     <message>
         <source>A second pair of eyes over *your grounds*.</source>
-        <translation>Ein zweites Paar Augen für *Ihr Grundstück*.</translation>
+        <translation>Ein zweites Paar Augen für *Ihr&#xa0;Grundstück*.</translation>
     </message>
     <message>
         <source>Your cameras spot someone they don&apos;t recognise</source>
@@ -1650,7 +1654,7 @@
     </message>
     <message>
         <source>It follows from about 15 m at 15 m high, never leaves your boundary, rides out gusts and lands on its pad.</source>
-        <translation>Sie folgt mit etwa 15 m Abstand in 15 m Höhe, überschreitet nie Ihre Grenze, trotzt Böen und landet auf ihrem Landeplatz.</translation>
+        <translation>Sie folgt mit etwa 15&#xa0;m Abstand in 15&#xa0;m Höhe, überschreitet nie Ihre Grenze, trotzt Böen und landet auf ihrem Landeplatz.</translation>
     </message>
     <message>
         <source>Demo mode runs a built-in simulation of the drone, cameras and your grounds, so you can try everything now.</source>
@@ -1834,11 +1838,11 @@
     </message>
     <message>
         <source>under your return level of %1</source>
-        <translation>unter Ihrem Heimkehrwert (%1)</translation>
+        <translation>unter Ihrem Heimkehrwert&#xa0;(%1)</translation>
     </message>
     <message>
         <source>over your limit of %1</source>
-        <translation>über Ihrem Limit (%1)</translation>
+        <translation>über Ihrem Limit&#xa0;(%1)</translation>
     </message>
     <message>
         <source>Visitor on the driveway</source>
@@ -1886,23 +1890,23 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation>%1 h %2 min</translation>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation>%1 min %2 s</translation>
+        <translation>%1&#xa0;min %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>Pad</source>
@@ -1910,7 +1914,7 @@
     </message>
     <message>
         <source>%1 m</source>
-        <translation>%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>Replay: nobody was tracked.</source>
@@ -1922,7 +1926,7 @@
     </message>
     <message>
         <source>Replay of the visitor&apos;s path and of the drone&apos;s, at most %1 m from its pad.</source>
-        <translation>Wiedergabe: Wege von Besucher und Drohne, höchstens %1 m vom Landeplatz.</translation>
+        <translation>Wiedergabe: Wege von Besucher und Drohne, höchstens %1&#xa0;m vom Landeplatz.</translation>
     </message>
     <message>
         <source>The drone is on its pad.</source>
@@ -1930,7 +1934,7 @@
     </message>
     <message>
         <source>The drone is at %1 m height, %2 m from its pad and %3 m from the boundary.</source>
-        <translation>Die Drohne ist in %1 m Höhe, %2 m vom Landeplatz und %3 m von der Grenze entfernt.</translation>
+        <translation>Die Drohne ist in %1&#xa0;m Höhe, %2&#xa0;m vom Landeplatz und %3&#xa0;m von der Grenze entfernt.</translation>
     </message>
     <message>
         <source>Unknown person</source>
@@ -1938,11 +1942,11 @@
     </message>
     <message>
         <source>%1 is %2 m from the drone, %3 m inside the boundary.</source>
-        <translation>%1: %2 m von der Drohne entfernt, %3 m innerhalb der Grenze.</translation>
+        <translation>%1: %2&#xa0;m von der Drohne entfernt, %3&#xa0;m innerhalb der Grenze.</translation>
     </message>
     <message>
         <source>%1 is %2 m from the drone, outside the boundary.</source>
-        <translation>%1: %2 m von der Drohne entfernt, außerhalb der Grenze.</translation>
+        <translation>%1: %2&#xa0;m von der Drohne entfernt, außerhalb der Grenze.</translation>
     </message>
     <message>
         <source>Map of your grounds.</source>
@@ -1958,7 +1962,7 @@
     </message>
     <message>
         <source>%1 m buffer</source>
-        <translation>%1 m Puffer</translation>
+        <translation>%1&#xa0;m Puffer</translation>
     </message>
     <message>
         <source>Arrived</source>
@@ -1974,7 +1978,7 @@
     </message>
     <message>
         <source>%1 m from the pad</source>
-        <translation>%1 m vom Landeplatz</translation>
+        <translation>%1&#xa0;m vom Landeplatz</translation>
     </message>
     <message>
         <source>over its pad</source>
@@ -1982,7 +1986,7 @@
     </message>
     <message>
         <source>%1 m out</source>
-        <translation>%1 m entfernt</translation>
+        <translation>%1&#xa0;m entfernt</translation>
     </message>
     <message>
         <source>No camera is looking for people yet.</source>
@@ -2034,15 +2038,15 @@
     </message>
     <message>
         <source>%1 s to answer</source>
-        <translation>noch %1 s zum Antworten</translation>
+        <translation>noch %1&#xa0;s zum Antworten</translation>
     </message>
     <message>
         <source>%1 m from the visitor</source>
-        <translation>%1 m vom Besucher</translation>
+        <translation>%1&#xa0;m vom Besucher</translation>
     </message>
     <message>
         <source>%1% battery</source>
-        <translation>Akku %1 %</translation>
+        <translation>Akku %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 camera</source>
@@ -2050,7 +2054,7 @@
     </message>
     <message>
         <source>%1% sure it&apos;s no one you know</source>
-        <translation>Zu %1 % unbekannt</translation>
+        <translation>Zu %1&#xa0;% unbekannt</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -2060,6 +2064,54 @@
     <message>
         <source>Demo</source>
         <translation>Demo</translation>
+    </message>
+    <message>
+        <source>on the alert&apos;s card</source>
+        <translation>auf der Karte des Alarms</translation>
+    </message>
+    <message>
+        <source>on the overview</source>
+        <translation>in der Übersicht</translation>
+    </message>
+    <message>
+        <source>on Live flight</source>
+        <translation>unter „Live-Flug“</translation>
+    </message>
+    <message>
+        <source>from the menu</source>
+        <translation>im Menü</translation>
+    </message>
+    <message>
+        <source>with the keyboard shortcut</source>
+        <translation>mit dem Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>from the tray</source>
+        <translation>im Infobereich</translation>
+    </message>
+    <message>
+        <source>from the notification</source>
+        <translation>in der Benachrichtigung</translation>
+    </message>
+    <message>
+        <source>in the self-check</source>
+        <translation>im Selbsttest</translation>
+    </message>
+    <message>
+        <source>You approved %1 after the alert.</source>
+        <translation>Sie haben den Start %1 nach dem Alarm freigegeben.</translation>
+    </message>
+    <message>
+        <source>You ignored the alert after %1.</source>
+        <translation>Sie haben den Alarm nach %1 ignoriert.</translation>
+    </message>
+    <message>
+        <source>You approved %1, %2 after the alert.</source>
+        <translation>Sie haben den Start %1 freigegeben, %2 nach dem Alarm.</translation>
+    </message>
+    <message>
+        <source>You ignored the alert %1, after %2.</source>
+        <translation>Sie haben den Alarm %1 ignoriert, nach %2.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>StoredText</name>
     <message>
         <source>%1 camera: someone you don&apos;t know</source>
-        <translation>Caméra %1 : personne inconnue</translation>
+        <translation>Caméra %1&#xa0;: personne inconnue</translation>
     </message>
     <message>
         <source>You approved the launch</source>
@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Airborne at %1 m — heading to the visitor</source>
-        <translation>En vol à %1 m – cap sur le visiteur</translation>
+        <translation>En vol à %1&#xa0;m – cap sur le visiteur</translation>
     </message>
     <message>
         <source>Following at %1 m</source>
-        <translation>Suivi à %1 m</translation>
+        <translation>Suivi à %1&#xa0;m</translation>
     </message>
     <message>
         <source>Following — handed over to DJI tracking</source>
@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>At your boundary — holding inside the %1 m buffer</source>
-        <translation>À votre limite – maintien dans la marge de %1 m</translation>
+        <translation>À votre limite – maintien dans la marge de %1&#xa0;m</translation>
     </message>
     <message>
         <source>Gust of %1 km/h — recovered and back on station</source>
-        <translation>Rafale de %1 km/h – stabilisé et de retour en position</translation>
+        <translation>Rafale de %1&#xa0;km/h – stabilisé et de retour en position</translation>
     </message>
     <message>
         <source>Visitor has crossed your boundary</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Holding position at %1 m</source>
-        <translation>Position maintenue à %1 m</translation>
+        <translation>Position maintenue à %1&#xa0;m</translation>
     </message>
     <message>
         <source>Following again</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Battery below %1% — coming home</source>
-        <translation>Batterie sous %1 % – retour à la base</translation>
+        <translation>Batterie sous %1&#xa0;% – retour à la base</translation>
     </message>
     <message>
         <source>Landing now where it is — you asked</source>
@@ -185,7 +185,7 @@
     <name>velmora::AlertInset</name>
     <message>
         <source>%1 m from the pad</source>
-        <translation>à %1 m de la base</translation>
+        <translation>à %1&#xa0;m de la base</translation>
     </message>
     <message>
         <source>inside your boundary</source>
@@ -230,7 +230,7 @@
     <name>velmora::AppStore</name>
     <message>
         <source>%1 could not be written: %2.</source>
-        <translation>Impossible d’écrire %1 : %2.</translation>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it would be empty</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, stay inside your boundary and come home on its own.</source>
-        <translation>Lancer le drone pour la garder à l’œil ? Il volera à %1 m de hauteur, suivra à environ %2 m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
+        <translation>Lancer le drone pour la garder à l’œil&#x202f;? Il volera à %1&#xa0;m de hauteur, suivra à environ %2&#xa0;m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
     </message>
 </context>
 <context>
@@ -361,15 +361,15 @@
     </message>
     <message>
         <source>1 alert in the history</source>
-        <translation>1 alerte dans l’historique</translation>
+        <translation>1&#xa0;alerte dans l’historique</translation>
     </message>
     <message>
         <source>%1 alerts in the history</source>
-        <translation>%1 alertes dans l’historique</translation>
+        <translation>%1&#xa0;alertes dans l’historique</translation>
     </message>
     <message>
         <source>Picture of %1</source>
-        <translation>Image : %1</translation>
+        <translation>Image&#xa0;: %1</translation>
     </message>
     <message>
         <source>Last seen %1</source>
@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>velmora&apos;s config has no cameras, so nobody on your grounds is noticed and you get no alerts. Add them there, and they appear here.</source>
-        <translation>La configuration de velmora ne contient aucune caméra : personne n’est remarqué sur votre terrain et vous ne recevez aucune alerte. Ajoutez-en là-bas, elles apparaîtront ici.</translation>
+        <translation>La configuration de velmora ne contient aucune caméra&#xa0;: personne n’est remarqué sur votre terrain et vous ne recevez aucune alerte. Ajoutez-en là-bas, elles apparaîtront ici.</translation>
     </message>
     <message>
         <source>Your cameras appear here as soon as velmora answers.</source>
@@ -478,7 +478,7 @@
     </message>
     <message>
         <source>Not stored: a port is a whole number from 1 to 65535.</source>
-        <translation>Non enregistré : un port est un nombre entier de 1 à 65535.</translation>
+        <translation>Non enregistré&#xa0;: un port est un nombre entier de 1 à 65535.</translation>
     </message>
 </context>
 <context>
@@ -504,7 +504,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>battery %1</source>
@@ -634,11 +634,11 @@
     </message>
     <message>
         <source>1 visit</source>
-        <translation>1 visite</translation>
+        <translation>1&#xa0;visite</translation>
     </message>
     <message>
         <source>%1 visits</source>
-        <translation>%1 visites</translation>
+        <translation>%1&#xa0;visites</translation>
     </message>
     <message>
         <source>Every visit,
@@ -701,7 +701,7 @@
     <name>velmora::LandConfirmation</name>
     <message>
         <source>Land the drone where it is now?</source>
-        <translation>Faire atterrir le drone là où il est ?</translation>
+        <translation>Faire atterrir le drone là où il est&#x202f;?</translation>
     </message>
     <message>
         <source>It will come down on the spot, not on its pad. Use this only if something is wrong.</source>
@@ -717,14 +717,14 @@
     </message>
     <message>
         <source>%1 m up · %2 m from the pad</source>
-        <translation>Hauteur %1 m · à %2 m de la base</translation>
+        <translation>Hauteur %1&#xa0;m · à %2&#xa0;m de la base</translation>
     </message>
 </context>
 <context>
     <name>velmora::LimitsSketch</name>
     <message>
         <source>%1 m</source>
-        <translation>%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>%1 up, %2 back,</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Following *at %1 m*</source>
-        <translation>Suivi *à %1 m*</translation>
+        <translation>Suivi *à %1&#xa0;m*</translation>
     </message>
     <message>
         <source>Following *the visitor*</source>
@@ -808,7 +808,7 @@
     <name>velmora::MainWindow</name>
     <message>
         <source>Clear the demo history?</source>
-        <translation>Vider l’historique démo ?</translation>
+        <translation>Vider l’historique démo&#x202f;?</translation>
     </message>
     <message>
         <source>Keep it</source>
@@ -836,7 +836,7 @@
     </message>
     <message>
         <source>%1 rehearsed visits go. Visits that were really flown stay.</source>
-        <translation>%1 visites simulées seront effacées. Les visites réelles sont conservées.</translation>
+        <translation>%1&#xa0;visites simulées seront effacées. Les visites réelles sont conservées.</translation>
     </message>
 </context>
 <context>
@@ -847,7 +847,7 @@
     </message>
     <message>
         <source>%1 m buffer inside your boundary</source>
-        <translation>Marge de %1 m dans votre limite</translation>
+        <translation>Marge de %1&#xa0;m dans votre limite</translation>
     </message>
     <message>
         <source>Drone</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Picture of %1</source>
-        <translation>Image : %1</translation>
+        <translation>Image&#xa0;: %1</translation>
     </message>
     <message>
         <source>%</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>Step %1 of %2: %3</source>
-        <translation>Étape %1 sur %2 : %3</translation>
+        <translation>Étape %1 sur %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>No mission under way</source>
@@ -1033,15 +1033,15 @@
     </message>
     <message>
         <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
-        <translation>Le drone s’est trouvé jusqu’à %1 m hors de la limite et a passé %2 dans la marge de %3 m.</translation>
+        <translation>Le drone s’est trouvé jusqu’à %1&#xa0;m hors de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
     </message>
     <message>
         <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
-        <translation>Le drone est resté à %1 m au moins à l’intérieur de la limite et a passé %2 dans la marge de %3 m.</translation>
+        <translation>Le drone est resté à %1&#xa0;m au moins à l’intérieur de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
     </message>
     <message>
         <source>Picture of %1</source>
-        <translation>Image : %1</translation>
+        <translation>Image&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1138,11 +1138,11 @@
     </message>
     <message>
         <source>Seen to landed %1</source>
-        <translation>Jusqu’à l’atterrissage : %1</translation>
+        <translation>Jusqu’à l’atterrissage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Seen to the end %1</source>
-        <translation>Jusqu’à la fin : %1</translation>
+        <translation>Jusqu’à la fin&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1165,7 +1165,7 @@
     </message>
     <message>
         <source>Velmora flies the drone to the visitor, then hands over to the drone&apos;s own tracking and takes back control near the boundary. Experimental: not yet confirmed on the Mini 4 Pro.</source>
-        <translation>Velmora conduit le drone jusqu’au visiteur, passe le relais au suivi intégré du drone, puis reprend la main près de la limite. Expérimental : pas encore confirmé sur le Mini 4 Pro.</translation>
+        <translation>Velmora conduit le drone jusqu’au visiteur, passe le relais au suivi intégré du drone, puis reprend la main près de la limite. Expérimental&#xa0;: pas encore confirmé sur le Mini&#xa0;4&#xa0;Pro.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>e.g. velmora-home</source>
-        <translation>p. ex. velmora-maison</translation>
+        <translation>p.&#xa0;ex. velmora-maison</translation>
     </message>
     <message>
         <source>Every launch needs your approval. There is no automatic launch.</source>
@@ -1306,6 +1306,10 @@
     <message>
         <source>Open data folder</source>
         <translation>Ouvrir les données</translation>
+    </message>
+    <message>
+        <source>Every command for the drone is in journal.jsonl, in the data folder.</source>
+        <translation>Chaque commande donnée au drone est dans journal.jsonl, dans le dossier des données.</translation>
     </message>
 </context>
 <context>
@@ -1429,11 +1433,11 @@
     </message>
     <message>
         <source>%1% battery</source>
-        <translation>Batterie %1 %</translation>
+        <translation>Batterie %1&#xa0;%</translation>
     </message>
     <message>
         <source>signal %1%</source>
-        <translation>signal %1 %</translation>
+        <translation>signal %1&#xa0;%</translation>
     </message>
     <message>
         <source>On its pad</source>
@@ -1445,7 +1449,7 @@
     </message>
     <message>
         <source>%1 cameras offline</source>
-        <translation>%1 caméras hors ligne</translation>
+        <translation>%1&#xa0;caméras hors ligne</translation>
     </message>
     <message>
         <source>%1 of %2 online</source>
@@ -1453,7 +1457,7 @@
     </message>
     <message>
         <source>%1 km/h</source>
-        <translation>%1 km/h</translation>
+        <translation>%1&#xa0;km/h</translation>
     </message>
     <message>
         <source>Too windy to fly</source>
@@ -1461,7 +1465,7 @@
     </message>
     <message>
         <source>Fine to fly (limit %1 km/h)</source>
-        <translation>Vol possible (limite %1 km/h)</translation>
+        <translation>Vol possible (limite %1&#xa0;km/h)</translation>
     </message>
     <message>
         <source>Unknown faces trigger an alert</source>
@@ -1615,14 +1619,14 @@
     </message>
     <message>
         <source>Picture of %1</source>
-        <translation>Image : %1</translation>
+        <translation>Image&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::WelcomeView</name>
     <message>
         <source>A second pair of eyes over *your grounds*.</source>
-        <translation>Une deuxième paire d’yeux sur *votre terrain*.</translation>
+        <translation>Une deuxième paire d’yeux sur *votre&#xa0;terrain*.</translation>
     </message>
     <message>
         <source>Your cameras spot someone they don&apos;t recognise</source>
@@ -1650,11 +1654,11 @@
     </message>
     <message>
         <source>It follows from about 15 m at 15 m high, never leaves your boundary, rides out gusts and lands on its pad.</source>
-        <translation>Il suit à environ 15 m, à 15 m de hauteur, ne franchit jamais votre limite, résiste aux rafales et se pose sur sa base.</translation>
+        <translation>Il suit à environ 15&#xa0;m, à 15&#xa0;m de hauteur, ne franchit jamais votre limite, résiste aux rafales et se pose sur sa base.</translation>
     </message>
     <message>
         <source>Demo mode runs a built-in simulation of the drone, cameras and your grounds, so you can try everything now.</source>
-        <translation>Le mode démo simule le drone, les caméras et votre terrain : vous pouvez tout essayer dès maintenant.</translation>
+        <translation>Le mode démo simule le drone, les caméras et votre terrain&#xa0;: vous pouvez tout essayer dès maintenant.</translation>
     </message>
     <message>
         <source>Welcome to Velmora</source>
@@ -1721,11 +1725,11 @@
     </message>
     <message>
         <source>Someone you don&apos;t know is at the %1</source>
-        <translation>Personne inconnue : %1</translation>
+        <translation>Personne inconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Launch the drone to keep an eye on them?</source>
-        <translation>Lancer le drone pour la garder à l’œil ?</translation>
+        <translation>Lancer le drone pour la garder à l’œil&#x202f;?</translation>
     </message>
     <message>
         <source>ddd d MMM, HH:mm</source>
@@ -1742,7 +1746,7 @@
     </message>
     <message>
         <source>%1 raise no alert until they are back.</source>
-        <translation>Aucune alerte avant leur retour : %1.</translation>
+        <translation>Aucune alerte avant leur retour&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Velmora can&apos;t reach your server</source>
@@ -1750,11 +1754,11 @@
     </message>
     <message>
         <source>%1 is offline</source>
-        <translation>Caméra hors ligne : %1</translation>
+        <translation>Caméra hors ligne&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 cameras are offline</source>
-        <translation>%1 caméras hors ligne</translation>
+        <translation>%1&#xa0;caméras hors ligne</translation>
     </message>
     <message>
         <source>Docked</source>
@@ -1814,7 +1818,7 @@
     </message>
     <message>
         <source>velmora did not confirm “%1”. %2.</source>
-        <translation>velmora n’a pas confirmé « %1 ». %2.</translation>
+        <translation>velmora n’a pas confirmé «&#xa0;%1&#xa0;». %2.</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -1886,23 +1890,23 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation>%1 h %2 min</translation>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation>%1 min %2 s</translation>
+        <translation>%1&#xa0;min %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>Pad</source>
@@ -1910,19 +1914,19 @@
     </message>
     <message>
         <source>%1 m</source>
-        <translation>%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>Replay: nobody was tracked.</source>
-        <translation>Relecture : personne n’a été suivi.</translation>
+        <translation>Relecture&#xa0;: personne n’a été suivi.</translation>
     </message>
     <message>
         <source>Replay of the visitor&apos;s path; the drone stayed on its pad.</source>
-        <translation>Relecture du trajet du visiteur ; le drone est resté sur sa base.</translation>
+        <translation>Relecture du trajet du visiteur&#x202f;; le drone est resté sur sa base.</translation>
     </message>
     <message>
         <source>Replay of the visitor&apos;s path and of the drone&apos;s, at most %1 m from its pad.</source>
-        <translation>Relecture des trajets du visiteur et du drone, à %1 m au plus de sa base.</translation>
+        <translation>Relecture des trajets du visiteur et du drone, à %1&#xa0;m au plus de sa base.</translation>
     </message>
     <message>
         <source>The drone is on its pad.</source>
@@ -1930,7 +1934,7 @@
     </message>
     <message>
         <source>The drone is at %1 m height, %2 m from its pad and %3 m from the boundary.</source>
-        <translation>Le drone est à %1 m de hauteur, à %2 m de sa base et à %3 m de la limite.</translation>
+        <translation>Le drone est à %1&#xa0;m de hauteur, à %2&#xa0;m de sa base et à %3&#xa0;m de la limite.</translation>
     </message>
     <message>
         <source>Unknown person</source>
@@ -1938,11 +1942,11 @@
     </message>
     <message>
         <source>%1 is %2 m from the drone, %3 m inside the boundary.</source>
-        <translation>%1 : à %2 m du drone, à %3 m à l’intérieur de la limite.</translation>
+        <translation>%1&#xa0;: à %2&#xa0;m du drone, à %3&#xa0;m à l’intérieur de la limite.</translation>
     </message>
     <message>
         <source>%1 is %2 m from the drone, outside the boundary.</source>
-        <translation>%1 : à %2 m du drone, hors de la limite.</translation>
+        <translation>%1&#xa0;: à %2&#xa0;m du drone, hors de la limite.</translation>
     </message>
     <message>
         <source>Map of your grounds.</source>
@@ -1958,7 +1962,7 @@
     </message>
     <message>
         <source>%1 m buffer</source>
-        <translation>Marge de %1 m</translation>
+        <translation>Marge de %1&#xa0;m</translation>
     </message>
     <message>
         <source>Arrived</source>
@@ -1974,7 +1978,7 @@
     </message>
     <message>
         <source>%1 m from the pad</source>
-        <translation>à %1 m de la base</translation>
+        <translation>à %1&#xa0;m de la base</translation>
     </message>
     <message>
         <source>over its pad</source>
@@ -1982,7 +1986,7 @@
     </message>
     <message>
         <source>%1 m out</source>
-        <translation>à %1 m</translation>
+        <translation>à %1&#xa0;m</translation>
     </message>
     <message>
         <source>No camera is looking for people yet.</source>
@@ -1990,11 +1994,11 @@
     </message>
     <message>
         <source>1 camera is looking for people it doesn&apos;t recognise.</source>
-        <translation>1 caméra guette les inconnus.</translation>
+        <translation>1&#xa0;caméra guette les inconnus.</translation>
     </message>
     <message>
         <source>%1 cameras are looking for people they don&apos;t recognise.</source>
-        <translation>%1 caméras guettent les inconnus.</translation>
+        <translation>%1&#xa0;caméras guettent les inconnus.</translation>
     </message>
     <message>
         <source>Waiting for *velmora*.</source>
@@ -2034,15 +2038,15 @@
     </message>
     <message>
         <source>%1 s to answer</source>
-        <translation>%1 s pour répondre</translation>
+        <translation>%1&#xa0;s pour répondre</translation>
     </message>
     <message>
         <source>%1 m from the visitor</source>
-        <translation>à %1 m du visiteur</translation>
+        <translation>à %1&#xa0;m du visiteur</translation>
     </message>
     <message>
         <source>%1% battery</source>
-        <translation>Batterie %1 %</translation>
+        <translation>Batterie %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 camera</source>
@@ -2050,7 +2054,7 @@
     </message>
     <message>
         <source>%1% sure it&apos;s no one you know</source>
-        <translation>Inconnu avec %1 % de certitude</translation>
+        <translation>Inconnu avec %1&#xa0;% de certitude</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -2060,6 +2064,54 @@
     <message>
         <source>Demo</source>
         <translation>Démo</translation>
+    </message>
+    <message>
+        <source>on the alert&apos;s card</source>
+        <translation>sur la carte de l’alerte</translation>
+    </message>
+    <message>
+        <source>on the overview</source>
+        <translation>dans la vue d’ensemble</translation>
+    </message>
+    <message>
+        <source>on Live flight</source>
+        <translation>sous « Vol en direct »</translation>
+    </message>
+    <message>
+        <source>from the menu</source>
+        <translation>depuis le menu</translation>
+    </message>
+    <message>
+        <source>with the keyboard shortcut</source>
+        <translation>avec le raccourci clavier</translation>
+    </message>
+    <message>
+        <source>from the tray</source>
+        <translation>depuis la zone de notification</translation>
+    </message>
+    <message>
+        <source>from the notification</source>
+        <translation>depuis la notification</translation>
+    </message>
+    <message>
+        <source>in the self-check</source>
+        <translation>pendant l’autotest</translation>
+    </message>
+    <message>
+        <source>You approved %1 after the alert.</source>
+        <translation>Vous avez approuvé %1 après l’alerte.</translation>
+    </message>
+    <message>
+        <source>You ignored the alert after %1.</source>
+        <translation>Vous avez ignoré l’alerte après %1.</translation>
+    </message>
+    <message>
+        <source>You approved %1, %2 after the alert.</source>
+        <translation>Vous avez approuvé %1, %2 après l’alerte.</translation>
+    </message>
+    <message>
+        <source>You ignored the alert %1, after %2.</source>
+        <translation>Vous avez ignoré l’alerte %1, après %2.</translation>
     </message>
 </context>
 </TS>

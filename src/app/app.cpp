@@ -38,7 +38,9 @@ App::App(AppService& service, const Options& options)
       tray_(store_) {
     store_.start();
     SelfCheck::runIfRequested(store_);
-    connect(&notifier_, &DesktopNotifier::answered, &store_, &AppStore::answer);
+    connect(&notifier_, &DesktopNotifier::answered, &store_, [this](Command command, const AlertId& alert) {
+        store_.answer(command, alert, CommandSource::notification);
+    });
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);

@@ -41,12 +41,12 @@ void finishWelcome(AppStore& store) {
 /// Demo mode only: the run must not launch a server's drone.
 void approveInDemo(AppStore& store) {
     if (const auto alert = store.waitingAlert(); alert && !store.settings().linkMode)
-        store.answer(Command::approve, *alert);
+        store.answer(Command::approve, *alert, CommandSource::selfCheck);
 }
 
 void sendInDemo(AppStore& store, Command command) {
     if (!store.settings().linkMode)
-        store.send(command);
+        store.send(command, CommandSource::selfCheck);
 }
 
 /// Schedules the actions of the run. Each delay is in seconds after the action before.

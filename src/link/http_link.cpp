@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 FetchResult failed(Failure failure, const QString& detail = {}) {
-    return LinkError{failureText(failure, detail)};
+    return LinkError{failureText(failure, detail), failure};
 }
 
 FetchResult stateFrom(const End& end) {
@@ -38,7 +38,7 @@ QByteArray bodyOf(Command command, const std::optional<std::string>& mission) {
 std::optional<LinkError> commandFailure(const End& end) {
     if (!end.failure || end.status != 0)
         return std::nullopt;
-    return LinkError{failureText(*end.failure, end.errorText)};
+    return LinkError{failureText(*end.failure, end.errorText), *end.failure};
 }
 
 QByteArray endpoint(const QUrl& base, const char* name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "link/failure_text.h"
 #include "model/live_state.h"
 #include "model/settings.h"
 
@@ -17,9 +18,10 @@ struct FetchedState {
     QString version;
 };
 
-/// Why a request failed, in words for the owner.
+/// Why a request failed.
 struct LinkError {
-    QString text;
+    QString text; ///< in words for the owner
+    Failure failure = Failure::other;
 };
 
 using FetchResult = std::variant<FetchedState, LinkError>;

@@ -47,6 +47,10 @@ std::optional<std::string> dateText(Date date) {
     return std::string(text.data());
 }
 
+int yearOf(Date date) {
+    return int(year_month_day{floor<days>(date)}.year());
+}
+
 std::optional<Date> dateFromText(std::string_view text) {
     if (!hasForm(text))
         return std::nullopt;

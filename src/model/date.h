@@ -23,6 +23,9 @@ constexpr double secondsSince1970(Date date) {
 /// `date` as "2025-06-01T14:03:12Z": UTC, fractions of a second dropped. nullopt outside the years 0 to 9999.
 std::optional<std::string> dateText(Date date);
 
+/// The calendar year of this instant, in UTC.
+int yearOf(Date date);
+
 /// Parses exactly that format; nullopt for any other text and for impossible dates.
 std::optional<Date> dateFromText(std::string_view text);
 

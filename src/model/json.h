@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/journal_entry.h"
 #include "model/mission_record.h"
 #include "model/settings.h"
 

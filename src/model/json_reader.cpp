@@ -206,6 +206,7 @@ template Decoded<Notice> decode(std::string_view, KeyStyle, std::string_view);
 template Decoded<LiveState> decode(std::string_view, KeyStyle, std::string_view);
 template Decoded<MissionRecord> decode(std::string_view, KeyStyle, std::string_view);
 template Decoded<Settings> decode(std::string_view, KeyStyle, std::string_view);
+template Decoded<JournalEntry> decode(std::string_view, KeyStyle, std::string_view);
 template Decoded<std::vector<MissionRecord>> decode(std::string_view, KeyStyle, std::string_view);
 
 } // namespace velmora

@@ -122,6 +122,7 @@ template std::optional<std::string> encode(const Notice&, KeyStyle);
 template std::optional<std::string> encode(const LiveState&, KeyStyle);
 template std::optional<std::string> encode(const MissionRecord&, KeyStyle);
 template std::optional<std::string> encode(const Settings&, KeyStyle);
+template std::optional<std::string> encode(const JournalEntry&, KeyStyle);
 template std::optional<std::string> encode(const std::vector<MissionRecord>&, KeyStyle);
 template std::optional<std::string> encode(const std::vector<std::shared_ptr<const MissionRecord>>&,
                                            KeyStyle);

@@ -67,6 +67,14 @@ std::vector<ResponseMoment> responseTimeline(const MissionRecord& record) {
     return moments;
 }
 
+std::optional<GivenAnswer> answerOnRecord(const MissionRecord& record) {
+    if (const Notice* approved = firstNoticeOf(record, ResponseStep::answered))
+        return GivenAnswer{Command::approve, approved->time, std::nullopt};
+    if (record.outcome == Outcome::ignored)
+        return GivenAnswer{Command::ignore, record.end, std::nullopt};
+    return std::nullopt;
+}
+
 std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
                                                  double buffer) {
     if (!flew(record.outcome) || record.dronePath.empty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/journal_entry.h"
 #include "model/mission_record.h"
 
 #include <optional>
@@ -19,6 +20,9 @@ struct ResponseMoment {
 /// The steps found in the record's notices, from the detection to the end; steps without a notice are
 /// omitted.
 std::vector<ResponseMoment> responseTimeline(const MissionRecord& record);
+
+/// The owner's answer as far as the record tells of it: approved by its notice, ignored by its outcome.
+std::optional<GivenAnswer> answerOnRecord(const MissionRecord& record);
 
 /// When a record's path points were taken, in seconds after its start.
 struct PathTimes {

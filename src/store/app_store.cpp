@@ -2,6 +2,7 @@
 
 #include "model/csv.h"
 #include "model/json.h"
+#include "model/mission_evidence.h"
 #include "store/demo_history.h"
 
 #include <QSaveFile>
@@ -43,6 +44,7 @@ AppStore::AppStore(Environment environment, QObject* parent)
     : QObject(parent),
       environment_(std::move(environment)),
       files_(environment_.dataDirectory),
+      journal_(environment_.dataDirectory),
       settings_(files_.loadSettings().value_or(Settings{})),
       history_(files_),
       sim_(LiveState::initial(), settings_, environment_.random),
@@ -70,6 +72,11 @@ AppStore::AppStore(Environment environment, QObject* parent)
 
 void AppStore::start() {
     timer_.start();
+}
+
+bool AppStore::flush(std::chrono::milliseconds limit) {
+    const bool saved = files_.flush(limit);
+    return journal_.flush(limit) && saved;
 }
 
 const LiveState* AppStore::knownState() const {
@@ -161,27 +168,63 @@ std::optional<AlertId> AppStore::waitingAlert() const {
 
 /// Ticks first: after a pause of the program an answer can arrive before the next tick, while the state is
 /// still old.
-bool AppStore::answer(Command command, const AlertId& seen) {
+bool AppStore::answer(Command command, const AlertId& seen, CommandSource source) {
     tick();
-    const auto waiting = waitingAlert();
-    if (!answersAlert(command) || !waiting || !isSameAlert(seen, *waiting))
-        return false;
-    transmit(command, waiting->missionId);
-    return true;
-}
-
-void AppStore::send(Command command) {
     if (!answersAlert(command))
-        transmit(command, knownState() ? knownState()->missionId : std::nullopt);
+        return false;
+    const auto waiting = waitingAlert();
+    if (waiting && isSameAlert(seen, *waiting)) {
+        transmit(journalEntry(command, waiting->missionId, source));
+        return true;
+    }
+    JournalEntry entry = journalEntry(command, seen.missionId, source);
+    entry.result = CommandResult::dropped;
+    entry.reason = whyDropped(seen);
+    journal_.append(entry);
+    return false;
 }
 
-void AppStore::transmit(Command command, const std::optional<std::string>& mission) {
-    if (settings_.linkMode) {
-        session_.send(command, mission, state_);
+std::string AppStore::whyDropped(const AlertId& seen) const {
+    const auto shown = shownAlert();
+    if (!shown)
+        return "no alert waits";
+    if (!isSameAlert(seen, *shown))
+        return "another alert waits";
+    return freshness() == Freshness::live ? "an answer is on its way" : "the server is silent";
+}
+
+void AppStore::send(Command command, CommandSource source) {
+    if (!answersAlert(command))
+        transmit(journalEntry(command, knownState() ? knownState()->missionId : std::nullopt, source));
+}
+
+JournalEntry AppStore::journalEntry(Command command, const std::optional<std::string>& mission,
+                                    CommandSource source) const {
+    return {now(), command, mission, source, CommandResult::sent, std::nullopt, !settings_.linkMode};
+}
+
+/// The journal first: whatever happens next, it has the command.
+void AppStore::transmit(JournalEntry entry) {
+    journal_.append(entry);
+    journal_.sync();
+    if (!settings_.linkMode) {
+        sim_.send(entry.command, now());
+        setState(sim_.state);
         return;
     }
-    sim_.send(command, environment_.clock());
-    setState(sim_.state);
+    session_.send(entry.command, entry.mission, state_, [this, entry](const LinkError& error) mutable {
+        entry.time = now();
+        entry.result = CommandResult::failed;
+        entry.reason =
+            error.failure == Failure::other ? error.text.toStdString() : std::string(rawValue(error.failure));
+        journal_.append(entry);
+    });
+}
+
+std::optional<GivenAnswer> AppStore::answerTo(const MissionRecord& record) {
+    if (const auto entry = journal_.answerTo(record))
+        return GivenAnswer{entry->command, entry->time, entry->source};
+    return answerOnRecord(record);
 }
 
 void AppStore::setArmed(bool armed) {

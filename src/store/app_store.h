@@ -3,6 +3,7 @@
 #include "sim/simulator.h"
 #include "store/data_files.h"
 #include "store/history.h"
+#include "store/journal.h"
 #include "store/link_session.h"
 #include "store/login_item.h"
 #include "store/notifications.h"
@@ -34,7 +35,7 @@ public:
 
     /// Saves without a pause what is not on file yet, and waits for it. Returns whether everything is on file
     /// within the limit. The destructor does the same with the limit of DataFiles.
-    bool flush(std::chrono::milliseconds limit) { return files_.flush(limit); }
+    bool flush(std::chrono::milliseconds limit);
 
     /// Starts the timer. Call once.
     void start();
@@ -62,7 +63,7 @@ public:
     /// What keeps the armed system from watching in link mode; nullopt while all is well.
     const std::optional<Outage>& outage() const { return outageWatch_.outage(); }
     bool showWelcome() const { return showWelcome_; }
-    /// The directory of settings.json and history.json.
+    /// The directory of settings.json, history.json and journal.jsonl.
     const QDir& dataDirectory() const { return environment_.dataDirectory; }
     /// Whether the desktop starts Velmora at login.
     bool startsAtLogin() const { return environment_.loginItem.isOn(); }
@@ -94,12 +95,14 @@ public:
     /// seconds.
     std::optional<Command> pendingCommand() const { return session_.pendingCommand(); }
     /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown. Sends the
-    /// command once if exactly this alert can still be answered, otherwise does nothing. Returns whether it
-    /// sent the command.
-    bool answer(Command command, const AlertId& seen);
+    /// command once if exactly this alert can still be answered, otherwise drops it. Returns whether it sent
+    /// the command. The journal has an entry either way.
+    bool answer(Command command, const AlertId& seen, CommandSource source);
     /// Sends a flight command to the simulator or the server, at once and only once, even if the server is
     /// silent. Does nothing for an answer to an alert.
-    void send(Command command);
+    void send(Command command, CommandSource source);
+    /// How the owner answered the alert of this mission; nullopt if nobody did.
+    std::optional<GivenAnswer> answerTo(const MissionRecord& record);
     /// Demo mode only; in link mode the server decides whether it is armed.
     void setArmed(bool armed);
     /// Switches between demo mode and link mode. Unlike setSettings() it resets the link status even if the
@@ -148,7 +151,10 @@ private:
     void receive(const LiveState& state);
     void setState(const LiveState& state);
     void advanceSimulator(Date now, double elapsed);
-    void transmit(Command command, const std::optional<std::string>& mission);
+    void transmit(JournalEntry entry);
+    std::string whyDropped(const AlertId& seen) const;
+    JournalEntry journalEntry(Command command, const std::optional<std::string>& mission,
+                              CommandSource source) const;
     void followPhase();
     void phaseChanged(Phase from, Phase to);
     void alertReplaced();
@@ -156,6 +162,7 @@ private:
 
     Environment environment_;
     DataFiles files_;
+    Journal journal_;
     Settings settings_;
     History history_;
     Simulator sim_;

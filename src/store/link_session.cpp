@@ -127,16 +127,19 @@ void LinkSession::finishPoll(const FetchResult& result, int generation) {
     updateFreshness();
 }
 
-void LinkSession::send(Command command, const std::optional<std::string>& mission, const LiveState& current) {
+void LinkSession::send(Command command, const std::optional<std::string>& mission, const LiveState& current,
+                       std::function<void(const LinkError&)> failed) {
     const Pending pending{command, alertId(current), 0, ++sent_};
     if (!hasTakenEffect(pending, current))
         setPending(pending);
-    link_.send(
-        command, mission, settings_,
-        [session = QPointer(this), command, number = sent_, generation = generation_](const auto& failure) {
-            if (session && generation == session->generation_)
-                session->finishSend(command, number, failure);
-        });
+    link_.send(command, mission, settings_,
+               [session = QPointer(this), command, number = sent_, generation = generation_,
+                failed = std::move(failed)](const auto& failure) {
+                   if (session && failure)
+                       failed(*failure);
+                   if (session && generation == session->generation_)
+                       session->finishSend(command, number, failure);
+               });
 }
 
 /// Does not report the failure of an answer whose effect was seen, or whose alert has been replaced.

@@ -35,8 +35,9 @@ public:
     /// Advances by `elapsed` seconds to `now` and polls if a poll is due.
     void advance(Date now, double elapsed);
     /// Posts a command once, and polls as soon as its exchange ends. `current` is the state that the owner
-    /// saw.
-    void send(Command command, const std::optional<std::string>& mission, const LiveState& current);
+    /// saw. `failed` is called if the exchange fails while the session exists.
+    void send(Command command, const std::optional<std::string>& mission, const LiveState& current,
+              std::function<void(const LinkError&)> failed);
 
 signals:
     void received(const velmora::LiveState& state);

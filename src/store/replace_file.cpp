@@ -43,16 +43,6 @@ std::optional<FileStamp> writeNew(const QString& path, std::string_view bytes) {
     return std::nullopt;
 }
 
-/// Waits until the name of a new file is on disk. Errors are ignored: the file has its new content already.
-void syncDirectoryOf(const QString& path) {
-    const QByteArray directory = QFile::encodeName(QFileInfo(path).absolutePath());
-    const int descriptor = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-}
-
 } // namespace
 
 std::optional<FileStamp> stampOf(const QString& path) {
@@ -60,6 +50,15 @@ std::optional<FileStamp> stampOf(const QString& path) {
     if (::stat(QFile::encodeName(path).constData(), &info) == 0)
         return stampFrom(info);
     return errno == ENOENT || errno == ENOTDIR ? std::nullopt : std::optional(FileStamp{});
+}
+
+void syncDirectoryOf(const QString& path) {
+    const QByteArray directory = QFile::encodeName(QFileInfo(path).absolutePath());
+    const int descriptor = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
 }
 
 /// Writes path + ".part" and renames it. The fixed name means that a killed process leaves at most one stray

@@ -23,6 +23,9 @@ struct FileStamp {
 /// nullopt if there is no file. A file that cannot be examined differs from every other one.
 std::optional<FileStamp> stampOf(const QString& path);
 
+/// Waits until the name of a new file is on disk. Errors are ignored.
+void syncDirectoryOf(const QString& path);
+
 /// Atomically writes `bytes` to `path` (mode 0600), creating it if needed, and waits until content and name
 /// are on disk. After a crash or a full disk the file holds the old or the new content. Follows symlinks.
 /// Returns the stamp of the new file, or nullopt if the file is unchanged. Uses files and nothing else, so

@@ -85,6 +85,7 @@ TEST_F(ConfinementTest, ALinkedRunWritesOnlyItsDataAndCallsOnlyItsServer) {
            SIGTERM);
     EXPECT_EQ(exitCodeOf(*program), 0);
     expectConfined({home("data") + "/Velmora/", "/dev/null"}, server.listener().serverPort());
+    EXPECT_EQ(journal(), QStringList()) << "no command was given";
 }
 
 TEST_F(ConfinementTest, TheSelfCheckRunWritesItsPicturesAndCallsNoServer) {
@@ -95,6 +96,7 @@ TEST_F(ConfinementTest, TheSelfCheckRunWritesItsPicturesAndCallsNoServer) {
                              "05-settings", "06-approval", "07-overview-flying", "08-live-returning"})
         EXPECT_EQ(QImageReader(pictures + '/' + name + ".png").size(), QSize(1360, 860)) << name;
     expectConfined({home("data") + "/Velmora", pictures, "/dev/null"}, 0);
+    EXPECT_EQ(journal(), QStringList({"approve self-check sent", "return self-check sent"}));
 }
 
 } // namespace

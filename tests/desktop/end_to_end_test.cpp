@@ -59,6 +59,7 @@ TEST_F(EndToEndTest, TrayAndNotificationCarryAMissionWithoutTheWindow) {
     EXPECT_TRUE(trayShows(QString::fromUtf8("Velmora — Docked")));
     tray.press("Quit Velmora");
     EXPECT_EQ(exitCodeOf(*program), 0);
+    EXPECT_EQ(journal(), QStringList({"ignore tray sent", "approve notification sent", "return tray sent"}));
 }
 
 } // namespace

@@ -255,7 +255,9 @@ TEST_F(NotifiedStoreTest, LaunchInTheNotificationLaunchesTheDrone) {
     NotificationService service({"actions"});
     DesktopNotifier real(QDBusConnection::sessionBus(), pictureOf);
     AppStore store({[this] { return now; }, random, QDir(directory()), real, loginItem, link});
-    QObject::connect(&real, &DesktopNotifier::answered, &store, &AppStore::answer);
+    QObject::connect(&real, &DesktopNotifier::answered, &store, [&](Command command, const AlertId& alert) {
+        store.answer(command, alert, CommandSource::notification);
+    });
     ASSERT_TRUE(waitUntil([&] { return service.asked > 0; }));
     QCoreApplication::processEvents();
     store.simulate(Scenario::driveway);

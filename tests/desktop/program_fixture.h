@@ -71,6 +71,19 @@ protected:
         file.write(QByteArray::fromStdString(encode(settings).value()));
     }
 
+    /// The commands in the journal: "approve tray sent".
+    QStringList journal() const {
+        QFile file(home("data") + "/Velmora/journal.jsonl");
+        file.open(QIODevice::ReadOnly);
+        QStringList commands;
+        for (const QByteArray& line : file.readAll().split('\n'))
+            if (const auto entry = decode<JournalEntry>(line.toStdString()))
+                commands.append(QString::fromStdString(std::string(rawValue(entry.value->command)) + ' ' +
+                                                       std::string(rawValue(entry.value->source)) + ' ' +
+                                                       std::string(rawValue(entry.value->result))));
+        return commands;
+    }
+
 private:
     QTemporaryDir home_;
 };

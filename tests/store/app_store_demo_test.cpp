@@ -49,7 +49,7 @@ TEST_F(StoreTest, AnApprovedVisitFliesLandsAndIsSaved) {
     EXPECT_EQ(notifier.withdrawn, QStringList{"M-42"});
 
     pass(40);
-    store().send(Command::returnHome);
+    store().send(Command::returnHome, CommandSource::live);
     pass(60);
     EXPECT_EQ(phase(), Phase::docked);
     ASSERT_EQ(store().history().size(), 4u);
@@ -116,7 +116,7 @@ TEST_F(StoreTest, SettingTheSameValueEmitsNoSignal) {
     store().setSection(Section::overview);
     store().setSelectedRecord(std::nullopt);
     store().setShowWelcome(true);
-    store().send(Command::hold);
+    store().send(Command::hold, CommandSource::live);
     EXPECT_EQ(section.count() + record.count() + welcome.count() + state.count(), 0);
     store().setSelectedRecord(store().history().front().key);
     EXPECT_EQ(record.count(), 1);

@@ -34,7 +34,7 @@ TEST_F(StoreTest, AReplySetsTheStateAndTheNextTickActsOnItsPhase) {
 
 TEST_F(StoreTest, ACommandIsPostedAndFollowedByAPoll) {
     linked();
-    store().send(Command::hold);
+    store().send(Command::hold, CommandSource::live);
     ASSERT_EQ(link.posts.size(), 1u);
     EXPECT_EQ(link.posts[0].mission, std::nullopt);
     EXPECT_EQ(phase(), Phase::docked) << "the local state does not change";
@@ -62,7 +62,7 @@ TEST_F(StoreTest, TheSimulatorPausesInLinkMode) {
 TEST_F(StoreTest, IgnoresRepliesAfterTheStoreIsDestroyed) {
     linked();
     pass(0.55);
-    store().send(Command::hold);
+    store().send(Command::hold, CommandSource::live);
     restart();
     link.fetches.at(0)(LinkError{"late"});
     link.posts.at(0).done({});

@@ -53,7 +53,7 @@ TEST_F(ClockFaultsTest, AnAlertStillEndsAfterTheClockIsSetBack) {
     tickAfter(-hour);
     respond(Command::approve);
     EXPECT_EQ(phase(), Phase::launching) << "it can still be answered";
-    store().send(Command::land);
+    store().send(Command::land, CommandSource::live);
     pass(10);
     alert();
     tickAfter(-hour);

@@ -177,7 +177,7 @@ TEST_F(DiskFaultsTest, AKillAtAnyMomentKeepsWhatWasConfirmed) {
     }
     restart();
     changeBoth();
-    EXPECT_EQ(names().size(), 2) << names().join(' ').toStdString();
+    EXPECT_EQ(names().size(), 3) << names().join(' ').toStdString();
 }
 
 } // namespace velmora

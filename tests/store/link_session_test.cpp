@@ -74,7 +74,7 @@ TEST_F(LinkSessionTest, IgnoresALateReplyOfAnotherServerOrMode) {
     EXPECT_EQ(session->status(), LinkStatus::connecting());
     EXPECT_EQ(session->freshness(), Freshness::unknown);
     pass(0.5);
-    session->send(Command::hold, "M-1", LiveState::initial());
+    session->send(Command::hold, "M-1", LiveState::initial(), [](const LinkError&) {});
     settings.linkMode = false;
     EXPECT_TRUE(session->setSettings(settings));
     answerWell();

@@ -21,12 +21,14 @@ public:
     }
     void send(Command command, const std::optional<std::string>& mission, const Settings&,
               CommandDone done) override {
+        onSend();
         posts.push_back({command, mission, done});
     }
     void disconnect() override {}
 
     std::vector<std::function<void(FetchResult)>> fetches;
     std::vector<Posted> posts;
+    std::function<void()> onSend = [] {};
 };
 
 class FakeNotifier final : public Notifier {

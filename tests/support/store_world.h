@@ -84,7 +84,7 @@ public:
     /// Answers the alert that waits, if any.
     void respond(Command command) {
         if (const auto alert = store().waitingAlert())
-            store().answer(command, *alert);
+            store().answer(command, *alert, CommandSource::card);
     }
 
     QTemporaryDir home;

@@ -1,3 +1,4 @@
+#include "ui/look/words.h"
 #include "ui/served_fixture.h"
 #include "ui/tray/tray.h"
 
@@ -168,7 +169,7 @@ TEST_F(ApprovalGuardTest, DoesNotAnswerWhileTheLinkIsSilent) {
     const AlertId seen = *store().waitingAlert();
     now += Seconds{3}; // without a tick, as after a pause of the program
     press(Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_FALSE(store().answer(Command::approve, seen));
+    EXPECT_FALSE(store().answer(Command::approve, seen, CommandSource::card));
     EXPECT_FALSE(button(launch).isEnabled());
     EXPECT_EQ(launches(), Missions());
 }
@@ -194,6 +195,30 @@ TEST_F(ApprovalGuardTest, ATrayMenuAnswersOnlyTheAlertItWasOpenedFor) {
     open();
     line->trigger();
     EXPECT_EQ(launches(), Missions({"M-2"}));
+}
+
+TEST_F(ApprovalGuardTest, TheJournalTellsWhereEachAnswerWasGiven) {
+    window();
+    auto next = [this, number = 0]() mutable {
+        alert("M-" + std::to_string(++number));
+        outwaitGuard();
+    };
+    next();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    next();
+    for (QAction* action : window().findChildren<QAction*>())
+        if (action->text() == offer)
+            action->trigger();
+    next();
+    button(ignore).click();
+    next();
+    press(Qt::Key_Escape, Qt::ControlModifier);
+    QStringList given;
+    for (const QByteArray& line : content("journal.jsonl").split('\n'))
+        if (const auto entry = decode<JournalEntry>(line.toStdString()))
+            given.append(toQString(rawValue(entry.value->command)) + ' ' +
+                         toQString(rawValue(entry.value->source)));
+    EXPECT_EQ(given, QStringList({"approve shortcut", "approve menu", "ignore card", "ignore shortcut"}));
 }
 
 TEST_F(ApprovalGuardTest, AnAlertClosesEveryMenuAndDialog) {

@@ -96,7 +96,7 @@ TEST_F(OverviewTest, TheBannerNamesThePhaseAndLeadsToTheFlight) {
     click("Open live flight →");
     EXPECT_EQ(store().section(), Section::live);
     store().setSection(Section::overview);
-    store().send(Command::land);
+    store().send(Command::land, CommandSource::live);
     fly(60);
     ASSERT_EQ(phase(), Phase::docked);
     EXPECT_TRUE(waitUntil([&] { return !shows("Open live flight →"); }));

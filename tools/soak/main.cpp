@@ -188,7 +188,7 @@ void endMissionInLargeHistory(std::size_t bytes) {
     store.simulate(Scenario::driveway);
     QApplication::processEvents();
     time.restart();
-    store.answer(Command::ignore, *store.waitingAlert());
+    store.answer(Command::ignore, *store.waitingAlert(), CommandSource::card);
     const double end = secondsOf(time);
     time.restart();
     QApplication::processEvents();

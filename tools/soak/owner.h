@@ -51,9 +51,9 @@ private:
         const auto alert = store_.waitingAlert();
         const auto any = random_.anyOf<Command>();
         if (alert)
-            store_.answer(random_.chance(0.8) ? Command::approve : any, *alert);
+            store_.answer(random_.chance(0.8) ? Command::approve : any, *alert, CommandSource::card);
         else
-            store_.send(any);
+            store_.send(any, CommandSource::live);
     }
 
     void changeSettings() {

@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-AnswerButton::AnswerButton(Command answer, AnswerGuard& guard, const QString& text,
+AnswerButton::AnswerButton(Command answer, CommandSource source, AnswerGuard& guard, const QString& text,
                            const SBButtonStyle& style, QWidget* parent)
     : SBButton(text, style, parent), guard_(guard) {
     connect(&guard_, &AnswerGuard::changed, this, &AnswerButton::followGuard);
@@ -15,7 +15,7 @@ AnswerButton::AnswerButton(Command answer, AnswerGuard& guard, const QString& te
             press_ = guard_.admit();
     });
     connect(this, &SBButton::clicked, this,
-            [this, answer] { guard_.answer(answer, std::exchange(press_, std::nullopt)); });
+            [this, answer, source] { guard_.answer(answer, std::exchange(press_, std::nullopt), source); });
     followGuard();
 }
 

@@ -11,8 +11,8 @@ class AnswerButton : public SBButton {
     Q_OBJECT
 
 public:
-    AnswerButton(Command answer, AnswerGuard& guard, const QString& text, const SBButtonStyle& style,
-                 QWidget* parent);
+    AnswerButton(Command answer, CommandSource source, AnswerGuard& guard, const QString& text,
+                 const SBButtonStyle& style, QWidget* parent);
 
 protected:
     bool event(QEvent* event) override;

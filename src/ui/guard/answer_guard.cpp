@@ -41,8 +41,9 @@ std::optional<AnswerGuard::Press> AnswerGuard::admit(std::uint64_t stamp) {
     return Press{*alert_, round_};
 }
 
-void AnswerGuard::answer(Command command, const std::optional<Press>& press) {
-    if (!passesStallCheck() || !press || press->round != round_ || !store_.answer(command, press->alert))
+void AnswerGuard::answer(Command command, const std::optional<Press>& press, CommandSource source) {
+    const bool counts = passesStallCheck() && press && press->round == round_;
+    if (!counts || !store_.answer(command, press->alert, source))
         return;
     invalidatePresses(); // a double click answers once
 }

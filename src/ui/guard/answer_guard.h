@@ -35,7 +35,7 @@ public:
     /// the press does not count.
     std::optional<Press> admit(std::uint64_t stamp = 0);
     /// Sends the answer, unless the guard time has restarted since the press began.
-    void answer(Command command, const std::optional<Press>& press);
+    void answer(Command command, const std::optional<Press>& press, CommandSource source);
 
 signals:
     /// The guard opened or closed. When it closes, presses in progress no longer count.

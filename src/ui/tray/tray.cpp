@@ -79,7 +79,7 @@ void Tray::buildMenu() {
     launch_ = addCommand(tr("Launch drone"), [this] { answer(Command::approve); });
     ignore_ = addCommand(tr("Ignore"), [this] { answer(Command::ignore); });
     afterAnswers_ = menu_.addSeparator();
-    home_ = addCommand(tr("Return home"), [this] { store_.send(Command::returnHome); });
+    home_ = addCommand(tr("Return home"), [this] { store_.send(Command::returnHome, CommandSource::tray); });
     afterHome_ = menu_.addSeparator();
     arming_ = addCommand({}, [this] { store_.setArmed(!isArmed()); });
     addCommand(tr("Open Velmora"), [this] { emit openRequested(Activation::tokenOfNow()); });
@@ -94,7 +94,7 @@ bool Tray::isArmed() const {
 
 /// If the alert changed since the menu was opened, does not answer it but shows the window.
 void Tray::answer(Command command) {
-    if (!openedFor_ || !store_.answer(command, *openedFor_))
+    if (!openedFor_ || !store_.answer(command, *openedFor_, CommandSource::tray))
         emit openRequested(Activation::tokenOfNow());
 }
 

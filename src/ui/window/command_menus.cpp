@@ -3,6 +3,7 @@
 #include "ui/look/words.h"
 
 #include <QMenu>
+#include <QShortcutEvent>
 
 namespace velmora {
 
@@ -43,20 +44,29 @@ void CommandMenus::buildDrone() {
     QMenu* menu = addMenu(tr("Drone"));
     approve_ = addCommand(menu, tr("Launch (approve)"), QKeySequence(Qt::CTRL | Qt::Key_Return));
     ignore_ = addCommand(menu, tr("Ignore alert"), QKeySequence(Qt::CTRL | Qt::Key_Escape));
-    connect(approve_, &QAction::triggered, this, [this] { emit answered(Command::approve); });
-    connect(ignore_, &QAction::triggered, this, [this] { emit answered(Command::ignore); });
+    connect(approve_, &QAction::triggered, this, [this] { emit answered(Command::approve, takeSource()); });
+    connect(ignore_, &QAction::triggered, this, [this] { emit answered(Command::ignore, takeSource()); });
     menu->addSeparator();
     QAction* hold = addCommand(menu, tr("Hold position"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
     QAction* home = addCommand(menu, tr("Return home"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
-    connect(hold, &QAction::triggered, this, [this] { store_.send(Command::hold); });
-    connect(home, &QAction::triggered, this, [this] { store_.send(Command::returnHome); });
+    connect(hold, &QAction::triggered, this, [this] { store_.send(Command::hold, takeSource()); });
+    connect(home, &QAction::triggered, this, [this] { store_.send(Command::returnHome, takeSource()); });
 }
 
 QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut) {
     QAction* action = menu->addAction(text);
     action->setShortcut(shortcut);
     action->setAutoRepeat(false);
+    action->installEventFilter(this);
     return action;
+}
+
+/// An action gets an event for its shortcut, but none for a click in its menu.
+bool CommandMenus::eventFilter(QObject* watched, QEvent* event) {
+    if (qobject_cast<QAction*>(watched) && event->type() == QEvent::Shortcut)
+        source_ = static_cast<QShortcutEvent*>(event)->isAmbiguous() ? CommandSource::menu
+                                                                     : CommandSource::shortcut;
+    return QMenuBar::eventFilter(watched, event);
 }
 
 void CommandMenus::setCovered(bool covered) {

@@ -4,6 +4,8 @@
 
 #include <QMenuBar>
 
+#include <utility>
+
 namespace velmora {
 
 /// The menus "Velmora", "Demo" and "Drone". Their actions are enabled according to the live state.
@@ -20,7 +22,10 @@ signals:
     void aboutRequested();
     void quitRequested();
     /// The owner chose "Launch (approve)" or "Ignore alert".
-    void answered(velmora::Command answer);
+    void answered(velmora::Command answer, velmora::CommandSource source);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildVelmora();
@@ -28,6 +33,7 @@ private:
     void buildDrone();
     void refresh();
     QAction* addCommand(QMenu* menu, const QString& text, const QKeySequence& shortcut);
+    CommandSource takeSource() { return std::exchange(source_, CommandSource::menu); }
 
     AppStore& store_;
     QList<QAction*> visits_;
@@ -35,6 +41,7 @@ private:
     QAction* welcome_ = nullptr;
     QAction* approve_ = nullptr;
     QAction* ignore_ = nullptr;
+    CommandSource source_ = CommandSource::menu; ///< of the action that is being triggered
 };
 
 } // namespace velmora

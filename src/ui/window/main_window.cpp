@@ -56,8 +56,9 @@ MainWindow::MainWindow(AppStore& store)
     addShortcuts();
     connect(menus_, &CommandMenus::aboutRequested, about_, &OverlayCard::open);
     connect(menus_, &CommandMenus::quitRequested, qApp, &QCoreApplication::quit);
-    connect(menus_, &CommandMenus::answered, this,
-            [this](Command command) { guard_->answer(command, guard_->admit()); });
+    connect(menus_, &CommandMenus::answered, this, [this](Command command, CommandSource source) {
+        guard_->answer(command, guard_->admit(), source);
+    });
     connect(&store_, &AppStore::sectionChanged, this, &MainWindow::showSection);
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {

@@ -39,10 +39,10 @@ AnswerPanel::AnswerPanel(AppStore& store, AnswerGuard& guard, QWidget* parent)
 QWidget* AnswerPanel::buildButtons(AnswerGuard& guard) {
     auto* row = new QWidget(this);
     const SBButtonStyle quiet{.kind = SBButtonKind::secondary, .wide = true, .large = true};
-    ignore_ = new AnswerButton(Command::ignore, guard, tr("Ignore"), quiet, row);
+    ignore_ = new AnswerButton(Command::ignore, CommandSource::card, guard, tr("Ignore"), quiet, row);
     hide_ = new SBButton(tr("Hide"), quiet, row);
     launch_ = new AnswerButton(
-        Command::approve, guard, tr("Launch drone"),
+        Command::approve, CommandSource::card, guard, tr("Launch drone"),
         {.kind = SBButtonKind::primary, .wide = true, .large = true, .icon = Icon::paperPlane}, row);
     auto* layout = bareLayout<QHBoxLayout>(row, Measure::gap12);
     for (SBButton* button : {static_cast<SBButton*>(ignore_), hide_})

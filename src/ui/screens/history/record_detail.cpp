@@ -105,6 +105,7 @@ void RecordDetail::setEntry(const HistoryEntry& entry) {
         record_ = entry.record;
         title_->setSentence(outcomeSentence(record_->outcome));
         facts_->setRecord(*record_);
+        facts_->setAnswer(*record_, store_.answerTo(*record_));
         bar_->setRecord(*record_);
         area_->verticalScrollBar()->setValue(0);
     }

@@ -6,6 +6,7 @@
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
+#include "ui/look/answer_words.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -56,6 +57,8 @@ RecordFacts::RecordFacts(QWidget* replay, QWidget* parent)
       battery_(newMetric(tr("Battery used"), metrics_)),
       match_(newMetric(tr("Match"), metrics_)),
       response_(new ResponseTimes(this)),
+      answer_(new Text({}, Type::log, SB::body, this)),
+      responseSection_(buildResponse()),
       log_(new LogList(LogList::Interaction::clickable, this)),
       logSection_(section(tr("What happened"), log_, Measure::gap8)),
       boundary_(new Text({}, Type::log, SB::body, this)),
@@ -65,7 +68,7 @@ RecordFacts::RecordFacts(QWidget* replay, QWidget* parent)
       identity_(new Text({}, Type::label2, SB::muted, visitor_)),
       times_(new Text({}, Type::label2, SB::muted, visitor_)) {
     replay_->setParent(this);
-    for (QWidget* block : std::initializer_list<QWidget*>{response_, logSection_, boundarySection_})
+    for (QWidget* block : std::initializer_list<QWidget*>{responseSection_, logSection_, boundarySection_})
         block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the columns decide the width
     for (Hairline*& line : lines_)
         line = new Hairline(this, Hairline::Tone::between);
@@ -79,6 +82,14 @@ QWidget* RecordFacts::section(const QString& heading, QWidget* content, int gap)
     auto* column = bareLayout<QVBoxLayout>(section, gap);
     column->addWidget(new Text(heading, Type::groupHeading, SB::ink, section));
     column->addWidget(content);
+    return section;
+}
+
+QWidget* RecordFacts::buildResponse() {
+    auto* section = new QWidget(this);
+    auto* column = bareLayout<QVBoxLayout>(section, Measure::gap4);
+    column->addWidget(response_);
+    column->addWidget(answer_);
     return section;
 }
 
@@ -126,7 +137,7 @@ void RecordFacts::layoutOneColumn() {
     texts->setSpacing(Measure::gap20);
     texts->addWidget(logSection_);
     texts->addSpacing(Measure::gap4);
-    texts->addWidget(response_);
+    texts->addWidget(responseSection_);
     texts->addWidget(boundarySection_);
     texts->addStretch(1);
     auto* row = new QHBoxLayout;
@@ -159,7 +170,7 @@ void RecordFacts::layoutTwoColumns() {
     side->addStrut(Measure::detailSecondColumn);
     side->addWidget(metrics_);
     addLine(*side, lines_[1], Measure::gap24, Measure::gap20);
-    side->addWidget(response_);
+    side->addWidget(responseSection_);
     addLine(*side, lines_[2], Measure::gap20, Measure::gap20);
     side->addWidget(logSection_);
     side->addStretch(1);
@@ -197,6 +208,11 @@ void RecordFacts::showMetrics(const MissionRecord& record) {
         battery_->setValue(absent, {});
     }
     match_->setValue(percent(record.confidence), tr("% unknown"));
+}
+
+void RecordFacts::setAnswer(const MissionRecord& record, const std::optional<GivenAnswer>& answer) {
+    answer_->setText(answer ? answerText(*answer, record.start) : QString());
+    answer_->setVisible(answer.has_value());
 }
 
 void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, const Settings& settings) {

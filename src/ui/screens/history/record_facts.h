@@ -27,6 +27,8 @@ public:
 
     void setTwoColumns(bool two);
     void setRecord(const MissionRecord& record);
+    /// nullopt if nobody answered the alert.
+    void setAnswer(const MissionRecord& record, const std::optional<GivenAnswer>& answer);
     void setBoundary(const MissionRecord& record, const Site& site, const Settings& settings);
     /// Highlights the last notice up to this time after the start of the record, in seconds; nullopt for
     /// none.
@@ -38,6 +40,7 @@ signals:
 
 private:
     QWidget* section(const QString& heading, QWidget* content, int gap);
+    QWidget* buildResponse();
     void layoutMetrics(int columns);
     void layoutOneColumn();
     void layoutTwoColumns();
@@ -52,6 +55,8 @@ private:
     Metric* battery_;
     Metric* match_;
     ResponseTimes* response_;
+    Text* answer_;
+    QWidget* responseSection_;
     LogList* log_;
     QWidget* logSection_;
     Text* boundary_;

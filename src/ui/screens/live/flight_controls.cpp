@@ -34,9 +34,10 @@ FlightControls::FlightControls(AppStore& store, QWidget* parent) : QWidget(paren
     land_ = add(tr("Land now"), {.kind = SBButtonKind::danger, .wide = true});
     simulate_ = add(tr("Simulate a visitor"), {.kind = SBButtonKind::secondary, .wide = true});
 
-    connect(hold_, &SBButton::clicked, this, [this] { store_.send(Command::hold); });
-    connect(resume_, &SBButton::clicked, this, [this] { store_.send(Command::resume); });
-    connect(returnHome_, &SBButton::clicked, this, [this] { store_.send(Command::returnHome); });
+    connect(hold_, &SBButton::clicked, this, [this] { store_.send(Command::hold, CommandSource::live); });
+    connect(resume_, &SBButton::clicked, this, [this] { store_.send(Command::resume, CommandSource::live); });
+    connect(returnHome_, &SBButton::clicked, this,
+            [this] { store_.send(Command::returnHome, CommandSource::live); });
     connect(land_, &SBButton::clicked, this, &FlightControls::landRequested);
     connect(simulate_, &SBButton::clicked, this,
             [this] { store_.simulate(rawValuesOf<Scenario>.front().first); });

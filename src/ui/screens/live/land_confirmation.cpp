@@ -36,7 +36,8 @@ LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidge
     addBelowBody(block);
     for (QObject* beside : {live_.rail(), live_.card()})
         beside->installEventFilter(this);
-    connect(this, &ConfirmationCard::confirmed, this, [this] { store_.send(Command::land); });
+    connect(this, &ConfirmationCard::confirmed, this,
+            [this] { store_.send(Command::land, CommandSource::live); });
     connect(&store_, &AppStore::stateChanged, this, &LandConfirmation::follow);
     connect(&store_, &AppStore::freshnessChanged, this, &LandConfirmation::follow);
     connect(&store_, &AppStore::sectionChanged, this, &OverlayCard::close);

@@ -35,7 +35,7 @@ NowGroup::NowGroup(AppStore& store, AnswerGuard& guard, QWidget* parent)
       heading_(new Text(tr("Now"), Type::groupHeading, SB::ink, this)),
       time_(new TextLine(Type::label2.line, this)),
       visitor_(buildVisitor()),
-      launch_(new AnswerButton(Command::approve, guard, tr("Launch (approve)"),
+      launch_(new AnswerButton(Command::approve, CommandSource::overview, guard, tr("Launch (approve)"),
                                {.kind = SBButtonKind::primary, .wide = true}, this)),
       metrics_(buildMetrics()) {
     auto* heading = new QHBoxLayout;

@@ -261,6 +261,9 @@ QWidget* SettingsView::buildAbout() {
     columnOf(rows)->addSpacing(Measure::gap4);
     columnOf(rows)->addWidget(
         new Label2(tr("Set in Inter, used under the SIL Open Font License."), false, rows));
+    columnOf(rows)->addSpacing(Measure::gap4);
+    columnOf(rows)->addWidget(
+        new Label2(tr("Every command for the drone is in journal.jsonl, in the data folder."), false, rows));
     startAtLogin_ = new Switch(tr("Start Velmora when I log in"), rows);
     auto* welcome = new SBButton(tr("Show welcome again"), {.kind = SBButtonKind::quiet}, rows);
     auto* folder = new SBButton(tr("Open data folder"), {.kind = SBButtonKind::secondary}, rows);
