@@ -18,7 +18,7 @@ enum class Failure {
     other       ///< with the system's text
 };
 
-/// The words of the journal, in every language of the owner.
+/// The words of the journal, which are never translated.
 template <>
 inline constexpr auto rawValuesOf<Failure> = std::to_array<std::pair<Failure, std::string_view>>({
     {Failure::invalidAddress, "invalid address"},

@@ -75,8 +75,10 @@ void AppStore::start() {
 }
 
 bool AppStore::flush(std::chrono::milliseconds limit) {
-    const bool saved = files_.flush(limit);
-    return journal_.flush(limit) && saved;
+    const auto start = std::chrono::steady_clock::now();
+    const bool kept = journal_.flush(std::min<std::chrono::milliseconds>(limit, 1s));
+    const auto used = std::chrono::ceil<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+    return files_.flush(limit - used) && kept;
 }
 
 const LiveState* AppStore::knownState() const {
@@ -167,15 +169,20 @@ std::optional<AlertId> AppStore::waitingAlert() const {
 }
 
 /// Ticks first: after a pause of the program an answer can arrive before the next tick, while the state is
-/// still old.
+/// still old. Ticks again after the journal, which may have taken a tenth of a second.
 bool AppStore::answer(Command command, const AlertId& seen, CommandSource source) {
     tick();
     if (!answersAlert(command))
         return false;
-    const auto waiting = waitingAlert();
-    if (waiting && isSameAlert(seen, *waiting)) {
-        transmit(journalEntry(command, waiting->missionId, source));
-        return true;
+    if (canAnswer(seen)) {
+        const JournalEntry entry = journalEntry(command, waitingAlert()->missionId, source);
+        journal_.append(entry);
+        journal_.sync();
+        tick();
+        if (canAnswer(seen)) {
+            transmit(entry);
+            return true;
+        }
     }
     JournalEntry entry = journalEntry(command, seen.missionId, source);
     entry.result = CommandResult::dropped;
@@ -184,18 +191,28 @@ bool AppStore::answer(Command command, const AlertId& seen, CommandSource source
     return false;
 }
 
+bool AppStore::canAnswer(const AlertId& seen) const {
+    const auto waiting = waitingAlert();
+    return waiting && isSameAlert(seen, *waiting);
+}
+
 std::string AppStore::whyDropped(const AlertId& seen) const {
+    if (freshness() != Freshness::live)
+        return "the server is silent";
     const auto shown = shownAlert();
     if (!shown)
         return "no alert waits";
-    if (!isSameAlert(seen, *shown))
-        return "another alert waits";
-    return freshness() == Freshness::live ? "an answer is on its way" : "the server is silent";
+    return isSameAlert(seen, *shown) ? "an answer is on its way" : "another alert waits";
 }
 
 void AppStore::send(Command command, CommandSource source) {
-    if (!answersAlert(command))
-        transmit(journalEntry(command, knownState() ? knownState()->missionId : std::nullopt, source));
+    if (answersAlert(command))
+        return;
+    const JournalEntry entry =
+        journalEntry(command, knownState() ? knownState()->missionId : std::nullopt, source);
+    journal_.append(entry);
+    journal_.sync();
+    transmit(entry);
 }
 
 JournalEntry AppStore::journalEntry(Command command, const std::optional<std::string>& mission,
@@ -203,25 +220,23 @@ JournalEntry AppStore::journalEntry(Command command, const std::optional<std::st
     return {now(), command, mission, source, CommandResult::sent, std::nullopt, !settings_.linkMode};
 }
 
-/// The journal first: whatever happens next, it has the command.
-void AppStore::transmit(JournalEntry entry) {
-    journal_.append(entry);
-    journal_.sync();
+void AppStore::transmit(const JournalEntry& entry) {
     if (!settings_.linkMode) {
         sim_.send(entry.command, now());
         setState(sim_.state);
         return;
     }
-    session_.send(entry.command, entry.mission, state_, [this, entry](const LinkError& error) mutable {
-        entry.time = now();
-        entry.result = CommandResult::failed;
-        entry.reason =
+    session_.send(entry.command, entry.mission, state_, [this, entry](const LinkError& error) {
+        JournalEntry failed = entry;
+        failed.time = now();
+        failed.result = CommandResult::failed;
+        failed.reason =
             error.failure == Failure::other ? error.text.toStdString() : std::string(rawValue(error.failure));
-        journal_.append(entry);
+        journal_.append(failed);
     });
 }
 
-std::optional<GivenAnswer> AppStore::answerTo(const MissionRecord& record) {
+std::optional<GivenAnswer> AppStore::answerTo(const MissionRecord& record) const {
     if (const auto entry = journal_.answerTo(record))
         return GivenAnswer{entry->command, entry->time, entry->source};
     return answerOnRecord(record);

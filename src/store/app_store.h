@@ -96,13 +96,13 @@ public:
     std::optional<Command> pendingCommand() const { return session_.pendingCommand(); }
     /// The only way to approve or ignore an alert. `seen` is the alert that the owner was shown. Sends the
     /// command once if exactly this alert can still be answered, otherwise drops it. Returns whether it sent
-    /// the command. The journal has an entry either way.
+    /// the command. The journal has an approval or ignoring either way.
     bool answer(Command command, const AlertId& seen, CommandSource source);
     /// Sends a flight command to the simulator or the server, at once and only once, even if the server is
     /// silent. Does nothing for an answer to an alert.
     void send(Command command, CommandSource source);
     /// How the owner answered the alert of this mission; nullopt if nobody did.
-    std::optional<GivenAnswer> answerTo(const MissionRecord& record);
+    std::optional<GivenAnswer> answerTo(const MissionRecord& record) const;
     /// Demo mode only; in link mode the server decides whether it is armed.
     void setArmed(bool armed);
     /// Switches between demo mode and link mode. Unlike setSettings() it resets the link status even if the
@@ -151,7 +151,8 @@ private:
     void receive(const LiveState& state);
     void setState(const LiveState& state);
     void advanceSimulator(Date now, double elapsed);
-    void transmit(JournalEntry entry);
+    bool canAnswer(const AlertId& seen) const;
+    void transmit(const JournalEntry& entry);
     std::string whyDropped(const AlertId& seen) const;
     JournalEntry journalEntry(Command command, const std::optional<std::string>& mission,
                               CommandSource source) const;

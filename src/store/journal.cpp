@@ -1,9 +1,11 @@
 #include "store/journal.h"
 
 #include "model/json.h"
-#include "store/journal_file.h"
 
+#include <algorithm>
+#include <deque>
 #include <iterator>
+#include <map>
 #include <mutex>
 
 namespace velmora {
@@ -12,84 +14,122 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto longestWait = 200ms;
-constexpr std::size_t longestBacklog = 1000; // lines that are kept while the disk refuses them
+constexpr auto longestWait = 100ms;
+constexpr std::size_t longestBacklog = 1000; // lines
 constexpr SaveThread::Limits limits{.pause = 0ms, .hanging = 1s};
-constexpr Seconds fraction{1}; // times on file have no fractions of a second
+constexpr Seconds tolerance{1}; // times on file have no fractions of a second
+
+/// Answers that were sent, by mission.
+class Answers {
+public:
+    void add(const JournalEntry& entry) {
+        if (!answersAlert(entry.command) || !entry.mission)
+            return;
+        if (entry.result == CommandResult::sent)
+            answers_.emplace(*entry.mission, entry);
+        else if (entry.result == CommandResult::failed)
+            removeLast(*entry.mission, entry.command);
+    }
+    std::optional<JournalEntry> answerTo(const MissionRecord& record) const {
+        std::optional<JournalEntry> last;
+        const auto [from, to] = answers_.equal_range(record.id);
+        for (auto answer = from; answer != to; ++answer) {
+            const Date time = answer->second.time;
+            const bool during = time > record.start - tolerance && time < record.end + tolerance;
+            if (during && (!last || time >= last->time))
+                last = answer->second;
+        }
+        return last;
+    }
+
+private:
+    void removeLast(const std::string& mission, Command command) {
+        const auto [from, to] = answers_.equal_range(mission);
+        auto last = to;
+        for (auto answer = from; answer != to; ++answer)
+            if (answer->second.command == command)
+                last = answer;
+        if (last != to)
+            answers_.erase(last);
+    }
+
+    std::multimap<std::string, JournalEntry> answers_; ///< those of one mission in the order of the journal
+};
 
 } // namespace
 
-/// The lines that are not on disk yet.
-struct Journal::Backlog {
-    explicit Backlog(const QString& directory) : file(directory) {}
+struct Journal::Shared {
+    Shared(const QString& directory, SyncFile sync) : file(directory, std::move(sync)) {}
 
+    bool read();
     bool write();
 
     JournalFile file; ///< belongs to the thread
     std::mutex mutex; ///< guards what follows
-    std::vector<std::string> lines;
-    int year = 0; ///< of the newest line
+    std::deque<JournalFile::Line> backlog;
+    Answers onFile, given; ///< given: since the start
 };
 
-bool Journal::Backlog::write() {
+bool Journal::Shared::read() {
+    Answers answers;
+    for (const std::string& line : file.read())
+        if (const auto entry = decode<JournalEntry>(line))
+            answers.add(*entry.value);
+    const std::lock_guard lock(mutex);
+    onFile = std::move(answers);
+    return true;
+}
+
+/// Returns whether no line is left.
+bool Journal::Shared::write() {
     std::unique_lock lock(mutex);
-    std::vector<std::string> writing = std::exchange(lines, {});
-    const int yearOfNewest = year;
+    const std::vector<JournalFile::Line> lines(std::make_move_iterator(backlog.begin()),
+                                               std::make_move_iterator(backlog.end()));
+    backlog.clear();
     lock.unlock();
-    if (writing.empty() || file.append(writing, yearOfNewest))
+    const std::size_t done = file.append(lines);
+    if (done == lines.size())
         return true;
     lock.lock();
-    writing.insert(writing.end(), std::make_move_iterator(lines.begin()),
-                   std::make_move_iterator(lines.end()));
-    if (writing.size() > longestBacklog)
-        writing.resize(longestBacklog);
-    lines = std::move(writing);
+    backlog.insert(backlog.begin(), lines.begin() + static_cast<std::ptrdiff_t>(done), lines.end());
     return false;
 }
 
-Journal::Journal(const QDir& directory)
-    : directory_(directory), backlog_(std::make_shared<Backlog>(directory.absolutePath())), thread_(limits) {}
+Journal::Journal(const QDir& directory, SyncFile sync)
+    : shared_(std::make_shared<Shared>(directory.absolutePath(), std::move(sync))), thread_(limits) {
+    thread_.save("answers", [shared = shared_] { return shared->read(); });
+}
 
 void Journal::append(const JournalEntry& entry) {
-    remember(entry);
     auto line = encode(entry);
-    if (!line)
-        return;
+    hangs_ = hangs_ && !thread_.isIdle();
     {
-        const std::lock_guard lock(backlog_->mutex);
-        backlog_->lines.push_back(std::move(*line));
-        backlog_->year = yearOf(entry.time);
+        const std::lock_guard lock(shared_->mutex);
+        shared_->given.add(entry);
+        if (line)
+            shared_->backlog.push_back({yearOf(entry.time), std::move(*line)});
+        while (shared_->backlog.size() > longestBacklog)
+            shared_->backlog.pop_front();
     }
-    thread_.save("journal", [backlog = backlog_] { return backlog->write(); });
+    thread_.save("journal", [shared = shared_] { return shared->write(); });
 }
 
 void Journal::sync() {
+    if (hangs_)
+        return;
     thread_.flush(longestWait);
+    hangs_ = !thread_.isIdle();
 }
 
-std::optional<JournalEntry> Journal::answerTo(const MissionRecord& record) {
-    if (!std::exchange(fileWasRead_, true))
-        readFile();
-    std::optional<JournalEntry> last;
-    const auto [from, to] = answers_.equal_range(record.id);
-    for (auto answer = from; answer != to; ++answer) {
-        const JournalEntry& entry = answer->second;
-        const bool during = entry.time > record.start - fraction && entry.time < record.end + fraction;
-        if (during && (!last || entry.time >= last->time))
-            last = entry;
-    }
-    return last;
+bool Journal::flush(std::chrono::milliseconds limit) {
+    thread_.save("journal", [shared = shared_] { return shared->write(); });
+    return thread_.flush(limit);
 }
 
-void Journal::readFile() {
-    for (const std::string& line : JournalFile(directory_.absolutePath()).read())
-        if (const auto entry = decode<JournalEntry>(line))
-            remember(*entry.value);
-}
-
-void Journal::remember(const JournalEntry& entry) {
-    if (answersAlert(entry.command) && entry.result == CommandResult::sent && entry.mission)
-        answers_.emplace(*entry.mission, entry);
+std::optional<JournalEntry> Journal::answerTo(const MissionRecord& record) const {
+    const std::lock_guard lock(shared_->mutex);
+    const auto answer = shared_->given.answerTo(record);
+    return answer ? answer : shared_->onFile.answerTo(record);
 }
 
 } // namespace velmora

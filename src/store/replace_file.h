@@ -23,7 +23,7 @@ struct FileStamp {
 /// nullopt if there is no file. A file that cannot be examined differs from every other one.
 std::optional<FileStamp> stampOf(const QString& path);
 
-/// Waits until the name of a new file is on disk. Errors are ignored.
+/// Waits until the name of a new file is on disk. Errors are ignored: the content is there already.
 void syncDirectoryOf(const QString& path);
 
 /// Atomically writes `bytes` to `path` (mode 0600), creating it if needed, and waits until content and name

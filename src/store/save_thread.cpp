@@ -126,6 +126,11 @@ void SaveThread::save(const std::string& file, Job job) {
         thread_ = threadWithoutSignals([shared = shared_] { shared->run(); });
 }
 
+bool SaveThread::isIdle() const {
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->isIdle();
+}
+
 bool SaveThread::flush(std::chrono::milliseconds limit) {
     std::unique_lock lock(shared_->mutex);
     shared_->urgent = true;

@@ -8,9 +8,9 @@
 
 namespace velmora {
 
-/// Saves files on a thread of its own, so that the caller never waits for a disk. Each file has at most one
-/// waiting job: a newer one replaces it and keeps its turn. Jobs run one at a time, in the order in which
-/// they became due: at once, or a pause after the end of the file's previous job.
+/// Saves files on a thread of its own, so that the caller waits for a disk only if it asks to. Each file has
+/// at most one waiting job: a newer one replaces it and keeps its turn. Jobs run one at a time, in the order
+/// in which they became due: at once, or a pause after the end of the file's previous job.
 class SaveThread {
 public:
     /// Writes a file. Returns false if the file is unchanged. Runs, and is destroyed, without any lock held.
@@ -32,6 +32,8 @@ public:
 
     /// Runs `job` as soon as it is due. `file` identifies the file.
     void save(const std::string& file, Job job);
+    /// Whether no job runs or waits.
+    bool isIdle() const;
     /// Runs the waiting jobs without their pauses and waits for them, at most as long as `limit`. Returns
     /// whether all ended and the newest job of each file succeeded.
     bool flush(std::chrono::milliseconds limit);

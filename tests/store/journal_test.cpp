@@ -1,9 +1,10 @@
 #include "store_fixture.h"
 
-#include "store/journal_file.h"
-
+#include <atomic>
+#include <map>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <thread>
 
 namespace velmora {
 
@@ -109,20 +110,26 @@ TEST_F(JournalTest, SkipsATornLineAndKeepsWhatWasThere) {
     EXPECT_EQ(info.st_mode & 0777U, 0600U);
 }
 
-TEST_F(JournalTest, StartsANewFileEachYearAndOverwritesNone) {
-    JournalEntry old;
-    old.time = dateFromText("2022-12-31T23:59:59Z").value();
-    put("journal.jsonl", QByteArray::fromStdString(encode(old).value() + "\n"));
-    ignoreVisit(CommandSource::card);
-    flush();
-    EXPECT_EQ(onDisk("journal-2022.jsonl"), std::vector{old});
-    EXPECT_EQ(onDisk().size(), 1U);
-    put("journal-2023.jsonl", "kept");
-    now += std::chrono::years(1);
-    restart();
-    ignoreVisit(CommandSource::card);
-    EXPECT_EQ(content("journal-2023.jsonl"), "kept");
-    EXPECT_EQ(onDisk().size(), 2U) << "the name is taken, so both years share the file";
+TEST_F(JournalTest, StartsANewFileEachYearEvenAfterAWrongClock) {
+    const Date today = now;
+    const auto fly = [&](int years) {
+        now = today + std::chrono::years(years);
+        restart();
+        ignoreVisit(CommandSource::card);
+        flush();
+    };
+    for (const int years : {0, 70, 0, 1, 1})
+        fly(years);
+    const auto sizes = [&] {
+        std::map<QString, std::size_t> found;
+        for (const QString& name : QDir(directory()).entryList({"journal*"}))
+            found[name] = onDisk(name).size();
+        return found;
+    };
+    EXPECT_EQ(sizes(), (std::map<QString, std::size_t>{{"journal-2023.jsonl", 1},
+                                                       {"journal-2093.jsonl", 1},
+                                                       {"journal-2023.2.jsonl", 1},
+                                                       {"journal.jsonl", 2}}));
 }
 
 /// The answers are found again after a restart, also in the file of an earlier year; a deleted record does
@@ -137,7 +144,7 @@ TEST_F(JournalTest, TellsHowTheAlertOfARecordWasAnswered) {
     now += std::chrono::years(2);
     store().send(Command::hold, CommandSource::menu);
     flush();
-    ASSERT_TRUE(answer());
+    ASSERT_TRUE(answer()); // the file has been read
     EXPECT_EQ(answer()->command, Command::ignore);
     EXPECT_EQ(answer()->source, CommandSource::notification);
     EXPECT_LE(std::abs((answer()->time - when).count()), 1);
@@ -150,7 +157,26 @@ TEST_F(JournalTest, TellsHowTheAlertOfARecordWasAnswered) {
     EXPECT_EQ(content("journal-2023.jsonl"), before);
 }
 
-TEST_F(JournalTest, AFullDiskOrAPipeDelaysNoCommandAndLosesNoLine) {
+/// An answer that failed is none.
+TEST_F(JournalTest, AFailedAnswerIsNoAnswer) {
+    const AlertId seen = serveAlert("M-1");
+    ASSERT_TRUE(store().answer(Command::approve, seen, CommandSource::card));
+    MissionRecord record;
+    record.id = "M-1";
+    record.start = now - Seconds{5};
+    record.end = now + Seconds{60};
+    record.outcome = Outcome::expired;
+    EXPECT_TRUE(store().answerTo(record));
+    link.posts.back().done(LinkError{"refused", Failure::refused});
+    EXPECT_FALSE(store().answerTo(record));
+    flush();
+    restart();
+    store();
+    flush();
+    EXPECT_FALSE(store().answerTo(record));
+}
+
+TEST_F(JournalTest, AFullDiskLosesNoLine) {
     if (!mountSmallDisk())
         GTEST_SKIP() << "mounting is not permitted here";
     ignoreVisit(CommandSource::card);
@@ -160,16 +186,53 @@ TEST_F(JournalTest, AFullDiskOrAPipeDelaysNoCommandAndLosesNoLine) {
         ;
     for (int i = 0; i < 40; ++i) // more than the rest of a block
         ignoreVisit(CommandSource::overview);
-    EXPECT_EQ(store().history().front().record->outcome, Outcome::ignored);
     EXPECT_LT(onDisk().size(), 41U);
     ballast.close();
     ASSERT_TRUE(QFile::remove(path("ballast")));
-    ignoreVisit(CommandSource::tray);
-    EXPECT_EQ(onDisk().size(), 42U);
-    ASSERT_TRUE(QFile::remove(path("journal.jsonl")));
+    flush();
+    EXPECT_EQ(onDisk().size(), 41U) << "written when the program quits";
+}
+
+TEST_F(JournalTest, APipeInPlaceOfTheFileHoldsNothingUp) {
+    QDir().mkpath(directory());
     ASSERT_EQ(::mkfifo(path("journal.jsonl").toUtf8().constData(), 0600), 0);
     ignoreVisit(CommandSource::shortcut);
-    EXPECT_EQ(store().history().size(), 3U + 43U);
+    EXPECT_EQ(store().history().front().record->outcome, Outcome::ignored);
+    ASSERT_TRUE(QFile::remove(path("journal.jsonl")));
+    flush();
+    EXPECT_EQ(onDisk().size(), 1U);
+}
+
+/// Real: a hanging disk can only be played by a thread that really waits.
+TEST_F(JournalTest, ADiskThatHangsIsWaitedForOnceAndOneThatRefusesGetsEachLineOnce) {
+    std::atomic<bool> hangs = true, refuses = false;
+    std::atomic<int> syncs = 0;
+    Journal journal(QDir(directory()), [&](int) {
+        ++syncs;
+        while (hangs)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return !refuses;
+    });
+    JournalEntry entry;
+    entry.time = now;
+    const auto giveCommand = [&] {
+        journal.append(entry);
+        const auto start = std::chrono::steady_clock::now();
+        journal.sync();
+        return Seconds(std::chrono::steady_clock::now() - start).count();
+    };
+    const double first = giveCommand(), second = giveCommand();
+    EXPECT_GE(first, 0.1);
+    EXPECT_LT(second, first / 2);
+    hangs = false;
+    ASSERT_TRUE(journal.flush(std::chrono::minutes(1)));
+    const int before = syncs;
+    refuses = true;
+    giveCommand();
+    EXPECT_GT(syncs, before) << "waited for again";
+    refuses = false;
+    EXPECT_TRUE(journal.flush(std::chrono::minutes(1)));
+    EXPECT_EQ(onDisk().size(), 3U);
 }
 
 } // namespace velmora

@@ -49,6 +49,8 @@ void CommandMenus::buildDrone() {
     menu->addSeparator();
     QAction* hold = addCommand(menu, tr("Hold position"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
     QAction* home = addCommand(menu, tr("Return home"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    for (QAction* command : {approve_, ignore_, hold, home})
+        command->installEventFilter(this);
     connect(hold, &QAction::triggered, this, [this] { store_.send(Command::hold, takeSource()); });
     connect(home, &QAction::triggered, this, [this] { store_.send(Command::returnHome, takeSource()); });
 }
@@ -57,13 +59,12 @@ QAction* CommandMenus::addCommand(QMenu* menu, const QString& text, const QKeySe
     QAction* action = menu->addAction(text);
     action->setShortcut(shortcut);
     action->setAutoRepeat(false);
-    action->installEventFilter(this);
     return action;
 }
 
 /// An action gets an event for its shortcut, but none for a click in its menu.
 bool CommandMenus::eventFilter(QObject* watched, QEvent* event) {
-    if (qobject_cast<QAction*>(watched) && event->type() == QEvent::Shortcut)
+    if (event->type() == QEvent::Shortcut && qobject_cast<QAction*>(watched))
         source_ = static_cast<QShortcutEvent*>(event)->isAmbiguous() ? CommandSource::menu
                                                                      : CommandSource::shortcut;
     return QMenuBar::eventFilter(watched, event);
