@@ -1,6 +1,9 @@
 #include "model/json.h"
+#include "model/visit_patterns.h"
+#include "model/walk_map.h"
 #include "samples.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <simdjson.h>
 
@@ -46,6 +49,51 @@ BENCHMARK(writeHistory)
     ->Arg(200)
     ->Arg(5000)
     ->Unit(benchmark::kMillisecond);
+
+/// Everything that the patterns show of these visits.
+void patterns(benchmark::State& run) {
+    const History history = samples::flownHistory(static_cast<std::size_t>(run.range(0)));
+    const Site site = LiveState::initial().site;
+    for ([[maybe_unused]] auto iteration : run) {
+        VisitPatterns figures(site);
+        WalkMap walked(site);
+        for (const MissionRecord& record : history) {
+            figures.add(record);
+            walked.add(record);
+        }
+        benchmark::DoNotOptimize(figures.group());
+        benchmark::DoNotOptimize(figures.toAnswer());
+        benchmark::DoNotOptimize(figures.toStation());
+        benchmark::DoNotOptimize(figures.byCamera());
+        benchmark::DoNotOptimize(walked.heat());
+    }
+}
+BENCHMARK(patterns)->Name("patterns, computed")->Arg(200)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+/// One visit more, with the map of where visitors walked.
+void nextPattern(benchmark::State& run) {
+    const History history = samples::flownHistory(40);
+    const Site site = LiveState::initial().site;
+    VisitPatterns figures(site);
+    WalkMap walked(site);
+    std::size_t next = 0;
+    for ([[maybe_unused]] auto iteration : run) {
+        const MissionRecord& record = history[next++ % history.size()];
+        figures.add(record);
+        walked.add(record);
+        benchmark::DoNotOptimize(walked.heat());
+    }
+}
+BENCHMARK(nextPattern)->Name("patterns, one visit more")->Unit(benchmark::kMicrosecond);
+
+void visitsAtPlace(benchmark::State& run) {
+    const History history = samples::flownHistory(5000);
+    for ([[maybe_unused]] auto iteration : run)
+        benchmark::DoNotOptimize(std::ranges::count_if(history, [](const MissionRecord& record) {
+            return passesWithin(record, {75, 95}, WalkMap::passed);
+        }));
+}
+BENCHMARK(visitsAtPlace)->Name("visits that passed a place, 5000")->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -75,20 +75,24 @@ std::optional<GivenAnswer> answerOnRecord(const MissionRecord& record) {
     return std::nullopt;
 }
 
-std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
-                                                 double buffer) {
+std::optional<double> leastDistanceInside(const MissionRecord& record, const Bounds& bounds) {
     if (!flew(record.outcome) || record.dronePath.empty())
         return std::nullopt;
+    double least = std::numeric_limits<double>::max();
+    for (const P& point : record.dronePath)
+        least = std::min(least, bounds.distanceInside(point));
+    return least;
+}
+
+std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
+                                                 double buffer) {
     const Bounds bounds = boundsOf(site);
-    const double interval = intervalOf(record);
-    BoundaryEvidence evidence{std::numeric_limits<double>::max(), 0};
-    for (const P& point : record.dronePath) {
-        const double inside = bounds.distanceInside(point);
-        evidence.leastDistance = std::min(evidence.leastDistance, inside);
-        if (inside < buffer)
-            evidence.secondsInBuffer += interval;
-    }
-    return evidence;
+    const auto least = leastDistanceInside(record, bounds);
+    if (!least)
+        return std::nullopt;
+    const auto inBuffer = std::ranges::count_if(
+        record.dronePath, [&](P point) { return bounds.distanceInside(point) < buffer; });
+    return BoundaryEvidence{*least, static_cast<double>(inBuffer) * intervalOf(record)};
 }
 
 double durationOf(const MissionRecord& record) {

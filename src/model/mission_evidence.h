@@ -33,6 +33,10 @@ struct PathTimes {
 
 PathTimes pathTimes(const MissionRecord& record);
 
+/// The least distance of the drone from the edges of `bounds`, in metres; negative outside. nullopt if the
+/// drone did not fly.
+std::optional<double> leastDistanceInside(const MissionRecord& record, const Bounds& bounds);
+
 /// How close the drone came to the boundary.
 struct BoundaryEvidence {
     double leastDistance = 0;   ///< metres between drone and boundary at the closest point; negative outside
