@@ -27,6 +27,9 @@ enum class DayPart { night, morning, afternoon, evening, late };
 
 inline constexpr int daysInWeek = 7, hoursInDay = 24, dayParts = 5;
 
+/// The number of visits in each hour of the week, Monday first.
+using WeekHours = std::array<std::array<int, hoursInDay>, daysInWeek>;
+
 /// The first hour of each part, and the end of the last.
 inline constexpr std::array<int, dayParts + 1> dayPartHours{0, 6, 12, 18, 22, 24};
 DayPart dayPartOf(int hour);
@@ -76,7 +79,8 @@ public:
 
     int visits() const { return visits_; }
     int flown() const;
-    int visitsAt(WeekHour hour) const { return hours_[index(hour.weekday)][index(hour.hour)]; }
+    /// In local time of the starts.
+    const WeekHours& hours() const { return hours_; }
     int visitsWith(Outcome outcome) const { return outcomes_[static_cast<std::size_t>(outcome)]; }
     /// The most visits first, equal ones by name.
     std::vector<CameraCount> byCamera() const;
@@ -116,7 +120,7 @@ private:
 
     Bounds bounds_;
     int visits_ = 0;
-    std::array<std::array<int, hoursInDay>, daysInWeek> hours_{};
+    WeekHours hours_{};
     Groups groups_{};
     std::array<int, rawValuesOf<Outcome>.size()> outcomes_{};
     std::map<std::string, Camera> cameras_;

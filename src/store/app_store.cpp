@@ -369,6 +369,11 @@ void AppStore::openConnection() {
     emit connectionRequested();
 }
 
+void AppStore::openPatterns() {
+    setSection(Section::history);
+    emit patternsRequested();
+}
+
 void AppStore::setShowWelcome(bool show) {
     if (show == showWelcome_)
         return;

@@ -76,6 +76,8 @@ public:
     void openRecord(RecordKey key);
     /// Shows the connection settings.
     void openConnection();
+    /// Shows the patterns of the history.
+    void openPatterns();
     void setShowWelcome(bool show);
     /// Saves changed settings and applies them to simulator and link. Does nothing if nothing changed.
     void setSettings(const Settings& settings);
@@ -136,6 +138,8 @@ signals:
     void selectedRecordChanged();
     /// The settings are to show the connection.
     void connectionRequested();
+    /// The history is to show its patterns.
+    void patternsRequested();
     void linkStatusChanged();
     void freshnessChanged();
     void showWelcomeChanged();

@@ -87,8 +87,12 @@ public:
         painter_.setPen(
             QPen(SB::faded(SB::lilac, measures_.bufferLine), 0.8, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter_.drawRect(inner);
+    }
+
+    void drawBoundaryCaptions() {
         if (!measures_.captions)
             return;
+        const QRectF outer = view_.map(boundsOf(site_));
         drawCaption(painter_, {Words::tr("Your boundary"), SB::dTeal, outer.topLeft() + QPointF(8, 7),
                                Qt::AlignLeft | Qt::AlignTop});
         drawCaption(painter_,
@@ -96,11 +100,19 @@ public:
                      outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom});
     }
 
+    void drawViews() {
+        for (const CameraInfo& camera : site_.cameras) {
+            const bool sees = scene_.state.visitor && scene_.state.visitor->cameraId == camera.id;
+            drawView(view_.map(camera.pos), camera.heading,
+                     !camera.online ? offlineView
+                     : sees         ? seeingView
+                                    : idleView);
+        }
+    }
+
     void drawCameras() {
         for (const CameraInfo& camera : site_.cameras) {
             const QPointF center = view_.map(camera.pos);
-            const bool sees = scene_.state.visitor && scene_.state.visitor->cameraId == camera.id;
-            drawView(center, camera.heading, !camera.online ? offlineView : sees ? seeingView : idleView);
             drawCircle(painter_, center, measures_.cameraRadius, SB::navy,
                        QPen(camera.online ? SB::softBlue : SB::alert, measures_.cameraLine));
             if (!camera.online)
@@ -276,16 +288,28 @@ void drawPlan(QPainter& painter, const MapScene& scene, QSizeF canvas) {
 void drawLimits(QPainter& painter, const MapScene& scene, QSizeF canvas) {
     MapPass pass(painter, scene, canvas);
     pass.drawBoundary();
+    pass.drawBoundaryCaptions();
     pass.drawPad();
 }
 
-void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas) {
+void drawBackdrop(QPainter& painter, const MapScene& scene, QSizeF canvas) {
     MapPass pass(painter, scene, canvas);
     pass.drawPlan();
     pass.drawVeil();
     pass.drawBoundary();
+    pass.drawViews();
+}
+
+void drawLandmarks(QPainter& painter, const MapScene& scene, QSizeF canvas) {
+    MapPass pass(painter, scene, canvas);
+    pass.drawBoundaryCaptions();
     pass.drawCameras();
-    pass.drawPad();
+}
+
+void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas) {
+    drawBackdrop(painter, scene, canvas);
+    drawLandmarks(painter, scene, canvas);
+    MapPass(painter, scene, canvas).drawPad();
 }
 
 void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas) {

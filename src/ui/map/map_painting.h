@@ -13,6 +13,9 @@ void drawGrounds(QPainter& painter, const MapScene& scene, QSizeF canvas);
 /// Parts of the grounds: the plan with its veil, and the boundary with its buffer and the pad's ring.
 void drawPlan(QPainter& painter, const MapScene& scene, QSizeF canvas);
 void drawLimits(QPainter& painter, const MapScene& scene, QSizeF canvas);
+/// The grounds without the pad: what lies below other layers, and the cameras and captions above them.
+void drawBackdrop(QPainter& painter, const MapScene& scene, QSizeF canvas);
+void drawLandmarks(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
 /// Draws the trails, or a replay's paths with start and end markers, onto a transparent layer that SiteMap
 /// caches.
