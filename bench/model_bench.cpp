@@ -84,7 +84,7 @@ void nextPattern(benchmark::State& run) {
         benchmark::DoNotOptimize(walked.heat());
     }
 }
-BENCHMARK(nextPattern)->Name("patterns, one visit more")->Unit(benchmark::kMicrosecond);
+BENCHMARK(nextPattern)->Name("patterns, one visit more")->Unit(benchmark::kMillisecond);
 
 void visitsAtPlace(benchmark::State& run) {
     const History history = samples::flownHistory(5000);

@@ -1,6 +1,7 @@
 #include "ui/charts/count_bars.h"
 
 #include "language/language.h"
+#include "ui/blocks/accessibility.h"
 #include "ui/blocks/click_on_enter.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/layouts.h"
@@ -73,6 +74,12 @@ class CountBars::Row : public QAbstractButton {
 public:
     explicit Row(CountBars* bars) : QAbstractButton(bars), bars_(*bars) {
         setFixedHeight(countRow);
+        if (bars->interaction_ == Interaction::readOnly) {
+            declareRole(this, QAccessible::StaticText);
+            setFocusPolicy(Qt::NoFocus);
+            setAttribute(Qt::WA_TransparentForMouseEvents);
+            return;
+        }
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
         setAttribute(Qt::WA_Hover);
@@ -111,7 +118,7 @@ private:
     int most_ = 0;
 };
 
-CountBars::CountBars(QWidget* parent) : QWidget(parent) {
+CountBars::CountBars(Interaction interaction, QWidget* parent) : QWidget(parent), interaction_(interaction) {
     bareLayout<QVBoxLayout>(this);
 }
 

@@ -26,8 +26,8 @@ void drawCountRow(QPainter& painter, const QRectF& rect, const CountRow& row, in
 /// The width of the column of names in rows of this width.
 double countNameWidth(const std::vector<CountRow>& rows, double width);
 
-/// Counts of visits, one row each: a name, a bar in proportion to the largest count, the count. Each row is a
-/// button.
+/// Counts of visits, one row each: a name, a bar in proportion to the largest count, the count. Clickable
+/// rows are buttons.
 class CountBars : public QWidget {
     Q_OBJECT
 
@@ -35,7 +35,9 @@ public:
     /// Shows no more rows than this.
     static constexpr std::size_t mostRows = 50;
 
-    explicit CountBars(QWidget* parent);
+    enum class Interaction { readOnly, clickable };
+
+    CountBars(Interaction interaction, QWidget* parent);
 
     void setRows(std::vector<CountRow> rows);
     /// Shows the first rows only.
@@ -50,6 +52,7 @@ private:
 
     void refresh();
 
+    Interaction interaction_;
     std::vector<CountRow> shown_;
     std::size_t limit_ = mostRows;
     std::vector<Row*> rows_;

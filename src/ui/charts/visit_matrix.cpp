@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -198,7 +199,7 @@ private:
 };
 
 VisitMatrix::VisitMatrix(Form form, QWidget* parent) : QWidget(parent), form_(form) {
-    declareRole(this, QAccessible::Grouping);
+    declareRole(this, form == Form::full ? QAccessible::Grouping : QAccessible::Graphic);
     setAccessibleName(tr("Visits by weekday and hour"));
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
@@ -223,13 +224,15 @@ void VisitMatrix::setTimes(const VisitTimes& times) {
     if (times == times_)
         return;
     times_ = times;
+    update();
+    if (form_ == Form::small)
+        return;
     for (int number = 0; number < daysInWeek * hoursInDay; ++number)
         showSquare(number);
     const auto firstShown =
         std::ranges::find_if(squares_, [](Square* one) { return one && !one->isHidden(); });
     offerTab(firstShown == squares_.end() ? nullptr : *firstShown);
     placeSquares();
-    update();
 }
 
 void VisitMatrix::showSquare(int number) {
@@ -289,6 +292,21 @@ void VisitMatrix::moveFrom(const Square& square, Qt::Key key) {
     if (nearest)
         nearest->setFocus(key == Qt::Key_Left || key == Qt::Key_Up ? Qt::BacktabFocusReason
                                                                    : Qt::TabFocusReason);
+}
+
+/// The squares of the small form have no widgets of their own.
+bool VisitMatrix::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || form_ == Form::full)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const MatrixForm form = formFor(width());
+    for (int weekday = 0; weekday < daysInWeek; ++weekday)
+        for (int hour = 0; hour < hoursInDay; ++hour)
+            if (const int visits = countAt(times_.hours, {weekday, hour});
+                visits > 0 && form.cell({weekday, hour}).contains(help->pos()))
+                QToolTip::showText(help->globalPos(), plainToolTip(hourWords({weekday, hour}, visits)), this,
+                                   form.cell({weekday, hour}).toRect());
+    return true;
 }
 
 void VisitMatrix::resizeEvent(QResizeEvent*) {

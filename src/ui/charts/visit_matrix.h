@@ -57,6 +57,7 @@ signals:
     void chosen(int weekday, int hour);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

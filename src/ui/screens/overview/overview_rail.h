@@ -9,12 +9,13 @@ namespace velmora {
 class ActivityList;
 class AnswerGuard;
 class Fold;
+class LastDays;
 class MapCard;
 class NowGroup;
 class VisitOffers;
 
-/// The column to the right of the map: what happens now, the latest visits as far as the map reaches, and the
-/// demo visits.
+/// The column to the right of the map: what happens now, the latest visits as far as the map reaches, the
+/// demo visits, and in wide windows the last 30 days.
 class OverviewRail : public QWidget {
     Q_OBJECT
 
@@ -34,6 +35,7 @@ protected:
 
 private:
     void fitRows();
+    void fitLastDays();
 
     const MapCard& map_;
     bool low_ = false;
@@ -41,6 +43,7 @@ private:
     Fold* nowFold_;
     ActivityList* activity_;
     VisitOffers* offers_;
+    LastDays* lastDays_;
 };
 
 } // namespace velmora

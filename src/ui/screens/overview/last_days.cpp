@@ -1,0 +1,125 @@
+#include "ui/screens/overview/last_days.h"
+
+#include "language/stored_text.h"
+#include "ui/blocks/layouts.h"
+#include "ui/blocks/link_button.h"
+#include "ui/blocks/text.h"
+#include "ui/charts/chart_measures.h"
+#include "ui/charts/count_bars.h"
+#include "ui/charts/pattern_words.h"
+#include "ui/charts/visit_matrix.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::chrono::days span(30);
+constexpr int leastRoom = 200; // pixels
+
+std::vector<CountRow> rowsOf(const VisitPatterns& patterns) {
+    std::vector<CountRow> rows;
+    for (const auto& [name, visits] : patterns.byCamera())
+        rows.push_back({.id = {}, .name = shownText(name), .visits = visits});
+    return rows;
+}
+
+} // namespace
+
+LastDays::LastDays(AppStore& store, QWidget* parent)
+    : QWidget(parent),
+      store_(store),
+      sentence_(new Text({}, Type::body, SB::body, this)),
+      matrix_(new VisitMatrix(VisitMatrix::Form::small, this)),
+      cameras_(new CountBars(CountBars::Interaction::readOnly, this)) {
+    auto* patterns = new LinkButton(tr("Patterns →"), this);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(new Text(tr("The last 30 days"), Type::groupHeading, SB::ink, this), 1);
+    heading->addWidget(patterns, 0, Qt::AlignVCenter);
+    sentence_->setMaximumLines(2);
+    auto* column = bareLayout<QVBoxLayout>(this);
+    column->addLayout(heading);
+    column->addSpacing(Measure::gap8);
+    column->addWidget(sentence_);
+    column->addSpacing(Measure::gap12);
+    column->addWidget(matrix_);
+    column->addSpacing(Measure::gap12);
+    column->addWidget(cameras_);
+    connect(patterns, &QAbstractButton::clicked, this, [this] { store_.openPatterns(); });
+    connect(&everyMinute_, &UiTimer::timeout, this, &LastDays::refresh);
+    setRoom(0);
+}
+
+void LastDays::refresh() {
+    if (isVisible() && count())
+        showFigures();
+}
+
+/// Returns whether the figures changed.
+bool LastDays::count() {
+    const auto& history = store_.history();
+    const Date from = store_.now() - span;
+    const bool withDemo = !store_.settings().linkMode;
+    const bool goesOn = counted_ && counted_->withDemo == withDemo && counted_->precede(history) &&
+                        patterns_.first().value_or(from) >= from;
+    const std::size_t added = history.size() - (goesOn ? counted_->visits : 0);
+    if (goesOn && added == 0)
+        return false;
+    if (!goesOn)
+        patterns_ = VisitPatterns(Site());
+    for (std::size_t i = 0; i < added; ++i)
+        if (const MissionRecord& record = *history[i].record;
+            record.start >= from && (withDemo || !record.demo))
+            patterns_.add(record);
+    counted_ = {history.size(), history.empty() ? RecordKey() : history.front().key, withDemo};
+    return true;
+}
+
+/// Whether the history has the counted visits, with others before them at most.
+bool LastDays::Counted::precede(const std::vector<HistoryEntry>& history) const {
+    return history.size() >= visits && (visits == 0 || history[history.size() - visits].key == newest);
+}
+
+void LastDays::showFigures() {
+    const Sentence sentence = patternSentence(patterns_, VisitSpan::unnamed);
+    sentence_->setText(sentence.lead + sentence.emphasis + sentence.tail);
+    matrix_->setTimes(VisitTimes::of(patterns_));
+    matrix_->setVisible(patterns_.visits() > 0);
+    cameras_->setRows(rowsOf(patterns_));
+    fitCameras();
+}
+
+void LastDays::setRoom(int room) {
+    room_ = room;
+    fitCameras();
+    setVisible(room >= leastRoom);
+}
+
+void LastDays::setGapAbove(int gap) {
+    layout()->setContentsMargins(0, gap, 0, 0);
+}
+
+void LastDays::fitCameras() {
+    const int others = static_cast<int>(Type::groupHeading.line) + Measure::gap8 +
+                       sentence_->heightForWidth(width()) + Measure::gap12 +
+                       matrix_->heightForWidth(width()) + Measure::gap12;
+    const int rows = std::max(room_ - others, 0) / ChartMeasure::countRow;
+    cameras_->setShownRows(static_cast<std::size_t>(rows));
+    cameras_->setVisible(rows > 0 && patterns_.visits() > 0);
+}
+
+void LastDays::showEvent(QShowEvent*) {
+    refresh();
+    everyMinute_.start();
+}
+
+void LastDays::hideEvent(QHideEvent*) {
+    everyMinute_.stop();
+}
+
+} // namespace velmora
