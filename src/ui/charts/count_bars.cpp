@@ -91,7 +91,7 @@ public:
     void setRow(const CountRow& row, int most) {
         row_ = row;
         most_ = most;
-        setAccessibleName(tr("%1, %2", "name, visits").arg(row.name, visitsWords(row.visits)));
+        setAccessibleName(Words::tr("%1, %2", "name, visits").arg(row.name, visitsWords(row.visits)));
         updateToolTip();
         update();
     }

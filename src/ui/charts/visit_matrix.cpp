@@ -87,7 +87,7 @@ public:
             fillRounded(painter_, cell, radius, SB::panel, SB::faded(SB::rule2, 0.55));
             return;
         }
-        constexpr double light = 0.6;
+        constexpr double light = 0.72; // below it, ink has the better contrast
         const double share = strength(visits, most_);
         fillRounded(painter_, cell, radius, SB::faded(SB::purple, share));
         const QString number = displayLocale().toString(visits);
