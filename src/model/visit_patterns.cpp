@@ -63,16 +63,13 @@ void VisitPatterns::add(const MissionRecord& record) {
 }
 
 void VisitPatterns::addTimes(const MissionRecord& record) {
-    if (record.outcome == Outcome::ignored)
-        addTime(toAnswer_, record.end - record.start);
+    if (const auto answer = answerOnRecord(record))
+        addTime(toAnswer_, answer->time - record.start);
     if (!flew(record.outcome))
         return;
-    for (const ResponseMoment& moment : responseTimeline(record)) {
-        if (moment.step == ResponseStep::answered)
-            addTime(toAnswer_, moment.time - record.start);
+    for (const ResponseMoment& moment : responseTimeline(record))
         if (moment.step == ResponseStep::onStation)
             addTime(toStation_, moment.time - record.start);
-    }
 }
 
 int VisitPatterns::flown() const {
