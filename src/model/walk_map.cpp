@@ -33,25 +33,25 @@ std::optional<std::pair<double, double>> partInside(P a, P b, const Bounds& boun
 }
 
 /// Calls `visit` with the points of the path inside the rectangle that are `step` metres of walking apart.
+/// Leaves out segments so long that their part inside cannot be calculated.
 template <class Visit>
 void walk(const std::vector<P>& path, double step, const Bounds& inside, const Visit& visit) {
-    double next = 0; // metres from the segment's start to the next point
+    const double longest = distance({inside.minX, inside.minY}, {inside.maxX, inside.maxY}) + step;
+    double next = 0; // metres to the next point
     for (std::size_t i = 0; i < path.size(); ++i) {
-        const P a = path[i], b = path[std::min(i + 1, path.size() - 1)];
-        const double metres = distance(a, b);
-        const auto part = std::isfinite(metres) ? partInside(a, b, inside) : std::nullopt;
-        if (!part || metres == 0) {
-            if (part && next <= 0) {
-                visit(a);
-                next = step;
-            }
-            next = part ? next : 0;
+        const P a = path[i], along = path[std::min(i + 1, path.size() - 1)] - a;
+        const auto part = partInside(a, a + along, inside);
+        const P from = part ? a + along * part->first : a, to = part ? a + along * part->second : a;
+        const double metres = distance(from, to);
+        if (!part || !(metres <= longest)) {
+            next = 0;
             continue;
         }
-        const double from = part->first * metres, to = part->second * metres;
-        for (next = from > 0 ? from : next; next <= to; next += step)
-            visit(a + (b - a) * (next / metres));
-        next = to < metres ? 0 : next - metres;
+        if (part->first > 0)
+            next = 0;
+        for (; next <= metres; next += step)
+            visit(from + unit(to - from) * next);
+        next = part->second < 1 ? 0 : next - metres;
     }
 }
 
@@ -121,6 +121,7 @@ WalkMap::WalkMap(const Site& site) : plan_(site.size) {
     squares_.resize(index(squaresAcross_) * index(rows_ / squareCells + 1));
     const double side = squareCells * cell_;
     const int radius = static_cast<int>(passed / side);
+    rim_ = squareCells * radius + 1;
     for (int down = -radius; down <= radius; ++down)
         for (int right = -radius; right <= radius; ++right)
             if (std::hypot(right, down) * side <= passed)
@@ -137,10 +138,9 @@ void WalkMap::add(const MissionRecord& record) {
 /// Counts the visit in all squares around that it has not passed before. One that comes back to where it was
 /// leaves no second trace there.
 void WalkMap::tread(P place, std::uint32_t step) {
-    constexpr double rim = 2.5 * squareCells; // cells; so that all squares around exist
-    constexpr std::uint32_t passing = 8;      // steps while a place is passed
+    constexpr std::uint32_t passing = 8; // steps while a place is passed
     const double x = (place.x + margin_) / cell_, y = (place.y + margin_) / cell_;
-    if (!(x >= rim && x < columns_ - rim && y >= rim && y < rows_ - rim))
+    if (!(x >= rim_ && x < columns_ - rim_ && y >= rim_ && y < rows_ - rim_))
         return;
     const auto column = static_cast<int>(x), row = static_cast<int>(y);
     const int here = row / squareCells * squaresAcross_ + column / squareCells;

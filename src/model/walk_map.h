@@ -63,6 +63,7 @@ private:
     int squaresAcross_;
     std::vector<Square> squares_;
     std::vector<int> around_; ///< from one square to those within `passed` of it
+    int rim_;                 ///< cells at the edges that lack some of these squares
     std::uint32_t visit_ = 0; ///< number of the last visit added
 };
 

@@ -25,7 +25,7 @@ protected:
 };
 
 TEST_F(LastDaysTest, CountsTheVisitsOfThirtyDaysAndFollowsThem) {
-    records({visitDaysAgo(1), visitDaysAgo(2), visitDaysAgo(29.999), visitDaysAgo(31)});
+    records({visitDaysAgo(1), visitDaysAgo(3), visitDaysAgo(29.999), visitDaysAgo(31)});
     look();
     EXPECT_TRUE(shows("3 visits, all at the gate camera."));
     EXPECT_TRUE(shows("Gate, 3 visits"));

@@ -27,7 +27,7 @@ QColor colorOf(double tone) {
         double tone;
         QColor color;
     };
-    static const std::array stops{Stop{0, SB::faded(SB::purple, 0)}, Stop{0.2, SB::faded(SB::purple, 0.6)},
+    static const std::array stops{Stop{0, SB::faded(SB::purple, 0)}, Stop{0.2, SB::faded(SB::purple, 0.5)},
                                   Stop{0.45, SB::faded(SB::mixed(SB::purple, SB::lilac, 0.4), 0.85)},
                                   Stop{0.7, SB::faded(SB::lilac, 0.95)}, Stop{1, QColor(Qt::white)}};
     const auto above = std::ranges::find_if(stops.begin() + 1, stops.end() - 1,

@@ -104,13 +104,15 @@ void LastDays::setGapAbove(int gap) {
     layout()->setContentsMargins(0, gap, 0, 0);
 }
 
+/// A list that is cut short would seem to be all.
 void LastDays::fitCameras() {
+    constexpr std::size_t most = 5; // of many cameras
     const int others = static_cast<int>(Type::groupHeading.line) + Measure::gap8 +
                        sentence_->heightForWidth(width()) + Measure::gap12 +
                        matrix_->heightForWidth(width()) + Measure::gap12;
-    const int rows = std::max(room_ - others, 0) / ChartMeasure::countRow;
-    cameras_->setShownRows(static_cast<std::size_t>(rows));
-    cameras_->setVisible(rows > 0 && patterns_.visits() > 0);
+    const std::size_t rows = std::min(patterns_.byCamera().size(), most);
+    cameras_->setShownRows(rows);
+    cameras_->setVisible(rows > 0 && room_ - others >= static_cast<int>(rows) * ChartMeasure::countRow);
 }
 
 void LastDays::showEvent(QShowEvent*) {
