@@ -547,6 +547,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::HeatMap</name>
+    <message>
+        <source>The arrow keys move a mark, Enter shows the visits that passed within 2 m of it.</source>
+        <translation>Die Pfeiltasten bewegen eine Markierung, die Eingabetaste zeigt die Besuche, die im Umkreis von 2 m vorbeikamen.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::HistoryList</name>
     <message>
         <source>History</source>
@@ -718,6 +725,17 @@
     <message>
         <source>%1 m up · %2 m from the pad</source>
         <translation>%1&#xa0;m hoch · %2&#xa0;m vom Landeplatz</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LastDays</name>
+    <message>
+        <source>Patterns →</source>
+        <translation>Muster →</translation>
+    </message>
+    <message>
+        <source>The last 30 days</source>
+        <translation>Die letzten 30 Tage</translation>
     </message>
 </context>
 <context>
@@ -1601,6 +1619,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::VisitMatrix</name>
+    <message>
+        <source>Visits by weekday and hour</source>
+        <translation>Besuche nach Wochentag und Stunde</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VisitOffers</name>
     <message>
         <source>Simulate a visitor</source>
@@ -2112,6 +2137,229 @@
     <message>
         <source>You ignored the alert %1, after %2.</source>
         <translation>Sie haben den Alarm %1 ignoriert, nach %2.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>name, visits</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>No visitor was seen walking</source>
+        <translation>Kein Besucher ist gegangen</translation>
+    </message>
+    <message>
+        <source>Where they walked: one visit</source>
+        <translation>Wo sie gingen: ein Besuch</translation>
+    </message>
+    <message>
+        <source>Where they walked: from one visit to %1</source>
+        <translation>Wo sie gingen: von einem Besuch bis %1</translation>
+    </message>
+    <message>
+        <source>Where they walked</source>
+        <translation>Wo sie gingen</translation>
+    </message>
+    <message>
+        <source>after midnight on %1s</source>
+        <comment>weekday; when visits come</comment>
+        <translation>nach Mitternacht an %1en</translation>
+    </message>
+    <message>
+        <source>on %1 mornings</source>
+        <comment>weekday; when visits come</comment>
+        <translation>an %1vormittagen</translation>
+    </message>
+    <message>
+        <source>on %1 afternoons</source>
+        <comment>weekday; when visits come</comment>
+        <translation>an %1nachmittagen</translation>
+    </message>
+    <message>
+        <source>on %1 evenings</source>
+        <comment>weekday; when visits come</comment>
+        <translation>an %1abenden</translation>
+    </message>
+    <message>
+        <source>late on %1s</source>
+        <comment>weekday; when visits come</comment>
+        <translation>spät an %1en</translation>
+    </message>
+    <message>
+        <source>on the driveway</source>
+        <comment>where visits were</comment>
+        <translation>in der Einfahrt</translation>
+    </message>
+    <message>
+        <source>on the front lawn</source>
+        <comment>where visits were</comment>
+        <translation>im Vorgarten</translation>
+    </message>
+    <message>
+        <source>in the east garden</source>
+        <comment>where visits were</comment>
+        <translation>im Ostgarten</translation>
+    </message>
+    <message>
+        <source>at the %1 camera</source>
+        <comment>where visits were</comment>
+        <translation>an der Kamera „%1“</translation>
+    </message>
+    <message>
+        <source>No visits in 7 days</source>
+        <translation>Keine Besuche in 7 Tagen</translation>
+    </message>
+    <message>
+        <source>1 visit in 7 days</source>
+        <translation>1 Besuch in 7 Tagen</translation>
+    </message>
+    <message>
+        <source>%1 visits in 7 days</source>
+        <translation>%1 Besuche in 7 Tagen</translation>
+    </message>
+    <message>
+        <source>No visits in 30 days</source>
+        <translation>Keine Besuche in 30 Tagen</translation>
+    </message>
+    <message>
+        <source>1 visit in 30 days</source>
+        <translation>1 Besuch in 30 Tagen</translation>
+    </message>
+    <message>
+        <source>%1 visits in 30 days</source>
+        <translation>%1 Besuche in 30 Tagen</translation>
+    </message>
+    <message>
+        <source>No visits in a year</source>
+        <translation>Keine Besuche in einem Jahr</translation>
+    </message>
+    <message>
+        <source>1 visit in a year</source>
+        <translation>1 Besuch in einem Jahr</translation>
+    </message>
+    <message>
+        <source>%1 visits in a year</source>
+        <translation>%1 Besuche in einem Jahr</translation>
+    </message>
+    <message>
+        <source>No visits on file</source>
+        <translation>Keine Besuche im Verlauf</translation>
+    </message>
+    <message>
+        <source>1 visit on file</source>
+        <translation>1 Besuch im Verlauf</translation>
+    </message>
+    <message>
+        <source>%1 visits on file</source>
+        <translation>%1 Besuche im Verlauf</translation>
+    </message>
+    <message>
+        <source>%1, all *%2*.</source>
+        <comment>visits; when or where</comment>
+        <translation>%1, alle *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, most *%2*.</source>
+        <comment>visits; when or where</comment>
+        <translation>%1, die meisten *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, %3 of them *%2*.</source>
+        <comment>visits; when or where; number</comment>
+        <translation>%1, %3 davon *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, all %2 *%3*.</source>
+        <comment>visits; when; where</comment>
+        <translation>%1, alle %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1, most %2 *%3*.</source>
+        <comment>visits; when; where</comment>
+        <translation>%1, die meisten %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1, %4 of them %2 *%3*.</source>
+        <comment>visits; when; where; number</comment>
+        <translation>%1, %4 davon %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>visits</comment>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>No visits</source>
+        <translation>Keine Besuche</translation>
+    </message>
+    <message>
+        <source>1 visit</source>
+        <translation>1 Besuch</translation>
+    </message>
+    <message>
+        <source>%1 visits</source>
+        <translation>%1 Besuche</translation>
+    </message>
+    <message>
+        <source>no visits</source>
+        <translation>keine Besuche</translation>
+    </message>
+    <message>
+        <source>one visit</source>
+        <translation>ein Besuch</translation>
+    </message>
+    <message>
+        <source>two visits</source>
+        <translation>zwei Besuche</translation>
+    </message>
+    <message>
+        <source>three visits</source>
+        <translation>drei Besuche</translation>
+    </message>
+    <message>
+        <source>four visits</source>
+        <translation>vier Besuche</translation>
+    </message>
+    <message>
+        <source>five visits</source>
+        <translation>fünf Besuche</translation>
+    </message>
+    <message>
+        <source>six visits</source>
+        <translation>sechs Besuche</translation>
+    </message>
+    <message>
+        <source>seven visits</source>
+        <translation>sieben Besuche</translation>
+    </message>
+    <message>
+        <source>eight visits</source>
+        <translation>acht Besuche</translation>
+    </message>
+    <message>
+        <source>nine visits</source>
+        <translation>neun Besuche</translation>
+    </message>
+    <message>
+        <source>ten visits</source>
+        <translation>zehn Besuche</translation>
+    </message>
+    <message>
+        <source>eleven visits</source>
+        <translation>elf Besuche</translation>
+    </message>
+    <message>
+        <source>twelve visits</source>
+        <translation>zwölf Besuche</translation>
+    </message>
+    <message>
+        <source>%1 of %2 on %3s between %4 and %5</source>
+        <comment>numbers; weekday; hours</comment>
+        <translation>%1 von %2 an %3en zwischen %4 und %5 Uhr</translation>
+    </message>
+    <message>
+        <source>%1 %2, %3</source>
+        <comment>weekday; hour; visits</comment>
+        <translation>%1 %2, %3</translation>
     </message>
 </context>
 </TS>

@@ -547,6 +547,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::HeatMap</name>
+    <message>
+        <source>The arrow keys move a mark, Enter shows the visits that passed within 2 m of it.</source>
+        <translation>Les flèches déplacent un repère, Entrée affiche les visites passées à moins de 2 m de celui-ci.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::HistoryList</name>
     <message>
         <source>History</source>
@@ -718,6 +725,17 @@
     <message>
         <source>%1 m up · %2 m from the pad</source>
         <translation>Hauteur %1&#xa0;m · à %2&#xa0;m de la base</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LastDays</name>
+    <message>
+        <source>Patterns →</source>
+        <translation>Tendances →</translation>
+    </message>
+    <message>
+        <source>The last 30 days</source>
+        <translation>Les 30 derniers jours</translation>
     </message>
 </context>
 <context>
@@ -1601,6 +1619,13 @@
     </message>
 </context>
 <context>
+    <name>velmora::VisitMatrix</name>
+    <message>
+        <source>Visits by weekday and hour</source>
+        <translation>Visites par jour de la semaine et heure</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VisitOffers</name>
     <message>
         <source>Simulate a visitor</source>
@@ -2112,6 +2137,229 @@
     <message>
         <source>You ignored the alert %1, after %2.</source>
         <translation>Vous avez ignoré l’alerte %1, après %2.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>name, visits</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>No visitor was seen walking</source>
+        <translation>Aucun visiteur n’a été vu marcher</translation>
+    </message>
+    <message>
+        <source>Where they walked: one visit</source>
+        <translation>Où ils ont marché : une visite</translation>
+    </message>
+    <message>
+        <source>Where they walked: from one visit to %1</source>
+        <translation>Où ils ont marché : d’une visite à %1</translation>
+    </message>
+    <message>
+        <source>Where they walked</source>
+        <translation>Où ils ont marché</translation>
+    </message>
+    <message>
+        <source>after midnight on %1s</source>
+        <comment>weekday; when visits come</comment>
+        <translation>le %1 après minuit</translation>
+    </message>
+    <message>
+        <source>on %1 mornings</source>
+        <comment>weekday; when visits come</comment>
+        <translation>le %1 matin</translation>
+    </message>
+    <message>
+        <source>on %1 afternoons</source>
+        <comment>weekday; when visits come</comment>
+        <translation>le %1 après-midi</translation>
+    </message>
+    <message>
+        <source>on %1 evenings</source>
+        <comment>weekday; when visits come</comment>
+        <translation>le %1 soir</translation>
+    </message>
+    <message>
+        <source>late on %1s</source>
+        <comment>weekday; when visits come</comment>
+        <translation>tard le %1 soir</translation>
+    </message>
+    <message>
+        <source>on the driveway</source>
+        <comment>where visits were</comment>
+        <translation>dans l’allée</translation>
+    </message>
+    <message>
+        <source>on the front lawn</source>
+        <comment>where visits were</comment>
+        <translation>sur la pelouse avant</translation>
+    </message>
+    <message>
+        <source>in the east garden</source>
+        <comment>where visits were</comment>
+        <translation>dans le jardin est</translation>
+    </message>
+    <message>
+        <source>at the %1 camera</source>
+        <comment>where visits were</comment>
+        <translation>à la caméra « %1 »</translation>
+    </message>
+    <message>
+        <source>No visits in 7 days</source>
+        <translation>Aucune visite en 7 jours</translation>
+    </message>
+    <message>
+        <source>1 visit in 7 days</source>
+        <translation>1 visite en 7 jours</translation>
+    </message>
+    <message>
+        <source>%1 visits in 7 days</source>
+        <translation>%1 visites en 7 jours</translation>
+    </message>
+    <message>
+        <source>No visits in 30 days</source>
+        <translation>Aucune visite en 30 jours</translation>
+    </message>
+    <message>
+        <source>1 visit in 30 days</source>
+        <translation>1 visite en 30 jours</translation>
+    </message>
+    <message>
+        <source>%1 visits in 30 days</source>
+        <translation>%1 visites en 30 jours</translation>
+    </message>
+    <message>
+        <source>No visits in a year</source>
+        <translation>Aucune visite en un an</translation>
+    </message>
+    <message>
+        <source>1 visit in a year</source>
+        <translation>1 visite en un an</translation>
+    </message>
+    <message>
+        <source>%1 visits in a year</source>
+        <translation>%1 visites en un an</translation>
+    </message>
+    <message>
+        <source>No visits on file</source>
+        <translation>Aucune visite dans l’historique</translation>
+    </message>
+    <message>
+        <source>1 visit on file</source>
+        <translation>1 visite dans l’historique</translation>
+    </message>
+    <message>
+        <source>%1 visits on file</source>
+        <translation>%1 visites dans l’historique</translation>
+    </message>
+    <message>
+        <source>%1, all *%2*.</source>
+        <comment>visits; when or where</comment>
+        <translation>%1, toutes *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, most *%2*.</source>
+        <comment>visits; when or where</comment>
+        <translation>%1, la plupart *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, %3 of them *%2*.</source>
+        <comment>visits; when or where; number</comment>
+        <translation>%1, dont %3 *%2*.</translation>
+    </message>
+    <message>
+        <source>%1, all %2 *%3*.</source>
+        <comment>visits; when; where</comment>
+        <translation>%1, toutes %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1, most %2 *%3*.</source>
+        <comment>visits; when; where</comment>
+        <translation>%1, la plupart %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1, %4 of them %2 *%3*.</source>
+        <comment>visits; when; where; number</comment>
+        <translation>%1, dont %4 %2 *%3*.</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>visits</comment>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>No visits</source>
+        <translation>Aucune visite</translation>
+    </message>
+    <message>
+        <source>1 visit</source>
+        <translation>1 visite</translation>
+    </message>
+    <message>
+        <source>%1 visits</source>
+        <translation>%1 visites</translation>
+    </message>
+    <message>
+        <source>no visits</source>
+        <translation>aucune visite</translation>
+    </message>
+    <message>
+        <source>one visit</source>
+        <translation>une visite</translation>
+    </message>
+    <message>
+        <source>two visits</source>
+        <translation>deux visites</translation>
+    </message>
+    <message>
+        <source>three visits</source>
+        <translation>trois visites</translation>
+    </message>
+    <message>
+        <source>four visits</source>
+        <translation>quatre visites</translation>
+    </message>
+    <message>
+        <source>five visits</source>
+        <translation>cinq visites</translation>
+    </message>
+    <message>
+        <source>six visits</source>
+        <translation>six visites</translation>
+    </message>
+    <message>
+        <source>seven visits</source>
+        <translation>sept visites</translation>
+    </message>
+    <message>
+        <source>eight visits</source>
+        <translation>huit visites</translation>
+    </message>
+    <message>
+        <source>nine visits</source>
+        <translation>neuf visites</translation>
+    </message>
+    <message>
+        <source>ten visits</source>
+        <translation>dix visites</translation>
+    </message>
+    <message>
+        <source>eleven visits</source>
+        <translation>onze visites</translation>
+    </message>
+    <message>
+        <source>twelve visits</source>
+        <translation>douze visites</translation>
+    </message>
+    <message>
+        <source>%1 of %2 on %3s between %4 and %5</source>
+        <comment>numbers; weekday; hours</comment>
+        <translation>%1 sur %2 le %3 entre %4 et %5</translation>
+    </message>
+    <message>
+        <source>%1 %2, %3</source>
+        <comment>weekday; hour; visits</comment>
+        <translation>%1 %2, %3</translation>
     </message>
 </context>
 </TS>

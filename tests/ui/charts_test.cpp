@@ -145,7 +145,8 @@ TEST_F(ChartsTest, EachHourWithVisitsIsAButtonForMouseKeyboardAndScreenReader) {
         names.append(seen->child(i)->text(QAccessible::Name));
     EXPECT_EQ(names, QStringList({"Monday 23:00, 1 visit", "Thursday 19:00, 2 visits",
                                   "Thursday 21:00, 1 visit", "Sunday 18:00, 1 visit"}));
-    QTest::mouseClick(matrix.windowHandle(), Qt::LeftButton, {}, MatrixForm::full(680).cell({6, 18}).center().toPoint());
+    QTest::mouseClick(matrix.windowHandle(), Qt::LeftButton, {},
+                      MatrixForm::full(680).cell({6, 18}).center().toPoint());
     buttons(matrix).first()->setFocus(Qt::TabFocusReason);
     const auto press = [&](Qt::Key key) {
         QTest::keyClick(QApplication::focusWidget(), key);
