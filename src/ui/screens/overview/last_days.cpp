@@ -52,7 +52,7 @@ LastDays::LastDays(AppStore& store, QWidget* parent)
     column->addWidget(cameras_);
     connect(patterns, &QAbstractButton::clicked, this, [this] { store_.openPatterns(); });
     connect(&everyMinute_, &UiTimer::timeout, this, &LastDays::refresh);
-    setRoom(0);
+    hide();
 }
 
 void LastDays::refresh() {
@@ -95,6 +95,8 @@ void LastDays::showFigures() {
 }
 
 void LastDays::setRoom(int room) {
+    if (room == room_)
+        return;
     room_ = room;
     fitCameras();
     setVisible(room >= leastRoom);
