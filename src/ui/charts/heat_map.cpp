@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace velmora {
 
@@ -18,9 +19,9 @@ namespace {
 
 /// The place that most visits passed.
 P hottestOf(const WalkHeat& heat) {
-    const auto at = std::ranges::max_element(heat.values) - heat.values.begin();
-    const auto columns = std::max(heat.columns, 1);
-    return heat.origin + P{static_cast<double>(at % columns), static_cast<double>(at / columns)} * heat.cell;
+    const auto hottest = std::ranges::max_element(heat.values) - heat.values.begin();
+    const auto at = std::div(static_cast<long>(hottest), static_cast<long>(std::max(heat.columns, 1)));
+    return heat.origin + P{static_cast<double>(at.rem), static_cast<double>(at.quot)} * heat.cell;
 }
 
 } // namespace

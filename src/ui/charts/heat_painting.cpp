@@ -61,7 +61,7 @@ public:
             colors_[i] = qPremultiply(colorOf(static_cast<double>(i) / (tones - 1)).rgba());
     }
     QRgb at(double tone) const {
-        return colors_[static_cast<std::size_t>(std::clamp(tone, 0.0, 1.0) * (tones - 1) + 0.5)];
+        return colors_[static_cast<std::size_t>(std::clamp(tone, 0.0, 1.0) * (tones - 1))];
     }
 
 private:

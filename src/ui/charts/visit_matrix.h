@@ -68,7 +68,7 @@ private:
     Square* squareAt(int number);
     void showSquare(int number);
     void placeSquares();
-    void offerTab(Square* square);
+    void offerTab(Square* offered);
     void moveFrom(const Square& square, Qt::Key key);
 
     Form form_;
