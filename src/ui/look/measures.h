@@ -163,6 +163,7 @@ inline constexpr int cameraColumns = 3; // fewer cameras leave columns empty
 // History
 inline constexpr int historyPane = 376, historyPaneNarrow = 320;
 inline constexpr int historyLeft = 40, historyLeftNarrow = 28, historyRight = 24;
+inline constexpr int historyModes = 186; // least width of the choice between visits and patterns
 inline constexpr int recordRow = 60, dayRow = 30, recordInset = 12, recordTitleTop = 10;
 inline constexpr int selectionBar = 3;
 inline constexpr QSize thumbnail(36, 24);

@@ -1,133 +1,76 @@
 #include "ui/screens/history/history_list.h"
 
 #include "ui/blocks/choice.h"
-#include "ui/blocks/focus_ring.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/headline.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/link_button.h"
-#include "ui/blocks/menu_button.h"
-#include "ui/blocks/overlay_scroll_bar.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/text.h"
-#include "ui/blocks/text_field.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
-#include "ui/look/words.h"
-#include "ui/screens/history/record_delegate.h"
+#include "ui/screens/history/history_filters.h"
+#include "ui/screens/history/record_list.h"
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QListView>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace velmora {
 
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
-    : QWidget(parent), store_(store), model_(new HistoryModel(store, this)) {
-    filters_ = buildFilters();
-    nothing_ = buildNothing();
-    noMatch_ = buildNoMatch();
-    auto* records = buildRecords();
-    footer_ = buildFooter();
-    auto* above = new QVBoxLayout; // the records extend a little further on both sides
-    above->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
-    above->setSpacing(0);
-    above->addWidget(new Eyebrow(tr("History"), false, this));
-    above->addSpacing(Measure::gap4);
-    above->addWidget(
-        new Headline(Sentence::marked(tr("Every visit,\n*on record*.")), Type::historyHeadline, false, this));
-    above->addSpacing(Measure::gap20);
-    above->addWidget(filters_);
-    above->addWidget(nothing_);
+    : QWidget(parent), store_(store), records_(new RecordList(store, this)) {
     auto* column = new QVBoxLayout(this);
     column->setSpacing(0);
-    column->addLayout(above);
+    column->addLayout(buildTop());
+    noMatch_ = buildNoMatch();
+    footer_ = buildFooter();
     column->addWidget(noMatch_);
-    column->addWidget(records, 1);
+    column->addWidget(records_, 1);
     column->addStretch();
     column->addWidget(footer_);
-    connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &HistoryList::saveScrollPosition);
-    connect(model_, &QAbstractItemModel::modelReset, this, [this] {
-        showSelection();
-        restoreScrollPosition();
-    });
+    connect(modes_, &SegmentedChoice::activated, this,
+            [this](int index) { setMode(static_cast<Mode>(index)); });
+    connect(filters_, &HistoryFilters::changed, this, &HistoryList::applyFilter);
+    connect(filters_, &HistoryFilters::left, this, [this] { records_->setFocus(Qt::TabFocusReason); });
     connect(&undoTime_, &UiTimer::timeout, this, [this] {
         deleted_.reset();
         refresh();
     });
+    connectRecords();
     refresh();
 }
 
-QWidget* HistoryList::buildFilters() {
-    auto* block = new QWidget(this);
-    search_ = new TextField(tr("Search the history"), tr("Search"), block);
-    search_->setClearButtonEnabled(false);
-    search_->installEventFilter(this);
-    flight_ =
-        new SegmentedChoice(tr("Which visits"), {tr("All"), tr("Flown"), tr("Stayed docked")}, true, block);
-    camera_ = new MenuButton(tr("Camera"), block);
-    demo_ = new MenuButton(tr("Demo visits"), block);
-    count_ = new Label2({}, false, block);
-    count_->setMaximumLines(1);
-    auto* menus = new QHBoxLayout;
-    menus->setSpacing(Measure::gap16);
-    menus->addWidget(camera_);
-    menus->addWidget(demo_);
-    menus->addStretch(1);
-    menus->addWidget(count_, 0, Qt::AlignVCenter);
-    auto* column = bareLayout<QVBoxLayout>(block, Measure::gap12);
-    column->addWidget(search_);
-    column->addWidget(flight_);
-    column->addLayout(menus);
-    column->addWidget(new Hairline(block));
-    connect(search_, &QLineEdit::textChanged, this, &HistoryList::applyFilter);
-    connect(flight_, &SegmentedChoice::activated, this, &HistoryList::applyFilter);
-    connect(camera_, &MenuButton::chose, this, [this](int option) {
-        HistoryFilter filter = model_->filter();
-        filter.camera = option == 0 ? QString() : cameras_.value(option - 1);
-        setFilter(filter);
-    });
-    connect(demo_, &MenuButton::chose, this, [this](int option) {
-        HistoryFilter filter = model_->filter();
-        filter.demo = static_cast<HistoryFilter::Demo>(option);
-        setFilter(filter);
-    });
-    return block;
+/// The records extend a little further on both sides than what is above them.
+QLayout* HistoryList::buildTop() {
+    auto* top = new QVBoxLayout;
+    top->setContentsMargins(Measure::recordInset, 0, Measure::recordInset, 0);
+    top->setSpacing(0);
+    top->addWidget(new Eyebrow(tr("History"), false, this));
+    top->addSpacing(Measure::gap4);
+    top->addWidget(
+        new Headline(Sentence::marked(tr("Every visit,\n*on record*.")), Type::historyHeadline, false, this));
+    top->addSpacing(Measure::gap16);
+    modes_ = new SegmentedChoice(tr("What the history shows"), {tr("Visits"), tr("Patterns")}, false, this);
+    modes_->setMinimumWidth(Measure::historyModes);
+    top->addWidget(modes_);
+    top->addSpacing(Measure::gap12);
+    filters_ = new HistoryFilters(this);
+    nothing_ = buildNothing();
+    top->addWidget(filters_);
+    top->addWidget(nothing_);
+    return top;
 }
 
-QWidget* HistoryList::buildRecords() {
-    records_ = new QListView(this);
-    records_->setModel(model_);
-    records_->setItemDelegate(new RecordDelegate(*model_, records_));
-    records_->setFrameShape(QFrame::NoFrame);
-    records_->setAccessibleName(tr("Visits"));
-    records_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    records_->setAutoScroll(false); // showSelection() scrolls
-    records_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    records_->installEventFilter(this);
-    FocusRing::setRingStyle(records_, {Measure::buttonRadius});
-    auto* onRecords = new QHBoxLayout(records_);
-    onRecords->setContentsMargins(0, 0, Measure::scrollBarEdge, 0);
-    onRecords->addWidget(new OverlayScrollBar(records_->verticalScrollBar(), records_), 0, Qt::AlignRight);
-    connect(records_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this](const QItemSelection& chosen) { // assistive technology selects only
-                if (!chosen.isEmpty())
-                    records_->setCurrentIndex(chosen.indexes().front());
-            });
-    connect(records_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& index) {
-                if (const auto key = model_->keyAt(index); key && key != store_.selectedRecord())
-                    emit selected(*key);
-            });
-    return records_;
+void HistoryList::connectRecords() {
+    connect(records_, &RecordList::moved, this, &HistoryList::selected);
+    connect(records_, &RecordList::deleteRequested, this, &HistoryList::deleteRequested);
+    connect(records_, &RecordList::opened, this, &HistoryList::opened);
+    connect(records_, &RecordList::playRequested, this, &HistoryList::playRequested);
+    connect(records_, &RecordList::escaped, filters_, &HistoryFilters::clearSearch);
 }
 
 QWidget* HistoryList::buildNothing() {
@@ -150,7 +93,10 @@ QWidget* HistoryList::buildNoMatch() {
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(words);
     column->addWidget(all, 0, Qt::AlignLeft);
-    connect(all, &SBButton::clicked, this, &HistoryList::clearFilters);
+    connect(all, &SBButton::clicked, this, [this] {
+        filters_->setFilter({});
+        focusRecords();
+    });
     return block;
 }
 
@@ -180,81 +126,49 @@ QWidget* HistoryList::buildFooter() {
     return foot;
 }
 
-void HistoryList::applyFilter() {
-    HistoryFilter filter = model_->filter();
-    filter.text = search_->text();
-    filter.flight = static_cast<HistoryFilter::Flight>(flight_->currentIndex());
-    setFilter(filter);
+const std::vector<RecordKey>& HistoryList::shown() const {
+    return records_->records().shown();
 }
 
-void HistoryList::clearFilters() {
-    search_->clear();
-    flight_->setCurrentIndex(0);
-    setFilter({});
-    records_->setFocus(Qt::OtherFocusReason);
+void HistoryList::setMode(Mode mode) {
+    if (mode == mode_)
+        return;
+    mode_ = mode;
+    modes_->setCurrentIndex(static_cast<int>(mode));
+    showParts();
+    emit modeChanged();
 }
 
 /// Other records are in view then, so the list scrolls to the selected one, or to its top.
-void HistoryList::setFilter(const HistoryFilter& filter) {
-    model_->setFilter(filter);
-    showFilters();
-    showCount();
-    records_->scrollToTop();
-    reveal(records_->currentIndex());
-}
-
-/// A filter that the menus do not offer any more would hide records without a visible reason.
-void HistoryList::dropFiltersWithoutRecords(bool demo) {
-    HistoryFilter filter = model_->filter();
-    if (!filter.camera.isEmpty() && !cameras_.contains(filter.camera))
-        filter.camera.clear();
-    if (!demo)
-        filter.demo = HistoryFilter::Demo::with;
-    if (filter != model_->filter())
-        setFilter(filter);
-}
-
-void HistoryList::showFilters() {
-    const HistoryFilter& filter = model_->filter();
-    camera_->setOptions(QStringList{tr("All cameras")} + cameras_,
-                        static_cast<int>(cameras_.indexOf(filter.camera)) + 1);
-    demo_->setOptions({tr("With demo"), tr("No demo"), tr("Only demo")}, static_cast<int>(filter.demo));
-}
-
-/// Updates the count, and shows the parts of the pane that apply to it.
-void HistoryList::showCount() {
-    const std::size_t all = store_.history().size(), shown = model_->shown().size();
-    count_->setText(shown < all ? tr("%1 of %2").arg(shown).arg(all)
-                    : all == 1  ? tr("1 visit")
-                                : tr("%1 visits").arg(all));
-    count_->setMinimumWidth(count_->sizeHint().width());
-    filters_->setVisible(all > 0);
-    nothing_->setVisible(all == 0);
-    noMatch_->setVisible(all > 0 && shown == 0);
-    records_->setVisible(shown > 0);
+void HistoryList::applyFilter() {
+    records_->records().setFilter(filters_->filter());
+    showParts();
+    records_->revealSelection();
 }
 
 void HistoryList::refresh() {
-    QStringList cameras;
-    for (const HistoryEntry& entry : store_.history())
-        if (const QString name = shownText(entry.record->cameraName);
-            !name.isEmpty() && !cameras.contains(name))
-            cameras.append(name);
-    cameras.sort(Qt::CaseInsensitive);
-    cameras_ = cameras;
-    const bool demo =
-        std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
-    dropFiltersWithoutRecords(demo);
-    demo_->setVisible(demo);
-    model_->updateDayNames();
-    showFilters();
-    showCount();
-    showFooter(demo);
+    filters_->offer(store_.history());
+    records_->records().followTime();
+    showParts();
+    showFooter();
+}
+
+/// Shows the parts of the pane that apply, and how many visits match.
+void HistoryList::showParts() {
+    const std::size_t all = store_.history().size(), matching = shown().size();
+    filters_->setCount(matching, all);
+    modes_->setVisible(all > 0);
+    filters_->setVisible(all > 0);
+    nothing_->setVisible(all == 0);
+    noMatch_->setVisible(all > 0 && matching == 0);
+    records_->setVisible(matching > 0 && mode_ == Mode::visits);
 }
 
 /// Hiding the focused "Undo" would move the focus to another control, which the next key press would
 /// trigger.
-void HistoryList::showFooter(bool demo) {
+void HistoryList::showFooter() {
+    const bool demo =
+        std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
     if (!deleted_ && undoLine_->isAncestorOf(QApplication::focusWidget()))
         (records_->isVisible() ? records_ : window())->setFocus(Qt::OtherFocusReason);
     clearDemo_->setVisible(demo && !deleted_);
@@ -263,43 +177,11 @@ void HistoryList::showFooter(bool demo) {
 }
 
 void HistoryList::showSelection() {
-    const auto& key = store_.selectedRecord();
-    const QModelIndex index = key ? model_->indexOf(*key) : QModelIndex();
-    records_->setCurrentIndex(index);
-    if (isVisible() && std::exchange(highlighted_, key) != key)
-        reveal(index);
-}
-
-/// Also reveals the day's caption when scrolling to the first record of a day.
-void HistoryList::reveal(const QModelIndex& index) {
-    const QModelIndex above = index.siblingAtRow(index.row() - 1);
-    if (above.isValid() && !model_->keyAt(above))
-        records_->scrollTo(above);
-    records_->scrollTo(index);
-}
-
-void HistoryList::saveScrollPosition() {
-    scrollPosition_.reset();
-    if (records_->verticalScrollBar()->value() == 0)
-        return;
-    QModelIndex first = records_->indexAt({0, 0});
-    if (first.isValid() && !model_->keyAt(first))
-        first = first.siblingAtRow(first.row() + 1);
-    if (const auto key = model_->keyAt(first))
-        scrollPosition_ = {*key, records_->visualRect(first).top()};
-}
-
-void HistoryList::restoreScrollPosition() {
-    const QModelIndex index = scrollPosition_ ? model_->indexOf(scrollPosition_->record) : QModelIndex();
-    if (!index.isValid())
-        return;
-    records_->doItemsLayout();
-    QScrollBar& bar = *records_->verticalScrollBar();
-    bar.setValue(bar.value() + records_->visualRect(index).top() - scrollPosition_->top);
+    records_->showSelection();
 }
 
 void HistoryList::focusSearch() {
-    search_->setFocus(Qt::ShortcutFocusReason);
+    filters_->focusSearch();
 }
 
 void HistoryList::focusRecords() {
@@ -320,53 +202,6 @@ void HistoryList::undo() {
     undoTime_.stop();
     store_.restoreRecord(std::move(removed));
     emit selected(key);
-}
-
-bool HistoryList::handleListKey(int key) {
-    const QModelIndex current = records_->currentIndex();
-    const int last = model_->rowCount() - 1;
-    switch (key) {
-    case Qt::Key_Space:
-        emit playRequested();
-        return true;
-    case Qt::Key_Delete:
-        if (const auto record = model_->keyAt(current))
-            emit deleteRequested(*record);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        emit opened();
-        return true;
-    case Qt::Key_Home: // row 0 is a day's caption
-        records_->setCurrentIndex(model_->index(std::min(1, last)));
-        records_->scrollToTop();
-        return true;
-    case Qt::Key_End:
-        records_->setCurrentIndex(model_->index(last));
-        records_->scrollToBottom();
-        return true;
-    case Qt::Key_Escape:
-        search_->clear();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool HistoryList::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (watched == records_ && handleListKey(key))
-            return true;
-        const bool leavesSearch = key == Qt::Key_Escape || key == Qt::Key_Down || key == Qt::Key_Return;
-        if (watched == search_ && leavesSearch) {
-            if (key == Qt::Key_Escape)
-                search_->clear();
-            records_->setFocus(Qt::TabFocusReason);
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void HistoryList::resizeEvent(QResizeEvent*) {

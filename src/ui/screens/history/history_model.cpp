@@ -20,8 +20,12 @@ void HistoryModel::setFilter(const HistoryFilter& filter) {
     rebuild();
 }
 
-void HistoryModel::updateDayNames() {
-    if (dayName(namedAt_, store_.now()) != dayName(store_.now(), store_.now()))
+void HistoryModel::followTime() {
+    const Date now = store_.now();
+    const auto isOutOfDate = [&](const HistoryEntry& entry) {
+        return filter_.spans(*entry.record, builtAt_) != filter_.spans(*entry.record, now);
+    };
+    if (dayName(builtAt_, now) != dayName(now, now) || std::ranges::any_of(store_.history(), isOutOfDate))
         rebuild();
 }
 
@@ -30,10 +34,10 @@ void HistoryModel::rebuild() {
     rows_.clear();
     shown_.clear();
     const Date now = store_.now();
-    namedAt_ = now;
+    builtAt_ = now;
     QString day;
     for (const HistoryEntry& entry : store_.history()) {
-        if (!filter_.matches(*entry.record))
+        if (!filter_.matches(*entry.record, now))
             continue;
         if (const QString name = dayName(entry.record->start, now); name != day) {
             day = name;

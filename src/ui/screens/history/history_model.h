@@ -27,8 +27,9 @@ public:
     const HistoryFilter& filter() const { return filter_; }
     void setFilter(const HistoryFilter& filter);
 
-    /// Renames the captions ("Today" …) if the date has changed.
-    void updateDayNames();
+    /// Renames the captions ("Today" …) if the date has changed, and drops the visits that the filter's span
+    /// of time has left behind.
+    void followTime();
 
     /// The records shown, in order.
     const std::vector<RecordKey>& shown() const { return shown_; }
@@ -49,7 +50,7 @@ private:
 
     AppStore& store_;
     HistoryFilter filter_;
-    Date namedAt_; ///< when the captions were last named
+    Date builtAt_; ///< the time for which the rows hold
     std::vector<Row> rows_;
     std::vector<RecordKey> shown_;
 };
