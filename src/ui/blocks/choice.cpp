@@ -99,6 +99,10 @@ void SegmentedChoice::setCurrentIndex(int index) {
     segments_[static_cast<std::size_t>(index)]->setChecked(true);
 }
 
+void SegmentedChoice::focusChosen(Qt::FocusReason reason) {
+    segments_[static_cast<std::size_t>(currentIndex_)]->setFocus(reason);
+}
+
 void SegmentedChoice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     fillRounded(painter, rect(), Measure::buttonRadius, SB::panel, SB::edge);

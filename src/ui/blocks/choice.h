@@ -31,6 +31,8 @@ public:
     int currentIndex() const { return currentIndex_; }
     /// Does not emit `activated`.
     void setCurrentIndex(int index);
+    /// Moves the keyboard focus to the chosen option.
+    void focusChosen(Qt::FocusReason reason);
 
 signals:
     /// The owner chose an option by mouse, key or accessible action.

@@ -59,6 +59,14 @@ void Headline::setSentence(const Sentence& sentence) {
     update();
 }
 
+void Headline::setStyle(const TextStyle& style) {
+    if (style == style_)
+        return;
+    style_ = style;
+    updateGeometry();
+    update();
+}
+
 void Headline::describe() {
     setAccessibleName(QString(sentence_.lead + sentence_.emphasis + sentence_.tail).replace('\n', ' '));
 }

@@ -28,6 +28,7 @@ public:
     Headline(const Sentence& sentence, const TextStyle& style, bool dark, QWidget* parent);
 
     void setSentence(const Sentence& sentence);
+    void setStyle(const TextStyle& style);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -10,9 +10,9 @@
 
 namespace velmora {
 
-LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(parent) {
-    setText(text);
-    setAccessibleName(text);
+LinkButton::LinkButton(const QString& text, QWidget* parent, const TextStyle& style, const QColor& color)
+    : QAbstractButton(parent), style_(style), color_(color) {
+    setWords(text);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -21,15 +21,20 @@ LinkButton::LinkButton(const QString& text, QWidget* parent) : QAbstractButton(p
     FocusRing::setRingStyle(this, {Measure::badgeRadius});
 }
 
+void LinkButton::setWords(const QString& text) {
+    setText(text);
+    setAccessibleName(text);
+}
+
 QSize LinkButton::sizeHint() const {
-    return {static_cast<int>(std::ceil(textWidth(text(), Type::link))), static_cast<int>(Type::link.line)};
+    return {static_cast<int>(std::ceil(textWidth(text(), style_))), static_cast<int>(style_.line)};
 }
 
 void LinkButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawText(painter, rect(), text(), Type::link, SB::blue, Qt::AlignVCenter);
+    drawText(painter, rect(), text(), style_, color_, Qt::AlignVCenter);
     if (underMouse())
-        painter.fillRect(QRectF(0, std::round(height() / 2.0 + Type::link.size / 2), width(), 1), SB::blue);
+        painter.fillRect(QRectF(0, std::round(height() / 2.0 + style_.size / 2), width(), 1), color_);
 }
 
 } // namespace velmora

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/look/tokens.h"
+#include "ui/look/type.h"
+
 #include <QAbstractButton>
 
 namespace velmora {
@@ -9,12 +12,19 @@ class LinkButton : public QAbstractButton {
     Q_OBJECT
 
 public:
-    LinkButton(const QString& text, QWidget* parent);
+    LinkButton(const QString& text, QWidget* parent, const TextStyle& style = Type::link,
+               const QColor& color = SB::blue);
+
+    void setWords(const QString& text);
 
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    TextStyle style_;
+    QColor color_;
 };
 
 } // namespace velmora

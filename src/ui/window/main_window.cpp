@@ -84,7 +84,7 @@ void MainWindow::buildCards() {
         addOverlay(overlay);
     connect(clearDemo_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
-        history_->focusRecords();
+        history_->focusContent();
     });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::closePopupsAndDialogs);
 }

@@ -5,6 +5,7 @@
 #include "ui/blocks/flow_layout.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/tool_tip.h"
+#include "ui/charts/pattern_words.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
@@ -21,11 +22,11 @@ namespace velmora {
 namespace {
 
 QString hoursText(const HistoryFilter::Hours& hours) {
-    const auto time = [](int hour) { return QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0')); };
     const QString day = displayLocale().standaloneDayName(hours.weekday + 1);
     if (hours.to == hours.from + 1)
-        return ActiveFilters::tr("%1 %2", "weekday, time").arg(day, time(hours.from));
-    return ActiveFilters::tr("%1 %2 to %3", "weekday, times").arg(day, time(hours.from), time(hours.to));
+        return ActiveFilters::tr("%1 %2", "weekday, time").arg(day, hourText(hours.from));
+    return ActiveFilters::tr("%1 %2 to %3", "weekday, times")
+        .arg(day, hourText(hours.from), hourText(hours.to));
 }
 
 } // namespace
@@ -56,7 +57,9 @@ public:
     }
 
 protected:
-    void resizeEvent(QResizeEvent*) override { setToolTipIfElided(*this, text(), width() < sizeHint().width()); }
+    void resizeEvent(QResizeEvent*) override {
+        setToolTipIfElided(*this, text(), width() < sizeHint().width());
+    }
 
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);

@@ -1,19 +1,15 @@
 #include "ui/screens/history/history_filter.h"
 
-#include "model/truncated.h"
+#include "model/visit_patterns.h"
+#include "model/walk_map.h"
 #include "ui/look/words.h"
 #include "ui/screens/outcomes.h"
 
-#include <QDateTime>
-
 #include <algorithm>
-#include <cmath>
 
 namespace velmora {
 
 namespace {
-
-constexpr double placeRadius = 2; // metres
 
 bool matchesFlight(HistoryFilter::Flight wanted, Outcome outcome) {
     return wanted == HistoryFilter::Flight::all || (wanted == HistoryFilter::Flight::flown) == flew(outcome);
@@ -32,33 +28,34 @@ bool matchesText(const QString& wanted, const MissionRecord& record) {
 }
 
 bool matchesHours(const HistoryFilter::Hours& wanted, Date start) {
-    const QDateTime local = QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(start) * 1000));
-    const int hour = local.time().hour();
-    return local.date().dayOfWeek() == wanted.weekday + 1 && wanted.from <= hour && hour < wanted.to;
-}
-
-bool passes(const std::vector<P>& path, P place) {
-    return std::ranges::any_of(path, [&](P point) {
-        return std::hypot(point.x - place.x, point.y - place.y) <= placeRadius;
-    });
+    const auto at = weekHourOf(start);
+    return at && at->weekday == wanted.weekday && wanted.from <= at->hour && at->hour < wanted.to;
 }
 
 } // namespace
 
-bool HistoryFilter::spans(const MissionRecord& record, Date now) const {
-    constexpr int week = 7, month = 30, year = 365;
-    if (span == Span::all)
-        return true;
-    const std::chrono::days length(span == Span::week ? week : span == Span::month ? month : year);
-    return record.start >= now - length;
+std::optional<Date> HistoryFilter::spanStart(Date now) const {
+    switch (span) {
+    case VisitSpan::week:
+        return now - std::chrono::days(7);
+    case VisitSpan::month:
+        return now - std::chrono::days(30);
+    case VisitSpan::year:
+        return now - std::chrono::days(365);
+    case VisitSpan::all:
+    case VisitSpan::unnamed:
+        break;
+    }
+    return std::nullopt;
 }
 
 bool HistoryFilter::matches(const MissionRecord& record, Date now) const {
-    return matchesFlight(flight, record.outcome) && matchesDemo(demo, record.demo) && spans(record, now) &&
+    return matchesFlight(flight, record.outcome) && matchesDemo(demo, record.demo) &&
+           record.start >= spanStart(now).value_or(record.start) &&
            (!outcome || record.outcome == *outcome) &&
            (camera.isEmpty() || camera == shownText(record.cameraName)) &&
-           (!hours || matchesHours(*hours, record.start)) && (!place || passes(record.visitorPath, *place)) &&
-           matchesText(text.trimmed(), record);
+           (!hours || matchesHours(*hours, record.start)) &&
+           (!place || passesWithin(record, *place, WalkMap::passed)) && matchesText(text.trimmed(), record);
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/mission_record.h"
+#include "ui/charts/pattern_words.h"
 
 #include <QString>
 
@@ -12,7 +13,6 @@ namespace velmora {
 struct HistoryFilter {
     enum class Flight { all, flown, stayedDocked };
     enum class Demo { with, without, only };
-    enum class Span { week, month, year, all };
     /// Hours of one day of the week, in local time.
     struct Hours {
         int weekday = 0; ///< from Monday, 0, to Sunday, 6
@@ -25,7 +25,7 @@ struct HistoryFilter {
     QString text; ///< searched in camera, label, outcome, notices and id, ignoring case
     Flight flight = Flight::all;
     QString camera; ///< camera name; empty for all
-    Span span = Span::all;
+    VisitSpan span = VisitSpan::all;
     Demo demo = Demo::with;
     std::optional<Outcome> outcome;
     std::optional<Hours> hours; ///< in which the visit began
@@ -34,8 +34,8 @@ struct HistoryFilter {
     bool operator==(const HistoryFilter&) const = default;
 
     bool matches(const MissionRecord& record, Date now) const;
-    /// Whether the record began within the span of time up to `now`.
-    bool spans(const MissionRecord& record, Date now) const;
+    /// When the span of time that ends `now` begins; nullopt if it has no beginning.
+    std::optional<Date> spanStart(Date now) const;
 };
 
 } // namespace velmora

@@ -64,9 +64,8 @@ void HistoryFilters::connectControls() {
     connect(camera_, &MenuButton::chose, this, set([this](HistoryFilter& filter, int option) {
                 filter.camera = option == 0 ? QString() : cameras_.value(option - 1);
             }));
-    connect(span_, &MenuButton::chose, this, set([](HistoryFilter& filter, int option) {
-                filter.span = static_cast<HistoryFilter::Span>(option);
-            }));
+    connect(span_, &MenuButton::chose, this,
+            set([](HistoryFilter& filter, int option) { filter.span = static_cast<VisitSpan>(option); }));
     connect(demo_, &MenuButton::chose, this, set([](HistoryFilter& filter, int option) {
                 filter.demo = static_cast<HistoryFilter::Demo>(option);
             }));

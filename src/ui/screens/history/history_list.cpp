@@ -12,6 +12,7 @@
 #include "ui/look/tokens.h"
 #include "ui/screens/history/history_filters.h"
 #include "ui/screens/history/record_list.h"
+#include "ui/screens/patterns/patterns_summary.h"
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -22,7 +23,10 @@
 namespace velmora {
 
 HistoryList::HistoryList(AppStore& store, QWidget* parent)
-    : QWidget(parent), store_(store), records_(new RecordList(store, this)) {
+    : QWidget(parent),
+      store_(store),
+      records_(new RecordList(store, this)),
+      summary_(new PatternsSummary(this)) {
     auto* column = new QVBoxLayout(this);
     column->setSpacing(0);
     column->addLayout(buildTop());
@@ -30,12 +34,13 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     footer_ = buildFooter();
     column->addWidget(noMatch_);
     column->addWidget(records_, 1);
+    column->addWidget(summary_, 1);
     column->addStretch();
     column->addWidget(footer_);
     connect(modes_, &SegmentedChoice::activated, this,
             [this](int index) { setMode(static_cast<Mode>(index)); });
     connect(filters_, &HistoryFilters::changed, this, &HistoryList::applyFilter);
-    connect(filters_, &HistoryFilters::left, this, [this] { records_->setFocus(Qt::TabFocusReason); });
+    connect(filters_, &HistoryFilters::left, this, [this] { focusContent(Qt::TabFocusReason); });
     connect(&undoTime_, &UiTimer::timeout, this, [this] {
         deleted_.reset();
         refresh();
@@ -95,7 +100,7 @@ QWidget* HistoryList::buildNoMatch() {
     column->addWidget(all, 0, Qt::AlignLeft);
     connect(all, &SBButton::clicked, this, [this] {
         filters_->setFilter({});
-        focusRecords();
+        focusContent();
     });
     return block;
 }
@@ -130,6 +135,10 @@ const std::vector<RecordKey>& HistoryList::shown() const {
     return records_->records().shown();
 }
 
+std::vector<HistoryEntry> HistoryList::entries() const {
+    return records_->records().entries();
+}
+
 void HistoryList::setMode(Mode mode) {
     if (mode == mode_)
         return;
@@ -144,6 +153,7 @@ void HistoryList::applyFilter() {
     records_->records().setFilter(filters_->filter());
     showParts();
     records_->revealSelection();
+    emit filterChanged();
 }
 
 void HistoryList::refresh() {
@@ -162,6 +172,7 @@ void HistoryList::showParts() {
     nothing_->setVisible(all == 0);
     noMatch_->setVisible(all > 0 && matching == 0);
     records_->setVisible(matching > 0 && mode_ == Mode::visits);
+    summary_->setVisible(matching > 0 && mode_ == Mode::patterns);
 }
 
 /// Hiding the focused "Undo" would move the focus to another control, which the next key press would
@@ -170,7 +181,7 @@ void HistoryList::showFooter() {
     const bool demo =
         std::ranges::any_of(store_.history(), [](const HistoryEntry& entry) { return entry.record->demo; });
     if (!deleted_ && undoLine_->isAncestorOf(QApplication::focusWidget()))
-        (records_->isVisible() ? records_ : window())->setFocus(Qt::OtherFocusReason);
+        focusContent();
     clearDemo_->setVisible(demo && !deleted_);
     undoLine_->setVisible(deleted_.has_value());
     footer_->setVisible(demo || deleted_);
@@ -184,8 +195,13 @@ void HistoryList::focusSearch() {
     filters_->focusSearch();
 }
 
-void HistoryList::focusRecords() {
-    records_->setFocus(Qt::OtherFocusReason);
+void HistoryList::focusContent(Qt::FocusReason reason) {
+    if (records_->isVisible())
+        records_->setFocus(reason);
+    else if (summary_->isVisible())
+        summary_->focusFirst(reason);
+    else
+        window()->setFocus(reason);
 }
 
 void HistoryList::offerUndo(RemovedEntry removed) {

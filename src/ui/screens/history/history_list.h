@@ -8,13 +8,13 @@
 namespace velmora {
 
 class HistoryFilters;
-class LinkButton;
+class PatternsSummary;
 class RecordList;
 class SBButton;
 class SegmentedChoice;
 
-/// The left pane of the history: headline, the choice between visits and patterns, filters, the visits, and a
-/// footer with undo and "Clear demo history".
+/// The left pane of the history: headline, the choice between visits and patterns, filters, the visits or a
+/// summary of them, and a footer with undo and "Clear demo history".
 class HistoryList : public QWidget {
     Q_OBJECT
 
@@ -27,20 +27,23 @@ public:
     /// Emits modeChanged() if it differs.
     void setMode(Mode mode);
     HistoryFilters& filters() { return *filters_; }
-    /// The records shown, in order.
+    PatternsSummary& summary() { return *summary_; }
+    /// The records that match the filters, in order.
     const std::vector<RecordKey>& shown() const;
+    std::vector<HistoryEntry> entries() const;
     void refresh();
     /// Highlights the selected record of the store, and scrolls to it when another one was selected.
     void showSelection();
     /// Moves the keyboard focus to the search field.
     void focusSearch();
-    /// Moves the keyboard focus to the records.
-    void focusRecords();
+    /// Moves the keyboard focus to the records, or to the patterns' rows of counts.
+    void focusContent(Qt::FocusReason reason = Qt::OtherFocusReason);
     /// Offers for ten seconds to restore the deleted record.
     void offerUndo(RemovedEntry removed);
 
 signals:
     void modeChanged();
+    void filterChanged();
     void selected(velmora::RecordKey key);
     void deleteRequested(velmora::RecordKey key);
     /// The owner pressed Enter on a record.
@@ -71,6 +74,7 @@ private:
     QWidget* nothing_;
     QWidget* noMatch_;
     RecordList* records_;
+    PatternsSummary* summary_;
     QWidget* footer_;
     SBButton* clearDemo_;
     QWidget* undoLine_;

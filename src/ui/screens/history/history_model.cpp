@@ -23,7 +23,10 @@ void HistoryModel::setFilter(const HistoryFilter& filter) {
 void HistoryModel::followTime() {
     const Date now = store_.now();
     const auto isOutOfDate = [&](const HistoryEntry& entry) {
-        return filter_.spans(*entry.record, builtAt_) != filter_.spans(*entry.record, now);
+        const auto isSince = [&](const std::optional<Date>& start) {
+            return start && entry.record->start >= *start;
+        };
+        return isSince(filter_.spanStart(builtAt_)) != isSince(filter_.spanStart(now));
     };
     if (dayName(builtAt_, now) != dayName(now, now) || std::ranges::any_of(store_.history(), isOutOfDate))
         rebuild();
@@ -51,6 +54,18 @@ void HistoryModel::rebuild() {
 
 int HistoryModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+std::vector<HistoryEntry> HistoryModel::entries() const {
+    std::vector<HistoryEntry> entries;
+    entries.reserve(shown_.size());
+    auto next = shown_.begin();
+    for (const HistoryEntry& entry : store_.history())
+        if (next != shown_.end() && *next == entry.key) {
+            entries.push_back(entry);
+            ++next;
+        }
+    return entries;
 }
 
 std::optional<RecordKey> HistoryModel::keyAt(const QModelIndex& index) const {

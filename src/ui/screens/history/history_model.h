@@ -33,6 +33,8 @@ public:
 
     /// The records shown, in order.
     const std::vector<RecordKey>& shown() const { return shown_; }
+    /// The same with the records themselves.
+    std::vector<HistoryEntry> entries() const;
     /// Returns nullopt for a caption.
     std::optional<RecordKey> keyAt(const QModelIndex& index) const;
     /// Returns an invalid index if the record is not shown.

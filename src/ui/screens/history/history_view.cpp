@@ -5,8 +5,12 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/look/measures.h"
 #include "ui/look/words.h"
+#include "ui/screens/grounds.h"
+#include "ui/screens/history/history_filters.h"
 #include "ui/screens/history/history_list.h"
 #include "ui/screens/history/record_detail.h"
+#include "ui/screens/patterns/patterns_pane.h"
+#include "ui/screens/patterns/patterns_summary.h"
 
 #include <QBuffer>
 #include <QFileDialog>
@@ -45,10 +49,12 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     : Screen(store, parent),
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
+      patterns_(new PatternsPane(this)),
       empty_(buildEmpty()) {
     auto* row = bareLayout<QHBoxLayout>(this);
     row->addWidget(list_);
     row->addWidget(detail_, 1);
+    row->addWidget(patterns_, 1);
     row->addWidget(empty_, 1);
     connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
@@ -62,12 +68,57 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     });
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
+    connectPatterns();
     refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged});
     connect(&everyMinute_, &UiTimer::timeout, this, &HistoryView::refresh);
 }
 
-void HistoryView::focusRecords() {
-    list_->focusRecords();
+void HistoryView::connectPatterns() {
+    PatternsSummary& summary = list_->summary();
+    connect(list_, &HistoryList::modeChanged, this, &HistoryView::showParts);
+    connect(list_, &HistoryList::filterChanged, this, &HistoryView::showPatterns);
+    connect(&summary, &PatternsSummary::cameraChosen, this, [this](const QString& name) {
+        changeFilter(
+            [&](HistoryFilter& filter) { filter.camera = filter.camera == name ? QString() : name; });
+    });
+    connect(&summary, &PatternsSummary::outcomeChosen, this, [this](Outcome outcome) {
+        changeFilter([&](HistoryFilter& filter) {
+            filter.outcome = filter.outcome == outcome ? std::nullopt : std::optional(outcome);
+        });
+    });
+    connect(patterns_, &PatternsPane::hoursChosen, this, [this](int weekday, int from, int to) {
+        showVisits([&](HistoryFilter& filter) { filter.hours = {weekday, from, to}; });
+    });
+    connect(patterns_, &PatternsPane::placeChosen, this,
+            [this](P place) { showVisits([&](HistoryFilter& filter) { filter.place = place; }); });
+    connect(&store_, &AppStore::patternsRequested, this, &HistoryView::openPatterns);
+}
+
+void HistoryView::changeFilter(const std::function<void(HistoryFilter&)>& change) {
+    HistoryFilter filter = list_->filters().filter();
+    change(filter);
+    list_->filters().setFilter(filter);
+}
+
+/// The first of the visits is selected unless the selected one is among them.
+void HistoryView::showVisits(const std::function<void(HistoryFilter&)>& change) {
+    changeFilter(change);
+    list_->setMode(HistoryList::Mode::visits);
+    const auto& shown = list_->shown();
+    const auto& selected = store_.selectedRecord();
+    if (!shown.empty() && (!selected || std::ranges::find(shown, *selected) == shown.end()))
+        store_.setSelectedRecord(shown.front());
+    list_->focusContent();
+}
+
+void HistoryView::openPatterns() {
+    list_->filters().setFilter({.span = VisitSpan::month});
+    list_->setMode(HistoryList::Mode::patterns);
+    list_->focusContent();
+}
+
+void HistoryView::focusContent() {
+    list_->focusContent();
 }
 
 void HistoryView::focusSearch() {
@@ -87,9 +138,8 @@ QWidget* HistoryView::buildEmpty() {
 
 void HistoryView::refresh() {
     list_->refresh();
+    showParts();
     const auto& history = store_.history();
-    detail_->setVisible(!history.empty());
-    empty_->setVisible(history.empty());
     simulate_->setVisible(!store_.settings().linkMode);
     const auto& selected = store_.selectedRecord();
     if (history.empty())
@@ -98,6 +148,25 @@ void HistoryView::refresh() {
         store_.setSelectedRecord(history.front().key);
     else
         showSelection();
+}
+
+void HistoryView::showParts() {
+    const bool any = !store_.history().empty(), visits = list_->mode() == HistoryList::Mode::visits;
+    detail_->setVisible(any && visits);
+    patterns_->setVisible(any && !visits);
+    empty_->setVisible(!any);
+    showPatterns();
+}
+
+/// Computes nothing while the patterns are not shown.
+void HistoryView::showPatterns() {
+    if (!patterns_->isVisible())
+        return;
+    const HistoryFilter& filter = list_->filters().filter();
+    const Date now = store_.now();
+    patterns_->setVisits(list_->entries(), {filter.span, filter.spanStart(now), now}, groundsFor(store_),
+                         store_.settings());
+    list_->summary().setPatterns(patterns_->patterns());
 }
 
 void HistoryView::showSelection() {
@@ -172,7 +241,7 @@ void HistoryView::resizeEvent(QResizeEvent*) {
 void HistoryView::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
     everyMinute_.start();
-    list_->focusRecords();
+    list_->focusContent();
 }
 
 void HistoryView::hideEvent(QHideEvent*) {

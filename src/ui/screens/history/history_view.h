@@ -8,10 +8,12 @@
 namespace velmora {
 
 class HistoryList;
+class PatternsPane;
 class RecordDetail;
+struct HistoryFilter;
 class SBButton;
 
-/// History: the list of recorded visits and the selected one in detail.
+/// History: the list of recorded visits, and the selected one in detail or the patterns of all in the list.
 class HistoryView : public Screen {
     Q_OBJECT
 
@@ -20,8 +22,8 @@ public:
 
     /// Moves the keyboard focus to the search field.
     void focusSearch();
-    /// Moves the keyboard focus to the records.
-    void focusRecords();
+    /// Moves the keyboard focus to the records, or to the patterns.
+    void focusContent();
 
 signals:
     /// The owner clicked "Clear demo history". Ask for confirmation before removing anything.
@@ -37,6 +39,12 @@ protected:
 
 private:
     QWidget* buildEmpty();
+    void connectPatterns();
+    void changeFilter(const std::function<void(HistoryFilter&)>& change);
+    void showVisits(const std::function<void(HistoryFilter&)>& change);
+    void openPatterns();
+    void showParts();
+    void showPatterns();
     void showSelection();
     void remove(RecordKey key);
     std::optional<RecordKey> neighbour(RecordKey key) const;
@@ -53,9 +61,10 @@ private:
 
     HistoryList* list_;
     RecordDetail* detail_;
+    PatternsPane* patterns_;
     SBButton* simulate_ = nullptr;
     QWidget* empty_;
-    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown, to notice a new day
+    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown: days and spans of time end
 };
 
 } // namespace velmora

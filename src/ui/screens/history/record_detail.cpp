@@ -12,6 +12,7 @@
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/map/site_map.h"
+#include "ui/screens/grounds.h"
 #include "ui/screens/history/record_facts.h"
 #include "ui/screens/history/replay_bar.h"
 #include "ui/screens/history/replay_player.h"
@@ -22,16 +23,6 @@
 #include <algorithm>
 
 namespace velmora {
-
-namespace {
-
-/// The state whose site is drawn under a record: the current one, or the demo's if none is known.
-const LiveState& groundsFor(const AppStore& store) {
-    static const LiveState demo = LiveState::initial();
-    return store.knownState() ? *store.knownState() : demo;
-}
-
-} // namespace
 
 RecordDetail::RecordDetail(AppStore& store, QWidget* parent)
     : QWidget(parent),

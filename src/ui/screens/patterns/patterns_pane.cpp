@@ -1,0 +1,182 @@
+#include "ui/screens/patterns/patterns_pane.h"
+
+#include "language/language.h"
+#include "model/truncated.h"
+#include "ui/blocks/headline.h"
+#include "ui/blocks/layouts.h"
+#include "ui/blocks/link_button.h"
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/charts/heat_map.h"
+#include "ui/charts/visit_matrix.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/screens/patterns/pattern_facts.h"
+
+#include <QDateTime>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr int factsWidth = 124, mapLeastHeight = 352;
+constexpr int besideLeast = 632; // narrower content has the facts below the map
+
+QString dateName(Date date, bool withYear) {
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000));
+    return displayLocale().toString(local.date(), withYear ? PatternsPane::tr("d MMMM yyyy", "form of a date")
+                                                           : PatternsPane::tr("d MMMM", "form of a date"));
+}
+
+int yearOf(Date date) {
+    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000)).date().year();
+}
+
+} // namespace
+
+PatternsPane::PatternsPane(QWidget* parent)
+    : QWidget(parent),
+      figures_(LiveState::initial().site),
+      area_(new ScrollArea(this)),
+      content_(new QWidget(area_)),
+      eyebrow_(new Eyebrow({}, false, content_)),
+      headline_(new Headline({}, Type::recordTitle, false, content_)),
+      tooFew_(new Text(tr("Patterns appear after three visits."), Type::lede, SB::body, content_)),
+      facts_(new PatternFacts(content_)) {
+    content_->setMaximumWidth(Measure::pageWidthWide - (Measure::historyPane - Measure::historyLeft) +
+                              Measure::detailRight);
+    upper_ = new QHBoxLayout;
+    mapPart_ = buildMap();
+    times_ = buildTimes();
+    upper_->addWidget(mapPart_, 0, Qt::AlignTop);
+    upper_->addWidget(facts_, 1, Qt::AlignTop);
+    auto* column = new QVBoxLayout(content_);
+    column->setContentsMargins(Measure::detailLeft, Measure::pageMargins.top(), Measure::detailRight,
+                               Measure::pageMargins.bottom());
+    column->setSpacing(0);
+    column->addWidget(eyebrow_);
+    column->addSpacing(Measure::gap4);
+    column->addWidget(headline_);
+    column->addSpacing(Measure::gap16);
+    column->addWidget(tooFew_);
+    column->addLayout(upper_);
+    column->addWidget(times_);
+    column->addStretch(1);
+    area_->setWidget(content_);
+    area_->setFade(Measure::logFade);
+    bareLayout<QVBoxLayout>(this)->addWidget(area_);
+    connectCharts();
+}
+
+QWidget* PatternsPane::buildMap() {
+    auto* part = new QWidget(content_);
+    map_ = new HeatMap(part);
+    key_ = new HeatKey(part);
+    auto* column = bareLayout<QVBoxLayout>(part, Measure::gap12);
+    column->addWidget(map_);
+    column->addWidget(key_);
+    return part;
+}
+
+QWidget* PatternsPane::buildTimes() {
+    auto* part = new QWidget(content_);
+    group_ = new LinkButton({}, part, Type::label2Medium, SB::purple);
+    matrix_ = new VisitMatrix(VisitMatrix::Form::full, part);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(new Text(tr("When they came"), Type::groupHeading, SB::ink, part), 1);
+    heading->addWidget(group_, 0, Qt::AlignVCenter);
+    auto* column = bareLayout<QVBoxLayout>(part, Measure::gap8);
+    column->setContentsMargins(0, Measure::gap20, 0, 0);
+    column->addLayout(heading);
+    column->addWidget(matrix_);
+    return part;
+}
+
+void PatternsPane::connectCharts() {
+    connect(map_, &HeatMap::placeChosen, this, &PatternsPane::placeChosen);
+    connect(matrix_, &VisitMatrix::chosen, this,
+            [this](int weekday, int hour) { emit hoursChosen(weekday, hour, hour + 1); });
+    connect(group_, &QAbstractButton::clicked, this, [this] {
+        if (const auto group = patterns().group())
+            emit hoursChosen(group->weekday, firstHourOf(group->part), endHourOf(group->part));
+    });
+}
+
+void PatternsPane::setVisits(const std::vector<HistoryEntry>& visits, const Period& period,
+                             const LiveState& state, const Settings& settings) {
+    map_->setGrounds(state, settings);
+    if (figures_.follow(visits, state.site))
+        showFigures();
+    showHeading(period);
+    arrange();
+}
+
+void PatternsPane::showFigures() {
+    const bool enough = patterns().visits() >= VisitPatterns::fewest;
+    mapPart_->setVisible(enough);
+    times_->setVisible(enough);
+    tooFew_->setVisible(!enough);
+    facts_->setVisible(patterns().visits() > 0);
+    facts_->setPatterns(patterns());
+    matrix_->setTimes(VisitTimes::of(patterns()));
+    const QString group = groupWords(patterns());
+    group_->setWords(group);
+    group_->setVisible(!group.isEmpty());
+    if (!enough)
+        return;
+    WalkHeat heat = figures_.heat();
+    key_->setMostVisits(heat.mostVisits);
+    map_->setHeat(std::move(heat));
+}
+
+void PatternsPane::showHeading(const Period& period) {
+    headline_->setSentence(patternSentence(patterns(), period.span));
+    const auto from = period.from ? period.from : patterns().first();
+    if (!from) {
+        eyebrow_->setText(tr("Patterns"));
+        return;
+    }
+    const bool withYear = yearOf(*from) != yearOf(period.to);
+    eyebrow_->setText(
+        tr("Patterns · %1 to %2", "dates").arg(dateName(*from, withYear), dateName(period.to, withYear)));
+}
+
+/// The sentence is as large as two lines allow.
+void PatternsPane::fitHeadline(int width) {
+    for (const TextStyle& style : {Type::recordTitle, Type::overlayTitle, Type::emptyTitle, Type::cardName}) {
+        headline_->setStyle(style);
+        if (headline_->heightForWidth(width) <= 2 * style.line)
+            return;
+    }
+}
+
+/// The map is as wide as its column, but leaves room below it for the matrix.
+void PatternsPane::arrange() {
+    const int width = std::max(
+        std::min(this->width(), content_->maximumWidth()) - Measure::detailLeft - Measure::detailRight, 1);
+    const bool enough = patterns().visits() >= VisitPatterns::fewest;
+    const bool beside = enough && width >= besideLeast;
+    fitHeadline(width);
+    upper_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    upper_->setSpacing(beside ? Measure::gap28 : Measure::gap20);
+    facts_->setInColumn(beside);
+    const int above = Measure::pageMargins.top() + static_cast<int>(Type::eyebrow.line) + Measure::gap4 +
+                      headline_->heightForWidth(width) + Measure::gap16;
+    const int below =
+        Measure::gap12 + key_->height() + times_->heightForWidth(width) + Measure::pageMargins.bottom();
+    const int widest = beside ? width - Measure::gap28 - factsWidth : width;
+    const int highest = std::max(height() - above - below, mapLeastHeight);
+    const int full = map_->heightForWidth(widest);
+    const QSize map = full <= highest ? QSize(widest, full) : QSize(widest * highest / full, highest);
+    map_->setFixedSize(map);
+    mapPart_->setFixedWidth(map.width());
+}
+
+void PatternsPane::resizeEvent(QResizeEvent*) {
+    arrange();
+}
+
+} // namespace velmora

@@ -1,0 +1,69 @@
+#include "ui/screens/patterns/patterns_summary.h"
+
+#include "ui/blocks/hairline.h"
+#include "ui/blocks/layouts.h"
+#include "ui/blocks/scroll_area.h"
+#include "ui/blocks/text.h"
+#include "ui/charts/count_bars.h"
+#include "ui/look/measures.h"
+#include "ui/look/tokens.h"
+#include "ui/look/words.h"
+#include "ui/screens/outcomes.h"
+
+#include <QAbstractButton>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+PatternsSummary::PatternsSummary(QWidget* parent) : QWidget(parent) {
+    auto* area = new ScrollArea(this);
+    auto* content = new QWidget(area);
+    cameras_ = new CountBars(content);
+    outcomes_ = new CountBars(content);
+    flown_ = new Label2({}, false, content);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(new Text(tr("How they ended"), Type::groupHeading, SB::ink, content), 1);
+    heading->addWidget(flown_, 0, Qt::AlignVCenter);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(Measure::recordInset, Measure::gap16, Measure::recordInset, Measure::gap24);
+    column->setSpacing(0);
+    column->addWidget(new Text(tr("By camera"), Type::groupHeading, SB::ink, content));
+    column->addSpacing(Measure::gap8);
+    column->addWidget(cameras_);
+    column->addSpacing(Measure::gap16);
+    column->addWidget(new Hairline(content));
+    column->addSpacing(Measure::gap16);
+    column->addLayout(heading);
+    column->addSpacing(Measure::gap8);
+    column->addWidget(outcomes_);
+    column->addStretch(1);
+    area->setWidget(content);
+    area->setFade(Measure::logFade);
+    bareLayout<QVBoxLayout>(this)->addWidget(area);
+    connect(cameras_, &CountBars::chosen, this, &PatternsSummary::cameraChosen);
+    connect(outcomes_, &CountBars::chosen, this,
+            [this](const QString& id) { emit outcomeChosen(static_cast<Outcome>(id.toInt())); });
+}
+
+void PatternsSummary::setPatterns(const VisitPatterns& patterns) {
+    std::vector<CountRow> cameras, outcomes;
+    for (const CameraCount& camera : patterns.byCamera()) {
+        const QString name = shownText(camera.name);
+        cameras.push_back({name, name, camera.visits});
+    }
+    for (const auto& [outcome, text] : rawValuesOf<Outcome>)
+        if (const int visits = patterns.visitsWith(outcome); visits > 0)
+            outcomes.push_back({QString::number(static_cast<int>(outcome)), outcomeText(outcome), visits,
+                                outcomeColor(outcome)});
+    cameras_->setRows(std::move(cameras));
+    outcomes_->setRows(std::move(outcomes));
+    flown_->setText(tr("%1 of %2 flown").arg(patterns.flown()).arg(patterns.visits()));
+}
+
+void PatternsSummary::focusFirst(Qt::FocusReason reason) {
+    for (auto* row : cameras_->findChildren<QAbstractButton*>())
+        if (row->isVisible())
+            return row->setFocus(reason);
+}
+
+} // namespace velmora
