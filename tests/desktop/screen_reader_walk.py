@@ -223,6 +223,32 @@ def walk_cameras(reader):
     reader.toggle_all()
 
 
+def walk_patterns(reader):
+    """Each kind of row, square and link sets a filter, and a button ends it."""
+    def rows(part):
+        return [node for node in reader.matches("", "push button") if part in node.name]
+
+    reader.choose_all("Patterns")
+    reader.find("By camera", "heading")
+    camera = rows(" visit")[0].name
+    reader.press(camera, "1 of 1" if camera.endswith("1 visit") else None)
+    reader.find(camera.split(",")[0], "push button")
+    reader.press(camera, "All cameras")
+    reader.press("You ignored the alert, ")
+    reader.press("You ignored the alert")
+    wait(lambda: len(rows(" visit")) > 3, "the rows to come back")
+    for part in (":00, ", " between "):
+        for node in rows(part)[:1]:
+            reader.use(node)
+            wait(lambda: rows(":00"), "the filter's button")
+            chip = rows(":00")[0]
+            reader.use(chip)
+            reader.gone(chip.name, "push button")
+            reader.choose_all("Patterns")
+            reader.find("By camera", "heading")
+    reader.choose_all("Visits")
+
+
 def walk_history(reader):
     reader.open("History", "Every visit, on record.")
     count = len(reader.matches("", "list item"))
@@ -233,6 +259,8 @@ def walk_history(reader):
     reader.choose_in_menu("All cameras", "Driveway", "East garden", "Front lawn", "All cameras")
     reader.choose_in_menu("With demo", "Only demo", "No demo")
     reader.choose_in_menu("No demo", "With demo")
+    reader.choose_in_menu("All time", "7 days", "30 days", "A year", "All time")
+    walk_patterns(reader)
     reader.type("Search the history", "nobody")
     reader.press("Show all", "You sent the drone home")
     for row in reader.matches("You sent", "list item") + reader.matches("Visitor left", "list item"):

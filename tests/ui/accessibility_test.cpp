@@ -34,6 +34,11 @@ protected:
             expectAllNamed(window(), when + ", " + std::string(id));
         }
     }
+    void showPatterns() {
+        store().setSection(Section::history);
+        settle();
+        click("Patterns");
+    }
     void expectCardNamed(const QString& name, const QString& button) {
         ASSERT_TRUE(waitUntil([&] { return shows(name) && find(*find(name), button); }))
             << name.toStdString();
@@ -46,6 +51,8 @@ protected:
 
 TEST_F(AccessibilityTest, EverySectionNamesWhatTheKeyboardReaches) {
     expectSectionsNamed("docked");
+    showPatterns();
+    expectAllNamed(window(), "patterns");
     store().clearDemoHistory();
     expectSectionsNamed("no history");
     serve(mission(Phase::following));
@@ -171,9 +178,7 @@ void read(QAccessibleInterface* node, std::vector<Spoken>& spoken) {
 TEST_F(AccessibilityTest, TabAndScreenReadersFollowTheSameOrder) {
     QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&window());
     EXPECT_EQ(all->role(), QAccessible::Window);
-    for (const auto& [section, id] : rawValuesOf<Section>) {
-        store().setSection(section);
-        settle();
+    const auto expectSameOrder = [&](std::string_view id) {
         std::vector<Spoken> spoken;
         read(all, spoken);
         const auto indexOfFocus = [&] {
@@ -195,7 +200,14 @@ TEST_F(AccessibilityTest, TabAndScreenReadersFollowTheSameOrder) {
         }
         EXPECT_EQ(spoken[static_cast<std::size_t>(first)].object->parent()->metaObject()->className(),
                   std::string("velmora::Sidebar"));
+    };
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        store().setSection(section);
+        settle();
+        expectSameOrder(id);
     }
+    showPatterns();
+    expectSameOrder("patterns");
 }
 
 TEST_F(AccessibilityTest, ScreenReadersReadFromTopToBottom) {
@@ -212,8 +224,7 @@ TEST_F(AccessibilityTest, ScreenReadersReadFromTopToBottom) {
 
 /// In a group of choices, Tab reaches only one.
 TEST_F(AccessibilityTest, TabReachesEverythingInEverySection) {
-    for (const auto& [section, id] : rawValuesOf<Section>) {
-        store().setSection(section);
+    const auto expectReached = [&](std::string_view id) {
         window().setFocus();
         std::set<QWidget*> visited;
         for (int i = 0; i < 60; ++i) {
@@ -226,7 +237,13 @@ TEST_F(AccessibilityTest, TabReachesEverythingInEverySection) {
             EXPECT_TRUE(!reachable || visited.contains(widget) || (button && button->autoExclusive()))
                 << id << ": " << widget->accessibleName().toStdString();
         }
+    };
+    for (const auto& [section, id] : rawValuesOf<Section>) {
+        store().setSection(section);
+        expectReached(id);
     }
+    showPatterns();
+    expectReached("patterns");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "language/language.h"
 #include "model/notice_texts.h"
+#include "ui/charts/heat_map.h"
 #include "ui/look/words.h"
 #include "ui/screens/alert/approval_overlay.h"
 #include "ui/screens/live/land_confirmation.h"
@@ -148,6 +149,13 @@ TEST_F(LanguagesTest, LongerTextsFitInTheSmallestWindow) {
     window().resize(1120, 720);
     settle();
     expectSectionsWellSet("docked");
+    store().setSection(Section::history);
+    settle();
+    click(QCoreApplication::translate("velmora::HistoryList", "Patterns"));
+    expectWindowWellSet("patterns");
+    QTest::mouseClick(window().findChild<HeatMap*>(), Qt::LeftButton);
+    settle();
+    expectWindowWellSet("visits past a place");
     visit(Scenario::driveway);
     expectWellSet(*window().findChild<ApprovalOverlay*>(), "alert");
     approve();

@@ -1,3 +1,5 @@
+#include "ui/charts/heat_map.h"
+#include "ui/charts/visit_matrix.h"
 #include "ui/look/art.h"
 #include "ui/map/site_map.h"
 #include "ui/screens/cameras/camera_card.h"
@@ -6,6 +8,7 @@
 #include "ui/screens/overview/overview_parts.h"
 #include "ui/screens/overview/overview_rail.h"
 #include "ui/screens/overview/status_strip.h"
+#include "ui/screens/patterns/pattern_facts.h"
 #include "ui/screens/settings/limits_sketch.h"
 #include "ui/served_fixture.h"
 
@@ -93,6 +96,35 @@ TEST_F(PageLayoutTest, AWideWindowShowsALargeMapAndTenVisits) {
     EXPECT_EQ(visits(), 5);
     show(Section::live, {2560, 1440});
     EXPECT_EQ(areaOf<SiteMap>().size(), QSize(1488, 992));
+}
+
+TEST_F(PageLayoutTest, PatternsUseEveryWindow) {
+    std::vector<MissionRecord> history;
+    for (int i = 0; i < 12; ++i) {
+        history.push_back(record("M-" + std::to_string(i), Outcome::ignored, i < 8 ? 600 : i * 86'400));
+        history.back().cameraName = "Driveway";
+    }
+    records(history);
+    serve(mission(Phase::docked));
+    show(Section::history, sizes[0]);
+    click("Patterns");
+    for (const QSize size : sizes) {
+        SCOPED_TRACE(testing::Message() << size.width() << 'x' << size.height());
+        show(Section::history, size);
+        const QRect map = areaOf<HeatMap>(), matrix = areaOf<VisitMatrix>(), facts = areaOf<PatternFacts>();
+        const int right = std::min(size.width() - 40, 272 + 1880) - 1;
+        EXPECT_LE(std::abs(map.width() - map.height() * 1.5), 1) << map.width() << 'x' << map.height();
+        EXPECT_EQ(map.left(), size.width() < 1280 ? 584 : 640);
+        EXPECT_GE(map.height(), size.width() < 1280 ? 330 : 352);
+        EXPECT_EQ(matrix.left(), map.left());
+        EXPECT_LE(matrix.right(), right);
+        EXPECT_EQ(facts.right(), right);
+        EXPECT_TRUE(facts.left() > map.right() || facts.top() > map.bottom());
+        EXPECT_TRUE(size.height() < 860 || matrix.bottom() <= size.height() - 24) << "without scrolling";
+    }
+    show(Section::history, {1360, 860});
+    EXPECT_EQ(areaOf<HeatMap>(), QRect(640, 164, 528, 352));
+    EXPECT_EQ(areaOf<PatternFacts>().left(), 1196);
 }
 
 TEST_F(PageLayoutTest, ThreeCamerasFillTheRow) {

@@ -88,6 +88,7 @@ public:
         connect(this, &QAbstractButton::clicked, bars, [this] { emit bars_.chosen(row_.id); });
     }
 
+    const QString& id() const { return row_.id; }
     void setRow(const CountRow& row, int most) {
         row_ = row;
         most_ = most;
@@ -137,6 +138,7 @@ void CountBars::setShownRows(std::size_t rows) {
     refresh();
 }
 
+/// The focus stays with what its row counts.
 void CountBars::refresh() {
     int most = 0;
     for (const CountRow& row : shown_)
@@ -145,12 +147,17 @@ void CountBars::refresh() {
         rows_.push_back(new Row(this));
         layout()->addWidget(rows_.back());
     }
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const bool used = i < shown_.size() && i < limit_;
-        rows_[i]->setVisible(used);
-        if (used)
-            rows_[i]->setRow(shown_[i], most);
+    const auto focused = std::ranges::find_if(rows_, [](const Row* row) { return row->hasFocus(); });
+    const QString kept = focused == rows_.end() ? QString() : (*focused)->id();
+    const std::size_t used = std::min(shown_.size(), limit_);
+    for (std::size_t i = 0; i < used; ++i) {
+        rows_[i]->setRow(shown_[i], most);
+        rows_[i]->show();
+        if (!kept.isEmpty() && shown_[i].id == kept)
+            rows_[i]->setFocus(Qt::TabFocusReason);
     }
+    for (std::size_t i = used; i < rows_.size(); ++i)
+        rows_[i]->hide();
 }
 
 } // namespace velmora

@@ -112,7 +112,9 @@ void HistoryView::showVisits(const std::function<void(HistoryFilter&)>& change) 
 }
 
 void HistoryView::openPatterns() {
-    list_->filters().setFilter({.span = VisitSpan::month});
+    HistoryFilter lastDays;
+    lastDays.span = VisitSpan::month;
+    list_->filters().setFilter(lastDays);
     list_->setMode(HistoryList::Mode::patterns);
     list_->focusContent();
 }

@@ -25,14 +25,8 @@ namespace {
 constexpr int factsWidth = 124, mapLeastHeight = 352;
 constexpr int besideLeast = 632; // narrower content has the facts below the map
 
-QString dateName(Date date, bool withYear) {
-    const QDateTime local = QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000));
-    return displayLocale().toString(local.date(), withYear ? PatternsPane::tr("d MMMM yyyy", "form of a date")
-                                                           : PatternsPane::tr("d MMMM", "form of a date"));
-}
-
-int yearOf(Date date) {
-    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000)).date().year();
+QDate dayOf(Date date) {
+    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000)).date();
 }
 
 } // namespace
@@ -139,9 +133,11 @@ void PatternsPane::showHeading(const Period& period) {
         eyebrow_->setText(tr("Patterns"));
         return;
     }
-    const bool withYear = yearOf(*from) != yearOf(period.to);
-    eyebrow_->setText(
-        tr("Patterns · %1 to %2", "dates").arg(dateName(*from, withYear), dateName(period.to, withYear)));
+    const QDate first = dayOf(*from), last = dayOf(period.to);
+    const QString form =
+        first.year() == last.year() ? tr("d MMMM", "form of a date") : tr("d MMMM yyyy", "form of a date");
+    eyebrow_->setText(tr("Patterns · %1 to %2", "dates")
+                          .arg(displayLocale().toString(first, form), displayLocale().toString(last, form)));
 }
 
 /// The sentence is as large as two lines allow.

@@ -18,8 +18,8 @@ namespace velmora {
 PatternsSummary::PatternsSummary(QWidget* parent) : QWidget(parent) {
     auto* area = new ScrollArea(this);
     auto* content = new QWidget(area);
-    cameras_ = new CountBars(content);
-    outcomes_ = new CountBars(content);
+    cameras_ = new CountBars(CountBars::Interaction::clickable, content);
+    outcomes_ = new CountBars(CountBars::Interaction::clickable, content);
     flown_ = new Label2({}, false, content);
     auto* heading = new QHBoxLayout;
     heading->addWidget(new Text(tr("How they ended"), Type::groupHeading, SB::ink, content), 1);
