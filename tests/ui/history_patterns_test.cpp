@@ -3,6 +3,7 @@
 #include "ui/charts/heat_map.h"
 #include "ui/charts/visit_matrix.h"
 #include "ui/map/map_scene.h"
+#include "ui/screens/patterns/patterns_pane.h"
 
 #include <QDateTime>
 
@@ -135,7 +136,7 @@ TEST_F(PatternsTest, RowsFilterThePatternsAndClearTheirFilter) {
 TEST_F(PatternsTest, NothingIsAPatternBeforeThreeVisits) {
     const auto all = five();
     lookAtPatterns({all.begin(), all.begin() + 3});
-    const auto& matrix = *window().findChild<VisitMatrix*>();
+    const auto& matrix = *window().findChild<PatternsPane*>()->findChild<VisitMatrix*>();
     EXPECT_TRUE(matrix.isVisible() && !shows(tooFew));
     for (const char* sentence : {"2 visits on file.", "1 visit on file."}) {
         store().removeRecord(store().history()[0].key);
@@ -151,6 +152,7 @@ TEST_F(PatternsTest, ANewVisitIsAddedToWhatIsShown) {
     lookAtPatterns(five());
     visit(Scenario::driveway);
     approve();
+    store().setSection(Section::history);
     fly(200);
     ASSERT_EQ(store().history().size(), 6u);
     EXPECT_TRUE(shows("6 visits") && shows("Driveway, 4 visits"));

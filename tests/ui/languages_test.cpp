@@ -155,6 +155,7 @@ TEST_F(LanguagesTest, LongerTextsFitInTheSmallestWindow) {
     expectWindowWellSet("patterns");
     QTest::mouseClick(window().findChild<HeatMap*>(), Qt::LeftButton);
     settle();
+    settle(); // rows of a log get their heights
     expectWindowWellSet("visits past a place");
     visit(Scenario::driveway);
     expectWellSet(*window().findChild<ApprovalOverlay*>(), "alert");

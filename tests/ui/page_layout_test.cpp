@@ -123,8 +123,11 @@ TEST_F(PageLayoutTest, PatternsUseEveryWindow) {
         EXPECT_TRUE(size.height() < 860 || matrix.bottom() <= size.height() - 24) << "without scrolling";
     }
     show(Section::history, {1360, 860});
-    EXPECT_EQ(areaOf<HeatMap>(), QRect(640, 164, 528, 352));
+    EXPECT_EQ(areaOf<HeatMap>(), QRect(640, 128, 528, 352)) << "below a sentence of one line";
+    EXPECT_EQ(areaOf<VisitMatrix>().size(), QSize(680, 201));
     EXPECT_EQ(areaOf<PatternFacts>().left(), 1196);
+    show(Section::history, {2560, 1440});
+    EXPECT_EQ(areaOf<VisitMatrix>().width(), 56 + 24 * 40);
 }
 
 TEST_F(PageLayoutTest, ThreeCamerasFillTheRow) {

@@ -98,17 +98,28 @@ std::vector<Headline::Piece> Headline::words() const {
     return all;
 }
 
+/// The emphasis goes to the next line as a whole if it fits there.
 std::vector<Headline::Piece> Headline::pieces(double width) const {
     const QFontMetricsF metrics(fontOf(style_));
     const std::vector<Piece> all = words();
+    /// Width from this word to the next end of a line, which is not in the emphasis if that is `whole`.
+    const auto unbroken = [&](std::size_t from, bool whole) {
+        double sum = 0;
+        for (std::size_t i = from; i < all.size(); ++i) {
+            const bool inside = whole && i + 1 < all.size() && all[i + 1].emphasised;
+            if (breaksAfter(all[i].text.back()) && !inside)
+                return sum + metrics.horizontalAdvance(all[i].text.trimmed());
+            sum += metrics.horizontalAdvance(all[i].text);
+        }
+        return sum;
+    };
     std::vector<Piece> shown;
     double x = 0;
     int line = 0;
     for (std::size_t i = 0; i < all.size(); ++i) {
-        double together = 0;
-        for (std::size_t next = i;
-             next < all.size() && (next == i || !breaksAfter(all[next - 1].text.back())); ++next)
-            together += metrics.horizontalAdvance(all[next].text.trimmed());
+        const bool begins = all[i].emphasised && (i == 0 || !all[i - 1].emphasised);
+        const double whole = begins ? unbroken(i, true) : 0;
+        const double together = begins && whole <= width ? whole : unbroken(i, false);
         if (x > 0 && breaksAfter(all[i - 1].text.back()) && x + together > width) {
             x = 0;
             ++line;

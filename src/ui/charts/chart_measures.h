@@ -6,7 +6,8 @@
 namespace velmora::ChartMeasure {
 
 // The matrix of weekday and hour
-inline constexpr int matrixColumn = 26, matrixLabels = 56, matrixNumbers = 20; // numbers from this column on
+inline constexpr int matrixColumn = 26, matrixColumnMost = 40, matrixLabels = 56;
+inline constexpr int matrixNumbers = 20; // numbers from this column on
 inline constexpr int matrixHours = 12, matrixHoursGap = 5;
 inline constexpr int matrixColumnSmall = 14, matrixLabelsSmall = 24;
 inline constexpr int matrixColumnLeast = 10;

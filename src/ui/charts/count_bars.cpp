@@ -32,14 +32,22 @@ bool hasBar(const CountRow& row) {
     return row.dot.alpha() == 0;
 }
 
-const TextStyle& nameStyle(const CountRow& row) {
-    return hasBar(row) ? Type::compactRow : Type::body;
+QString countText(const CountRow& row) {
+    return displayLocale().toString(row.visits);
 }
 
 /// Where the name may stand.
 QRectF nameRect(const QRectF& rect, const CountRow& row, double nameWidth) {
     return hasBar(row) ? QRectF(rect.topLeft(), QSizeF(nameWidth - Measure::gap12, rect.height()))
-                       : rect.adjusted(countTextX, 0, -countNumber, 0);
+                       : rect.adjusted(countTextX, 0,
+                                       -std::ceil(textWidth(countText(row), numberStyle)) - Measure::gap8, 0);
+}
+
+/// A long name without a bar is a little smaller.
+const TextStyle& nameStyle(const CountRow& row, double room) {
+    if (hasBar(row))
+        return Type::compactRow;
+    return textWidth(row.name, Type::body) <= room ? Type::body : Type::label2;
 }
 
 } // namespace
@@ -47,9 +55,9 @@ QRectF nameRect(const QRectF& rect, const CountRow& row, double nameWidth) {
 void drawCountRow(QPainter& painter, const QRectF& rect, const CountRow& row, int most, double nameWidth,
                   const QColor& nameColor) {
     constexpr double track = 0.6, smaller = 0.5;
-    drawText(painter, nameRect(rect, row, nameWidth), row.name, nameStyle(row), nameColor, Qt::AlignVCenter);
-    drawText(painter, rect, displayLocale().toString(row.visits), numberStyle, SB::ink,
-             Qt::AlignVCenter | Qt::AlignRight);
+    const QRectF name = nameRect(rect, row, nameWidth);
+    drawText(painter, name, row.name, nameStyle(row, name.width()), nameColor, Qt::AlignVCenter);
+    drawText(painter, rect, countText(row), numberStyle, SB::ink, Qt::AlignVCenter | Qt::AlignRight);
     if (!hasBar(row)) {
         paintStatusDot(painter, {rect.left() + Measure::statusDotInRow / 2, rect.center().y()},
                        {.color = row.dot, .diameter = Measure::statusDotInRow});
@@ -65,7 +73,7 @@ void drawCountRow(QPainter& painter, const QRectF& rect, const CountRow& row, in
 double countNameWidth(const std::vector<CountRow>& rows, double width) {
     double widest = countName;
     for (const CountRow& row : rows)
-        widest = std::max(widest, textWidth(row.name, nameStyle(row)) + Measure::gap12);
+        widest = std::max(widest, textWidth(row.name, Type::compactRow) + Measure::gap12);
     constexpr double share = 0.5;
     return std::ceil(std::min(widest, std::max<double>(countName, width * share)));
 }
@@ -109,9 +117,8 @@ protected:
 private:
     double nameWidth() const { return countNameWidth(bars_.shown_, width()); }
     void updateToolTip() {
-        setToolTipIfElided(*this, row_.name,
-                           textWidth(row_.name, nameStyle(row_)) >
-                               nameRect(rect(), row_, nameWidth()).width());
+        const double room = nameRect(rect(), row_, nameWidth()).width();
+        setToolTipIfElided(*this, row_.name, textWidth(row_.name, nameStyle(row_, room)) > room);
     }
 
     CountBars& bars_;

@@ -104,11 +104,12 @@ public:
         const QRectF hours =
             form_.cell({weekday, firstHourOf(part)}) | form_.cell({weekday, endHourOf(part) - 1});
         constexpr double outset = matrixOutset - matrixOutline / 2;
+        QRectF outline = hours.adjusted(-outset, -outset, outset, outset);
+        outline.setRight(std::min(outline.right(), form_.size().width() - matrixOutline / 2));
         painter_.setPen(QPen(SB::purple, matrixOutline));
         painter_.setBrush(Qt::NoBrush);
         painter_.setRenderHint(QPainter::Antialiasing);
-        painter_.drawRoundedRect(hours.adjusted(-outset, -outset, outset, outset), matrixOutlineRadius,
-                                 matrixOutlineRadius);
+        painter_.drawRoundedRect(outline, matrixOutlineRadius, matrixOutlineRadius);
     }
 
 private:
@@ -122,7 +123,7 @@ private:
 
 MatrixForm MatrixForm::full(int width) {
     const int room = (width - matrixLabels) / hoursInDay;
-    return {matrixLabels, std::clamp(room, matrixColumnLeast, matrixColumn), false};
+    return {matrixLabels, std::clamp(room, matrixColumnLeast, matrixColumnMost), false};
 }
 
 MatrixForm MatrixForm::small(int width) {
@@ -132,7 +133,7 @@ MatrixForm MatrixForm::small(int width) {
 
 QSize MatrixForm::size() const {
     const int outline = isSmall ? 0 : static_cast<int>(matrixOutset) - matrixCellGap;
-    return {labels + hoursInDay * column + outline,
+    return {labels + hoursInDay * column,
             matrixHours + matrixHoursGap + daysInWeek * column - (isSmall ? matrixCellGap : -outline)};
 }
 
@@ -207,13 +208,11 @@ VisitMatrix::VisitMatrix(Form form, QWidget* parent) : QWidget(parent), form_(fo
 }
 
 MatrixForm VisitMatrix::formFor(int width) const {
-    const int outline = static_cast<int>(matrixOutset) - matrixCellGap;
-    return form_ == Form::full ? MatrixForm::full(width - outline) : MatrixForm::small(width);
+    return form_ == Form::full ? MatrixForm::full(width) : MatrixForm::small(width);
 }
 
 QSize VisitMatrix::sizeHint() const {
-    constexpr int unlimited = 10'000;
-    return formFor(unlimited).size();
+    return formFor(matrixLabels + hoursInDay * matrixColumn).size();
 }
 
 QSize VisitMatrix::minimumSizeHint() const {

@@ -77,8 +77,8 @@ void HistoryFilters::setFilter(const HistoryFilter& filter) {
     if (filter == filter_)
         return;
     filter_ = filter;
+    emit changed(); // first, so that what takes over the focus is visible
     showFilter();
-    emit changed();
 }
 
 void HistoryFilters::showFilter() {

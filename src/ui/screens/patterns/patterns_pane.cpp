@@ -23,6 +23,7 @@ namespace velmora {
 namespace {
 
 constexpr int factsWidth = 124, mapLeastHeight = 352;
+constexpr int aboveMatrix = Measure::gap20 + static_cast<int>(Type::groupHeading.line) + Measure::gap8;
 constexpr int besideLeast = 632; // narrower content has the facts below the map
 
 QDate dayOf(Date date) {
@@ -79,6 +80,9 @@ QWidget* PatternsPane::buildTimes() {
     auto* part = new QWidget(content_);
     group_ = new LinkButton({}, part, Type::label2Medium, SB::purple);
     matrix_ = new VisitMatrix(VisitMatrix::Form::full, part);
+    QSizePolicy growing = matrix_->sizePolicy();
+    growing.setVerticalPolicy(QSizePolicy::Preferred);
+    matrix_->setSizePolicy(growing);
     auto* heading = new QHBoxLayout;
     heading->addWidget(new Text(tr("When they came"), Type::groupHeading, SB::ink, part), 1);
     heading->addWidget(group_, 0, Qt::AlignVCenter);
@@ -149,7 +153,6 @@ void PatternsPane::fitHeadline(int width) {
     }
 }
 
-/// The map is as wide as its column, but leaves room below it for the matrix.
 void PatternsPane::arrange() {
     const int width = std::max(
         std::min(this->width(), content_->maximumWidth()) - Measure::detailLeft - Measure::detailRight, 1);
@@ -159,16 +162,22 @@ void PatternsPane::arrange() {
     upper_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     upper_->setSpacing(beside ? Measure::gap28 : Measure::gap20);
     facts_->setInColumn(beside);
-    const int above = Measure::pageMargins.top() + static_cast<int>(Type::eyebrow.line) + Measure::gap4 +
-                      headline_->heightForWidth(width) + Measure::gap16;
-    const int below =
-        Measure::gap12 + key_->height() + times_->heightForWidth(width) + Measure::pageMargins.bottom();
-    const int widest = beside ? width - Measure::gap28 - factsWidth : width;
-    const int highest = std::max(height() - above - below, mapLeastHeight);
-    const int full = map_->heightForWidth(widest);
-    const QSize map = full <= highest ? QSize(widest, full) : QSize(widest * highest / full, highest);
+    fitCharts(width, beside ? width - Measure::gap28 - factsWidth : width);
+}
+
+/// The map is as wide as its column, but leaves room below it for the matrix, which takes what is left.
+void PatternsPane::fitCharts(int width, int column) {
+    const int matrix = std::min(width, matrix_->sizeHint().width());
+    const int others = Measure::pageMargins.top() + static_cast<int>(Type::eyebrow.line) + Measure::gap4 +
+                       headline_->heightForWidth(width) + Measure::gap16 + Measure::gap12 + key_->height() +
+                       aboveMatrix + matrix_->heightForWidth(matrix) + Measure::pageMargins.bottom();
+    const int highest = std::max(height() - others, mapLeastHeight);
+    const int full = map_->heightForWidth(column);
+    const QSize map = full <= highest ? QSize(column, full) : QSize(column * highest / full, highest);
     map_->setFixedSize(map);
     mapPart_->setFixedWidth(map.width());
+    const int spare = std::max(height() - others - map.height(), 0) / daysInWeek;
+    times_->setFixedWidth(std::min(width, matrix + spare * hoursInDay));
 }
 
 void PatternsPane::resizeEvent(QResizeEvent*) {

@@ -56,6 +56,7 @@ private:
     void showHeading(const Period& period);
     void fitHeadline(int width);
     void arrange();
+    void fitCharts(int width, int column);
 
     VisitFigures figures_;
     ScrollArea* area_;

@@ -25,14 +25,15 @@ PatternsSummary::PatternsSummary(QWidget* parent) : QWidget(parent) {
     heading->addWidget(new Text(tr("How they ended"), Type::groupHeading, SB::ink, content), 1);
     heading->addWidget(flown_, 0, Qt::AlignVCenter);
     auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(Measure::recordInset, Measure::gap16, Measure::recordInset, Measure::gap24);
+    constexpr int belowLine = Measure::gap16 - 1;
+    column->setContentsMargins(Measure::recordInset, belowLine, Measure::recordInset, Measure::gap24);
     column->setSpacing(0);
     column->addWidget(new Text(tr("By camera"), Type::groupHeading, SB::ink, content));
     column->addSpacing(Measure::gap8);
     column->addWidget(cameras_);
     column->addSpacing(Measure::gap16);
     column->addWidget(new Hairline(content));
-    column->addSpacing(Measure::gap16);
+    column->addSpacing(belowLine);
     column->addLayout(heading);
     column->addSpacing(Measure::gap8);
     column->addWidget(outcomes_);
