@@ -1,5 +1,6 @@
 #include "ui/screens/history/history_filters.h"
 
+#include "language/language.h"
 #include "ui/blocks/choice.h"
 #include "ui/blocks/flow_layout.h"
 #include "ui/blocks/hairline.h"
@@ -112,9 +113,9 @@ void HistoryFilters::offer(const std::vector<HistoryEntry>& history) {
 }
 
 void HistoryFilters::setCount(std::size_t matching, std::size_t all) {
-    count_->setText(matching < all ? tr("%1 of %2").arg(matching).arg(all)
-                    : all == 1     ? tr("1 visit")
-                                   : tr("%1 visits").arg(all));
+    const auto number = [](std::size_t count) { return displayLocale().toString(static_cast<int>(count)); };
+    count_->setText(matching < all ? tr("%1 of %2").arg(number(matching), number(all))
+                                   : visitsWords(static_cast<int>(all)));
     count_->setMinimumWidth(count_->sizeHint().width());
 }
 

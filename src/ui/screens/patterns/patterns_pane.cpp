@@ -161,6 +161,7 @@ void PatternsPane::arrange() {
     fitHeadline(width);
     upper_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     upper_->setSpacing(beside ? Measure::gap28 : Measure::gap20);
+    upper_->setContentsMargins(0, enough ? 0 : Measure::gap24, 0, 0);
     facts_->setInColumn(beside);
     fitCharts(width, beside ? width - Measure::gap28 - factsWidth : width);
 }

@@ -1,5 +1,6 @@
 #include "ui/screens/patterns/patterns_summary.h"
 
+#include "language/language.h"
 #include "ui/blocks/hairline.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/scroll_area.h"
@@ -58,7 +59,9 @@ void PatternsSummary::setPatterns(const VisitPatterns& patterns) {
                                 outcomeColor(outcome)});
     cameras_->setRows(std::move(cameras));
     outcomes_->setRows(std::move(outcomes));
-    flown_->setText(tr("%1 of %2 flown").arg(patterns.flown()).arg(patterns.visits()));
+    flown_->setText(
+        tr("%1 of %2 flown")
+            .arg(displayLocale().toString(patterns.flown()), displayLocale().toString(patterns.visits())));
 }
 
 void PatternsSummary::focusFirst(Qt::FocusReason reason) {
