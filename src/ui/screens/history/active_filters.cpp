@@ -67,13 +67,13 @@ protected:
         fillRounded(painter, rect(), Measure::thumbnailRadius, fill, SB::edge);
         drawText(painter, QRectF(rect()).adjusted(Measure::chipPadding, 0, Measure::chipPadding - around, 0),
                  text(), Type::label2Medium, SB::ink, Qt::AlignVCenter);
-        paintIcon(painter, {width() - Measure::gap8 - cross / 2.0, height() / 2.0}, cross, Icon::close,
+        paintIcon(painter, {width() - Measure::chipPadding - cross / 2.0, height() / 2.0}, cross, Icon::close,
                   underMouse() ? SB::ink : SB::muted);
     }
 
 private:
-    static constexpr int cross = 12;
-    static constexpr int around = Measure::chipPadding + Measure::gap4 + cross + Measure::gap8;
+    static constexpr int cross = 8;
+    static constexpr int around = Measure::chipPadding + Measure::gap8 + cross + Measure::chipPadding;
 };
 
 ActiveFilters::ActiveFilters(QWidget* parent) : QWidget(parent) {

@@ -38,7 +38,11 @@ HistoryFilters::HistoryFilters(QWidget* parent)
     auto* menuRow = new QHBoxLayout;
     menuRow->setSpacing(Measure::gap16);
     menuRow->addLayout(menus, 1);
-    menuRow->addWidget(count_, 0, Qt::AlignTop);
+    auto* counted = new QVBoxLayout; // centred on the first row of menus
+    counted->addSpacing(static_cast<int>(Type::compactRow.line - Type::label2.line) / 2);
+    counted->addWidget(count_);
+    counted->addStretch(1);
+    menuRow->addLayout(counted);
     auto* column = bareLayout<QVBoxLayout>(this, Measure::gap12);
     column->addWidget(search_);
     column->addWidget(flight_);
