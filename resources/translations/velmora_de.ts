@@ -167,6 +167,31 @@
     </message>
 </context>
 <context>
+    <name>velmora::ActiveFilters</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>weekday, time</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>weekday, times</comment>
+        <translation>%1 %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Remove this filter</source>
+        <translation>Diesen Filter entfernen</translation>
+    </message>
+    <message>
+        <source>Active filters</source>
+        <translation>Aktive Filter</translation>
+    </message>
+    <message>
+        <source>Past this place</source>
+        <translation>An dieser Stelle vorbei</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ActivityList</name>
     <message>
         <source>All activity →</source>
@@ -550,15 +575,11 @@
     <name>velmora::HeatMap</name>
     <message>
         <source>The arrow keys move a mark, Enter shows the visits that passed within 2 m of it.</source>
-        <translation>Die Pfeiltasten bewegen eine Markierung, die Eingabetaste zeigt die Besuche, die im Umkreis von 2 m vorbeikamen.</translation>
+        <translation>Die Pfeiltasten bewegen eine Markierung, die Eingabetaste zeigt die Besuche, die im Umkreis von 2&#xa0;m vorbeikamen.</translation>
     </message>
 </context>
 <context>
-    <name>velmora::HistoryList</name>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
+    <name>velmora::HistoryFilters</name>
     <message>
         <source>Search the history</source>
         <translation>Verlauf durchsuchen</translation>
@@ -588,8 +609,55 @@
         <translation>Kamera</translation>
     </message>
     <message>
+        <source>Span of time</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
         <source>Demo visits</source>
         <translation>Demo-Besuche</translation>
+    </message>
+    <message>
+        <source>All cameras</source>
+        <translation>Alle Kameras</translation>
+    </message>
+    <message>
+        <source>7 days</source>
+        <translation>7&#xa0;Tage</translation>
+    </message>
+    <message>
+        <source>30 days</source>
+        <translation>30&#xa0;Tage</translation>
+    </message>
+    <message>
+        <source>A year</source>
+        <translation>Ein Jahr</translation>
+    </message>
+    <message>
+        <source>All time</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>With demo</source>
+        <translation>Mit Demo</translation>
+    </message>
+    <message>
+        <source>No demo</source>
+        <translation>Ohne Demo</translation>
+    </message>
+    <message>
+        <source>Only demo</source>
+        <translation>Nur Demo</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::HistoryList</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Visits</source>
@@ -620,38 +688,18 @@
         <translation>Besuch gelöscht.</translation>
     </message>
     <message>
-        <source>All cameras</source>
-        <translation>Alle Kameras</translation>
-    </message>
-    <message>
-        <source>With demo</source>
-        <translation>Mit Demo</translation>
-    </message>
-    <message>
-        <source>No demo</source>
-        <translation>Ohne Demo</translation>
-    </message>
-    <message>
-        <source>Only demo</source>
-        <translation>Nur Demo</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 von %2</translation>
-    </message>
-    <message>
-        <source>1 visit</source>
-        <translation>1 Besuch</translation>
-    </message>
-    <message>
-        <source>%1 visits</source>
-        <translation>%1 Besuche</translation>
-    </message>
-    <message>
         <source>Every visit,
 *on record*.</source>
         <translation>Jeder Besuch,
 *festgehalten*.</translation>
+    </message>
+    <message>
+        <source>What the history shows</source>
+        <translation>Was der Verlauf zeigt</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>Muster</translation>
     </message>
 </context>
 <context>
@@ -735,7 +783,7 @@
     </message>
     <message>
         <source>The last 30 days</source>
-        <translation>Die letzten 30 Tage</translation>
+        <translation>Die letzten 30&#xa0;Tage</translation>
     </message>
 </context>
 <context>
@@ -950,6 +998,118 @@
     </message>
 </context>
 <context>
+    <name>velmora::PatternFacts</name>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>no alert asked for one</source>
+        <translation>kein Alarm verlangte eine</translation>
+    </message>
+    <message>
+        <source>%1 of %2 alerts expired</source>
+        <translation>%1 von %2 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>1 answer; %1 of %2 alerts expired</source>
+        <translation>1 Antwort; %1 von %2 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>median of %1 answers; %2 of %3 alerts expired</source>
+        <translation>Median von %1 Antworten; %2 von %3 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>no flight reached a visitor</source>
+        <translation>kein Flug erreichte einen Besucher</translation>
+    </message>
+    <message>
+        <source>1 flight, seen to on station</source>
+        <translation>1 Flug, von gesehen bis vor Ort</translation>
+    </message>
+    <message>
+        <source>median of %1 flights, seen to on station</source>
+        <translation>Median von %1 Flügen, von gesehen bis vor Ort</translation>
+    </message>
+    <message>
+        <source>the drone did not fly</source>
+        <translation>die Drohne ist nicht geflogen</translation>
+    </message>
+    <message>
+        <source>the drone left your boundary</source>
+        <translation>die Drohne hat Ihre Grenze verlassen</translation>
+    </message>
+    <message>
+        <source>nearest the drone came to your boundary</source>
+        <translation>näher kam die Drohne Ihrer Grenze nie</translation>
+    </message>
+    <message>
+        <source>To your answer</source>
+        <translation>Bis zur Antwort</translation>
+    </message>
+    <message>
+        <source>To the visitor</source>
+        <translation>Bis zum Besucher</translation>
+    </message>
+    <message>
+        <source>Inside by at least</source>
+        <translation>Abstand innen</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PatternsPane</name>
+    <message>
+        <source>Patterns appear after three visits.</source>
+        <translation>Muster erscheinen ab drei Besuchen.</translation>
+    </message>
+    <message>
+        <source>When they came</source>
+        <translation>Wann sie kamen</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <comment>form of a date</comment>
+        <translation>d. MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <comment>form of a date</comment>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Patterns · %1 to %2</source>
+        <comment>dates</comment>
+        <translation>Muster · %1 bis %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PatternsSummary</name>
+    <message>
+        <source>How they ended</source>
+        <translation>Wie sie endeten</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Nach Kamera</translation>
+    </message>
+    <message>
+        <source>%1 of %2 flown</source>
+        <translation>%1 von %2 geflogen</translation>
+    </message>
+</context>
+<context>
     <name>velmora::PhaseTimeline</name>
     <message>
         <source>Spotted</source>
@@ -1060,6 +1220,13 @@
     <message>
         <source>Picture of %1</source>
         <translation>Bild: %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordList</name>
+    <message>
+        <source>Visits</source>
+        <translation>Besuche</translation>
     </message>
 </context>
 <context>
@@ -2206,27 +2373,27 @@
     </message>
     <message>
         <source>No visits in 7 days</source>
-        <translation>Keine Besuche in 7 Tagen</translation>
+        <translation>Keine Besuche in 7&#xa0;Tagen</translation>
     </message>
     <message>
         <source>1 visit in 7 days</source>
-        <translation>1 Besuch in 7 Tagen</translation>
+        <translation>1&#xa0;Besuch in 7&#xa0;Tagen</translation>
     </message>
     <message>
         <source>%1 visits in 7 days</source>
-        <translation>%1 Besuche in 7 Tagen</translation>
+        <translation>%1&#xa0;Besuche in 7&#xa0;Tagen</translation>
     </message>
     <message>
         <source>No visits in 30 days</source>
-        <translation>Keine Besuche in 30 Tagen</translation>
+        <translation>Keine Besuche in 30&#xa0;Tagen</translation>
     </message>
     <message>
         <source>1 visit in 30 days</source>
-        <translation>1 Besuch in 30 Tagen</translation>
+        <translation>1&#xa0;Besuch in 30&#xa0;Tagen</translation>
     </message>
     <message>
         <source>%1 visits in 30 days</source>
-        <translation>%1 Besuche in 30 Tagen</translation>
+        <translation>%1&#xa0;Besuche in 30&#xa0;Tagen</translation>
     </message>
     <message>
         <source>No visits in a year</source>
@@ -2234,11 +2401,11 @@
     </message>
     <message>
         <source>1 visit in a year</source>
-        <translation>1 Besuch in einem Jahr</translation>
+        <translation>1&#xa0;Besuch in einem Jahr</translation>
     </message>
     <message>
         <source>%1 visits in a year</source>
-        <translation>%1 Besuche in einem Jahr</translation>
+        <translation>%1&#xa0;Besuche in einem Jahr</translation>
     </message>
     <message>
         <source>No visits on file</source>
@@ -2246,11 +2413,11 @@
     </message>
     <message>
         <source>1 visit on file</source>
-        <translation>1 Besuch im Verlauf</translation>
+        <translation>1&#xa0;Besuch im Verlauf</translation>
     </message>
     <message>
         <source>%1 visits on file</source>
-        <translation>%1 Besuche im Verlauf</translation>
+        <translation>%1&#xa0;Besuche im Verlauf</translation>
     </message>
     <message>
         <source>%1, all *%2*.</source>
@@ -2293,11 +2460,11 @@
     </message>
     <message>
         <source>1 visit</source>
-        <translation>1 Besuch</translation>
+        <translation>1&#xa0;Besuch</translation>
     </message>
     <message>
         <source>%1 visits</source>
-        <translation>%1 Besuche</translation>
+        <translation>%1&#xa0;Besuche</translation>
     </message>
     <message>
         <source>no visits</source>
@@ -2354,7 +2521,7 @@
     <message>
         <source>%1 of %2 on %3s between %4 and %5</source>
         <comment>numbers; weekday; hours</comment>
-        <translation>%1 von %2 an %3en zwischen %4 und %5 Uhr</translation>
+        <translation>%1 von %2 an %3en zwischen %4 und %5&#xa0;Uhr</translation>
     </message>
     <message>
         <source>%1 %2, %3</source>

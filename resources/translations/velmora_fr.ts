@@ -167,6 +167,31 @@
     </message>
 </context>
 <context>
+    <name>velmora::ActiveFilters</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>weekday, time</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>weekday, times</comment>
+        <translation>%1 de %2 à %3</translation>
+    </message>
+    <message>
+        <source>Remove this filter</source>
+        <translation>Retirer ce filtre</translation>
+    </message>
+    <message>
+        <source>Active filters</source>
+        <translation>Filtres actifs</translation>
+    </message>
+    <message>
+        <source>Past this place</source>
+        <translation>Passées par cet endroit</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ActivityList</name>
     <message>
         <source>All activity →</source>
@@ -284,7 +309,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, stay inside your boundary and come home on its own.</source>
-        <translation>Lancer le drone pour la garder à l’œil&#x202f;? Il volera à %1&#xa0;m de hauteur, suivra à environ %2&#xa0;m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
+        <translation>Lancer le drone pour la garder à l’œil ? Il volera à %1&#xa0;m de hauteur, suivra à environ %2&#xa0;m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
     </message>
 </context>
 <context>
@@ -550,15 +575,11 @@
     <name>velmora::HeatMap</name>
     <message>
         <source>The arrow keys move a mark, Enter shows the visits that passed within 2 m of it.</source>
-        <translation>Les flèches déplacent un repère, Entrée affiche les visites passées à moins de 2 m de celui-ci.</translation>
+        <translation>Les flèches déplacent un repère, Entrée affiche les visites passées à moins de 2&#xa0;m de celui-ci.</translation>
     </message>
 </context>
 <context>
-    <name>velmora::HistoryList</name>
-    <message>
-        <source>History</source>
-        <translation>Historique</translation>
-    </message>
+    <name>velmora::HistoryFilters</name>
     <message>
         <source>Search the history</source>
         <translation>Rechercher dans l’historique</translation>
@@ -588,8 +609,55 @@
         <translation>Caméra</translation>
     </message>
     <message>
+        <source>Span of time</source>
+        <translation>Période</translation>
+    </message>
+    <message>
         <source>Demo visits</source>
         <translation>Visites de démo</translation>
+    </message>
+    <message>
+        <source>All cameras</source>
+        <translation>Partout</translation>
+    </message>
+    <message>
+        <source>7 days</source>
+        <translation>7&#xa0;jours</translation>
+    </message>
+    <message>
+        <source>30 days</source>
+        <translation>30&#xa0;jours</translation>
+    </message>
+    <message>
+        <source>A year</source>
+        <translation>Un an</translation>
+    </message>
+    <message>
+        <source>All time</source>
+        <translation>Toute période</translation>
+    </message>
+    <message>
+        <source>With demo</source>
+        <translation>Avec démo</translation>
+    </message>
+    <message>
+        <source>No demo</source>
+        <translation>Sans démo</translation>
+    </message>
+    <message>
+        <source>Only demo</source>
+        <translation>Démo seule</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::HistoryList</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
     </message>
     <message>
         <source>Visits</source>
@@ -620,38 +688,18 @@
         <translation>Visite supprimée.</translation>
     </message>
     <message>
-        <source>All cameras</source>
-        <translation>Partout</translation>
-    </message>
-    <message>
-        <source>With demo</source>
-        <translation>Avec démo</translation>
-    </message>
-    <message>
-        <source>No demo</source>
-        <translation>Sans démo</translation>
-    </message>
-    <message>
-        <source>Only demo</source>
-        <translation>Démo seule</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>1 visit</source>
-        <translation>1&#xa0;visite</translation>
-    </message>
-    <message>
-        <source>%1 visits</source>
-        <translation>%1&#xa0;visites</translation>
-    </message>
-    <message>
         <source>Every visit,
 *on record*.</source>
         <translation>Chaque visite,
 *consignée*.</translation>
+    </message>
+    <message>
+        <source>What the history shows</source>
+        <translation>Contenu de l’historique</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>Tendances</translation>
     </message>
 </context>
 <context>
@@ -708,7 +756,7 @@
     <name>velmora::LandConfirmation</name>
     <message>
         <source>Land the drone where it is now?</source>
-        <translation>Faire atterrir le drone là où il est&#x202f;?</translation>
+        <translation>Faire atterrir le drone là où il est ?</translation>
     </message>
     <message>
         <source>It will come down on the spot, not on its pad. Use this only if something is wrong.</source>
@@ -735,7 +783,7 @@
     </message>
     <message>
         <source>The last 30 days</source>
-        <translation>Les 30 derniers jours</translation>
+        <translation>Les 30&#xa0;derniers jours</translation>
     </message>
 </context>
 <context>
@@ -826,7 +874,7 @@
     <name>velmora::MainWindow</name>
     <message>
         <source>Clear the demo history?</source>
-        <translation>Vider l’historique démo&#x202f;?</translation>
+        <translation>Vider l’historique démo ?</translation>
     </message>
     <message>
         <source>Keep it</source>
@@ -950,6 +998,118 @@
     </message>
 </context>
 <context>
+    <name>velmora::PatternFacts</name>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>no alert asked for one</source>
+        <translation>aucune alerte n’en demandait</translation>
+    </message>
+    <message>
+        <source>%1 of %2 alerts expired</source>
+        <translation>%1 alertes expirées sur %2</translation>
+    </message>
+    <message>
+        <source>1 answer; %1 of %2 alerts expired</source>
+        <translation>1 réponse ; %1 alertes expirées sur %2</translation>
+    </message>
+    <message>
+        <source>median of %1 answers; %2 of %3 alerts expired</source>
+        <translation>médiane de %1 réponses ; %2 alertes expirées sur %3</translation>
+    </message>
+    <message>
+        <source>no flight reached a visitor</source>
+        <translation>aucun vol n’a atteint de visiteur</translation>
+    </message>
+    <message>
+        <source>1 flight, seen to on station</source>
+        <translation>1 vol, de la détection à l’arrivée sur place</translation>
+    </message>
+    <message>
+        <source>median of %1 flights, seen to on station</source>
+        <translation>médiane de %1 vols, de la détection à l’arrivée sur place</translation>
+    </message>
+    <message>
+        <source>the drone did not fly</source>
+        <translation>le drone n’a pas volé</translation>
+    </message>
+    <message>
+        <source>the drone left your boundary</source>
+        <translation>le drone a franchi votre limite</translation>
+    </message>
+    <message>
+        <source>nearest the drone came to your boundary</source>
+        <translation>le plus près de votre limite</translation>
+    </message>
+    <message>
+        <source>To your answer</source>
+        <translation>Votre réponse</translation>
+    </message>
+    <message>
+        <source>To the visitor</source>
+        <translation>Vers le visiteur</translation>
+    </message>
+    <message>
+        <source>Inside by at least</source>
+        <translation>Marge intérieure</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PatternsPane</name>
+    <message>
+        <source>Patterns appear after three visits.</source>
+        <translation>Les tendances apparaissent après trois visites.</translation>
+    </message>
+    <message>
+        <source>When they came</source>
+        <translation>Quand ils sont venus</translation>
+    </message>
+    <message>
+        <source>Patterns</source>
+        <translation>Tendances</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <comment>form of a date</comment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <comment>form of a date</comment>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Patterns · %1 to %2</source>
+        <comment>dates</comment>
+        <translation>Tendances · du %1 au %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PatternsSummary</name>
+    <message>
+        <source>How they ended</source>
+        <translation>Issue des visites</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Par caméra</translation>
+    </message>
+    <message>
+        <source>%1 of %2 flown</source>
+        <translation>%1 vols sur %2</translation>
+    </message>
+</context>
+<context>
     <name>velmora::PhaseTimeline</name>
     <message>
         <source>Spotted</source>
@@ -1060,6 +1220,13 @@
     <message>
         <source>Picture of %1</source>
         <translation>Image&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordList</name>
+    <message>
+        <source>Visits</source>
+        <translation>Visites</translation>
     </message>
 </context>
 <context>
@@ -1754,7 +1921,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them?</source>
-        <translation>Lancer le drone pour la garder à l’œil&#x202f;?</translation>
+        <translation>Lancer le drone pour la garder à l’œil ?</translation>
     </message>
     <message>
         <source>ddd d MMM, HH:mm</source>
@@ -1947,7 +2114,7 @@
     </message>
     <message>
         <source>Replay of the visitor&apos;s path; the drone stayed on its pad.</source>
-        <translation>Relecture du trajet du visiteur&#x202f;; le drone est resté sur sa base.</translation>
+        <translation>Relecture du trajet du visiteur ; le drone est resté sur sa base.</translation>
     </message>
     <message>
         <source>Replay of the visitor&apos;s path and of the drone&apos;s, at most %1 m from its pad.</source>
@@ -2149,11 +2316,11 @@
     </message>
     <message>
         <source>Where they walked: one visit</source>
-        <translation>Où ils ont marché : une visite</translation>
+        <translation>Où ils ont marché&#xa0;: une visite</translation>
     </message>
     <message>
         <source>Where they walked: from one visit to %1</source>
-        <translation>Où ils ont marché : d’une visite à %1</translation>
+        <translation>Où ils ont marché&#xa0;: d’une visite à %1</translation>
     </message>
     <message>
         <source>Where they walked</source>
@@ -2202,31 +2369,31 @@
     <message>
         <source>at the %1 camera</source>
         <comment>where visits were</comment>
-        <translation>à la caméra « %1 »</translation>
+        <translation>à la caméra «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>No visits in 7 days</source>
-        <translation>Aucune visite en 7 jours</translation>
+        <translation>Aucune visite en 7&#xa0;jours</translation>
     </message>
     <message>
         <source>1 visit in 7 days</source>
-        <translation>1 visite en 7 jours</translation>
+        <translation>1&#xa0;visite en 7&#xa0;jours</translation>
     </message>
     <message>
         <source>%1 visits in 7 days</source>
-        <translation>%1 visites en 7 jours</translation>
+        <translation>%1&#xa0;visites en 7&#xa0;jours</translation>
     </message>
     <message>
         <source>No visits in 30 days</source>
-        <translation>Aucune visite en 30 jours</translation>
+        <translation>Aucune visite en 30&#xa0;jours</translation>
     </message>
     <message>
         <source>1 visit in 30 days</source>
-        <translation>1 visite en 30 jours</translation>
+        <translation>1&#xa0;visite en 30&#xa0;jours</translation>
     </message>
     <message>
         <source>%1 visits in 30 days</source>
-        <translation>%1 visites en 30 jours</translation>
+        <translation>%1&#xa0;visites en 30&#xa0;jours</translation>
     </message>
     <message>
         <source>No visits in a year</source>
@@ -2234,11 +2401,11 @@
     </message>
     <message>
         <source>1 visit in a year</source>
-        <translation>1 visite en un an</translation>
+        <translation>1&#xa0;visite en un an</translation>
     </message>
     <message>
         <source>%1 visits in a year</source>
-        <translation>%1 visites en un an</translation>
+        <translation>%1&#xa0;visites en un an</translation>
     </message>
     <message>
         <source>No visits on file</source>
@@ -2246,11 +2413,11 @@
     </message>
     <message>
         <source>1 visit on file</source>
-        <translation>1 visite dans l’historique</translation>
+        <translation>1&#xa0;visite dans l’historique</translation>
     </message>
     <message>
         <source>%1 visits on file</source>
-        <translation>%1 visites dans l’historique</translation>
+        <translation>%1&#xa0;visites dans l’historique</translation>
     </message>
     <message>
         <source>%1, all *%2*.</source>
@@ -2293,11 +2460,11 @@
     </message>
     <message>
         <source>1 visit</source>
-        <translation>1 visite</translation>
+        <translation>1&#xa0;visite</translation>
     </message>
     <message>
         <source>%1 visits</source>
-        <translation>%1 visites</translation>
+        <translation>%1&#xa0;visites</translation>
     </message>
     <message>
         <source>no visits</source>
