@@ -187,9 +187,9 @@ class Reader:
 
 
 def is_row(control):
-    """Whether it is a row of a list that grows: a visit's name has a comma, a notice's begins with the time."""
-    role, name = control
-    return role == "push button" and (", " in name or name[2:3] == ":")
+    """Whether it is a row of a list that grows, or a link that tells how many visits a part of the week had."""
+    role, name = control  # a visit's name has a comma, a notice's begins with the time
+    return role == "push button" and (", " in name or name[2:3] == ":" or " between " in name)
 
 
 def walk_welcome(reader):
@@ -225,25 +225,27 @@ def walk_cameras(reader):
 
 def walk_patterns(reader):
     """Each kind of row, square and link sets a filter, and a button ends it."""
-    def rows(part):
-        return [node for node in reader.matches("", "push button") if part in node.name]
+    def buttons(*parts):
+        return [node for node in reader.matches("", "push button") if all(part in node.name for part in parts)]
+
+    def remove(*parts):
+        chip = wait(lambda: [node for node in buttons(*parts) if ", " not in node.name], f"a filter {parts}")[0]
+        reader.use(chip)
 
     reader.choose_all("Patterns")
     reader.find("By camera", "heading")
-    camera = rows(" visit")[0].name
-    reader.press(camera, "1 of 1" if camera.endswith("1 visit") else None)
-    reader.find(camera.split(",")[0], "push button")
+    camera = buttons(" visit")[0].name
+    reader.press(camera)
+    reader.gone("All cameras", "push button")
     reader.press(camera, "All cameras")
     reader.press("You ignored the alert, ")
-    reader.press("You ignored the alert")
-    wait(lambda: len(rows(" visit")) > 3, "the rows to come back")
-    for part in (":00, ", " between "):
-        for node in rows(part)[:1]:
+    remove("You ignored the alert")
+    wait(lambda: len(buttons(" visit")) > 3, "the rows to come back")
+    for link, *filtered in ((":00, ", ":00"), (" between ", ":00 to ")):
+        for node in buttons(link)[:1]:
             reader.use(node)
-            wait(lambda: rows(":00"), "the filter's button")
-            chip = rows(":00")[0]
-            reader.use(chip)
-            reader.gone(chip.name, "push button")
+            reader.gone("By camera", "heading")
+            remove(*filtered)
             reader.choose_all("Patterns")
             reader.find("By camera", "heading")
     reader.choose_all("Visits")

@@ -27,8 +27,8 @@ int FlowLayout::arrange(int width, Place place) const {
 /// All widgets in one row.
 QSize FlowLayout::sizeHint() const {
     int right = 0;
-    const int height = arrange(
-        QLAYOUTSIZE_MAX, [&](QLayoutItem&, const QRect& rect) { right = rect.left() + rect.width(); });
+    const int height = arrange(QLAYOUTSIZE_MAX,
+                               [&](QLayoutItem&, const QRect& rect) { right = rect.left() + rect.width(); });
     return {right, height};
 }
 
@@ -42,8 +42,9 @@ int FlowLayout::heightForWidth(int width) const {
 
 void FlowLayout::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
-    arrange(rect.width(),
-            [&](QLayoutItem& item, const QRect& place) { item.setGeometry(place.translated(rect.topLeft())); });
+    arrange(rect.width(), [&](QLayoutItem& item, const QRect& place) {
+        item.setGeometry(place.translated(rect.topLeft()));
+    });
 }
 
 } // namespace velmora
