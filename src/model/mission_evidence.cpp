@@ -3,7 +3,6 @@
 #include "model/notice_texts.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace velmora {
 
@@ -55,6 +54,35 @@ std::size_t pointsUntil(double seconds, double first, double interval, std::size
                                                    : std::min(count, static_cast<std::size_t>(intervals) + 1);
 }
 
+/// Calls `visit` with the number of each point of a flight and its distance inside the bounds.
+template <class Visit>
+void forEachDistance(const MissionRecord& record, const Bounds& bounds, Visit visit) {
+    if (flew(record.outcome))
+        for (std::size_t i = 0; i < record.dronePath.size(); ++i)
+            visit(i, bounds.distanceInside(record.dronePath[i]));
+}
+
+/// Calls `visit` with each point of a flight.
+template <class Visit>
+std::optional<BoundaryEvidence> evidenceOf(const MissionRecord& record, const Site& site, double buffer,
+                                           Visit visit) {
+    const PathTimes times = pathTimes(record);
+    std::optional<BoundaryEvidence> evidence;
+    forEachDistance(record, boundsOf(site), [&](std::size_t number, double inside) {
+        const double seconds = times.droneFrom + static_cast<double>(number) * times.interval;
+        visit(BoundaryProfile::Point{seconds, inside});
+        if (!evidence)
+            evidence = {inside, seconds};
+        if (inside < evidence->leastDistance) {
+            evidence->leastDistance = inside;
+            evidence->leastAt = seconds;
+        }
+        if (inside < buffer)
+            evidence->secondsInBuffer += times.interval;
+    });
+    return evidence;
+}
+
 } // namespace
 
 std::vector<ResponseMoment> responseTimeline(const MissionRecord& record) {
@@ -76,23 +104,25 @@ std::optional<GivenAnswer> answerOnRecord(const MissionRecord& record) {
 }
 
 std::optional<double> leastDistanceInside(const MissionRecord& record, const Bounds& bounds) {
-    if (!flew(record.outcome) || record.dronePath.empty())
-        return std::nullopt;
-    double least = std::numeric_limits<double>::max();
-    for (const P& point : record.dronePath)
-        least = std::min(least, bounds.distanceInside(point));
+    std::optional<double> least;
+    forEachDistance(record, bounds,
+                    [&](std::size_t, double inside) { least = std::min(least.value_or(inside), inside); });
     return least;
 }
 
 std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
                                                  double buffer) {
-    const Bounds bounds = boundsOf(site);
-    const auto least = leastDistanceInside(record, bounds);
-    if (!least)
+    return evidenceOf(record, site, buffer, [](const BoundaryProfile::Point&) {});
+}
+
+std::optional<BoundaryProfile> boundaryProfile(const MissionRecord& record, const Site& site, double buffer) {
+    BoundaryProfile profile;
+    const auto evidence =
+        evidenceOf(record, site, buffer, [&](const auto& point) { profile.points.push_back(point); });
+    if (!evidence)
         return std::nullopt;
-    const auto inBuffer = std::ranges::count_if(
-        record.dronePath, [&](P point) { return bounds.distanceInside(point) < buffer; });
-    return BoundaryEvidence{*least, static_cast<double>(inBuffer) * intervalOf(record)};
+    profile.evidence = *evidence;
+    return profile;
 }
 
 double durationOf(const MissionRecord& record) {

@@ -40,12 +40,26 @@ std::optional<double> leastDistanceInside(const MissionRecord& record, const Bou
 /// How close the drone came to the boundary.
 struct BoundaryEvidence {
     double leastDistance = 0;   ///< metres between drone and boundary at the closest point; negative outside
+    double leastAt = 0;         ///< when it was there first, seconds after the record's start
     double secondsInBuffer = 0; ///< time closer to the boundary than the buffer
 };
 
 /// `buffer` is in metres. nullopt if the drone did not fly.
 std::optional<BoundaryEvidence> boundaryEvidence(const MissionRecord& record, const Site& site,
                                                  double buffer);
+
+/// The distance between drone and boundary over a flight.
+struct BoundaryProfile {
+    struct Point {
+        double seconds = 0; ///< after the record's start; before 0 if the path is longer than the record
+        double inside = 0;  ///< metres inside the boundary; negative outside
+    };
+    BoundaryEvidence evidence;
+    std::vector<Point> points; ///< one for each point of the drone's path; never empty
+};
+
+/// `buffer` is in metres. nullopt if the drone did not fly.
+std::optional<BoundaryProfile> boundaryProfile(const MissionRecord& record, const Site& site, double buffer);
 
 /// How much of a mission had happened at one moment.
 struct Progress {

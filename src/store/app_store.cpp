@@ -4,8 +4,7 @@
 #include "model/json.h"
 #include "model/mission_evidence.h"
 #include "store/demo_history.h"
-
-#include <QSaveFile>
+#include "store/export_file.h"
 
 #include <algorithm>
 #include <chrono>
@@ -21,21 +20,11 @@ constexpr double longestTick = 5;         // seconds; a longer gap, for example 
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
 
-QString notWritten(const QString& path, const QString& reason) {
-    return AppStore::tr("%1 could not be written: %2.").arg(path, reason);
-}
-
-/// QSaveFile keeps the permissions of an existing file. Flushed before the commit, because a full disk may
-/// fail only then.
 QString writeExport(const QString& path, std::string_view bytes) {
-    if (bytes.empty())
-        return notWritten(path, AppStore::tr("it would be empty"));
-    QSaveFile file(path);
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.flush() &&
-        file.commit())
-        return {};
-    return notWritten(path, file.errorString());
+    ExportFile file(path);
+    if (file.device().isWritable())
+        file.device().write(bytes.data(), static_cast<qint64>(bytes.size()));
+    return file.finish();
 }
 
 } // namespace
@@ -301,6 +290,10 @@ QString AppStore::exportList(const std::vector<RecordKey>& keys, const QString& 
 
 QString AppStore::exportPicture(const QByteArray& png, const QString& path) const {
     return writeExport(path, {png.constData(), static_cast<std::size_t>(png.size())});
+}
+
+std::unique_ptr<ExportFile> AppStore::openExport(const QString& path) const {
+    return std::make_unique<ExportFile>(path);
 }
 
 void AppStore::setStartAtLogin(bool on) {

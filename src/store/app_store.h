@@ -13,6 +13,8 @@
 
 namespace velmora {
 
+class ExportFile;
+
 /// The only controller of the app: owns the live state, the settings and the history, ticks twenty times a
 /// second and carries out the owner's commands. Demo mode advances the simulator, link mode polls the server.
 /// Screens read its values, call its operations and listen to its signals. Main thread only.
@@ -129,6 +131,8 @@ public:
     QString exportList(const std::vector<RecordKey>& keys, const QString& path) const;
     /// Writes a PNG.
     QString exportPicture(const QByteArray& png, const QString& path) const;
+    /// Opens a file for an export that is written piece by piece; never null.
+    std::unique_ptr<ExportFile> openExport(const QString& path) const;
 
 signals:
     void stateChanged();

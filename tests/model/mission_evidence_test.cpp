@@ -84,6 +84,12 @@ TEST(MissionEvidence, BoundaryEvidenceCountsTheTimeInsideTheBuffer) {
     ASSERT_TRUE(evidence);
     EXPECT_DOUBLE_EQ(evidence->leastDistance, 1.5);
     EXPECT_DOUBLE_EQ(evidence->secondsInBuffer, 1) << "a point on the buffer's edge is not inside it";
+    const auto profile = boundaryProfile(record, square(), 5);
+    ASSERT_TRUE(profile);
+    EXPECT_EQ(profile->points.size(), 5u);
+    EXPECT_DOUBLE_EQ(profile->points.back().seconds, 10) << "the drone flies until the end";
+    EXPECT_DOUBLE_EQ(profile->points[2].inside, 3);
+    EXPECT_DOUBLE_EQ(profile->evidence.leastAt, profile->points[3].seconds);
 
     record.dronePath[3] = {50, -2};
     EXPECT_DOUBLE_EQ(boundaryEvidence(record, square(), 5)->leastDistance, -2);

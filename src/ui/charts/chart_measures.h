@@ -19,6 +19,9 @@ inline constexpr int countRow = 28, countBar = 6, countName = 96, countNumber = 
 inline constexpr double countBarRadius = 3;
 inline constexpr int countTextX = 16;
 
+// The distance from the boundary over a flight
+inline constexpr int boundaryChart = 118;
+
 // The heat map
 inline constexpr QSize heatKey(84, 8);
 inline constexpr int heatKeyRow = 16, heatKeyGap = 8;

@@ -151,18 +151,72 @@ double bearingOf(QChar character, const TextStyle& style) {
     return cell + outlinesOf(character, style).boundingRect().left();
 }
 
+namespace {
+
+/// Ends of the pieces that a text is drawn in: letters together, digits together, any other character alone.
+/// The typeface has other shapes for signs beside digits and capitals, such as a raised colon, and a document
+/// does not know which character such a shape stands for.
+std::vector<qsizetype> pieceEnds(const QString& text) {
+    if (std::ranges::any_of(text, isRightToLeft))
+        return {text.size()};
+    const auto kind = [](QChar character) {
+        return character.isLetter() || character.isSpace() || character.isMark() ? 1
+               : isAsciiDigit(character)                                         ? 2
+                                                                                 : 0;
+    };
+    std::vector<qsizetype> ends;
+    for (qsizetype i = 1; i <= text.size(); ++i)
+        if (i == text.size() || kind(text[i]) == 0 || kind(text[i]) != kind(text[i - 1]))
+            ends.push_back(i);
+    return ends;
+}
+
+/// In the enlarged font, because Qt rounds the size of the other one.
+void drawAsText(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
+                const QBrush& color) {
+    painter.save();
+    painter.translate(baseline);
+    painter.scale(1 / enlarged, 1 / enlarged);
+    painter.setFont(enlargedFontOf(style));
+    painter.setPen(QPen(color, 0));
+    const Ruler ruler(style);
+    double x = 0;
+    qsizetype from = 0;
+    for (const qsizetype end : pieceEnds(text)) {
+        const QString piece = text.mid(from, end - from);
+        painter.drawText(QPointF(x * enlarged, 0), piece);
+        x += ruler.advance(piece);
+        from = end;
+    }
+    painter.restore();
+}
+
+/// Readers of a document take letters that are wider apart for words.
+TextStyle styleFor(const QPainter& painter, const TextStyle& style) {
+    constexpr double widest = 0.07; // of the size
+    TextStyle adapted = style;
+    if (painter.paintEngine()->type() == QPaintEngine::Pdf)
+        adapted.tracking = std::min(style.tracking, widest * style.size);
+    return adapted;
+}
+
+} // namespace
+
 /// On pixels, fills outlines instead of drawing glyphs, because FreeType draws the stems of this typeface one
 /// weight too thick. Any other device gets text, which can be selected and searched.
 void drawRun(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
              const QBrush& color) {
-    if (!hasOutlines(text) || painter.paintEngine()->type() != QPaintEngine::Raster) {
+    const QPaintEngine::Type device = painter.paintEngine()->type();
+    if (device == QPaintEngine::Pdf) {
+        drawAsText(painter, baseline, text, style, color);
+    } else if (!hasOutlines(text) || device != QPaintEngine::Raster) {
         painter.setFont(fontOf(style));
         painter.setPen(QPen(color, 0));
         painter.drawText(baseline, text);
-        return;
+    } else {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(outlinesOf(text, style).translated(baseline), color);
     }
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outlinesOf(text, style).translated(baseline), color);
 }
 
 namespace {
@@ -177,8 +231,9 @@ void drawEdge(QPainter& painter, QPointF baseline, const QString& text, const Te
 
 } // namespace
 
-void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& style,
+void drawText(QPainter& painter, const QRectF& rect, const QString& text, const TextStyle& wanted,
               const QBrush& color, Qt::Alignment alignment, const TextEdge& edge) {
+    const TextStyle style = styleFor(painter, wanted);
     const QString shown = elided(text, style, rect.width());
     const double width = casedWidth(shown, style);
     double x = rect.left(), top = rect.top();

@@ -7,6 +7,7 @@
 #include "ui/map/drone_glyph.h"
 
 #include <QCache>
+#include <QPaintEngine>
 #include <QPixmap>
 
 #include <algorithm>
@@ -33,6 +34,17 @@ double widthOf(const QString& text) {
     return width;
 }
 
+QPixmap painted(const MapCaption& caption, const QColor& letters, double scale) {
+    const QRectF area = caption.area(), box = caption.box().translated(-area.topLeft());
+    QPixmap picture((area.size() * scale).toSize() + QSize(1, 1));
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawText(painter, box, caption.text, Type::mapCaption, letters, Qt::AlignVCenter,
+             {SB::faded(SB::navy, 0.55), edgeWidth});
+    return picture;
+}
+
 /// The caption as it is painted, with its area's size. Cached, because edges take longer than letters, and
 /// the map paints its moving captions in every frame.
 QPixmap pictureOf(const MapCaption& caption, double scale) {
@@ -42,15 +54,20 @@ QPixmap pictureOf(const MapCaption& caption, double scale) {
     const Key key{{caption.color.rgba(), scale}, caption.text};
     if (const QPixmap* known = cache.object(key))
         return *known;
-    const QRectF area = caption.area(), box = caption.box().translated(-area.topLeft());
-    QPixmap picture((area.size() * scale).toSize() + QSize(1, 1));
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    drawText(painter, box, caption.text, Type::mapCaption, caption.color, Qt::AlignVCenter,
-             {SB::faded(SB::navy, 0.55), edgeWidth});
-    painter.end();
+    const QPixmap picture = painted(caption, caption.color, scale);
     cache.insert(key, new QPixmap(picture), picture.width() * picture.height());
+    return picture;
+}
+
+/// The edge of a caption without its letters. A document holds a picture once, however often it is drawn.
+QPixmap edgeOf(const MapCaption& caption) {
+    constexpr double scale = 3;
+    constexpr int mostPixels = 600'000; // about 2 MB
+    static QCache<QString, QPixmap> cache(mostPixels);
+    if (const QPixmap* known = cache.object(caption.text))
+        return *known;
+    const QPixmap picture = painted(caption, SB::none, scale);
+    cache.insert(caption.text, new QPixmap(picture), picture.width() * picture.height());
     return picture;
 }
 
@@ -89,8 +106,13 @@ QRectF MapCaption::area() const {
     return box().adjusted(-margin, -margin, margin, margin);
 }
 
-/// Whole pixels keep the letters sharp while the caption moves.
+/// On pixels, whole ones keep the letters sharp while the caption moves. In a document it is text.
 void drawCaption(QPainter& painter, const MapCaption& caption) {
+    if (painter.paintEngine()->type() == QPaintEngine::Pdf) {
+        painter.drawPixmap(caption.area().topLeft(), edgeOf(caption));
+        drawText(painter, caption.box(), caption.text, Type::mapCaption, caption.color, Qt::AlignVCenter);
+        return;
+    }
     const double scale = painter.device()->devicePixelRatioF();
     const QPointF corner = caption.area().topLeft() * scale;
     painter.drawPixmap(QPointF(std::round(corner.x()), std::round(corner.y())) / scale,

@@ -9,8 +9,10 @@
 #include "ui/look/words.h"
 #include "ui/map/drone_glyph.h"
 #include "ui/map/map_captions.h"
+#include "ui/map/simplified_line.h"
 
 #include <QLineF>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -28,6 +30,7 @@ constexpr double crossReach = 2, crossLine = 1.2; // of an offline camera, in pi
 constexpr double markerLabelOffset = 8;
 constexpr double markerRadius = 4;
 constexpr double pathEdge = 2; // what the line below a path is wider
+constexpr double documentTolerance = 0.15;
 constexpr double longestPath = 24'000, pathPiece = 200;
 
 QPen dashed(const QColor& color, double width, double on, double off, Qt::PenCapStyle cap = Qt::FlatCap) {
@@ -140,10 +143,10 @@ public:
         const QPen below(edge, width + pathEdge, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin); // fast
         drawPath(seen, below);
         drawPath(flown, below);
-        drawPath(seen, QPen(painted(SB::faded(SB::lilac, replay ? 0.85 : 0.55), edge), width, Qt::SolidLine,
+        const auto color = [&](const QColor& line) { return overwrites() ? painted(line, edge) : line; };
+        drawPath(seen, QPen(color(SB::faded(SB::lilac, replay ? 0.85 : 0.55)), width, Qt::SolidLine,
                             Qt::RoundCap, Qt::RoundJoin));
-        drawPath(flown,
-                 dashed(painted(SB::faded(SB::dTeal, replay ? 0.95 : 0.7), edge), width, 4, 4, Qt::RoundCap));
+        drawPath(flown, dashed(color(SB::faded(SB::dTeal, replay ? 0.95 : 0.7)), width, 4, 4, Qt::RoundCap));
     }
 
     void drawPadCaption() {
@@ -226,12 +229,17 @@ private:
         painter_.drawLine(center - QPointF(reach, -reach), center + QPointF(reach, -reach));
     }
 
+    /// Whether a line can replace what is below it. In a document it cannot.
+    bool overwrites() const { return painter_.paintEngine()->hasFeature(QPaintEngine::PorterDuff); }
+
     /// Strokes a path piece by piece, because stroking a long tangle at once takes many times as long. Each
-    /// piece overwrites the end of the one before, so that the overlap is not darker.
+    /// piece overwrites the end of the one before, so that the overlap is not darker. A document takes the
+    /// path as a whole.
     void drawPath(std::span<const P> path, QPen pen) {
         if (path.size() < 2)
             return;
-        painter_.setCompositionMode(QPainter::CompositionMode_Source);
+        if (overwrites())
+            painter_.setCompositionMode(QPainter::CompositionMode_Source);
         QPolygonF piece;
         double length = 0;
         for (auto point = path.begin() + newestPart(path); point != path.end(); ++point) {
@@ -239,16 +247,17 @@ private:
             if (!piece.empty())
                 length += QLineF(piece.back(), at).length();
             piece.append(at);
-            if (length < pathPiece && std::next(point) != path.end())
+            if ((length < pathPiece || !overwrites()) && std::next(point) != path.end())
                 continue;
             painter_.setPen(pen);
-            painter_.drawPolyline(piece);
+            painter_.drawPolyline(overwrites() ? piece : simplified(piece, documentTolerance));
             if (pen.style() == Qt::CustomDashLine)
                 pen.setDashOffset(pen.dashOffset() + length / pen.widthF());
             piece = {at};
             length = 0;
         }
-        painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        if (overwrites())
+            painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
 
     /// Index of the first point to draw. Older points are left out: a very long path covers the map, and a

@@ -10,6 +10,8 @@
 #include "ui/look/measures.h"
 #include "ui/look/words.h"
 #include "ui/map/site_map.h"
+#include "ui/report/report_job.h"
+#include "ui/report/report_progress.h"
 #include "ui/screens/alert/approval_overlay.h"
 #include "ui/screens/cameras/cameras_view.h"
 #include "ui/screens/history/history_view.h"
@@ -34,6 +36,12 @@
 #include <algorithm>
 
 namespace velmora {
+
+namespace {
+
+constexpr std::size_t longReport = 50; // visits; a longer report shows its progress
+
+} // namespace
 
 MainWindow::MainWindow(AppStore& store)
     : store_(store),
@@ -78,15 +86,26 @@ void MainWindow::buildCards() {
     clearDemo_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
     exportFailed_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
+    report_ = new ReportProgress(this);
     about_ = new AboutCard(this);
     for (OverlayCard* overlay :
-         std::initializer_list<OverlayCard*>{approval_, landing_, clearDemo_, exportFailed_, about_})
+         std::initializer_list<OverlayCard*>{approval_, landing_, clearDemo_, exportFailed_, report_, about_})
         addOverlay(overlay);
     connect(clearDemo_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
         history_->focusContent();
     });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::closePopupsAndDialogs);
+    connect(approval_, &ApprovalOverlay::asked, report_, &ReportProgress::letGo); // it would cover the flight
+    connect(approval_, &OverlayCard::openChanged, this, [this] { showFailedExport(exportFailure_); });
+}
+
+/// A report can fail while an alert waits. Its card would take the focus of the alert's, so it comes after
+/// it.
+void MainWindow::showFailedExport(bool failed) {
+    exportFailure_ = failed && approval_->isOpen();
+    if (failed && !approval_->isOpen())
+        exportFailed_->open();
 }
 
 /// Closes every menu and dialog of the program, including the tray's, because they would cover the alert or
@@ -108,7 +127,11 @@ void MainWindow::buildSections() {
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
     connect(history_, &HistoryView::exportFailed, this, [this](const QString& why) {
         exportFailed_->setBody(why + ' ' + tr("Choose another folder and export it again."));
-        exportFailed_->open();
+        showFailedExport(true);
+    });
+    connect(history_, &HistoryView::reportStarted, this, [this](ReportJob* job) {
+        if (job->visits() >= longReport && store_.phase() == Phase::docked)
+            report_->follow(*job);
     });
     sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);

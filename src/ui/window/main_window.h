@@ -19,6 +19,7 @@ class HistoryView;
 class LandConfirmation;
 class LiveView;
 class OverlayCard;
+class ReportProgress;
 class ResizeBands;
 class SectionStack;
 class TitleStrip;
@@ -46,6 +47,7 @@ private:
     void showSection();
     void showWelcome();
     void askToClearDemo();
+    void showFailedExport(bool failed);
     void updateLayers();
     bool isFailureShown(Command command) const;
     bool isCovered() const;
@@ -65,6 +67,8 @@ private:
     LandConfirmation* landing_;
     ConfirmationCard* clearDemo_;    ///< asks before the demo history is cleared
     ConfirmationCard* exportFailed_; ///< explains why an export failed
+    bool exportFailure_ = false;     ///< it waits until the alert's card is closed
+    ReportProgress* report_;         ///< how far a long report is
     AboutCard* about_;
     QList<OverlayCard*> overlays_;
     ResizeBands* bands_;

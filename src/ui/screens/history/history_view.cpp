@@ -5,6 +5,9 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/look/measures.h"
 #include "ui/look/words.h"
+#include "ui/report/report_job.h"
+#include "ui/report/report_paper.h"
+#include "ui/report/report_words.h"
 #include "ui/screens/grounds.h"
 #include "ui/screens/history/history_filters.h"
 #include "ui/screens/history/history_list.h"
@@ -28,11 +31,22 @@ namespace {
 
 /// A file name that is valid on every file system.
 QString fileNameFor(const MissionRecord& record) {
-    QString name = QStringLiteral("velmora-") + toQString(record.id);
+    constexpr qsizetype longest = 60;
+    QString name = QStringLiteral("velmora-") + toQString(record.id).left(longest);
     for (QChar& character : name)
         if (!character.isLetterOrNumber() && character != '-')
             character = '-';
     return name;
+}
+
+/// "Visitor left your grounds, Thursday 19 November 2026, 20:24:10 to 20:26:30 (UTC+0)".
+QString reportTitle(const MissionRecord& record) {
+    return HistoryView::tr("Visit report: %1, %2", "outcome, times")
+        .arg(shownText(rawValue(record.outcome)), visitTimes(record));
+}
+
+ReportSetting reportSetting(const AppStore& store) {
+    return {groundsFor(store).site, store.settings(), store.now(), paperFor(paperLocale())};
 }
 
 QByteArray pngOf(const QPixmap& picture) {
@@ -207,6 +221,9 @@ void HistoryView::offerExports(QRect above) {
         connect(menu->addAction(offered.title), &QAction::triggered, this,
                 [=, this] { saveAs(offered, prepare()); });
     };
+    const QString pdf = QStringLiteral("pdf"), pdfs = tr("PDF (*.pdf)"),
+                  list = QStringLiteral("velmora-visits");
+    offer({tr("Report (PDF)…"), name, pdf, pdfs}, [this] { return report(); });
     offer({tr("Record as JSON…"), name, QStringLiteral("json"), tr("JSON (*.json)")},
           [=, this] { return std::bind_front(&AppStore::exportRecord, &store_, record); });
     offer({tr("Paths and notices as CSV…"), name, csv, tr("CSV (*.csv)")},
@@ -215,10 +232,41 @@ void HistoryView::offerExports(QRect above) {
         return std::bind_front(&AppStore::exportPicture, &store_, pngOf(detail_->mapPicture()));
     });
     menu->addSeparator();
-    offer({tr("The list as CSV…"), QStringLiteral("velmora-visits"), csv, tr("CSV (*.csv)")},
+    offer({tr("Report of the list (PDF)…"), list, pdf, pdfs}, [this] { return listReport(); });
+    offer({tr("The list as CSV…"), list, csv, tr("CSV (*.csv)")},
           [this] { return std::bind_front(&AppStore::exportList, &store_, list_->shown()); });
     const int left = std::min(above.left(), above.left() + above.width() - menu->sizeHint().width());
     menu->popup({left, above.top() + above.height() + Measure::gap4});
+}
+
+HistoryView::Write HistoryView::report() {
+    return [this, record = detail_->record()](const QString& path) {
+        ReportContent content{reportTitle(*record), reportSetting(store_), {}};
+        content.visits.push_back({record, store_.answerTo(*record)});
+        startReport(path, std::move(content));
+        return QString();
+    };
+}
+
+HistoryView::Write HistoryView::listReport() {
+    return [this, entries = list_->entries()](const QString& path) {
+        ReportContent content{tr("Report of the visits"), reportSetting(store_), {}};
+        for (const HistoryEntry& entry : entries)
+            content.visits.push_back({entry.record, store_.answerTo(*entry.record)});
+        content.hasCover = true;
+        startReport(path, std::move(content));
+        return QString();
+    };
+}
+
+void HistoryView::startReport(const QString& path, ReportContent content) {
+    auto* job = new ReportJob(store_.openExport(path), std::move(content), this);
+    connect(job, &ReportJob::finished, this, [this](const QString& error) {
+        if (!error.isEmpty())
+            emit exportFailed(error);
+    });
+    emit reportStarted(job);
+    job->start();
 }
 
 void HistoryView::saveAs(const Export& chosen, Write write) {

@@ -10,6 +10,8 @@ namespace velmora {
 class HistoryList;
 class PatternsPane;
 class RecordDetail;
+class ReportJob;
+struct ReportContent;
 struct HistoryFilter;
 class SBButton;
 
@@ -30,6 +32,8 @@ signals:
     void clearDemoRequested();
     /// An export failed; `why` is a sentence that names the file and the reason.
     void exportFailed(const QString& why);
+    /// A report is being written, which takes a while.
+    void reportStarted(velmora::ReportJob* job);
 
 protected:
     void refresh() override;
@@ -57,6 +61,10 @@ private:
     /// Writes the file; returns an error text, or an empty one on success.
     using Write = std::function<QString(const QString& path)>;
     void offerExports(QRect above);
+    /// Writes a report of the selected visit, or of the list with a cover.
+    Write report();
+    Write listReport();
+    void startReport(const QString& path, ReportContent content);
     void saveAs(const Export& chosen, Write write);
 
     HistoryList* list_;

@@ -6,6 +6,7 @@
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/metric.h"
 #include "ui/blocks/text.h"
+#include "ui/charts/boundary_chart.h"
 #include "ui/look/answer_words.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
@@ -62,7 +63,8 @@ RecordFacts::RecordFacts(QWidget* replay, QWidget* parent)
       log_(new LogList(LogList::Interaction::clickable, this)),
       logSection_(section(tr("What happened"), log_, Measure::gap8)),
       boundary_(new Text({}, Type::log, SB::body, this)),
-      boundarySection_(section(tr("Boundary"), boundary_, Measure::gap4)),
+      chart_(new BoundaryChartView(this)),
+      boundarySection_(boundarySection()),
       visitor_(new QWidget(this)),
       picture_(new ArtImage({}, ArtImage::Mode::fill, Measure::thumbnailRadius, visitor_)),
       identity_(new Text({}, Type::label2, SB::muted, visitor_)),
@@ -93,11 +95,25 @@ QWidget* RecordFacts::buildResponse() {
     return section;
 }
 
+QWidget* RecordFacts::boundarySection() {
+    auto* content = new QWidget(this);
+    auto* column = bareLayout<QVBoxLayout>(content, Measure::gap16);
+    column->addWidget(boundary_);
+    column->addWidget(chart_);
+    return section(tr("Boundary"), content, Measure::gap4);
+}
+
+/// In one column there is no room for it.
+void RecordFacts::showChart() {
+    chart_->setVisible(hasChart_ && twoColumns_ == true);
+}
+
 void RecordFacts::setTwoColumns(bool two) {
     if (twoColumns_ == two)
         return;
     twoColumns_ = two;
     response_->setChartShown(two);
+    showChart();
     for (std::size_t i = 1; i < lines_.size(); ++i)
         lines_[i]->setVisible(two);
     layoutMetrics(two ? 2 : 4);
@@ -195,6 +211,7 @@ void RecordFacts::setMoment(const MissionRecord& record, const std::optional<dou
     const auto last = std::find_if(record.notices.rbegin(), record.notices.rend(), happened);
     const auto count = static_cast<std::size_t>(record.notices.rend() - last);
     log_->setCurrent(count > 0 ? std::optional(count - 1) : std::nullopt);
+    chart_->setMoment(seconds);
 }
 
 void RecordFacts::showMetrics(const MissionRecord& record) {
@@ -216,19 +233,13 @@ void RecordFacts::setAnswer(const MissionRecord& record, const std::optional<Giv
 }
 
 void RecordFacts::setBoundary(const MissionRecord& record, const Site& site, const Settings& settings) {
-    const auto evidence = boundaryEvidence(record, site, settings.boundaryBuffer);
-    if (!evidence) {
-        boundary_->setText(tr("The drone did not fly."));
-        return;
-    }
-    const QString inBuffer = duration(Seconds{evidence->secondsInBuffer});
-    const QString buffer = rounded(settings.boundaryBuffer);
-    boundary_->setText(
-        evidence->leastDistance < 0
-            ? tr("The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.")
-                  .arg(rounded(-evidence->leastDistance), inBuffer, buffer)
-            : tr("The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.")
-                  .arg(oneDecimal(evidence->leastDistance), inBuffer, buffer));
+    auto chart = boundaryChartOf(record, site, settings.boundaryBuffer);
+    hasChart_ = chart.has_value();
+    boundary_->setText(chart ? boundarySentence(chart->profile.evidence, chart->buffer)
+                             : tr("The drone did not fly."));
+    if (chart)
+        chart_->setChart(std::move(*chart));
+    showChart();
 }
 
 void RecordFacts::showVisitor(const MissionRecord& record) {

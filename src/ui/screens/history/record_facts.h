@@ -9,6 +9,7 @@
 namespace velmora {
 
 class ArtImage;
+class BoundaryChartView;
 class Hairline;
 class LogList;
 class Metric;
@@ -39,6 +40,8 @@ signals:
     void momentRequested(double seconds);
 
 private:
+    QWidget* boundarySection();
+    void showChart();
     QWidget* section(const QString& heading, QWidget* content, int gap);
     QWidget* buildResponse();
     void layoutMetrics(int columns);
@@ -60,12 +63,14 @@ private:
     LogList* log_;
     QWidget* logSection_;
     Text* boundary_;
+    BoundaryChartView* chart_;
     QWidget* boundarySection_;
     QWidget* visitor_;
     ArtImage* picture_;
     Text* identity_;
     Text* times_;
     std::array<Hairline*, 3> lines_{};
+    bool hasChart_ = false; ///< the drone flew
     std::optional<bool> twoColumns_;
     Date start_;
 };

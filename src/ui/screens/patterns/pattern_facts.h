@@ -24,9 +24,7 @@ public:
     void setInColumn(bool column);
 
 private:
-    Metric* answer_;
-    Metric* station_;
-    Metric* inside_;
+    std::vector<Metric*> metrics_;
     std::array<Hairline*, 2> lines_{};
     QBoxLayout* layout_;
 };
