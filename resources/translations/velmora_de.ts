@@ -252,17 +252,6 @@
     </message>
 </context>
 <context>
-    <name>velmora::AppStore</name>
-    <message>
-        <source>%1 could not be written: %2.</source>
-        <translation>%1 konnte nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
-        <source>it would be empty</source>
-        <translation>die Datei wäre leer</translation>
-    </message>
-</context>
-<context>
     <name>velmora::ApprovalMetrics</name>
     <message>
         <source>Match</source>
@@ -352,6 +341,13 @@
     <message>
         <source>velmora itself is armed and disarmed at the server</source>
         <translation>velmora wird direkt am Server scharf und unscharf geschaltet</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::BoundaryChartView</name>
+    <message>
+        <source>Metres inside your boundary</source>
+        <translation>Meter innerhalb Ihrer Grenze</translation>
     </message>
 </context>
 <context>
@@ -751,6 +747,27 @@
         <source>The list as CSV…</source>
         <translation>Liste als CSV…</translation>
     </message>
+    <message>
+        <source>Visit report: %1, %2</source>
+        <comment>outcome, times</comment>
+        <translation>Besuchsbericht: %1, %2</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Report (PDF)…</source>
+        <translation>Bericht (PDF) …</translation>
+    </message>
+    <message>
+        <source>Report of the list (PDF)…</source>
+        <translation>Bericht über die Liste (PDF) …</translation>
+    </message>
+    <message>
+        <source>Report of the visits</source>
+        <translation>Bericht über die Besuche</translation>
+    </message>
 </context>
 <context>
     <name>velmora::LandConfirmation</name>
@@ -998,73 +1015,6 @@
     </message>
 </context>
 <context>
-    <name>velmora::PatternFacts</name>
-    <message>
-        <source>s</source>
-        <translation>s</translation>
-    </message>
-    <message>
-        <source>min</source>
-        <translation>min</translation>
-    </message>
-    <message>
-        <source>no alert asked for one</source>
-        <translation>kein Alarm verlangte eine</translation>
-    </message>
-    <message>
-        <source>%1 of %2 alerts expired</source>
-        <translation>%1 von %2 Alarmen abgelaufen</translation>
-    </message>
-    <message>
-        <source>1 answer; %1 of %2 alerts expired</source>
-        <translation>1 Antwort; %1 von %2 Alarmen abgelaufen</translation>
-    </message>
-    <message>
-        <source>median of %1 answers; %2 of %3 alerts expired</source>
-        <translation>Median von %1 Antworten; %2 von %3 Alarmen abgelaufen</translation>
-    </message>
-    <message>
-        <source>no flight reached a visitor</source>
-        <translation>kein Flug erreichte einen Besucher</translation>
-    </message>
-    <message>
-        <source>1 flight, seen to on station</source>
-        <translation>1 Flug, von gesehen bis vor Ort</translation>
-    </message>
-    <message>
-        <source>median of %1 flights, seen to on station</source>
-        <translation>Median von %1 Flügen, von gesehen bis vor Ort</translation>
-    </message>
-    <message>
-        <source>the drone did not fly</source>
-        <translation>die Drohne ist nicht geflogen</translation>
-    </message>
-    <message>
-        <source>the drone left your boundary</source>
-        <translation>die Drohne hat Ihre Grenze verlassen</translation>
-    </message>
-    <message>
-        <source>nearest the drone came to your boundary</source>
-        <translation>näher kam die Drohne Ihrer Grenze nie</translation>
-    </message>
-    <message>
-        <source>To your answer</source>
-        <translation>Bis zur Antwort</translation>
-    </message>
-    <message>
-        <source>To the visitor</source>
-        <translation>Bis zum Besucher</translation>
-    </message>
-    <message>
-        <source>Inside by at least</source>
-        <translation>Abstand innen</translation>
-    </message>
-    <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-</context>
-<context>
     <name>velmora::PatternsPane</name>
     <message>
         <source>Patterns appear after three visits.</source>
@@ -1210,14 +1160,6 @@
         <translation>Erkannt %1, beendet %2</translation>
     </message>
     <message>
-        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
-        <translation>Die Drohne kam bis zu %1&#xa0;m über die Grenze hinaus und war %2 im Puffer von %3&#xa0;m.</translation>
-    </message>
-    <message>
-        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
-        <translation>Die Drohne blieb mindestens %1&#xa0;m innerhalb der Grenze und war %2 im Puffer von %3&#xa0;m.</translation>
-    </message>
-    <message>
         <source>Picture of %1</source>
         <translation>Bild: %1</translation>
     </message>
@@ -1256,67 +1198,22 @@
     </message>
 </context>
 <context>
+    <name>velmora::ReportProgress</name>
+    <message>
+        <source>Making the report</source>
+        <translation>Der Bericht wird erstellt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 visits go into the report. The file is complete when all is done.</source>
+        <translation>%1 Besuche kommen in den Bericht. Die Datei ist vollständig, wenn alles fertig ist.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ResponseTimes</name>
-    <message>
-        <source>Seen</source>
-        <translation>Gesehen</translation>
-    </message>
-    <message>
-        <source>answered</source>
-        <translation>beantwortet</translation>
-    </message>
-    <message>
-        <source>airborne</source>
-        <translation>in der Luft</translation>
-    </message>
-    <message>
-        <source>on station</source>
-        <translation>vor Ort</translation>
-    </message>
-    <message>
-        <source>coming home</source>
-        <translation>kehrt heim</translation>
-    </message>
-    <message>
-        <source>ended</source>
-        <translation>beendet</translation>
-    </message>
-    <message>
-        <source>landed</source>
-        <translation>gelandet</translation>
-    </message>
-    <message>
-        <source>Seen to your answer</source>
-        <translation>Bis zu Ihrer Antwort</translation>
-    </message>
-    <message>
-        <source>Seen to the end</source>
-        <translation>Bis zum Ende</translation>
-    </message>
-    <message>
-        <source>Your answer to take-off</source>
-        <translation>Antwort bis Start</translation>
-    </message>
-    <message>
-        <source>After your answer</source>
-        <translation>Nach Ihrer Antwort</translation>
-    </message>
-    <message>
-        <source>On its way to the visitor</source>
-        <translation>Unterwegs zum Besucher</translation>
-    </message>
-    <message>
-        <source>Following</source>
-        <translation>Folgt</translation>
-    </message>
-    <message>
-        <source>Following and landing</source>
-        <translation>Verfolgung und Landung</translation>
-    </message>
-    <message>
-        <source>Coming home and landing</source>
-        <translation>Heimflug und Landung</translation>
-    </message>
     <message>
         <source>Response</source>
         <translation>Reaktion</translation>
@@ -2527,6 +2424,404 @@
         <source>%1 %2, %3</source>
         <comment>weekday; hour; visits</comment>
         <translation>%1 %2, %3</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2.</source>
+        <translation>%1 konnte nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>it would be empty</source>
+        <translation>die Datei wäre leer</translation>
+    </message>
+    <message>
+        <source>It was nearest to the boundary at %1.</source>
+        <translation>Am nächsten war sie der Grenze um %1.</translation>
+    </message>
+    <message>
+        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
+        <translation>Die Drohne kam bis zu %1&#xa0;m über die Grenze hinaus und war %2 im Puffer von %3&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
+        <translation>Die Drohne blieb mindestens %1&#xa0;m innerhalb der Grenze und war %2 im Puffer von %3&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>no alert asked for one</source>
+        <translation>kein Alarm verlangte eine</translation>
+    </message>
+    <message>
+        <source>%1 of %2 alerts expired</source>
+        <translation>%1 von %2 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>1 answer; %1 of %2 alerts expired</source>
+        <translation>1 Antwort; %1 von %2 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>median of %1 answers; %2 of %3 alerts expired</source>
+        <translation>Median von %1 Antworten; %2 von %3 Alarmen abgelaufen</translation>
+    </message>
+    <message>
+        <source>no flight reached a visitor</source>
+        <translation>kein Flug erreichte einen Besucher</translation>
+    </message>
+    <message>
+        <source>1 flight, seen to on station</source>
+        <translation>1 Flug, von gesehen bis vor Ort</translation>
+    </message>
+    <message>
+        <source>median of %1 flights, seen to on station</source>
+        <translation>Median von %1 Flügen, von gesehen bis vor Ort</translation>
+    </message>
+    <message>
+        <source>Inside by at least</source>
+        <translation>Mindestens innerhalb</translation>
+    </message>
+    <message>
+        <source>the drone did not fly</source>
+        <translation>die Drohne flog nicht</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>the drone left your boundary</source>
+        <translation>die Drohne verließ Ihre Grenze</translation>
+    </message>
+    <message>
+        <source>nearest the drone came to your boundary</source>
+        <translation>näher kam die Drohne Ihrer Grenze nicht</translation>
+    </message>
+    <message>
+        <source>To your answer</source>
+        <translation>Bis zu Ihrer Antwort</translation>
+    </message>
+    <message>
+        <source>To the visitor</source>
+        <translation>Bis zum Besucher</translation>
+    </message>
+    <message>
+        <source>Seen</source>
+        <translation>Gesehen</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>beantwortet</translation>
+    </message>
+    <message>
+        <source>airborne</source>
+        <translation>in der Luft</translation>
+    </message>
+    <message>
+        <source>on station</source>
+        <translation>vor Ort</translation>
+    </message>
+    <message>
+        <source>coming home</source>
+        <translation>kehrt heim</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>Seen to your answer</source>
+        <translation>Bis zu Ihrer Antwort</translation>
+    </message>
+    <message>
+        <source>Seen to the end</source>
+        <translation>Bis zum Ende</translation>
+    </message>
+    <message>
+        <source>Your answer to take-off</source>
+        <translation>Antwort bis Start</translation>
+    </message>
+    <message>
+        <source>After your answer</source>
+        <translation>Nach Ihrer Antwort</translation>
+    </message>
+    <message>
+        <source>On its way to the visitor</source>
+        <translation>Unterwegs zum Besucher</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <comment>part of a response</comment>
+        <translation>Folgt</translation>
+    </message>
+    <message>
+        <source>Following and landing</source>
+        <translation>Verfolgung und Landung</translation>
+    </message>
+    <message>
+        <source>Coming home and landing</source>
+        <translation>Heimflug und Landung</translation>
+    </message>
+    <message>
+        <source>landed</source>
+        <translation>gelandet</translation>
+    </message>
+    <message>
+        <source>Report of the visits</source>
+        <translation>Bericht über die Besuche</translation>
+    </message>
+    <message>
+        <source>Site: %1 · %2</source>
+        <comment>name of the site, who made the report</comment>
+        <translation>Grundstück: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Patterns appear after three visits.</source>
+        <translation>Muster erscheinen ab drei Besuchen.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 (%3)</source>
+        <comment>date, date, offset from UTC</comment>
+        <translation>%1 bis %2 (%3)</translation>
+    </message>
+    <message>
+        <source>When they came</source>
+        <translation>Wann sie kamen</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Nach Kamera</translation>
+    </message>
+    <message>
+        <source>How they ended</source>
+        <translation>Wie sie endeten</translation>
+    </message>
+    <message>
+        <source>%1 of %2 flown</source>
+        <translation>%1 von %2 geflogen</translation>
+    </message>
+    <message>
+        <source>%1 % done</source>
+        <translation>%1&#xa0;% fertig</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>time, offset from UTC</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Airborne at %1.</source>
+        <translation>In der Luft um %1.</translation>
+    </message>
+    <message>
+        <source>Airborne at %1, at a height of %2 m.</source>
+        <translation>In der Luft um %1, in %2&#xa0;m Höhe.</translation>
+    </message>
+    <message>
+        <source>On station at %1.</source>
+        <translation>Vor Ort um %1.</translation>
+    </message>
+    <message>
+        <source>On station at %1, following %2 m behind.</source>
+        <translation>Vor Ort um %1, folgt mit %2&#xa0;m Abstand.</translation>
+    </message>
+    <message>
+        <source>On its way home at %1.</source>
+        <translation>Auf dem Heimweg um %1.</translation>
+    </message>
+    <message>
+        <source>The flight ended at %1.</source>
+        <translation>Der Flug endete um %1.</translation>
+    </message>
+    <message>
+        <source>On its pad at %1.</source>
+        <translation>Auf ihrem Landeplatz um %1.</translation>
+    </message>
+    <message>
+        <source>Landed away from its pad at %1.</source>
+        <translation>Abseits ihres Landeplatzes gelandet um %1.</translation>
+    </message>
+    <message>
+        <source>The owner approved the launch at %1, %2 after the camera reported the visitor.</source>
+        <translation>Der Eigentümer gab den Start um %1 frei, %2 nachdem die Kamera den Besucher gemeldet hatte.</translation>
+    </message>
+    <message>
+        <source>The owner ignored the alert at %1, %2 after the camera reported the visitor.</source>
+        <translation>Der Eigentümer ignorierte den Alarm um %1, %2 nachdem die Kamera den Besucher gemeldet hatte.</translation>
+    </message>
+    <message>
+        <source>The owner approved the launch %1 at %2, %3 after the camera reported the visitor.</source>
+        <translation>Der Eigentümer gab den Start %1 um %2 frei, %3 nachdem die Kamera den Besucher gemeldet hatte.</translation>
+    </message>
+    <message>
+        <source>The owner ignored the alert %1 at %2, %3 after the camera reported the visitor.</source>
+        <translation>Der Eigentümer ignorierte den Alarm %1 um %2, %3 nachdem die Kamera den Besucher gemeldet hatte.</translation>
+    </message>
+    <message>
+        <source>Nobody answered the alert until it expired at %1, %2 after the camera reported the visitor.</source>
+        <translation>Niemand beantwortete den Alarm, bis er um %1 ablief, %2 nachdem die Kamera den Besucher gemeldet hatte.</translation>
+    </message>
+    <message>
+        <source>The system was disarmed: the visit was only logged, and nobody was asked.</source>
+        <translation>Das System war unscharf: Der Besuch wurde nur aufgezeichnet, und niemand wurde gefragt.</translation>
+    </message>
+    <message>
+        <source>The wind was over the owner&apos;s limit, and nobody was asked.</source>
+        <translation>Der Wind lag über der Grenze des Eigentümers, und niemand wurde gefragt.</translation>
+    </message>
+    <message>
+        <source>The record does not say how the alert was answered.</source>
+        <translation>Die Aufzeichnung sagt nicht, wie der Alarm beantwortet wurde.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <comment>date, time, time</comment>
+        <translation>%1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3, %4</source>
+        <comment>date, time, date, time</comment>
+        <translation>%1, %2 bis %3, %4</translation>
+    </message>
+    <message>
+        <source>The drone launches only after the owner&apos;s approval.</source>
+        <translation>Die Drohne startet nur nach Freigabe durch den Eigentümer.</translation>
+    </message>
+    <message>
+        <source>The drone stayed on its pad.</source>
+        <translation>Die Drohne blieb auf ihrem Landeplatz.</translation>
+    </message>
+    <message>
+        <source>Solid: the visitor&apos;s path.</source>
+        <translation>Durchgezogen: Weg des Besuchers.</translation>
+    </message>
+    <message>
+        <source>Dashed: the drone&apos;s path.</source>
+        <translation>Gestrichelt: Weg der Drohne.</translation>
+    </message>
+    <message>
+        <source>Band: the %1 m buffer.</source>
+        <translation>Band: Puffer von %1&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy, HH:mm</source>
+        <comment>form of a date and time</comment>
+        <translation>d. MMMM yyyy, HH:mm</translation>
+    </message>
+    <message>
+        <source>Made by Velmora %1 on %2 (%3)</source>
+        <translation>Erstellt von Velmora %1 am %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Visit report</source>
+        <translation>Besuchsbericht</translation>
+    </message>
+    <message>
+        <source>Record %1 · Site: %2 · %3</source>
+        <comment>record id, name of the site, who made the report</comment>
+        <translation>Aufzeichnung %1 · Grundstück: %2 · %3</translation>
+    </message>
+    <message>
+        <source>The picture is shown whole, as it was received.</source>
+        <translation>Das Bild ist vollständig, wie es empfangen wurde.</translation>
+    </message>
+    <message>
+        <source>A rehearsed visit of the demo: nobody came, and nothing flew.</source>
+        <translation>Ein simulierter Besuch der Demo: Niemand kam, und nichts flog.</translation>
+    </message>
+    <message>
+        <source>There is no picture of this alert.</source>
+        <translation>Zu diesem Alarm gibt es kein Bild.</translation>
+    </message>
+    <message>
+        <source>Alert picture, %1, %2</source>
+        <comment>camera, time</comment>
+        <translation>Alarmbild, %1, %2</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Furthest out</source>
+        <translation>Max. Entfernung</translation>
+    </message>
+    <message>
+        <source>Battery used</source>
+        <translation>Akkuverbrauch</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation>Abgleich</translation>
+    </message>
+    <message>
+        <source>% unknown</source>
+        <translation>% unbekannt</translation>
+    </message>
+    <message>
+        <source>How it was answered</source>
+        <translation>Wie er beantwortet wurde</translation>
+    </message>
+    <message>
+        <source>The flight</source>
+        <translation>Der Flug</translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation>Grenze</translation>
+    </message>
+    <message>
+        <source>Metres inside the boundary</source>
+        <translation>Meter innerhalb der Grenze</translation>
+    </message>
+    <message>
+        <source>%1 from seen to landed</source>
+        <translation>%1 von gesehen bis gelandet</translation>
+    </message>
+    <message>
+        <source>%1 from seen to the end</source>
+        <translation>%1 von gesehen bis zum Ende</translation>
+    </message>
+    <message>
+        <source>Response</source>
+        <translation>Reaktion</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <comment>column of times since the alert</comment>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Ablauf</translation>
+    </message>
+    <message>
+        <source>What happened, continued</source>
+        <translation>Ablauf, Fortsetzung</translation>
+    </message>
+    <message>
+        <source>Paths, distances and times are those the drone and the cameras reported.</source>
+        <translation>Wege, Abstände und Zeiten sind die von Drohne und Kameras gemeldeten.</translation>
     </message>
 </context>
 </TS>

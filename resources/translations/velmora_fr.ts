@@ -252,17 +252,6 @@
     </message>
 </context>
 <context>
-    <name>velmora::AppStore</name>
-    <message>
-        <source>%1 could not be written: %2.</source>
-        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>it would be empty</source>
-        <translation>il serait vide</translation>
-    </message>
-</context>
-<context>
     <name>velmora::ApprovalMetrics</name>
     <message>
         <source>Match</source>
@@ -309,7 +298,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them? It will fly at %1 m, follow about %2 m back, stay inside your boundary and come home on its own.</source>
-        <translation>Lancer le drone pour la garder à l’œil ? Il volera à %1&#xa0;m de hauteur, suivra à environ %2&#xa0;m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
+        <translation>Lancer le drone pour la garder à l’œil&#x202f;? Il volera à %1&#xa0;m de hauteur, suivra à environ %2&#xa0;m, restera à l’intérieur de votre limite et rentrera tout seul.</translation>
     </message>
 </context>
 <context>
@@ -352,6 +341,13 @@
     <message>
         <source>velmora itself is armed and disarmed at the server</source>
         <translation>velmora s’arme et se désarme sur le serveur</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::BoundaryChartView</name>
+    <message>
+        <source>Metres inside your boundary</source>
+        <translation>Mètres à l’intérieur de votre limite</translation>
     </message>
 </context>
 <context>
@@ -751,12 +747,33 @@
         <source>The list as CSV…</source>
         <translation>Liste en CSV…</translation>
     </message>
+    <message>
+        <source>Visit report: %1, %2</source>
+        <comment>outcome, times</comment>
+        <translation>Rapport de visite&#xa0;: %1, %2</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Report (PDF)…</source>
+        <translation>Rapport (PDF)…</translation>
+    </message>
+    <message>
+        <source>Report of the list (PDF)…</source>
+        <translation>Rapport de la liste (PDF)…</translation>
+    </message>
+    <message>
+        <source>Report of the visits</source>
+        <translation>Rapport des visites</translation>
+    </message>
 </context>
 <context>
     <name>velmora::LandConfirmation</name>
     <message>
         <source>Land the drone where it is now?</source>
-        <translation>Faire atterrir le drone là où il est ?</translation>
+        <translation>Faire atterrir le drone là où il est&#x202f;?</translation>
     </message>
     <message>
         <source>It will come down on the spot, not on its pad. Use this only if something is wrong.</source>
@@ -874,7 +891,7 @@
     <name>velmora::MainWindow</name>
     <message>
         <source>Clear the demo history?</source>
-        <translation>Vider l’historique démo ?</translation>
+        <translation>Vider l’historique démo&#x202f;?</translation>
     </message>
     <message>
         <source>Keep it</source>
@@ -995,73 +1012,6 @@
     <message>
         <source>Overview</source>
         <translation>Vue d’ensemble</translation>
-    </message>
-</context>
-<context>
-    <name>velmora::PatternFacts</name>
-    <message>
-        <source>s</source>
-        <translation>s</translation>
-    </message>
-    <message>
-        <source>min</source>
-        <translation>min</translation>
-    </message>
-    <message>
-        <source>no alert asked for one</source>
-        <translation>aucune alerte n’en demandait</translation>
-    </message>
-    <message>
-        <source>%1 of %2 alerts expired</source>
-        <translation>%1 alertes expirées sur %2</translation>
-    </message>
-    <message>
-        <source>1 answer; %1 of %2 alerts expired</source>
-        <translation>1 réponse ; %1 alertes expirées sur %2</translation>
-    </message>
-    <message>
-        <source>median of %1 answers; %2 of %3 alerts expired</source>
-        <translation>médiane de %1 réponses ; %2 alertes expirées sur %3</translation>
-    </message>
-    <message>
-        <source>no flight reached a visitor</source>
-        <translation>aucun vol n’a atteint de visiteur</translation>
-    </message>
-    <message>
-        <source>1 flight, seen to on station</source>
-        <translation>1 vol, de la détection à l’arrivée sur place</translation>
-    </message>
-    <message>
-        <source>median of %1 flights, seen to on station</source>
-        <translation>médiane de %1 vols, de la détection à l’arrivée sur place</translation>
-    </message>
-    <message>
-        <source>the drone did not fly</source>
-        <translation>le drone n’a pas volé</translation>
-    </message>
-    <message>
-        <source>the drone left your boundary</source>
-        <translation>le drone a franchi votre limite</translation>
-    </message>
-    <message>
-        <source>nearest the drone came to your boundary</source>
-        <translation>le plus près de votre limite</translation>
-    </message>
-    <message>
-        <source>To your answer</source>
-        <translation>Votre réponse</translation>
-    </message>
-    <message>
-        <source>To the visitor</source>
-        <translation>Vers le visiteur</translation>
-    </message>
-    <message>
-        <source>Inside by at least</source>
-        <translation>Marge intérieure</translation>
-    </message>
-    <message>
-        <source>m</source>
-        <translation>m</translation>
     </message>
 </context>
 <context>
@@ -1210,14 +1160,6 @@
         <translation>Détecté à %1, terminé à %2</translation>
     </message>
     <message>
-        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
-        <translation>Le drone s’est trouvé jusqu’à %1&#xa0;m hors de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
-    </message>
-    <message>
-        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
-        <translation>Le drone est resté à %1&#xa0;m au moins à l’intérieur de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
-    </message>
-    <message>
         <source>Picture of %1</source>
         <translation>Image&#xa0;: %1</translation>
     </message>
@@ -1256,67 +1198,22 @@
     </message>
 </context>
 <context>
+    <name>velmora::ReportProgress</name>
+    <message>
+        <source>Making the report</source>
+        <translation>Création du rapport</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>%1 visits go into the report. The file is complete when all is done.</source>
+        <translation>%1&#xa0;visites entrent dans le rapport. Le fichier est complet quand tout est terminé.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ResponseTimes</name>
-    <message>
-        <source>Seen</source>
-        <translation>Vu</translation>
-    </message>
-    <message>
-        <source>answered</source>
-        <translation>réponse</translation>
-    </message>
-    <message>
-        <source>airborne</source>
-        <translation>en vol</translation>
-    </message>
-    <message>
-        <source>on station</source>
-        <translation>en position</translation>
-    </message>
-    <message>
-        <source>coming home</source>
-        <translation>retour</translation>
-    </message>
-    <message>
-        <source>ended</source>
-        <translation>fin</translation>
-    </message>
-    <message>
-        <source>landed</source>
-        <translation>posé</translation>
-    </message>
-    <message>
-        <source>Seen to your answer</source>
-        <translation>Jusqu’à votre réponse</translation>
-    </message>
-    <message>
-        <source>Seen to the end</source>
-        <translation>Jusqu’à la fin</translation>
-    </message>
-    <message>
-        <source>Your answer to take-off</source>
-        <translation>De la réponse au décollage</translation>
-    </message>
-    <message>
-        <source>After your answer</source>
-        <translation>Après votre réponse</translation>
-    </message>
-    <message>
-        <source>On its way to the visitor</source>
-        <translation>En route vers le visiteur</translation>
-    </message>
-    <message>
-        <source>Following</source>
-        <translation>En suivi</translation>
-    </message>
-    <message>
-        <source>Following and landing</source>
-        <translation>Suivi et atterrissage</translation>
-    </message>
-    <message>
-        <source>Coming home and landing</source>
-        <translation>Retour et atterrissage</translation>
-    </message>
     <message>
         <source>Response</source>
         <translation>Réponse</translation>
@@ -1921,7 +1818,7 @@
     </message>
     <message>
         <source>Launch the drone to keep an eye on them?</source>
-        <translation>Lancer le drone pour la garder à l’œil ?</translation>
+        <translation>Lancer le drone pour la garder à l’œil&#x202f;?</translation>
     </message>
     <message>
         <source>ddd d MMM, HH:mm</source>
@@ -2114,7 +2011,7 @@
     </message>
     <message>
         <source>Replay of the visitor&apos;s path; the drone stayed on its pad.</source>
-        <translation>Relecture du trajet du visiteur ; le drone est resté sur sa base.</translation>
+        <translation>Relecture du trajet du visiteur&#x202f;; le drone est resté sur sa base.</translation>
     </message>
     <message>
         <source>Replay of the visitor&apos;s path and of the drone&apos;s, at most %1 m from its pad.</source>
@@ -2527,6 +2424,404 @@
         <source>%1 %2, %3</source>
         <comment>weekday; hour; visits</comment>
         <translation>%1 %2, %3</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>it would be empty</source>
+        <translation>il serait vide</translation>
+    </message>
+    <message>
+        <source>It was nearest to the boundary at %1.</source>
+        <translation>Il a été le plus près de la limite à %1.</translation>
+    </message>
+    <message>
+        <source>The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m buffer.</source>
+        <translation>Le drone s’est trouvé jusqu’à %1&#xa0;m hors de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.</source>
+        <translation>Le drone est resté à %1&#xa0;m au moins à l’intérieur de la limite et a passé %2 dans la marge de %3&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>no alert asked for one</source>
+        <translation>aucune alerte n’en demandait</translation>
+    </message>
+    <message>
+        <source>%1 of %2 alerts expired</source>
+        <translation>%1 alertes sur %2 expirées</translation>
+    </message>
+    <message>
+        <source>1 answer; %1 of %2 alerts expired</source>
+        <translation>1 réponse&#xa0;; %1 alertes sur %2 expirées</translation>
+    </message>
+    <message>
+        <source>median of %1 answers; %2 of %3 alerts expired</source>
+        <translation>médiane de %1 réponses&#xa0;; %2 alertes sur %3 expirées</translation>
+    </message>
+    <message>
+        <source>no flight reached a visitor</source>
+        <translation>aucun vol n’a atteint un visiteur</translation>
+    </message>
+    <message>
+        <source>1 flight, seen to on station</source>
+        <translation>1 vol, de la détection à l’arrivée sur place</translation>
+    </message>
+    <message>
+        <source>median of %1 flights, seen to on station</source>
+        <translation>médiane de %1 vols, de la détection à l’arrivée sur place</translation>
+    </message>
+    <message>
+        <source>Inside by at least</source>
+        <translation>Au moins à l’intérieur</translation>
+    </message>
+    <message>
+        <source>the drone did not fly</source>
+        <translation>le drone n’a pas volé</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>the drone left your boundary</source>
+        <translation>le drone a franchi votre limite</translation>
+    </message>
+    <message>
+        <source>nearest the drone came to your boundary</source>
+        <translation>le drone ne s’est pas approché davantage de votre limite</translation>
+    </message>
+    <message>
+        <source>To your answer</source>
+        <translation>Jusqu’à votre réponse</translation>
+    </message>
+    <message>
+        <source>To the visitor</source>
+        <translation>Jusqu’au visiteur</translation>
+    </message>
+    <message>
+        <source>Seen</source>
+        <translation>Vu</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>réponse</translation>
+    </message>
+    <message>
+        <source>airborne</source>
+        <translation>en vol</translation>
+    </message>
+    <message>
+        <source>on station</source>
+        <translation>en position</translation>
+    </message>
+    <message>
+        <source>coming home</source>
+        <translation>retour</translation>
+    </message>
+    <message>
+        <source>ended</source>
+        <translation>fin</translation>
+    </message>
+    <message>
+        <source>Seen to your answer</source>
+        <translation>Jusqu’à votre réponse</translation>
+    </message>
+    <message>
+        <source>Seen to the end</source>
+        <translation>Jusqu’à la fin</translation>
+    </message>
+    <message>
+        <source>Your answer to take-off</source>
+        <translation>De la réponse au décollage</translation>
+    </message>
+    <message>
+        <source>After your answer</source>
+        <translation>Après votre réponse</translation>
+    </message>
+    <message>
+        <source>On its way to the visitor</source>
+        <translation>En route vers le visiteur</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <comment>part of a response</comment>
+        <translation>En suivi</translation>
+    </message>
+    <message>
+        <source>Following and landing</source>
+        <translation>Suivi et atterrissage</translation>
+    </message>
+    <message>
+        <source>Coming home and landing</source>
+        <translation>Retour et atterrissage</translation>
+    </message>
+    <message>
+        <source>landed</source>
+        <translation>posé</translation>
+    </message>
+    <message>
+        <source>Report of the visits</source>
+        <translation>Rapport des visites</translation>
+    </message>
+    <message>
+        <source>Site: %1 · %2</source>
+        <comment>name of the site, who made the report</comment>
+        <translation>Site&#xa0;: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Patterns appear after three visits.</source>
+        <translation>Les tendances apparaissent à partir de trois visites.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 (%3)</source>
+        <comment>date, date, offset from UTC</comment>
+        <translation>du %1 au %2 (%3)</translation>
+    </message>
+    <message>
+        <source>When they came</source>
+        <translation>Quand ils sont venus</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Par caméra</translation>
+    </message>
+    <message>
+        <source>How they ended</source>
+        <translation>Comment elles se sont terminées</translation>
+    </message>
+    <message>
+        <source>%1 of %2 flown</source>
+        <translation>%1 sur %2 avec vol</translation>
+    </message>
+    <message>
+        <source>%1 % done</source>
+        <translation>%1&#xa0;% terminé</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>time, offset from UTC</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Airborne at %1.</source>
+        <translation>En vol à %1.</translation>
+    </message>
+    <message>
+        <source>Airborne at %1, at a height of %2 m.</source>
+        <translation>En vol à %1, à %2&#xa0;m de hauteur.</translation>
+    </message>
+    <message>
+        <source>On station at %1.</source>
+        <translation>Sur place à %1.</translation>
+    </message>
+    <message>
+        <source>On station at %1, following %2 m behind.</source>
+        <translation>Sur place à %1, suivi à %2&#xa0;m de distance.</translation>
+    </message>
+    <message>
+        <source>On its way home at %1.</source>
+        <translation>Sur le retour à %1.</translation>
+    </message>
+    <message>
+        <source>The flight ended at %1.</source>
+        <translation>Le vol s’est terminé à %1.</translation>
+    </message>
+    <message>
+        <source>On its pad at %1.</source>
+        <translation>Sur sa base à %1.</translation>
+    </message>
+    <message>
+        <source>Landed away from its pad at %1.</source>
+        <translation>Posé hors de sa base à %1.</translation>
+    </message>
+    <message>
+        <source>The owner approved the launch at %1, %2 after the camera reported the visitor.</source>
+        <translation>Le propriétaire a approuvé le lancement à %1, %2 après le signalement du visiteur par la caméra.</translation>
+    </message>
+    <message>
+        <source>The owner ignored the alert at %1, %2 after the camera reported the visitor.</source>
+        <translation>Le propriétaire a ignoré l’alerte à %1, %2 après le signalement du visiteur par la caméra.</translation>
+    </message>
+    <message>
+        <source>The owner approved the launch %1 at %2, %3 after the camera reported the visitor.</source>
+        <translation>Le propriétaire a approuvé le lancement %1 à %2, %3 après le signalement du visiteur par la caméra.</translation>
+    </message>
+    <message>
+        <source>The owner ignored the alert %1 at %2, %3 after the camera reported the visitor.</source>
+        <translation>Le propriétaire a ignoré l’alerte %1 à %2, %3 après le signalement du visiteur par la caméra.</translation>
+    </message>
+    <message>
+        <source>Nobody answered the alert until it expired at %1, %2 after the camera reported the visitor.</source>
+        <translation>Personne n’a répondu à l’alerte avant son expiration à %1, %2 après le signalement du visiteur par la caméra.</translation>
+    </message>
+    <message>
+        <source>The system was disarmed: the visit was only logged, and nobody was asked.</source>
+        <translation>Le système était désarmé&#xa0;: la visite a seulement été enregistrée et personne n’a été sollicité.</translation>
+    </message>
+    <message>
+        <source>The wind was over the owner&apos;s limit, and nobody was asked.</source>
+        <translation>Le vent dépassait la limite du propriétaire et personne n’a été sollicité.</translation>
+    </message>
+    <message>
+        <source>The record does not say how the alert was answered.</source>
+        <translation>L’enregistrement n’indique pas la réponse donnée à l’alerte.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <comment>date, time, time</comment>
+        <translation>%1, de %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3, %4</source>
+        <comment>date, time, date, time</comment>
+        <translation>%1, %2 au %3, %4</translation>
+    </message>
+    <message>
+        <source>The drone launches only after the owner&apos;s approval.</source>
+        <translation>Le drone ne décolle qu’après l’approbation du propriétaire.</translation>
+    </message>
+    <message>
+        <source>The drone stayed on its pad.</source>
+        <translation>Le drone est resté sur sa base.</translation>
+    </message>
+    <message>
+        <source>Solid: the visitor&apos;s path.</source>
+        <translation>Trait plein&#xa0;: trajet du visiteur.</translation>
+    </message>
+    <message>
+        <source>Dashed: the drone&apos;s path.</source>
+        <translation>Tirets&#xa0;: trajet du drone.</translation>
+    </message>
+    <message>
+        <source>Band: the %1 m buffer.</source>
+        <translation>Bande&#xa0;: marge de %1&#xa0;m.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy, HH:mm</source>
+        <comment>form of a date and time</comment>
+        <translation>d MMMM yyyy, HH:mm</translation>
+    </message>
+    <message>
+        <source>Made by Velmora %1 on %2 (%3)</source>
+        <translation>Créé par Velmora %1 le %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Visit report</source>
+        <translation>Rapport de visite</translation>
+    </message>
+    <message>
+        <source>Record %1 · Site: %2 · %3</source>
+        <comment>record id, name of the site, who made the report</comment>
+        <translation>Enregistrement %1 · Site&#xa0;: %2 · %3</translation>
+    </message>
+    <message>
+        <source>The picture is shown whole, as it was received.</source>
+        <translation>L’image est montrée en entier, telle que reçue.</translation>
+    </message>
+    <message>
+        <source>A rehearsed visit of the demo: nobody came, and nothing flew.</source>
+        <translation>Une visite simulée de la démo&#xa0;: personne n’est venu et rien n’a volé.</translation>
+    </message>
+    <message>
+        <source>There is no picture of this alert.</source>
+        <translation>Il n’y a pas d’image de cette alerte.</translation>
+    </message>
+    <message>
+        <source>Alert picture, %1, %2</source>
+        <comment>camera, time</comment>
+        <translation>Image de l’alerte, %1, %2</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Furthest out</source>
+        <translation>Distance max.</translation>
+    </message>
+    <message>
+        <source>Battery used</source>
+        <translation>Charge utilisée</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Match</source>
+        <translation>Certitude</translation>
+    </message>
+    <message>
+        <source>% unknown</source>
+        <translation>% inconnu</translation>
+    </message>
+    <message>
+        <source>How it was answered</source>
+        <translation>La réponse donnée</translation>
+    </message>
+    <message>
+        <source>The flight</source>
+        <translation>Le vol</translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Metres inside the boundary</source>
+        <translation>Mètres à l’intérieur de la limite</translation>
+    </message>
+    <message>
+        <source>%1 from seen to landed</source>
+        <translation>%1 de la détection à l’atterrissage</translation>
+    </message>
+    <message>
+        <source>%1 from seen to the end</source>
+        <translation>%1 de la détection à la fin</translation>
+    </message>
+    <message>
+        <source>Response</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <comment>column of times since the alert</comment>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Déroulement</translation>
+    </message>
+    <message>
+        <source>What happened, continued</source>
+        <translation>Déroulement, suite</translation>
+    </message>
+    <message>
+        <source>Paths, distances and times are those the drone and the cameras reported.</source>
+        <translation>Trajets, distances et heures sont ceux que le drone et les caméras ont signalés.</translation>
     </message>
 </context>
 </TS>
