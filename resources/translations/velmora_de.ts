@@ -190,6 +190,10 @@
         <source>Past this place</source>
         <translation>An dieser Stelle vorbei</translation>
     </message>
+    <message>
+        <source>Past one place</source>
+        <translation>An einer Stelle vorbei</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ActivityList</name>
@@ -648,6 +652,11 @@
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <comment>text that was searched</comment>
+        <translation>„%1“</translation>
+    </message>
 </context>
 <context>
     <name>velmora::HistoryList</name>
@@ -920,6 +929,10 @@
     <message>
         <source>%1 rehearsed visits go. Visits that were really flown stay.</source>
         <translation>%1 simulierte Besuche werden gelöscht. Wirklich geflogene Besuche bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Der Bericht ist gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2584,11 +2597,6 @@
         <translation>Muster erscheinen ab drei Besuchen.</translation>
     </message>
     <message>
-        <source>%1 to %2 (%3)</source>
-        <comment>date, date, offset from UTC</comment>
-        <translation>%1 bis %2 (%3)</translation>
-    </message>
-    <message>
         <source>When they came</source>
         <translation>Wann sie kamen</translation>
     </message>
@@ -2822,6 +2830,16 @@
     <message>
         <source>Paths, distances and times are those the drone and the cameras reported.</source>
         <translation>Wege, Abstände und Zeiten sind die von Drohne und Kameras gemeldeten.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>date, date</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Only these visits: %1</source>
+        <comment>names of filters</comment>
+        <translation>Nur diese Besuche: %1</translation>
     </message>
 </context>
 </TS>

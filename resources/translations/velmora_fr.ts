@@ -190,6 +190,10 @@
         <source>Past this place</source>
         <translation>Passées par cet endroit</translation>
     </message>
+    <message>
+        <source>Past one place</source>
+        <translation>Par un même endroit</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ActivityList</name>
@@ -648,6 +652,11 @@
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <comment>text that was searched</comment>
+        <translation>« %1 »</translation>
+    </message>
 </context>
 <context>
     <name>velmora::HistoryList</name>
@@ -920,6 +929,10 @@
     <message>
         <source>%1 rehearsed visits go. Visits that were really flown stay.</source>
         <translation>%1&#xa0;visites simulées seront effacées. Les visites réelles sont conservées.</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Le rapport est enregistré.</translation>
     </message>
 </context>
 <context>
@@ -2584,11 +2597,6 @@
         <translation>Les tendances apparaissent à partir de trois visites.</translation>
     </message>
     <message>
-        <source>%1 to %2 (%3)</source>
-        <comment>date, date, offset from UTC</comment>
-        <translation>du %1 au %2 (%3)</translation>
-    </message>
-    <message>
         <source>When they came</source>
         <translation>Quand ils sont venus</translation>
     </message>
@@ -2822,6 +2830,16 @@
     <message>
         <source>Paths, distances and times are those the drone and the cameras reported.</source>
         <translation>Trajets, distances et heures sont ceux que le drone et les caméras ont signalés.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>date, date</comment>
+        <translation>%1 au %2</translation>
+    </message>
+    <message>
+        <source>Only these visits: %1</source>
+        <comment>names of filters</comment>
+        <translation>Ces visites seulement : %1</translation>
     </message>
 </context>
 </TS>

@@ -10,7 +10,7 @@ ExportFile::ExportFile(const QString& path) : file_(path) {
 
 /// Flushes before the commit, because a full disk may fail only then.
 QString ExportFile::finish() {
-    const bool written = file_.isOpen() && file_.error() == QFileDevice::NoError;
+    const bool written = !hasFailed();
     const bool empty = written && file_.pos() == 0;
     if (written && !empty && file_.flush() && file_.commit())
         return {};

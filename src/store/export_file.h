@@ -14,6 +14,8 @@ public:
 
     /// What is written here becomes the file's content.
     QIODevice& device() { return file_; }
+    /// Whether the file could not be opened or a write has failed.
+    bool hasFailed() const { return !file_.isOpen() || file_.error() != QFileDevice::NoError; }
     /// Completes the file. Returns an empty text, or names the file and the reason of the failure in words
     /// for the owner.
     QString finish();

@@ -90,7 +90,8 @@ protected:
             "Visit report",
             {LiveState::initial().site, Settings(), dateFromSeconds(1'700'000'000), QPageSize(QPageSize::A4)},
             {},
-            records.size() > 1};
+            records.size() > 1,
+            "Driveway"};
         for (const MissionRecord& record : records)
             content.visits.push_back({std::make_shared<MissionRecord>(record), answerOnRecord(record)});
         return content;

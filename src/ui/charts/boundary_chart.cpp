@@ -152,7 +152,7 @@ QString boundarySentence(const BoundaryEvidence& evidence, double buffer) {
     return evidence.leastDistance < 0
                ? Words::tr("The drone was %1 m outside the boundary at the furthest and was %2 in the %3 m "
                            "buffer.")
-                     .arg(rounded(-evidence.leastDistance), inBuffer, rounded(buffer))
+                     .arg(oneDecimal(-evidence.leastDistance), inBuffer, rounded(buffer))
                : Words::tr(
                      "The drone stayed at least %1 m inside the boundary and was %2 in the %3 m buffer.")
                      .arg(oneDecimal(evidence.leastDistance), inBuffer, rounded(buffer));
@@ -177,7 +177,7 @@ void paintBoundaryChart(QPainter& painter, const QRectF& plot, const BoundaryCha
     const QString value = metres(evidence.leastDistance);
     const QRectF beside = valueRect(plot, least, value);
     drawText(painter, beside, value, Type::legendStrong, SB::ink, Qt::AlignVCenter);
-    paintBufferLabel(painter, plot, edge, boundary, Words::tr("%1 m buffer").arg(truncated(chart.buffer)),
+    paintBufferLabel(painter, plot, edge, boundary, Words::tr("%1 m buffer").arg(rounded(chart.buffer)),
                      beside);
     paintTimes(painter, plot, chart, times);
     painter.restore();

@@ -105,6 +105,11 @@ public:
         update();
     }
 
+    void updateToolTip() {
+        const double room = nameRect(rect(), row_, nameWidth()).width();
+        setToolTipIfElided(*this, row_.name, textWidth(row_.name, nameStyle(row_, room)) > room);
+    }
+
 protected:
     void resizeEvent(QResizeEvent*) override { updateToolTip(); }
     void paintEvent(QPaintEvent*) override {
@@ -115,11 +120,7 @@ protected:
     }
 
 private:
-    double nameWidth() const { return countNameWidth(bars_.shown_, width()); }
-    void updateToolTip() {
-        const double room = nameRect(rect(), row_, nameWidth()).width();
-        setToolTipIfElided(*this, row_.name, textWidth(row_.name, nameStyle(row_, room)) > room);
-    }
+    double nameWidth() const { return bars_.nameWidth_; }
 
     CountBars& bars_;
     CountRow row_;
@@ -145,7 +146,17 @@ void CountBars::setShownRows(std::size_t rows) {
     refresh();
 }
 
-/// The focus stays with what its row counts.
+void CountBars::resizeEvent(QResizeEvent*) {
+    fitNames();
+}
+
+void CountBars::fitNames() {
+    nameWidth_ = countNameWidth(shown_, width());
+    for (Row* row : rows_)
+        row->updateToolTip();
+}
+
+/// The focus stays with what its row counts; hiding that row would move it to another control.
 void CountBars::refresh() {
     int most = 0;
     for (const CountRow& row : shown_)
@@ -157,6 +168,10 @@ void CountBars::refresh() {
     const auto focused = std::ranges::find_if(rows_, [](const Row* row) { return row->hasFocus(); });
     const QString kept = focused == rows_.end() ? QString() : (*focused)->id();
     const std::size_t used = std::min(shown_.size(), limit_);
+    const bool stays = std::any_of(shown_.begin(), shown_.begin() + static_cast<std::ptrdiff_t>(used),
+                                   [&](const CountRow& row) { return row.id == kept; });
+    if (!kept.isEmpty() && !stays)
+        setFocus(Qt::OtherFocusReason);
     for (std::size_t i = 0; i < used; ++i) {
         rows_[i]->setRow(shown_[i], most);
         rows_[i]->show();
@@ -165,6 +180,7 @@ void CountBars::refresh() {
     }
     for (std::size_t i = used; i < rows_.size(); ++i)
         rows_[i]->hide();
+    fitNames();
 }
 
 } // namespace velmora

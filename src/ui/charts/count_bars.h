@@ -47,15 +47,20 @@ signals:
     /// The owner chose a row.
     void chosen(const QString& id);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     class Row;
 
     void refresh();
+    void fitNames();
 
     Interaction interaction_;
     std::vector<CountRow> shown_;
     std::size_t limit_ = mostRows;
     std::vector<Row*> rows_;
+    double nameWidth_ = 0; ///< of the column of names, pixels
 };
 
 } // namespace velmora

@@ -247,6 +247,8 @@ void VisitMatrix::showSquare(int number) {
     }
     if (!square)
         return;
+    if (visits == 0 && square->hasFocus())
+        setFocus(Qt::OtherFocusReason); // otherwise hiding the square moves the focus to another control
     square->setVisible(visits > 0);
     square->describe(hourWords(hour, visits));
 }

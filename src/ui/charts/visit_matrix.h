@@ -65,7 +65,6 @@ private:
     class Square;
 
     MatrixForm formFor(int width) const;
-    Square* squareAt(int number);
     void showSquare(int number);
     void placeSquares();
     void offerTab(Square* offered);

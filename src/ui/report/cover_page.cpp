@@ -41,13 +41,13 @@ public:
           int mostVisits)
         : pages_(pages), setting_(setting), patterns_(patterns), map_(map), mostVisits_(mostVisits) {}
 
-    void layOut() {
+    void layOut(const QString& selection) {
         pages_.begin(
             {Words::tr("Report of the visits"),
              Words::tr("Site: %1 · %2", "name of the site, who made the report")
                  .arg(elided(shownText(setting_.site.name), ReportType::foot, 200), madeBy(setting_.madeAt)),
              reportSource()});
-        double y = title();
+        double y = title(selection);
         if (patterns_.visits() < VisitPatterns::fewest)
             y = pages_.paragraph({pages_.left(), y, pages_.width(), 0},
                                  Words::tr("Patterns appear after three visits."), Type::log, SB::body);
@@ -66,19 +66,20 @@ private:
         pages_.line(row, text, Type::bodyStrong, SB::ink);
     }
 
-    double title() {
+    double title(const QString& selection) {
         const QRectF row(pages_.left(), ReportPages::top, pages_.width(), 0);
         const Sentence sentence = patternSentence(patterns_, VisitSpan::unnamed);
-        const double y = pages_.paragraph(row, sentence.lead + sentence.emphasis + sentence.tail,
-                                          Type::recordTitle, SB::ink, 2);
-        if (!patterns_.first())
-            return y + Measure::gap16;
-        return pages_.paragraph({row.left(), y + 1, row.width(), 0},
-                                Words::tr("%1 to %2 (%3)", "date, date, offset from UTC")
-                                    .arg(fullDate(*patterns_.first()), fullDate(*patterns_.last()),
-                                         utcOffset(*patterns_.last())),
-                                Type::body, SB::body, 2) +
-               Measure::gap16 - 1;
+        double y = pages_.paragraph(row, sentence.lead + sentence.emphasis + sentence.tail, Type::recordTitle,
+                                    SB::ink, 2);
+        const auto add = [&](const QString& text) {
+            y = pages_.paragraph({row.left(), y + 1, row.width(), 0}, text, Type::body, SB::body, 2) - 1;
+        };
+        if (patterns_.first())
+            add(Words::tr("%1 to %2", "date, date")
+                    .arg(fullDate(*patterns_.first()), fullDate(*patterns_.last())));
+        if (!selection.isEmpty())
+            add(Words::tr("Only these visits: %1", "names of filters").arg(selection));
+        return y + Measure::gap16;
     }
 
     double map(double y) {
@@ -192,8 +193,8 @@ void CoverPage::prepare(const ReportSetting& setting) {
     drawHeatMap(painter, sceneOf(setting, false), heat, size, heatScale);
 }
 
-void CoverPage::layOut(ReportPages& pages, const ReportSetting& setting) const {
-    Cover(pages, setting, patterns_, map_, mostVisits_).layOut();
+void CoverPage::layOut(ReportPages& pages, const ReportSetting& setting, const QString& selection) const {
+    Cover(pages, setting, patterns_, map_, mostVisits_).layOut(selection);
 }
 
 } // namespace velmora

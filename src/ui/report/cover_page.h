@@ -16,7 +16,8 @@ public:
     void add(const MissionRecord& record);
     /// Draws the map; call after all visits were added and before the page is laid out.
     void prepare(const ReportSetting& setting);
-    void layOut(ReportPages& pages, const ReportSetting& setting) const;
+    /// `selection` tells how the visits were selected; empty for all.
+    void layOut(ReportPages& pages, const ReportSetting& setting, const QString& selection) const;
 
 private:
     VisitPatterns patterns_;

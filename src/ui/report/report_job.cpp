@@ -68,7 +68,7 @@ void ReportJob::start() {
 }
 
 void ReportJob::step() {
-    if (!file_->device().isWritable()) {
+    if (file_->hasFailed()) {
         finish();
         return;
     }
@@ -137,7 +137,7 @@ void ReportJob::layOutNext(ReportPages& pages) {
 
 void ReportJob::layOutCover(ReportPages& pages) const {
     if (content_.hasCover)
-        cover_.layOut(pages, content_.setting);
+        cover_.layOut(pages, content_.setting, content_.selection);
 }
 
 void ReportJob::finish() {

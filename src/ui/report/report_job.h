@@ -17,6 +17,7 @@ struct ReportContent {
     ReportSetting setting;
     std::vector<ReportVisit> visits; ///< in the order of their pages
     bool hasCover = false;
+    QString selection; ///< how the visits were selected; empty for all
 };
 
 /// Draws a report in short steps on the event loop, so that the program stays usable and an alert is answered

@@ -57,11 +57,13 @@ void ReportProgress::follow(ReportJob& job) {
     setBody(tr("%1 visits go into the report. The file is complete when all is done.").arg(job.visits()));
     showDone(0);
     connect(&job, &ReportJob::progressed, this, &ReportProgress::showDone);
-    connect(&job, &ReportJob::finished, this, &ReportProgress::letGo);
+    connect(&job, &ReportJob::finished, this, &ReportProgress::detach);
     open();
 }
 
-void ReportProgress::letGo() {
+void ReportProgress::detach() {
+    if (job_)
+        job_->disconnect(this);
     job_.clear();
     close();
 }

@@ -18,7 +18,7 @@ public:
     /// Opens the card until the job is done. Closing the card before cancels the job.
     void follow(ReportJob& job);
     /// Closes the card; the job goes on.
-    void letGo();
+    void detach();
 
 private:
     class Bar;

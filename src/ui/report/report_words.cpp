@@ -163,7 +163,7 @@ QString mapKey(const MissionRecord& record, const Settings& settings) {
         sentences.append(Words::tr("Solid: the visitor's path."));
     if (record.dronePath.size() > 1)
         sentences.append(Words::tr("Dashed: the drone's path."));
-    sentences.append(Words::tr("Band: the %1 m buffer.").arg(truncated(settings.boundaryBuffer)));
+    sentences.append(Words::tr("Band: the %1 m buffer.").arg(rounded(settings.boundaryBuffer)));
     return sentences.join(' ');
 }
 

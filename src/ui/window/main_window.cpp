@@ -96,16 +96,30 @@ void MainWindow::buildCards() {
         history_->focusContent();
     });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::closePopupsAndDialogs);
-    connect(approval_, &ApprovalOverlay::asked, report_, &ReportProgress::letGo); // it would cover the flight
-    connect(approval_, &OverlayCard::openChanged, this, [this] { showFailedExport(exportFailure_); });
+    connect(approval_, &ApprovalOverlay::asked, report_, &ReportProgress::detach);
 }
 
-/// A report can fail while an alert waits. Its card would take the focus of the alert's, so it comes after
-/// it.
-void MainWindow::showFailedExport(bool failed) {
-    exportFailure_ = failed && approval_->isOpen();
-    if (failed && !approval_->isOpen())
-        exportFailed_->open();
+/// A report can fail while an alert waits or the drone flies. A card would cover the answers or the controls
+/// of the flight.
+void MainWindow::showFailedExport(const QString& why) {
+    if (store_.phase() != Phase::docked) {
+        toast_->setMessage(why);
+        return;
+    }
+    exportFailed_->setBody(why + ' ' + tr("Choose another folder and export it again."));
+    exportFailed_->open();
+}
+
+/// The card of a long report would cover the answers or the controls of the flight, so there is none then.
+void MainWindow::followReport(ReportJob& job) {
+    if (job.visits() < longReport)
+        return;
+    if (store_.phase() == Phase::docked)
+        report_->follow(job);
+    connect(&job, &ReportJob::finished, this, [this](const QString& error) {
+        if (error.isEmpty())
+            toast_->setMessage(tr("The report is saved."));
+    });
 }
 
 /// Closes every menu and dialog of the program, including the tray's, because they would cover the alert or
@@ -125,14 +139,8 @@ void MainWindow::buildSections() {
     sections_[Section::live] = live_;
     history_ = new HistoryView(store_, stack_);
     connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
-    connect(history_, &HistoryView::exportFailed, this, [this](const QString& why) {
-        exportFailed_->setBody(why + ' ' + tr("Choose another folder and export it again."));
-        showFailedExport(true);
-    });
-    connect(history_, &HistoryView::reportStarted, this, [this](ReportJob* job) {
-        if (job->visits() >= longReport && store_.phase() == Phase::docked)
-            report_->follow(*job);
-    });
+    connect(history_, &HistoryView::exportFailed, this, &MainWindow::showFailedExport);
+    connect(history_, &HistoryView::reportStarted, this, [this](ReportJob* job) { followReport(*job); });
     sections_[Section::history] = history_;
     sections_[Section::cameras] = new CamerasView(store_, stack_);
     sections_[Section::settings] = new SettingsView(store_, stack_);

@@ -19,6 +19,7 @@ class HistoryView;
 class LandConfirmation;
 class LiveView;
 class OverlayCard;
+class ReportJob;
 class ReportProgress;
 class ResizeBands;
 class SectionStack;
@@ -47,7 +48,8 @@ private:
     void showSection();
     void showWelcome();
     void askToClearDemo();
-    void showFailedExport(bool failed);
+    void showFailedExport(const QString& why);
+    void followReport(ReportJob& job);
     void updateLayers();
     bool isFailureShown(Command command) const;
     bool isCovered() const;
@@ -67,7 +69,6 @@ private:
     LandConfirmation* landing_;
     ConfirmationCard* clearDemo_;    ///< asks before the demo history is cleared
     ConfirmationCard* exportFailed_; ///< explains why an export failed
-    bool exportFailure_ = false;     ///< it waits until the alert's card is closed
     ReportProgress* report_;         ///< how far a long report is
     AboutCard* about_;
     QList<OverlayCard*> overlays_;

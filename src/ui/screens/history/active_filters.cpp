@@ -97,6 +97,17 @@ ActiveFilters::FilterButton* ActiveFilters::add(std::optional<Part> HistoryFilte
     return button;
 }
 
+QStringList ActiveFilters::words(const HistoryFilter& filter) {
+    QStringList words;
+    if (filter.hours)
+        words.append(hoursText(*filter.hours));
+    if (filter.place)
+        words.append(tr("Past one place"));
+    if (filter.outcome)
+        words.append(outcomeText(*filter.outcome));
+    return words;
+}
+
 /// Hiding the focused button would move the focus to another control, which the next key press would trigger.
 void ActiveFilters::setFilter(const HistoryFilter& filter) {
     filter_ = filter;

@@ -13,6 +13,8 @@ class ActiveFilters : public QWidget {
     Q_OBJECT
 
 public:
+    /// The filters that clicks set, in words.
+    static QStringList words(const HistoryFilter& filter);
     explicit ActiveFilters(QWidget* parent);
 
     /// Hides itself if none of these filters is set.

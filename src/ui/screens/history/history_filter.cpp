@@ -49,6 +49,12 @@ std::optional<Date> HistoryFilter::spanStart(Date now) const {
     return std::nullopt;
 }
 
+bool HistoryFilter::isOnlySpan() const {
+    HistoryFilter spanOnly;
+    spanOnly.span = span;
+    return *this == spanOnly;
+}
+
 bool HistoryFilter::matches(const MissionRecord& record, Date now) const {
     return matchesFlight(flight, record.outcome) && matchesDemo(demo, record.demo) &&
            record.start >= spanStart(now).value_or(record.start) &&

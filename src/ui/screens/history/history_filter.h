@@ -33,6 +33,8 @@ struct HistoryFilter {
 
     bool operator==(const HistoryFilter&) const = default;
 
+    /// Whether it selects by the span of time alone, if at all.
+    bool isOnlySpan() const;
     bool matches(const MissionRecord& record, Date now) const;
     /// When the span of time that ends `now` begins; nullopt if it has no beginning.
     std::optional<Date> spanStart(Date now) const;

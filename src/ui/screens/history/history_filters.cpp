@@ -97,6 +97,23 @@ void HistoryFilters::showFilter() {
     active_->setFilter(filter_);
 }
 
+QString HistoryFilters::words() const {
+    QStringList words;
+    const HistoryFilter none;
+    if (filter_.camera != none.camera)
+        words.append(filter_.camera);
+    if (filter_.flight != none.flight)
+        words.append(filter_.flight == HistoryFilter::Flight::flown ? tr("Flown") : tr("Stayed docked"));
+    if (filter_.span != none.span)
+        words.append(span_->text());
+    if (demo_->isVisibleTo(this))
+        words.append(demo_->text());
+    words.append(ActiveFilters::words(filter_));
+    if (const QString text = filter_.text.trimmed(); !text.isEmpty())
+        words.append(tr("“%1”", "text that was searched").arg(text));
+    return words.join(QStringLiteral(" · "));
+}
+
 void HistoryFilters::offer(const std::vector<HistoryEntry>& history) {
     cameras_.clear();
     for (const HistoryEntry& entry : history)

@@ -23,6 +23,8 @@ public:
     const HistoryFilter& filter() const { return filter_; }
     /// Emits changed() if it differs.
     void setFilter(const HistoryFilter& filter);
+    /// What is filtered, as the controls say it: "Driveway · 30 days"; empty if nothing is.
+    QString words() const;
     /// Offers the cameras of these visits, and a choice of demo visits if there are any. Ends a filter that
     /// is not offered any more: it would hide visits without a visible reason.
     void offer(const std::vector<HistoryEntry>& history);

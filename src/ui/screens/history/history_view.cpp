@@ -83,7 +83,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::selectedRecordChanged, this, &HistoryView::showSelection);
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     connectPatterns();
-    refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged});
+    refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged});
     connect(&everyMinute_, &UiTimer::timeout, this, &HistoryView::refresh);
 }
 
@@ -128,6 +128,7 @@ void HistoryView::showVisits(const std::function<void(HistoryFilter&)>& change) 
 void HistoryView::openPatterns() {
     HistoryFilter lastDays;
     lastDays.span = VisitSpan::month;
+    lastDays.demo = store_.settings().linkMode ? HistoryFilter::Demo::without : HistoryFilter::Demo::with;
     list_->filters().setFilter(lastDays);
     list_->setMode(HistoryList::Mode::patterns);
     list_->focusContent();
@@ -180,7 +181,8 @@ void HistoryView::showPatterns() {
         return;
     const HistoryFilter& filter = list_->filters().filter();
     const Date now = store_.now();
-    patterns_->setVisits(list_->entries(), {filter.span, filter.spanStart(now), now}, groundsFor(store_),
+    const VisitSpan span = filter.isOnlySpan() ? filter.span : VisitSpan::unnamed;
+    patterns_->setVisits(list_->entries(), {span, filter.spanStart(now), now}, groundsFor(store_),
                          store_.settings());
     list_->summary().setPatterns(patterns_->patterns());
 }
@@ -241,7 +243,7 @@ void HistoryView::offerExports(QRect above) {
 
 HistoryView::Write HistoryView::report() {
     return [this, record = detail_->record()](const QString& path) {
-        ReportContent content{reportTitle(*record), reportSetting(store_), {}};
+        ReportContent content{reportTitle(*record), reportSetting(store_), {}, false, {}};
         content.visits.push_back({record, store_.answerTo(*record)});
         startReport(path, std::move(content));
         return QString();
@@ -250,10 +252,10 @@ HistoryView::Write HistoryView::report() {
 
 HistoryView::Write HistoryView::listReport() {
     return [this, entries = list_->entries()](const QString& path) {
-        ReportContent content{tr("Report of the visits"), reportSetting(store_), {}};
+        ReportContent content{
+            tr("Report of the visits"), reportSetting(store_), {}, true, list_->filters().words()};
         for (const HistoryEntry& entry : entries)
             content.visits.push_back({entry.record, store_.answerTo(*entry.record)});
-        content.hasCover = true;
         startReport(path, std::move(content));
         return QString();
     };

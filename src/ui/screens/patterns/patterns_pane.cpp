@@ -13,6 +13,7 @@
 #include "ui/look/tokens.h"
 #include "ui/screens/patterns/pattern_facts.h"
 
+#include <QApplication>
 #include <QDateTime>
 #include <QVBoxLayout>
 
@@ -114,13 +115,17 @@ void PatternsPane::setVisits(const std::vector<HistoryEntry>& visits, const Peri
 
 void PatternsPane::showFigures() {
     const bool enough = patterns().visits() >= VisitPatterns::fewest;
+    const QString group = groupWords(patterns());
+    const bool focusGoes =
+        enough ? group.isEmpty() && group_->hasFocus() : isAncestorOf(QApplication::focusWidget());
+    if (focusGoes)
+        setFocus(Qt::OtherFocusReason); // otherwise hiding a part moves the focus to another control
     mapPart_->setVisible(enough);
     times_->setVisible(enough);
     tooFew_->setVisible(!enough);
     facts_->setVisible(patterns().visits() > 0);
     facts_->setPatterns(patterns());
     matrix_->setTimes(VisitTimes::of(patterns()));
-    const QString group = groupWords(patterns());
     group_->setWords(group);
     group_->setVisible(!group.isEmpty());
     if (!enough)

@@ -15,12 +15,12 @@ bool isVisit(RecordKey key, const HistoryEntry& visit) {
 VisitFigures::VisitFigures(const Site& site) : site_(site), patterns_(site), walks_(site) {}
 
 bool VisitFigures::follow(const std::vector<HistoryEntry>& visits, const Site& site) {
-    const bool siteChanged = site != site_;
-    const bool goesOn = !siteChanged && visits.size() >= added_.size() &&
-                        std::equal(added_.begin(), added_.end(), visits.rbegin(), isVisit);
-    if (goesOn && visits.size() == added_.size())
+    const bool siteChanged = site.size != site_.size || site.boundary != site_.boundary;
+    const bool more = !siteChanged && visits.size() >= added_.size() &&
+                      std::equal(added_.begin(), added_.end(), visits.rbegin(), isVisit);
+    if (more && visits.size() == added_.size())
         return false;
-    if (!goesOn)
+    if (!more)
         *this = VisitFigures(site);
     for (auto visit = visits.rbegin() + static_cast<std::ptrdiff_t>(added_.size()); visit != visits.rend();
          ++visit)

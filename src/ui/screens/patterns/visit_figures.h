@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/// The figures over a list of visits. They follow the list: more visits at its front are added
-/// to them, any other change computes them anew.
+/// The figures over a list of visits. They follow the list: more visits at its front are added to them, after
+/// any other change all are computed.
 class VisitFigures {
 public:
     explicit VisitFigures(const Site& site);
