@@ -354,6 +354,7 @@ void AppStore::setSelectedRecord(const std::optional<RecordKey>& key) {
 
 void AppStore::openRecord(RecordKey key) {
     setSelectedRecord(key);
+    emit recordRequested(key);
     setSection(Section::history);
 }
 

@@ -144,6 +144,8 @@ signals:
     void connectionRequested();
     /// The history is to show its patterns.
     void patternsRequested();
+    /// The history is to show this record, whatever it filters.
+    void recordRequested(velmora::RecordKey key);
     void linkStatusChanged();
     void freshnessChanged();
     void showWelcomeChanged();

@@ -103,9 +103,26 @@ TEST_F(PatternsTest, AnHourAGroupAndAPlaceShowTheirVisits) {
     pressByAccessibility("Past this place");
     click("Patterns");
     clickPlace({40, 42.5});
-    EXPECT_TRUE(lists("0 of 5", {}) && shows("No visits match."));
-    click("Show all");
-    EXPECT_TRUE(lists("5 visits", {}) && !shows("Past this place"));
+    EXPECT_TRUE(shows("When they came") && shows("5 visits")) << "nobody passed there";
+}
+
+/// What is exported and deleted is in the list.
+TEST_F(PatternsTest, TheDetailShowsAVisitOfTheListOrNone) {
+    look(five());
+    const RecordKey first = store().history()[0].key;
+    store().openRecord(first);
+    search("ignored");
+    ASSERT_TRUE(store().selectedRecord());
+    EXPECT_NE(store().selectedRecord(), first);
+    EXPECT_EQ(store().findRecord(*store().selectedRecord())->record->outcome, Outcome::ignored);
+    EXPECT_TRUE(shows("Delete this visit"));
+    search("nobody");
+    EXPECT_FALSE(shows("Delete this visit"));
+    store().setSection(Section::overview);
+    store().openRecord(first);
+    settle();
+    EXPECT_EQ(store().selectedRecord(), first) << "an opened record ends the filter that hides it";
+    EXPECT_TRUE(shows("5 visits") && shows("Delete this visit"));
 }
 
 TEST_F(PatternsTest, RowsFilterThePatternsAndClearTheirFilter) {

@@ -26,8 +26,9 @@ Toast::Toast(QWidget* window) : QWidget(window), hideTimer_(messageTime, UiTimer
     hide();
 }
 
-void Toast::setMessage(const QString& message) {
+void Toast::setMessage(const QString& message, Tone tone) {
     message_ = message;
+    tone_ = tone;
     updateGeometry();
     show();
     raise();
@@ -46,7 +47,7 @@ void Toast::paintEvent(QPaintEvent*) {
     fillRounded(painter, rect(), Measure::cardRadius, SB::navy, SB::faded(SB::dTitle, 0.2));
     const QPointF center(padding + dot / 2, height() / 2.0);
     fillDisc(painter, center, dot + 2, SB::dTitle);
-    fillDisc(painter, center, dot, SB::alert);
+    fillDisc(painter, center, dot, tone_ == Tone::failure ? SB::alert : SB::teal);
     drawText(painter, QRectF(rect()).adjusted(textLeft, 0, -padding, 0), message_, Type::link, SB::dTitle,
              Qt::AlignVCenter);
 }

@@ -92,13 +92,16 @@ QString metres(double inside) {
     return Words::tr("%1 m").arg(oneDecimal(inside));
 }
 
-/// Beside the ring and a little below it, because the line rises on both sides; above it where the chart
-/// ends.
-QRectF valueRect(const QRectF& plot, QPointF least, const QString& value) {
+/// Beside the ring and a little below it, because the line rises on both sides; in the buffer rather than on
+/// its edge, and above the ring where the chart ends.
+QRectF valueRect(const QRectF& plot, QPointF least, const QString& value, double edge) {
     QRectF rect(0, 0, textWidth(value, Type::legendStrong), Type::legendStrong.line);
     const bool left = least.x() - valueGap - rect.width() >= plot.left();
     rect.moveLeft(left ? least.x() - valueGap - rect.width() : least.x() + valueGap);
     rect.moveTop(least.y() + valueDrop - rect.height() / 2);
+    const bool crossesEdge = rect.top() < edge && edge < rect.bottom();
+    if (crossesEdge && edge + rect.height() <= plot.bottom())
+        rect.moveTop(edge);
     if (rect.bottom() > plot.bottom())
         rect.moveBottom(plot.bottom());
     return rect;
@@ -175,7 +178,7 @@ void paintBoundaryChart(QPainter& painter, const QRectF& plot, const BoundaryCha
         scale.y(evidence.leastDistance));
     fillDisc(painter, least, ring, SB::page, SB::teal, lineWidth);
     const QString value = metres(evidence.leastDistance);
-    const QRectF beside = valueRect(plot, least, value);
+    const QRectF beside = valueRect(plot, least, value, edge);
     drawText(painter, beside, value, Type::legendStrong, SB::ink, Qt::AlignVCenter);
     paintBufferLabel(painter, plot, edge, boundary, Words::tr("%1 m buffer").arg(rounded(chart.buffer)),
                      beside);

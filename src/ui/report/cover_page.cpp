@@ -74,9 +74,10 @@ private:
         const auto add = [&](const QString& text) {
             y = pages_.paragraph({row.left(), y + 1, row.width(), 0}, text, Type::body, SB::body, 2) - 1;
         };
-        if (patterns_.first())
-            add(Words::tr("%1 to %2", "date, date")
-                    .arg(fullDate(*patterns_.first()), fullDate(*patterns_.last())));
+        if (patterns_.first()) {
+            const QString first = fullDate(*patterns_.first()), last = fullDate(*patterns_.last());
+            add(first == last ? first : Words::tr("%1 to %2", "date, date").arg(first, last));
+        }
         if (!selection.isEmpty())
             add(Words::tr("Only these visits: %1", "names of filters").arg(selection));
         return y + Measure::gap16;

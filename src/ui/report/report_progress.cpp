@@ -54,7 +54,8 @@ ReportProgress::ReportProgress(QWidget* window)
 void ReportProgress::follow(ReportJob& job) {
     job_ = &job;
     percent_ = -1;
-    setBody(tr("%1 visits go into the report. The file is complete when all is done.").arg(job.visits()));
+    const QString visits = displayLocale().toString(static_cast<int>(job.visits()));
+    setBody(tr("%1 visits go into the report. The file is complete when all is done.").arg(visits));
     showDone(0);
     connect(&job, &ReportJob::progressed, this, &ReportProgress::showDone);
     connect(&job, &ReportJob::finished, this, &ReportProgress::detach);

@@ -71,7 +71,7 @@ MainWindow::MainWindow(AppStore& store)
     connect(&store_, &AppStore::attentionRequested, this, [this] { QApplication::alert(this); });
     connect(&store_, &AppStore::commandFailed, this, [this](Command command, const QString& reason) {
         if (!isFailureShown(command))
-            toast_->setMessage(failureText(command, reason));
+            toast_->setMessage(failureText(command, reason), Toast::Tone::failure);
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     approval_->updateAlert();
@@ -103,22 +103,20 @@ void MainWindow::buildCards() {
 /// of the flight.
 void MainWindow::showFailedExport(const QString& why) {
     if (store_.phase() != Phase::docked) {
-        toast_->setMessage(why);
+        toast_->setMessage(why, Toast::Tone::failure);
         return;
     }
     exportFailed_->setBody(why + ' ' + tr("Choose another folder and export it again."));
     exportFailed_->open();
 }
 
-/// The card of a long report would cover the answers or the controls of the flight, so there is none then.
+/// A long report has a card, which would cover the answers or the controls of a flight.
 void MainWindow::followReport(ReportJob& job) {
-    if (job.visits() < longReport)
-        return;
-    if (store_.phase() == Phase::docked)
+    if (job.visits() >= longReport && store_.phase() == Phase::docked)
         report_->follow(job);
     connect(&job, &ReportJob::finished, this, [this](const QString& error) {
         if (error.isEmpty())
-            toast_->setMessage(tr("The report is saved."));
+            toast_->setMessage(tr("The report is saved."), Toast::Tone::success);
     });
 }
 

@@ -32,7 +32,7 @@ HistoryList::HistoryList(AppStore& store, QWidget* parent)
     column->addLayout(buildTop());
     noMatch_ = buildNoMatch();
     footer_ = buildFooter();
-    column->addWidget(noMatch_);
+    column->addWidget(noMatch_, 1);
     column->addWidget(records_, 1);
     column->addWidget(summary_, 1);
     column->addStretch();
@@ -98,6 +98,7 @@ QWidget* HistoryList::buildNoMatch() {
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(words);
     column->addWidget(all, 0, Qt::AlignLeft);
+    column->addStretch(1);
     connect(all, &SBButton::clicked, this, [this] {
         filters_->setFilter({});
         focusContent();

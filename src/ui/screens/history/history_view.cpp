@@ -1,5 +1,6 @@
 #include "ui/screens/history/history_view.h"
 
+#include "model/walk_map.h"
 #include "ui/blocks/empty_state.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/sb_button.h"
@@ -23,7 +24,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 
 namespace velmora {
 
@@ -64,11 +64,13 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
       list_(new HistoryList(store, this)),
       detail_(new RecordDetail(store, this)),
       patterns_(new PatternsPane(this)),
+      nothingListed_(new QWidget(this)),
       empty_(buildEmpty()) {
     auto* row = bareLayout<QHBoxLayout>(this);
     row->addWidget(list_);
     row->addWidget(detail_, 1);
     row->addWidget(patterns_, 1);
+    row->addWidget(nothingListed_, 1);
     row->addWidget(empty_, 1);
     connect(list_, &HistoryList::selected, &store_, &AppStore::setSelectedRecord);
     connect(list_, &HistoryList::deleteRequested, this, &HistoryView::remove);
@@ -90,7 +92,7 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
 void HistoryView::connectPatterns() {
     PatternsSummary& summary = list_->summary();
     connect(list_, &HistoryList::modeChanged, this, &HistoryView::showParts);
-    connect(list_, &HistoryList::filterChanged, this, &HistoryView::showPatterns);
+    connect(list_, &HistoryList::filterChanged, this, &HistoryView::showParts);
     connect(&summary, &PatternsSummary::cameraChosen, this, [this](const QString& name) {
         changeFilter(
             [&](HistoryFilter& filter) { filter.camera = filter.camera == name ? QString() : name; });
@@ -103,9 +105,9 @@ void HistoryView::connectPatterns() {
     connect(patterns_, &PatternsPane::hoursChosen, this, [this](int weekday, int from, int to) {
         showVisits([&](HistoryFilter& filter) { filter.hours = {weekday, from, to}; });
     });
-    connect(patterns_, &PatternsPane::placeChosen, this,
-            [this](P place) { showVisits([&](HistoryFilter& filter) { filter.place = place; }); });
+    connect(patterns_, &PatternsPane::placeChosen, this, &HistoryView::showVisitsPast);
     connect(&store_, &AppStore::patternsRequested, this, &HistoryView::openPatterns);
+    connect(&store_, &AppStore::recordRequested, this, &HistoryView::openRecord);
 }
 
 void HistoryView::changeFilter(const std::function<void(HistoryFilter&)>& change) {
@@ -114,15 +116,30 @@ void HistoryView::changeFilter(const std::function<void(HistoryFilter&)>& change
     list_->filters().setFilter(filter);
 }
 
-/// The first of the visits is selected unless the selected one is among them.
 void HistoryView::showVisits(const std::function<void(HistoryFilter&)>& change) {
     changeFilter(change);
     list_->setMode(HistoryList::Mode::visits);
-    const auto& shown = list_->shown();
-    const auto& selected = store_.selectedRecord();
-    if (!shown.empty() && (!selected || std::ranges::find(shown, *selected) == shown.end()))
-        store_.setSelectedRecord(shown.front());
     list_->focusContent();
+}
+
+/// Does nothing for a place that no visit passed.
+void HistoryView::showVisitsPast(P place) {
+    const auto passes = [&](const HistoryEntry& visit) {
+        return passesWithin(*visit.record, place, WalkMap::passed);
+    };
+    if (std::ranges::any_of(list_->entries(), passes))
+        showVisits([&](HistoryFilter& filter) { filter.place = place; });
+}
+
+bool HistoryView::isListed(const std::optional<RecordKey>& record) const {
+    return record && std::ranges::find(list_->shown(), *record) != list_->shown().end();
+}
+
+void HistoryView::openRecord(RecordKey key) {
+    list_->setMode(HistoryList::Mode::visits);
+    if (!isListed(key))
+        list_->filters().setFilter({});
+    store_.setSelectedRecord(key);
 }
 
 void HistoryView::openPatterns() {
@@ -167,9 +184,14 @@ void HistoryView::refresh() {
         showSelection();
 }
 
+/// The detail shows, exports and deletes only a visit that is listed.
 void HistoryView::showParts() {
     const bool any = !store_.history().empty(), visits = list_->mode() == HistoryList::Mode::visits;
-    detail_->setVisible(any && visits);
+    const bool listed = !list_->shown().empty();
+    if (visits && listed && !isListed(store_.selectedRecord()))
+        store_.setSelectedRecord(list_->shown().front());
+    detail_->setVisible(visits && listed);
+    nothingListed_->setVisible(any && visits && !listed);
     patterns_->setVisible(any && !visits);
     empty_->setVisible(!any);
     showPatterns();
@@ -196,13 +218,8 @@ void HistoryView::showSelection() {
 
 /// The record to select when this one is removed: the next in the list, or the previous if it is the last.
 std::optional<RecordKey> HistoryView::neighbour(RecordKey key) const {
-    std::vector<RecordKey> keys = list_->shown();
-    auto found = std::ranges::find(keys, key);
-    if (found == keys.end() || keys.size() < 2) {
-        keys.clear();
-        std::ranges::transform(store_.history(), std::back_inserter(keys), &HistoryEntry::key);
-        found = std::ranges::find(keys, key);
-    }
+    const std::vector<RecordKey>& keys = list_->shown();
+    const auto found = std::ranges::find(keys, key);
     if (found == keys.end() || keys.size() < 2)
         return std::nullopt;
     return found + 1 != keys.end() ? *(found + 1) : *(found - 1);

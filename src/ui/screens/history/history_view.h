@@ -46,6 +46,9 @@ private:
     void connectPatterns();
     void changeFilter(const std::function<void(HistoryFilter&)>& change);
     void showVisits(const std::function<void(HistoryFilter&)>& change);
+    void showVisitsPast(P place);
+    bool isListed(const std::optional<RecordKey>& record) const;
+    void openRecord(RecordKey key);
     void openPatterns();
     void showParts();
     void showPatterns();
@@ -71,6 +74,7 @@ private:
     RecordDetail* detail_;
     PatternsPane* patterns_;
     SBButton* simulate_ = nullptr;
+    QWidget* nothingListed_; ///< in place of the detail
     QWidget* empty_;
     UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown: days and spans of time end
 };
