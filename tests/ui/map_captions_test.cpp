@@ -1,5 +1,6 @@
 #include "sim/simulator.h"
 #include "support/random.h"
+#include "ui/look/type.h"
 #include "ui/map/map_captions.h"
 
 #include <gtest/gtest.h>
@@ -59,6 +60,19 @@ TEST_P(MapCaptions, ThePadGivesWayToTheHeightWithoutFlicker) {
         EXPECT_GT(hidden, 100);
         EXPECT_LE(appearances, 3);
     }
+}
+
+TEST_P(MapCaptions, TheEndsOfAPathAreNamedInsideTheMapAndClearOfTheBuffersCaption) {
+    scene.state = LiveState::initial();
+    const QRectF buffer = bufferCaption(scene, view).box();
+    const QRectF canvas = view.canvas().adjusted(0, -Type::mapCaption.line, 0, Type::mapCaption.line);
+    for (double x = 0; x <= scene.state.site.size.x; ++x)
+        for (double y = 0; y <= scene.state.site.size.y; ++y) {
+            const QRectF named =
+                captionBeside(view.map(P{x, y}), 8, "LAST SEEN", Qt::white, scene, view).box();
+            ASSERT_FALSE(named.intersects(buffer)) << x << ' ' << y;
+            ASSERT_TRUE(canvas.contains(named)) << x << ' ' << y;
+        }
 }
 
 TEST_P(MapCaptions, TheVisitorsLabelStaysClearOfTheDroneAndSeldomChangesSides) {

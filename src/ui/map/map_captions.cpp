@@ -1,6 +1,7 @@
 #include "ui/map/map_captions.h"
 
 #include "language/language.h"
+#include "model/truncated.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -142,15 +143,26 @@ MapCaption heightCaption(const MapScene& scene, const MapTransform& view) {
             view.map(scene.state.drone.pos) + QPointF(0, heightOffset), Qt::AlignHCenter | Qt::AlignTop};
 }
 
+MapCaption bufferCaption(const MapScene& scene, const MapTransform& view) {
+    const QRectF boundary = view.map(boundsOf(scene.state.site));
+    return {Words::tr("%1 m buffer").arg(truncated(scene.settings.boundaryBuffer)), SB::lilac,
+            boundary.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom};
+}
+
 MapCaption captionBeside(QPointF point, double offset, const QString& text, const QColor& color,
-                         const MapTransform& view) {
-    MapCaption caption{text, color, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter};
-    if (caption.box().right() <= view.canvas().right())
-        return caption;
-    return {text,
-            color,
-            {std::min(point.x(), view.canvas().right() - mapEdge), point.y() - offset},
-            Qt::AlignRight | Qt::AlignBottom};
+                         const MapScene& scene, const MapTransform& view) {
+    const QRectF buffer = bufferCaption(scene, view).box();
+    const MapCaption beside{text, color, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter};
+    if (beside.box().right() <= view.canvas().right() && !beside.box().intersects(buffer))
+        return beside;
+    MapCaption above{text,
+                     color,
+                     {std::min(point.x(), view.canvas().right() - mapEdge),
+                      std::max(point.y() - offset, view.canvas().top() + Type::mapCaption.line)},
+                     Qt::AlignRight | Qt::AlignBottom};
+    if (above.box().intersects(buffer))
+        above.at.setY(buffer.top());
+    return above;
 }
 
 MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side) {

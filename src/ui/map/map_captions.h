@@ -41,8 +41,12 @@ MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, Label
 /// Otherwise the first side that is free; if none is, a camera's caption counts less than the drone.
 LabelSide freeLabelSide(const MapScene& scene, const MapTransform& view);
 
-/// To the right of a point, or above and left of it if the map ends too soon.
+/// The width of the buffer, in its corner.
+MapCaption bufferCaption(const MapScene& scene, const MapTransform& view);
+
+/// To the right of a point on a path. If the map ends too soon or the buffer's caption is there, above and
+/// left of the point, clear of that caption.
 MapCaption captionBeside(QPointF point, double offset, const QString& text, const QColor& color,
-                         const MapTransform& view);
+                         const MapScene& scene, const MapTransform& view);
 
 } // namespace velmora

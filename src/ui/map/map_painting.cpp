@@ -2,7 +2,6 @@
 
 #include "language/language.h"
 #include "model/follow_point.h"
-#include "model/truncated.h"
 #include "ui/look/art.h"
 #include "ui/look/motion.h"
 #include "ui/look/tokens.h"
@@ -98,9 +97,7 @@ public:
         const QRectF outer = view_.map(boundsOf(site_));
         drawCaption(painter_, {Words::tr("Your boundary"), SB::dTeal, outer.topLeft() + QPointF(8, 7),
                                Qt::AlignLeft | Qt::AlignTop});
-        drawCaption(painter_,
-                    {Words::tr("%1 m buffer").arg(truncated(scene_.settings.boundaryBuffer)), SB::lilac,
-                     outer.bottomRight() - QPointF(8, 7), Qt::AlignRight | Qt::AlignBottom});
+        drawCaption(painter_, bufferCaption(scene_, view_));
     }
 
     void drawViews() {
@@ -276,7 +273,8 @@ private:
         const QPointF center = view_.map(at);
         drawCircle(painter_, center, markerRadius, SB::lilac, Qt::NoPen);
         if (measures_.captions)
-            drawCaption(painter_, captionBeside(center, markerLabelOffset, caption, SB::lilac, view_));
+            drawCaption(painter_,
+                        captionBeside(center, markerLabelOffset, caption, SB::lilac, scene_, view_));
     }
 
     QPainter& painter_;
