@@ -28,7 +28,8 @@ constexpr double factRow = 58;
 constexpr double chartHeight = 60;
 constexpr double afterX = 92, eventX = 164; // columns of the log
 constexpr double leastRow = 22, rowPadding = 4;
-constexpr double leastPart = 30; // between two parts of the response
+constexpr double leastRowPadding = -2; // the letters keep apart: a line is higher than they are
+constexpr double leastPart = 30;       // between two parts of the response
 constexpr int mostEventLines = 12;
 
 using Frame = ReportPages::Frame;
@@ -290,10 +291,10 @@ private:
             y = line(y);
         }
         y = tableHead(y, Words::tr("What happened"));
+        const double padding = paddingFor(pages_.bottom() - y);
         for (const Notice& notice : record_.notices) {
-            const QStringList lines = brokenIntoLines(shownText(notice.text), Type::label2,
-                                                      pages_.width() - eventX, mostEventLines);
-            const double height = static_cast<double>(lines.size()) * Type::label2.line + rowPadding;
+            const QStringList lines = eventLines(notice);
+            const double height = static_cast<double>(lines.size()) * Type::label2.line + padding;
             if (y + height > pages_.bottom()) {
                 pages_.next();
                 y = ReportPages::top;
@@ -301,14 +302,31 @@ private:
                             Type::label2, SB::muted, Qt::AlignRight | Qt::AlignVCenter);
                 y = tableHead(y, Words::tr("What happened, continued"));
             }
-            row(y, notice, lines);
+            row(y + padding / 2, notice, lines);
             y += height;
             pages_.hairline(y);
         }
     }
 
+    QStringList eventLines(const Notice& notice) const {
+        return brokenIntoLines(shownText(notice.text), Type::label2, pages_.width() - eventX, mostEventLines);
+    }
+
+    /// Closer rows where that saves a page.
+    double paddingFor(double room) const {
+        const auto rows = static_cast<double>(record_.notices.size());
+        if (rows * (Type::label2.line + leastRowPadding) > room)
+            return rowPadding;
+        double lines = 0;
+        for (const Notice& notice : record_.notices)
+            lines += static_cast<double>(eventLines(notice).size());
+        constexpr double rounding = 0.01;
+        const double fitting = (room - lines * Type::label2.line) / rows - rounding;
+        return fitting < leastRowPadding ? rowPadding : std::min(fitting, rowPadding);
+    }
+
     void row(double y, const Notice& notice, const QStringList& lines) {
-        QRectF cell(pages_.left(), y + rowPadding / 2, afterX - Measure::gap8, Type::label2.line);
+        QRectF cell(pages_.left(), y, afterX - Measure::gap8, Type::label2.line);
         pages_.line(cell, timeOfDay(notice.time), Type::label2, SB::ink);
         const Seconds after{std::max((notice.time - record_.start).count(), 0.0)};
         cell.translate(afterX, 0);
