@@ -20,7 +20,7 @@ class LastDays : public QWidget {
 public:
     LastDays(AppStore& store, QWidget* parent);
 
-    /// Adds new visits to the figures. Computes them anew if visits were removed or have become too old.
+    /// Adds new visits to the figures. Computes all again if visits were removed or have become too old.
     void refresh();
     /// Sets the height that there is for the group, in pixels: it is shown from 200 on, with as many cameras
     /// as fit.
