@@ -110,7 +110,8 @@ protected:
             press();
             const int sent = server.sent();
             waitUntil([&] { return server.posts.size() > before || server.sent() > sent + 1; });
-            EXPECT_TRUE(server.posts.size() > before || longestStall_ > 60) << "no command was sent";
+            EXPECT_TRUE(server.posts.size() > before || longestStall_ > 60)
+                << "no command was sent; the journal has: " << journal().join(", ").toStdString();
         }
         if (HasFailure())
             return;
