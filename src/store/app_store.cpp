@@ -168,15 +168,14 @@ bool AppStore::answer(Command command, const AlertId& seen, CommandSource source
         journal_.append(entry);
         journal_.sync();
         tick();
-        if (canAnswer(seen)) {
+        const bool sends = canAnswer(seen);
+        if (sends)
             transmit(entry);
-            return true;
-        }
+        else
+            appendResult(entry, CommandResult::failed, whyDropped(seen));
+        return sends;
     }
-    JournalEntry entry = journalEntry(command, seen.missionId, source);
-    entry.result = CommandResult::dropped;
-    entry.reason = whyDropped(seen);
-    journal_.append(entry);
+    appendResult(journalEntry(command, seen.missionId, source), CommandResult::dropped, whyDropped(seen));
     return false;
 }
 
@@ -216,13 +215,17 @@ void AppStore::transmit(const JournalEntry& entry) {
         return;
     }
     session_.send(entry.command, entry.mission, state_, [this, entry](const LinkError& error) {
-        JournalEntry failed = entry;
-        failed.time = now();
-        failed.result = CommandResult::failed;
-        failed.reason =
-            error.failure == Failure::other ? error.text.toStdString() : std::string(rawValue(error.failure));
-        journal_.append(failed);
+        appendResult(entry, CommandResult::failed,
+                     error.failure == Failure::other ? error.text.toStdString()
+                                                     : std::string(rawValue(error.failure)));
     });
+}
+
+void AppStore::appendResult(JournalEntry entry, CommandResult result, const std::string& reason) {
+    entry.time = now();
+    entry.result = result;
+    entry.reason = reason;
+    journal_.append(entry);
 }
 
 std::optional<GivenAnswer> AppStore::answerTo(const MissionRecord& record) const {

@@ -163,6 +163,7 @@ private:
     void advanceSimulator(Date now, double elapsed);
     bool canAnswer(const AlertId& seen) const;
     void transmit(const JournalEntry& entry);
+    void appendResult(JournalEntry entry, CommandResult result, const std::string& reason);
     std::string whyDropped(const AlertId& seen) const;
     JournalEntry journalEntry(Command command, const std::optional<std::string>& mission,
                               CommandSource source) const;
