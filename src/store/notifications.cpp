@@ -1,10 +1,8 @@
 #include "store/notifications.h"
 
 #include "language/language.h"
+#include "language/local_date_time.h"
 #include "language/stored_text.h"
-#include "model/truncated.h"
-
-#include <QDateTime>
 
 #include <algorithm>
 #include <utility>
@@ -27,12 +25,10 @@ Notification notificationOf(const LiveState& state) {
 
 /// "14:02", or "Wed 19 Nov, 14:02" if that is not the local day of `now`.
 QString timeText(Date date, Date now) {
-    const auto local = [](Date instant) {
-        return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(instant) * 1000));
-    };
-    const bool today = local(date).date() == local(now).date();
-    return displayLocale().toString(local(date), today ? QStringLiteral("HH:mm")
-                                                       : Words::tr("ddd d MMM, HH:mm", "form of a date"));
+    const bool today = localDateTime(date).date() == localDateTime(now).date();
+    return displayLocale().toString(localDateTime(date),
+                                    today ? QStringLiteral("HH:mm")
+                                          : Words::tr("ddd d MMM, HH:mm", "form of a date"));
 }
 
 QString outageBody(const Outage& outage, Date now) {

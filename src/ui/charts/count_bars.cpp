@@ -36,7 +36,7 @@ QString countText(const CountRow& row) {
     return displayLocale().toString(row.visits);
 }
 
-/// Where the name may stand.
+/// The room for the name.
 QRectF nameRect(const QRectF& rect, const CountRow& row, double nameWidth) {
     return hasBar(row) ? QRectF(rect.topLeft(), QSizeF(nameWidth - Measure::gap12, rect.height()))
                        : rect.adjusted(countTextX, 0,

@@ -1,6 +1,7 @@
 #include "ui/charts/pattern_figures.h"
 
 #include "language/language.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/words.h"
 
 #include <cmath>
@@ -8,6 +9,10 @@
 namespace velmora {
 
 namespace {
+
+QString number(int count) {
+    return displayLocale().toString(count);
+}
 
 const QString noValue = QStringLiteral("—");
 
@@ -25,10 +30,11 @@ QString answersText(int answers, int alerts, int expired) {
     if (alerts == 0)
         return Words::tr("no alert asked for one");
     if (answers == 0)
-        return Words::tr("%1 of %2 alerts expired").arg(expired).arg(alerts);
+        return Words::tr("%1 of %2 alerts expired").arg(number(expired), number(alerts));
     if (answers == 1)
-        return Words::tr("1 answer; %1 of %2 alerts expired").arg(expired).arg(alerts);
-    return Words::tr("median of %1 answers; %2 of %3 alerts expired").arg(answers).arg(expired).arg(alerts);
+        return Words::tr("1 answer; %1 of %2 alerts expired").arg(number(expired), number(alerts));
+    return Words::tr("median of %1 answers; %2 of %3 alerts expired")
+        .arg(number(answers), number(expired), number(alerts));
 }
 
 QString flightsText(int flights) {
@@ -36,7 +42,7 @@ QString flightsText(int flights) {
         return Words::tr("no flight reached a visitor");
     if (flights == 1)
         return Words::tr("1 flight, seen to on station");
-    return Words::tr("median of %1 flights, seen to on station").arg(flights);
+    return Words::tr("median of %1 flights, seen to on station").arg(number(flights));
 }
 
 PatternFigure insideFigure(const std::optional<double>& least) {
@@ -56,6 +62,24 @@ std::vector<PatternFigure> patternFigures(const VisitPatterns& patterns) {
                        answersText(answer.count, patterns.alerts(), patterns.expired())),
             timeFigure(Words::tr("To the visitor"), station, flightsText(station.count)),
             insideFigure(patterns.leastInside())};
+}
+
+std::vector<CountRow> cameraRows(const VisitPatterns& patterns) {
+    std::vector<CountRow> rows;
+    for (const CameraCount& camera : patterns.byCamera()) {
+        const QString name = shownText(camera.name);
+        rows.push_back({name, name, camera.visits});
+    }
+    return rows;
+}
+
+std::vector<CountRow> outcomeRows(const VisitPatterns& patterns) {
+    std::vector<CountRow> rows;
+    for (const auto& [outcome, text] : rawValuesOf<Outcome>)
+        if (const int visits = patterns.visitsWith(outcome); visits > 0)
+            rows.push_back({QString::number(static_cast<int>(outcome)), outcomeText(outcome), visits,
+                            outcomeColor(outcome)});
+    return rows;
 }
 
 } // namespace velmora

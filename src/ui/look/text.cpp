@@ -155,7 +155,7 @@ namespace {
 
 /// Ends of the pieces that a text is drawn in: letters together, digits together, any other character alone.
 /// The typeface has other shapes for signs beside digits and capitals, such as a raised colon, and a document
-/// does not know which character such a shape stands for.
+/// does not know the character of such a shape.
 std::vector<qsizetype> pieceEnds(const QString& text) {
     if (std::ranges::any_of(text, isRightToLeft))
         return {text.size()};

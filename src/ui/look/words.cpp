@@ -1,9 +1,8 @@
 #include "ui/look/words.h"
 
 #include "language/language.h"
+#include "language/local_date_time.h"
 #include "model/truncated.h"
-
-#include <QDateTime>
 
 #include <array>
 #include <charconv>
@@ -15,10 +14,6 @@ namespace {
 
 QString twoDigits(std::int64_t number) {
     return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-}
-
-QDateTime localTime(Date date) {
-    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000));
 }
 
 } // namespace
@@ -134,11 +129,11 @@ QString clockTime(Seconds elapsed) {
 }
 
 QString timeOfDay(Date date) {
-    return localTime(date).toString(QStringLiteral("HH:mm:ss"));
+    return localDateTime(date).toString(QStringLiteral("HH:mm:ss"));
 }
 
 QString dayName(Date date, Date now) {
-    const QDateTime then = localTime(date), today = localTime(now);
+    const QDateTime then = localDateTime(date), today = localDateTime(now);
     const qint64 days = then.date().daysTo(today.date());
     if (days == 0)
         return Words::tr("Today");
@@ -151,8 +146,8 @@ QString dayName(Date date, Date now) {
 
 QString dayAndTime(Date date, Date now) {
     constexpr qint64 daysInWeek = 7;
-    const QDateTime then = localTime(date);
-    const qint64 days = then.date().daysTo(localTime(now).date());
+    const QDateTime then = localDateTime(date);
+    const qint64 days = then.date().daysTo(localDateTime(now).date());
     const QString time = then.toString(QStringLiteral("HH:mm"));
     if (days == 0)
         return time;
@@ -165,7 +160,7 @@ QString dayAndTime(Date date, Date now) {
 
 QString dayNameAndTime(Date date, Date now) {
     return Words::tr("%1 %2", "day, time")
-        .arg(dayName(date, now), localTime(date).toString(QStringLiteral("HH:mm")));
+        .arg(dayName(date, now), localDateTime(date).toString(QStringLiteral("HH:mm")));
 }
 
 QString duration(Seconds length) {

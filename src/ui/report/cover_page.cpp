@@ -1,7 +1,6 @@
 #include "ui/report/cover_page.h"
 
 #include "language/language.h"
-#include "ui/charts/count_bars.h"
 #include "ui/charts/heat_painting.h"
 #include "ui/charts/pattern_figures.h"
 #include "ui/charts/pattern_words.h"
@@ -26,14 +25,6 @@ constexpr double heatScale = 2;
 constexpr double figureRow = 96;
 constexpr double countRow = 28, countRowLeast = 20;
 constexpr double aboveLine = 13, belowLine = 14;
-
-MapScene sceneOf(const ReportSetting& setting, bool captions) {
-    MapScene scene;
-    scene.state.site = setting.site;
-    scene.settings = setting.settings;
-    scene.measures.captions = captions;
-    return scene;
-}
 
 class Cover {
 public:
@@ -90,7 +81,7 @@ private:
             clipRounded(*painter, rect);
             painter->drawImage(rect, map_);
             painter->translate(rect.topLeft());
-            drawLandmarks(*painter, sceneOf(setting_, true), rect.size());
+            drawLandmarks(*painter, reportScene(setting_, true), rect.size());
             painter->restore();
             drawHeatKey(*painter, {rect.left(), rect.bottom() + Measure::gap4, reportMap.width(), keyRow},
                         mostVisits_);
@@ -134,23 +125,8 @@ private:
         heading(right, Words::tr("How they ended"));
         pages_.line(right, Words::tr("%1 of %2 flown").arg(patterns_.flown()).arg(patterns_.visits()),
                     Type::label2, SB::muted, Qt::AlignRight);
-        rows(left.translated(0, left.height() + Measure::gap4), cameraRows());
-        rows(right.translated(0, right.height() + Measure::gap4), outcomeRows());
-    }
-
-    std::vector<CountRow> cameraRows() const {
-        std::vector<CountRow> rows;
-        for (const CameraCount& camera : patterns_.byCamera())
-            rows.push_back({{}, shownText(camera.name), camera.visits, Qt::transparent});
-        return rows;
-    }
-
-    std::vector<CountRow> outcomeRows() const {
-        std::vector<CountRow> rows;
-        for (const auto& [outcome, text] : rawValuesOf<Outcome>)
-            if (const int visits = patterns_.visitsWith(outcome); visits > 0)
-                rows.push_back({{}, shownText(text), visits, SB::dot});
-        return rows;
+        rows(left.translated(0, left.height() + Measure::gap4), cameraRows(patterns_));
+        rows(right.translated(0, right.height() + Measure::gap4), outcomeRows(patterns_));
     }
 
     /// As many as the page has room for.
@@ -191,7 +167,7 @@ void CoverPage::prepare(const ReportSetting& setting) {
     map_.setDevicePixelRatio(heatScale);
     map_.fill(SB::navy);
     QPainter painter(&map_);
-    drawHeatMap(painter, sceneOf(setting, false), heat, size, heatScale);
+    drawHeatMap(painter, reportScene(setting, false), heat, size, heatScale);
 }
 
 void CoverPage::layOut(ReportPages& pages, const ReportSetting& setting, const QString& selection) const {

@@ -90,8 +90,7 @@ bool ReportJob::work() {
     case Stage::counting:
         return forOneStep([this] { return countMore(); });
     case Stage::grounds:
-        pictures_.grounds(content_.setting.site, content_.setting.settings,
-                          reportMapSize(content_.setting.site));
+        pictures_.grounds(reportScene(content_.setting, false), reportMapSize(content_.setting.site));
         return false;
     case Stage::map:
         if (content_.hasCover)

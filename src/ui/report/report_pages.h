@@ -25,7 +25,7 @@ inline constexpr TextStyle fact{Face::displayMedium, 24, 28, -0.3}; // digits of
 /// that pages can be counted before they are drawn.
 class ReportPages {
 public:
-    /// What stands at the edges of a page.
+    /// The texts at the edges of a page.
     struct Frame {
         QString heading; ///< at the top right
         QString foot;    ///< about what, and who made it

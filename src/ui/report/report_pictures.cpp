@@ -25,13 +25,9 @@ const QImage& ReportPictures::camera(const QString& name) {
     return *cameras_.insert(name, picture);
 }
 
-const QImage& ReportPictures::grounds(const Site& site, const Settings& settings, QSizeF size) {
+const QImage& ReportPictures::grounds(const MapScene& scene, QSizeF size) {
     if (!grounds_.isNull())
         return grounds_;
-    MapScene scene;
-    scene.state.site = site;
-    scene.settings = settings;
-    scene.measures.captions = false;
     grounds_ = QImage((size * groundsScale).toSize(), QImage::Format_RGB32);
     grounds_.setDevicePixelRatio(groundsScale);
     grounds_.fill(SB::navy);

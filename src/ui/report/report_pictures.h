@@ -1,7 +1,6 @@
 #pragma once
 
-#include "model/live_state.h"
-#include "model/settings.h"
+#include "ui/map/map_scene.h"
 
 #include <QHash>
 #include <QImage>
@@ -16,8 +15,8 @@ public:
     /// The whole camera picture in its own resolution, but at most 4096 pixels wide and high; null if there
     /// is none.
     const QImage& camera(const QString& name);
-    /// The grounds without captions, for a map of this size in pixels at 96 dpi.
-    const QImage& grounds(const Site& site, const Settings& settings, QSizeF size);
+    /// The grounds of the first scene that it is called with, for a map of this size in pixels at 96 dpi.
+    const QImage& grounds(const MapScene& scene, QSizeF size);
 
 private:
     QHash<QString, QImage> cameras_;

@@ -1,14 +1,12 @@
 #include "ui/report/report_words.h"
 
 #include "language/language.h"
+#include "language/local_date_time.h"
 #include "model/mission_evidence.h"
 #include "model/notice_texts.h"
-#include "model/truncated.h"
 #include "ui/look/answer_words.h"
 #include "ui/look/text.h"
 #include "ui/look/words.h"
-
-#include <QDateTime>
 
 #include <cmath>
 
@@ -17,10 +15,6 @@ namespace velmora {
 namespace {
 
 constexpr double longestName = 220; // pixels; longer names are elided
-
-QDateTime localTime(Date date) {
-    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000));
-}
 
 QString timeAndOffset(Date date) {
     return Words::tr("%1 (%2)", "time, offset from UTC").arg(timeOfDay(date), utcOffset(date));
@@ -113,12 +107,12 @@ QString pageNumber(int page, int pages) {
 }
 
 QString fullDate(Date date) {
-    return displayLocale().toString(localTime(date), Words::tr("dddd d MMMM yyyy", "form of a date"));
+    return displayLocale().toString(localDateTime(date), Words::tr("dddd d MMMM yyyy", "form of a date"));
 }
 
 QString utcOffset(Date date) {
     constexpr int hour = 3600, minute = 60;
-    const int seconds = localTime(date).offsetFromUtc();
+    const int seconds = localDateTime(date).offsetFromUtc();
     const int rest = std::abs(seconds) % hour / minute;
     return QStringLiteral("UTC%1%2%3")
         .arg(QLatin1Char(seconds < 0 ? '-' : '+'))
@@ -127,7 +121,7 @@ QString utcOffset(Date date) {
 }
 
 QString visitTimes(const MissionRecord& record) {
-    const bool sameDay = localTime(record.start).date() == localTime(record.end).date();
+    const bool sameDay = localDateTime(record.start).date() == localDateTime(record.end).date();
     return sameDay ? Words::tr("%1, %2 to %3", "date, time, time")
                          .arg(fullDate(record.start), timeOfDay(record.start), timeAndOffset(record.end))
                    : Words::tr("%1, %2 to %3, %4", "date, time, date, time")
@@ -168,7 +162,7 @@ QString mapKey(const MissionRecord& record, const Settings& settings) {
 }
 
 QString madeBy(Date now) {
-    const QDateTime time = localTime(now);
+    const QDateTime time = localDateTime(now);
     const QString date =
         displayLocale().toString(time, Words::tr("d MMMM yyyy, HH:mm", "form of a date and time"));
     return Words::tr("Made by Velmora %1 on %2 (%3)")

@@ -117,13 +117,11 @@ private:
     }
 
     void paintMap(QPainter& painter, const QRectF& rect) {
-        MapScene scene;
-        scene.state.site = setting_.site;
-        scene.settings = setting_.settings;
+        MapScene scene = reportScene(setting_, true);
         scene.replay = Replay{visit_.record, progressAt(record_, durationOf(record_))};
         painter.save();
         clipRounded(painter, rect);
-        painter.drawImage(rect, pictures_.grounds(setting_.site, setting_.settings, rect.size()));
+        painter.drawImage(rect, pictures_.grounds(reportScene(setting_, false), rect.size()));
         painter.translate(rect.topLeft());
         drawLandmarks(painter, scene, rect.size());
         drawPaths(painter, scene, rect.size());
@@ -279,7 +277,7 @@ private:
         return y;
     }
 
-    /// A heading without a row stands on no page.
+    /// The heading moves to the next page unless two rows fit below it.
     void log(double y) {
         if (record_.notices.empty())
             return;
@@ -352,6 +350,14 @@ private:
 
 QSizeF reportMapSize(const Site& site) {
     return QSizeF(site.size.x, site.size.y).scaled(reportMap, Qt::KeepAspectRatio);
+}
+
+MapScene reportScene(const ReportSetting& setting, bool captions) {
+    MapScene scene;
+    scene.state.site = setting.site;
+    scene.settings = setting.settings;
+    scene.measures.captions = captions;
+    return scene;
 }
 
 void clipRounded(QPainter& painter, const QRectF& rect) {

@@ -24,11 +24,13 @@ struct ReportSetting {
     QPageSize paper;
 };
 
-/// The room for a map, in pixels at 96 dpi, and the gap to what stands beside it.
+/// The room for a map, in pixels at 96 dpi, and the gap to the column beside it.
 inline constexpr QSizeF reportMap(408, 272);
 inline constexpr double reportColumnGap = 24;
 /// The size of the site's map in that room.
 QSizeF reportMapSize(const Site& site);
+/// The site on a map, with or without its captions.
+MapScene reportScene(const ReportSetting& setting, bool captions);
 /// Rounds the corners of what is painted next.
 void clipRounded(QPainter& painter, const QRectF& rect);
 /// Where the facts of a report come from.

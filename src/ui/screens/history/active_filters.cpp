@@ -5,12 +5,12 @@
 #include "ui/blocks/flow_layout.h"
 #include "ui/blocks/focus_ring.h"
 #include "ui/blocks/tool_tip.h"
+#include "ui/charts/outcomes.h"
 #include "ui/charts/pattern_words.h"
 #include "ui/look/measures.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
-#include "ui/screens/outcomes.h"
 
 #include <QAbstractButton>
 

@@ -2,8 +2,8 @@
 
 #include "model/visit_patterns.h"
 #include "model/walk_map.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/words.h"
-#include "ui/screens/outcomes.h"
 
 #include <algorithm>
 

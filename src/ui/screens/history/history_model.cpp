@@ -1,8 +1,8 @@
 #include "ui/screens/history/history_model.h"
 
 #include "model/mission_evidence.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/words.h"
-#include "ui/screens/outcomes.h"
 
 #include <algorithm>
 

@@ -4,13 +4,13 @@
 #include "model/mission_evidence.h"
 #include "ui/blocks/badge.h"
 #include "ui/blocks/status_dot.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
 #include "ui/screens/history/history_model.h"
 #include "ui/screens/history/path_thumbnail.h"
-#include "ui/screens/outcomes.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

@@ -8,6 +8,7 @@
 #include "ui/blocks/sb_button.h"
 #include "ui/blocks/scroll_area.h"
 #include "ui/blocks/text.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
@@ -16,7 +17,6 @@
 #include "ui/screens/history/record_facts.h"
 #include "ui/screens/history/replay_bar.h"
 #include "ui/screens/history/replay_player.h"
-#include "ui/screens/outcomes.h"
 
 #include <QVBoxLayout>
 

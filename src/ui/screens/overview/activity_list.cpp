@@ -8,11 +8,11 @@
 #include "ui/blocks/status_dot.h"
 #include "ui/blocks/text.h"
 #include "ui/blocks/tool_tip.h"
+#include "ui/charts/outcomes.h"
 #include "ui/look/paint.h"
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
-#include "ui/screens/outcomes.h"
 
 #include <QAbstractButton>
 #include <QVBoxLayout>

@@ -1,11 +1,10 @@
 #include "ui/screens/overview/last_days.h"
 
-#include "language/stored_text.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/link_button.h"
 #include "ui/blocks/text.h"
 #include "ui/charts/chart_measures.h"
-#include "ui/charts/count_bars.h"
+#include "ui/charts/pattern_figures.h"
 #include "ui/charts/pattern_words.h"
 #include "ui/charts/visit_matrix.h"
 #include "ui/look/measures.h"
@@ -21,13 +20,6 @@ namespace {
 
 constexpr std::chrono::days span(30);
 constexpr int leastRoom = 200; // pixels
-
-std::vector<CountRow> rowsOf(const VisitPatterns& patterns) {
-    std::vector<CountRow> rows;
-    for (const auto& [name, visits] : patterns.byCamera())
-        rows.push_back({.id = {}, .name = shownText(name), .visits = visits});
-    return rows;
-}
 
 } // namespace
 
@@ -90,7 +82,7 @@ void LastDays::showFigures() {
     sentence_->setText(sentence.lead + sentence.emphasis + sentence.tail);
     matrix_->setTimes(VisitTimes::of(patterns_));
     matrix_->setVisible(patterns_.visits() > 0);
-    cameras_->setRows(rowsOf(patterns_));
+    cameras_->setRows(cameraRows(patterns_));
     fitCameras();
 }
 

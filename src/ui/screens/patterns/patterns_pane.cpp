@@ -1,7 +1,7 @@
 #include "ui/screens/patterns/patterns_pane.h"
 
 #include "language/language.h"
-#include "model/truncated.h"
+#include "language/local_date_time.h"
 #include "ui/blocks/headline.h"
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/link_button.h"
@@ -14,7 +14,6 @@
 #include "ui/screens/patterns/pattern_facts.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,10 +25,6 @@ namespace {
 constexpr int factsWidth = 124, mapLeastHeight = 352;
 constexpr int aboveMatrix = Measure::gap20 + static_cast<int>(Type::groupHeading.line) + Measure::gap8;
 constexpr int besideLeast = 632; // narrower content has the facts below the map
-
-QDate dayOf(Date date) {
-    return QDateTime::fromMSecsSinceEpoch(truncated(secondsSince1970(date) * 1000)).date();
-}
 
 } // namespace
 
@@ -142,7 +137,7 @@ void PatternsPane::showHeading(const Period& period) {
         eyebrow_->setText(tr("Patterns"));
         return;
     }
-    const QDate first = dayOf(*from), last = dayOf(period.to);
+    const QDate first = localDateTime(*from).date(), last = localDateTime(period.to).date();
     const QString form =
         first.year() == last.year() ? tr("d MMMM", "form of a date") : tr("d MMMM yyyy", "form of a date");
     eyebrow_->setText(tr("Patterns · %1 to %2", "dates")

@@ -5,11 +5,9 @@
 #include "ui/blocks/layouts.h"
 #include "ui/blocks/scroll_area.h"
 #include "ui/blocks/text.h"
-#include "ui/charts/count_bars.h"
+#include "ui/charts/pattern_figures.h"
 #include "ui/look/measures.h"
 #include "ui/look/tokens.h"
-#include "ui/look/words.h"
-#include "ui/screens/outcomes.h"
 
 #include <QAbstractButton>
 #include <QVBoxLayout>
@@ -48,17 +46,8 @@ PatternsSummary::PatternsSummary(QWidget* parent) : QWidget(parent) {
 }
 
 void PatternsSummary::setPatterns(const VisitPatterns& patterns) {
-    std::vector<CountRow> cameras, outcomes;
-    for (const CameraCount& camera : patterns.byCamera()) {
-        const QString name = shownText(camera.name);
-        cameras.push_back({name, name, camera.visits});
-    }
-    for (const auto& [outcome, text] : rawValuesOf<Outcome>)
-        if (const int visits = patterns.visitsWith(outcome); visits > 0)
-            outcomes.push_back({QString::number(static_cast<int>(outcome)), outcomeText(outcome), visits,
-                                outcomeColor(outcome)});
-    cameras_->setRows(std::move(cameras));
-    outcomes_->setRows(std::move(outcomes));
+    cameras_->setRows(cameraRows(patterns));
+    outcomes_->setRows(outcomeRows(patterns));
     flown_->setText(
         tr("%1 of %2 flown")
             .arg(displayLocale().toString(patterns.flown()), displayLocale().toString(patterns.visits())));

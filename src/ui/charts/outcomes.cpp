@@ -1,4 +1,4 @@
-#include "ui/screens/outcomes.h"
+#include "ui/charts/outcomes.h"
 
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
