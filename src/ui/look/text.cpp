@@ -2,6 +2,7 @@
 
 #include <QCache>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <QTextDocument>
@@ -23,19 +24,25 @@ QFont enlargedFontOf(const TextStyle& style) {
     return font;
 }
 
-/// Measures texts of one style, in pixels.
-class Ruler {
-public:
-    explicit Ruler(const TextStyle& style) : metrics_(enlargedFontOf(style)) {}
+/// What a text of one style is cached by, with the width of a stroke along its outlines.
+using TextKey = std::pair<std::pair<std::pair<int, double>, std::pair<double, double>>, QString>;
 
-    double advance(const QString& text) const { return metrics_.horizontalAdvance(text) / enlarged; }
-    QString elided(const QString& text, double width) const {
-        return metrics_.elidedText(text, Qt::ElideRight, std::max(width, 0.0) * enlarged);
-    }
+TextKey keyOf(const QString& text, const TextStyle& style, double edge = 0) {
+    return {{{static_cast<int>(style.face), style.size}, {style.tracking, edge}}, text};
+}
 
-private:
-    QFontMetricsF metrics_;
-};
+/// Width in pixels with the tracking after the last letter. Cached, because a text is measured whenever it is
+/// painted, and shaping it takes longer than painting it.
+double advanceOf(const QString& text, const TextStyle& style) {
+    constexpr int mostTexts = 2000; // about 0.5 MB
+    static QCache<TextKey, double> cache(mostTexts);
+    const TextKey key = keyOf(text, style);
+    if (const double* known = cache.object(key))
+        return *known;
+    const double advance = QFontMetricsF(enlargedFontOf(style)).horizontalAdvance(text) / enlarged;
+    cache.insert(key, new double(advance));
+    return advance;
+}
 
 QString cased(const QString& text, const TextStyle& style) {
     return style.upperCase ? text.toUpper() : text;
@@ -58,14 +65,13 @@ bool isTabular(const QString& text, const TextStyle& style) {
 /// between two digits. Returns the width of the line in pixels.
 template <class Draw>
 double layoutTabular(const QString& text, const TextStyle& style, Draw draw) {
-    const Ruler ruler(style);
-    const double cell = ruler.advance(QStringLiteral("0"));
+    const double cell = advanceOf(QStringLiteral("0"), style);
     double x = 0;
     for (auto from = text.begin(); from != text.end();) {
         const bool digit = isAsciiDigit(*from);
         const auto to = digit ? from + 1 : std::find_if(from, text.end(), isAsciiDigit);
         const QString piece(from, to - from);
-        const double advance = ruler.advance(piece); // includes the tracking
+        const double advance = advanceOf(piece, style);
         draw(digit ? x + (cell - advance) / 2 : x, piece);
         x += digit ? cell : advance;
         from = to;
@@ -78,13 +84,14 @@ double casedWidth(const QString& text, const TextStyle& style) {
         return 0;
     if (isTabular(text, style))
         return layoutTabular(text, style, [](double, const QString&) {});
-    return Ruler(style).advance(text) - style.tracking;
+    return advanceOf(text, style) - style.tracking;
 }
 
 QString casedElided(const QString& text, const TextStyle& style, double width) {
     if (casedWidth(text, style) <= width + fitTolerance)
         return text;
-    return Ruler(style).elided(text, width);
+    return QFontMetricsF(enlargedFontOf(style))
+        .elidedText(text, Qt::ElideRight, std::max(width, 0.0) * enlarged);
 }
 
 /// False for text with emoji, which are pictures without outlines.
@@ -108,9 +115,19 @@ QString elided(const QString& text, const TextStyle& style, double width) {
     return casedElided(cased(text, style), style, width);
 }
 
+/// Cached for each face and size, because making a font takes longer than most texts take.
 double baselineOf(const TextStyle& style) {
-    const QFontMetricsF metrics(fontOf(style));
-    return (style.line - metrics.ascent() - metrics.descent()) / 2 + metrics.ascent();
+    struct Extent {
+        double ascent, descent;
+    };
+    static QHash<std::pair<int, double>, Extent> extents;
+    const std::pair key(static_cast<int>(style.face), style.size);
+    auto extent = extents.constFind(key);
+    if (extent == extents.constEnd()) {
+        const QFontMetricsF metrics(fontOf(style));
+        extent = extents.insert(key, {metrics.ascent(), metrics.descent()});
+    }
+    return (style.line - extent->ascent - extent->descent) / 2 + extent->ascent;
 }
 
 namespace {
@@ -127,10 +144,9 @@ QPainterPath strokeOf(const QPainterPath& outlines, double width) {
 /// Cached, because shaping and reading outlines takes longer than filling them, and most texts are painted
 /// many times.
 QPainterPath outlinesOf(const QString& text, const TextStyle& style, double edge = 0) {
-    using Key = std::pair<std::pair<int, double>, std::pair<std::pair<double, double>, QString>>;
     constexpr int mostElements = 40'000; // about 1 MB
-    static QCache<Key, QPainterPath> cache(mostElements);
-    const Key key{{static_cast<int>(style.face), style.size}, {{style.tracking, edge}, text}};
+    static QCache<TextKey, QPainterPath> cache(mostElements);
+    const TextKey key = keyOf(text, style, edge);
     if (const QPainterPath* known = cache.object(key))
         return *known;
     QPainterPath outlines;
@@ -179,13 +195,12 @@ void drawAsText(QPainter& painter, QPointF baseline, const QString& text, const 
     painter.scale(1 / enlarged, 1 / enlarged);
     painter.setFont(enlargedFontOf(style));
     painter.setPen(QPen(color, 0));
-    const Ruler ruler(style);
     double x = 0;
     qsizetype from = 0;
     for (const qsizetype end : pieceEnds(text)) {
         const QString piece = text.mid(from, end - from);
         painter.drawText(QPointF(x * enlarged, 0), piece);
-        x += ruler.advance(piece);
+        x += advanceOf(piece, style);
         from = end;
     }
     painter.restore();

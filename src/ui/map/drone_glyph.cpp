@@ -1,6 +1,7 @@
 #include "ui/map/drone_glyph.h"
 
 #include "ui/look/tokens.h"
+#include "ui/map/blended_shapes.h"
 
 #include <QPainter>
 
@@ -14,11 +15,13 @@ constexpr double armEnd = 4.949747468305833; // 7 pixels at 45 degrees
 constexpr QPointF armEnds[] = {{-armEnd, -armEnd}, {armEnd, -armEnd}, {-armEnd, armEnd}, {armEnd, armEnd}};
 constexpr double rotorRadius = 3.4, rotorPulse = 0.4, rotorSpeed = 30; // pixels, pixels, radians a second
 
-void drawBody(QPainter& painter, bool flying) {
-    painter.setBrush(SB::faded(SB::navy, 0.55));
-    painter.setPen(QPen(SB::faded(SB::dTeal, flying ? 0.9 : 0.5), 1.2));
-    painter.drawEllipse(QPointF(), droneRadius, droneRadius);
-    painter.setBrush(Qt::NoBrush);
+void drawBody(QPainter& painter, QPointF at, bool flying, double scale) {
+    const double line = 1.2 * scale, radius = droneRadius * scale, reach = radius + line;
+    blendShapes(painter, {at.x() - reach, at.y() - reach, 2 * reach, 2 * reach}, [&](QPainter& shapes) {
+        shapes.setBrush(SB::faded(SB::navy, 0.55));
+        shapes.setPen(QPen(SB::faded(SB::dTeal, flying ? 0.9 : 0.5), line));
+        shapes.drawEllipse(at, radius, radius);
+    });
 }
 
 void drawArms(QPainter& painter) {
@@ -42,11 +45,12 @@ void drawNose(QPainter& painter) {
 } // namespace
 
 void drawDrone(QPainter& painter, QPointF at, double heading, bool flying, double t, double scale) {
+    drawBody(painter, at, flying, scale);
     painter.save();
+    painter.setBrush(Qt::NoBrush);
     painter.translate(at);
     painter.rotate(heading + 90);
     painter.scale(scale, scale);
-    drawBody(painter, flying);
     drawArms(painter);
     drawRotors(painter, flying, t);
     drawNose(painter);

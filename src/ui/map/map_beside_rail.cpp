@@ -1,6 +1,7 @@
 #include "ui/map/map_beside_rail.h"
 
 #include "ui/look/measures.h"
+#include "ui/look/tokens.h"
 #include "ui/map/site_map.h"
 
 #include <QScrollArea>
@@ -15,7 +16,10 @@ namespace {
 /// Keeps a map at the largest size with the site's proportions, at the left or centred.
 class MapArea : public ItemLayout {
 public:
-    MapArea(SiteMap* map, Qt::Alignment alignment) : map_(map), alignment_(alignment) { addWidget(map); }
+    MapArea(SiteMap* map, Qt::Alignment alignment, const QColor& panel)
+        : map_(map), alignment_(alignment), panel_(panel) {
+        addWidget(map);
+    }
 
     QSize sizeHint() const override { return minimumSize(); }
     QSize minimumSize() const override { return {0, 0}; }
@@ -23,11 +27,14 @@ public:
     void setGeometry(const QRect& rect) override {
         QLayout::setGeometry(rect);
         map_->setGeometry(QStyle::alignedRect(Qt::LeftToRight, alignment_, map_->fitted(rect.size()), rect));
+        const bool isTop = map_->pos() == rect.topLeft() && map_->width() == rect.width();
+        map_->setCorners({isTop ? SB::page : panel_, panel_});
     }
 
 private:
     SiteMap* map_;
     Qt::Alignment alignment_;
+    QColor panel_;
 };
 
 } // namespace
@@ -35,8 +42,8 @@ private:
 MapPanel::MapPanel(QSize minimum, QWidget* parent)
     : QWidget(parent), map_(new SiteMap(this)), minimum_(minimum) {}
 
-QLayout* MapPanel::mapArea(Qt::Alignment alignment) {
-    return new MapArea(map_, alignment);
+QLayout* MapPanel::mapArea(Qt::Alignment alignment, const QColor& panel) {
+    return new MapArea(map_, alignment, panel);
 }
 
 QSize MapPanel::minimumSizeHint() const {

@@ -24,8 +24,9 @@ protected:
     /// mapArea() and the rows.
     MapPanel(QSize minimum, QWidget* parent);
 
-    /// A new layout item that keeps the map at its size where the panel is wider.
-    QLayout* mapArea(Qt::Alignment alignment);
+    /// A new layout item that keeps the map at its size where the panel is wider. `panel` is the colour of
+    /// the panel, whose upper corners are those of a map that fills it.
+    QLayout* mapArea(Qt::Alignment alignment, const QColor& panel);
     /// The panel's size if all rows together have this height.
     QSize fitted(QSize room, int rows) const;
     /// The height of all rows.

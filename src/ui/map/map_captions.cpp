@@ -26,15 +26,6 @@ constexpr double visitorLabelOffset = 10, visitorLabelRise = 24; // beside the v
 constexpr double mapEdge = 4;                                    // between a caption and the map's edge
 constexpr double touching = 3, apart = 9;                        // distances to the drone
 
-double widthOf(const QString& text) {
-    static QCache<QString, double> cache(100);
-    if (const double* known = cache.object(text))
-        return *known;
-    const double width = textWidth(text, Type::mapCaption);
-    cache.insert(text, new double(width));
-    return width;
-}
-
 QPixmap painted(const MapCaption& caption, const QColor& letters, double scale) {
     const QRectF area = caption.area(), box = caption.box().translated(-area.topLeft());
     QPixmap picture((area.size() * scale).toSize() + QSize(1, 1));
@@ -90,7 +81,7 @@ double gapToDrone(const QRectF& box, const MapScene& scene, const MapTransform& 
 } // namespace
 
 QRectF MapCaption::box() const {
-    QRectF box(at, QSizeF(widthOf(text), Type::mapCaption.line));
+    QRectF box(at, QSizeF(textWidth(text, Type::mapCaption), Type::mapCaption.line));
     if (anchor & Qt::AlignRight)
         box.moveRight(at.x());
     else if (anchor & Qt::AlignHCenter)

@@ -6,6 +6,7 @@
 #include "ui/look/motion.h"
 #include "ui/look/tokens.h"
 #include "ui/look/words.h"
+#include "ui/map/blended_shapes.h"
 #include "ui/map/drone_glyph.h"
 #include "ui/map/map_captions.h"
 #include "ui/map/simplified_line.h"
@@ -54,6 +55,21 @@ QColor painted(const QColor& above, const QColor& below) {
                             static_cast<float>(share + rest));
 }
 
+QRectF around(QPointF center, double radius) {
+    constexpr double margin = 3; // line widths and rounding
+    const double reach = radius + margin;
+    return {center.x() - reach, center.y() - reach, 2 * reach, 2 * reach};
+}
+
+/// What moves with the visitor but the label.
+QRectF visitorArea(const MapScene& scene, const MapTransform& view) {
+    const QPointF at = view.map(scene.state.visitor->pos);
+    if (!airborne(scene.state.phase))
+        return around(at, scene.measures.pulseTo);
+    const double radius = std::max(scene.measures.pulseTo, scene.settings.followDistance * view.scale());
+    return around(at, radius) | around(view.map(scene.state.drone.pos), 0);
+}
+
 /// One pass over the scene in drawing order; later steps paint over earlier ones.
 class MapPass {
 public:
@@ -63,12 +79,15 @@ public:
           site_(scene.state.site),
           measures_(scene.measures),
           view_(canvas, site_.size) {
-        painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter_.setRenderHint(QPainter::Antialiasing);
     }
 
+    /// Only the plan is drawn smoothly: with that hint Qt blends any picture by its slow way.
     void drawPlan() {
+        painter_.setRenderHint(QPainter::SmoothPixmapTransform);
         if (const QImage picture = Art::find(toQString(site_.planImage)); !picture.isNull())
             painter_.drawImage(view_.plan(), picture);
+        painter_.setRenderHint(QPainter::SmoothPixmapTransform, false);
     }
 
     void drawVeil() { painter_.fillRect(view_.plan(), SB::faded(SB::navy, 0.18)); }
@@ -158,15 +177,13 @@ public:
 
     void drawVisitor(double t) {
         const QPointF at = view_.map(scene_.state.visitor->pos);
-        if (airborne(scene_.state.phase)) {
-            drawCircle(painter_, at, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
-                       dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));
-            painter_.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
-            painter_.drawLine(view_.map(scene_.state.drone.pos), at);
-        }
-        const double pulse = Motion::pulseAt(t);
-        drawCircle(painter_, at, measures_.pulseFrom + (measures_.pulseTo - measures_.pulseFrom) * pulse,
-                   Qt::NoBrush, QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
+        blendShapes(painter_, visitorArea(scene_, view_), [&](QPainter& shapes) {
+            if (airborne(scene_.state.phase))
+                drawFollowing(shapes, at);
+            const double pulse = Motion::pulseAt(t);
+            drawCircle(shapes, at, measures_.pulseFrom + (measures_.pulseTo - measures_.pulseFrom) * pulse,
+                       Qt::NoBrush, QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
+        });
         drawCircle(painter_, at, measures_.visitorRadius, SB::lilac, QPen(Qt::white, measures_.visitorLine));
     }
 
@@ -206,6 +223,14 @@ public:
     }
 
 private:
+    /// The distance at which the drone follows, and the line from it to the visitor.
+    void drawFollowing(QPainter& shapes, QPointF visitor) {
+        drawCircle(shapes, visitor, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
+                   dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));
+        shapes.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
+        shapes.drawLine(view_.map(scene_.state.drone.pos), visitor);
+    }
+
     void drawView(QPointF center, double heading, double opacity) {
         const double radius = viewRange * view_.scale();
         QRectF around(0, 0, 2 * radius, 2 * radius);
@@ -339,27 +364,33 @@ void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double 
     pass.drawMovingCaptions();
 }
 
+QRectF pathsArea(const MapScene& scene, QSizeF canvas) {
+    if (scene.replay)
+        return {{}, canvas};
+    constexpr double margin = 4; // line widths and rounding
+    const MapTransform view(canvas, scene.state.site.size);
+    QPolygonF points;
+    for (const P& p : scene.state.drone.trail)
+        points.append(view.map(p));
+    if (scene.state.visitor)
+        for (const P& p : scene.state.visitor->trail)
+            points.append(view.map(p));
+    return points.empty() ? QRectF() : points.boundingRect().adjusted(-margin, -margin, margin, margin);
+}
+
 QRectF liveArea(const MapScene& scene, QSizeF canvas) {
     if (scene.replay)
         return {};
-    constexpr double margin = 3; // line widths and rounding
     const MapTransform view(canvas, scene.state.site.size);
     const MapMeasures& measures = scene.measures;
-    const auto around = [&](P p, double radius) {
-        QRectF box(0, 0, 2 * (radius + margin), 2 * (radius + margin));
-        box.moveCenter(view.map(p));
-        return box;
-    };
     const auto& visitor = scene.state.visitor;
-    QRectF area = around(scene.state.drone.pos, droneRadius * measures.droneScale);
-    if (visitor) {
-        area |=
-            around(visitor->pos, std::max(measures.pulseTo, scene.settings.followDistance * view.scale()));
-        if (measures.holdRadius > 0)
-            area |=
-                around(followPoint(scene.state.drone.pos, visitor->pos, scene.state.site, scene.settings).at,
-                       measures.holdRadius);
-    }
+    QRectF area = around(view.map(scene.state.drone.pos), droneRadius * measures.droneScale);
+    if (visitor)
+        area |= visitorArea(scene, view);
+    if (visitor && measures.holdRadius > 0)
+        area |= around(
+            view.map(followPoint(scene.state.drone.pos, visitor->pos, scene.state.site, scene.settings).at),
+            measures.holdRadius);
     if (!measures.captions)
         return area;
     area |= heightCaption(scene, view).area();

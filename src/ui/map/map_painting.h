@@ -21,6 +21,9 @@ void drawLandmarks(QPainter& painter, const MapScene& scene, QSizeF canvas);
 /// caches.
 void drawPaths(QPainter& painter, const MapScene& scene, QSizeF canvas);
 
+/// The rectangle, in pixels, that contains everything drawPaths() draws; empty without paths.
+QRectF pathsArea(const MapScene& scene, QSizeF canvas);
+
 /// Draws visitor, drone and the captions that depend on them; for a replay only the pad's caption. `t` is the
 /// time of the frame, seconds.
 void drawMovers(QPainter& painter, const MapScene& scene, QSizeF canvas, double t);

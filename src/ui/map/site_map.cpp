@@ -9,6 +9,7 @@
 #include "ui/map/map_description.h"
 #include "ui/map/map_painting.h"
 
+#include <QPaintEvent>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -34,17 +35,17 @@ bool sameGrounds(const MapScene& scene, const LiveState& state, const Settings& 
            watchingCamera(scene.state) == watchingCamera(state);
 }
 
-bool samePaths(const MapScene& a, const MapScene& b) {
-    return a.replay == b.replay && a.state.drone.trail == b.state.drone.trail &&
-           a.state.visitor.has_value() == b.state.visitor.has_value() &&
-           (!a.state.visitor || a.state.visitor->trail == b.state.visitor->trail);
+bool samePaths(const MapScene& scene, const LiveState& state, const std::optional<Replay>& replay) {
+    const auto &from = scene.state.visitor, &to = state.visitor;
+    return scene.replay == replay && scene.state.drone.trail == state.drone.trail &&
+           from.has_value() == to.has_value() && (!from || from->trail == to->trail);
 }
 
 /// Compares what drawMovers() paints, apart from its animation.
-bool sameMovers(const MapScene& a, const MapScene& b) {
-    const DroneState &from = a.state.drone, &to = b.state.drone;
-    return a.state.phase == b.state.phase && from.pos == to.pos && from.heading == to.heading &&
-           from.altitude == to.altitude && a.state.visitor == b.state.visitor;
+bool sameMovers(const LiveState& a, const LiveState& b) {
+    const DroneState &from = a.drone, &to = b.drone;
+    return a.phase == b.phase && from.pos == to.pos && from.heading == to.heading &&
+           from.altitude == to.altitude && a.visitor == b.visitor;
 }
 
 } // namespace
@@ -71,15 +72,20 @@ void SiteMap::setReplay(Replay replay, const LiveState& state, const Settings& s
     if (scene_.replay == replay)
         return;
     scene_.replay = std::move(replay);
-    pathsStale_ = true;
-    if (!covered_)
-        update();
+    repaintPaths(rect());
     describe();
 }
 
 void SiteMap::setInset(bool inset) {
     scene_.measures = inset ? insetMap : MapMeasures();
-    groundsStale_ = true;
+    repaintGrounds();
+}
+
+void SiteMap::setCorners(const CornerColors& around) {
+    if (corners_ == around)
+        return;
+    corners_ = around;
+    setAttribute(Qt::WA_OpaquePaintEvent);
     update();
 }
 
@@ -104,26 +110,41 @@ void SiteMap::setCovered(bool covered) {
 /// Repaints grounds and paths if they changed. Drone and visitor are repainted by the next frame, or here if
 /// no frames run.
 void SiteMap::setScene(const LiveState& state, const Settings& settings, std::optional<Replay> replay) {
-    const MapScene before = std::exchange(
-        scene_, MapScene{state, settings, std::move(replay), scene_.measures, scene_.labelSide});
+    const bool grounds = !sameGrounds(scene_, state, settings);
+    const bool paths = !samePaths(scene_, state, replay);
+    const bool movers = !sameMovers(scene_.state, state);
+    const bool newSituation = scene_.state.phase != state.phase ||
+                              scene_.state.visitor.has_value() != state.visitor.has_value() ||
+                              scene_.replay != replay;
+    const bool newShape = scene_.state.site.size != state.site.size;
+    const QRectF paintedPaths = pathsArea(scene_, size());
+    scene_.state = state;
+    scene_.settings = settings;
+    scene_.replay = std::move(replay);
     placeLabel();
-    const bool grounds = !sameGrounds(before, state, settings);
-    const bool paths = !samePaths(before, scene_);
-    const bool movers = !sameMovers(before, scene_);
-    const bool newSituation = before.state.phase != state.phase ||
-                              before.state.visitor.has_value() != state.visitor.has_value() ||
-                              before.replay != scene_.replay;
-    groundsStale_ |= grounds;
-    pathsStale_ |= paths;
-    if (before.state.site.size != state.site.size)
+    if (newShape)
         updateGeometry();
     updateAnimation();
-    if (!covered_ && (grounds || paths))
-        update();
-    else if (!covered_ && movers && !frames_.isActive())
+    if (grounds)
+        repaintGrounds();
+    else if (paths)
+        repaintPaths(paintedPaths | pathsArea(scene_, size()));
+    if (!covered_ && movers && !frames_.isActive())
         showFrame();
     if (newSituation || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
         describe();
+}
+
+void SiteMap::repaintGrounds() {
+    groundsStale_ = true;
+    if (!covered_)
+        update();
+}
+
+void SiteMap::repaintPaths(const QRectF& area) {
+    stalePaths_ |= area.toAlignedRect() & rect();
+    if (!covered_)
+        update(stalePaths_);
 }
 
 /// Chooses the side of the visitor's label. It starts on the right for each visitor.
@@ -204,23 +225,35 @@ QPixmap SiteMap::emptyLayer(double scale, const QColor& color) const {
 
 /// Redraws whichever cached layer is out of date.
 void SiteMap::updateLayers() {
-    if (grounds_.size() != size() * devicePixelRatioF()) {
+    if (groundsStale_ || grounds_.size() != size() * devicePixelRatioF()) {
         grounds_ = emptyLayer(devicePixelRatioF(), SB::navy);
-        paths_ = emptyLayer(devicePixelRatioF(), Qt::transparent);
-        groundsStale_ = true;
-    }
-    if (groundsStale_) {
         QPainter painter(&grounds_);
-        painter.fillRect(rect(), SB::navy);
         drawGrounds(painter, scene_, size());
-        pathsStale_ = true;
+        painter.end();
+        still_ = grounds_;
+        groundsStale_ = false;
+        stalePaths_ = rect();
     }
-    if (pathsStale_) {
-        paths_.fill(Qt::transparent);
-        QPainter painter(&paths_);
-        drawPaths(painter, scene_, size());
-    }
-    groundsStale_ = pathsStale_ = false;
+    if (!stalePaths_.isEmpty())
+        drawStalePaths();
+    stalePaths_ = {};
+}
+
+/// Paths overwrite themselves where their pieces overlap, so they need a transparent layer of their own.
+void SiteMap::drawStalePaths() {
+    if (devicePixelRatioF() != std::floor(devicePixelRatioF()))
+        stalePaths_ = rect(); // a part need not begin on a whole pixel
+    QPixmap layer(stalePaths_.size() * devicePixelRatioF());
+    layer.setDevicePixelRatio(devicePixelRatioF());
+    layer.fill(Qt::transparent);
+    QPainter paths(&layer);
+    paths.translate(-stalePaths_.topLeft());
+    drawPaths(paths, scene_, size());
+    paths.end();
+    QPainter painter(&still_);
+    painter.setClipRect(stalePaths_);
+    painter.drawPixmap(0, 0, grounds_);
+    painter.drawPixmap(stalePaths_.topLeft(), layer);
 }
 
 QPixmap SiteMap::picture(int scale) const {
@@ -236,29 +269,55 @@ QPixmap SiteMap::picture(int scale) const {
     return picture;
 }
 
-void SiteMap::paintEvent(QPaintEvent*) {
+void SiteMap::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const double radius = scene_.measures.cornerRadius;
-    QRectF shape(rect());
-    if (scene_.measures.squareBottom)
-        shape.setBottom(shape.bottom() + radius);
-    const auto fill = [&](const QBrush& brush) { fillRounded(painter, shape, radius, brush); };
+    if (!corners_) {
+        QPainterPath shape;
+        shape.addRoundedRect(roundedShape(), scene_.measures.cornerRadius, scene_.measures.cornerRadius);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setClipPath(shape);
+    }
+    paintMap(painter);
+    if (corners_)
+        paintCorners(painter, event->rect());
+}
+
+void SiteMap::paintMap(QPainter& painter) {
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
     if (freshness != Freshness::live)
-        fill(SB::navy);
+        painter.fillRect(rect(), SB::navy);
     if (freshness == Freshness::unknown) {
         drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
         return;
     }
-    if (freshness == Freshness::stale)
-        painter.setOpacity(Measure::staleOpacity);
+    painter.setOpacity(freshness == Freshness::stale ? Measure::staleOpacity : 1);
     updateLayers();
-    fill(grounds_);
-    fill(paths_);
-    QPainterPath corners;
-    corners.addRoundedRect(shape, radius, radius);
-    painter.setClipPath(corners, Qt::IntersectClip);
+    painter.drawPixmap(0, 0, still_);
     drawMovers(painter, scene_, size(), Motion::reduced() ? 0 : Motion::seconds());
+    painter.setOpacity(1);
+}
+
+/// The map without the corners that its measures round.
+QRectF SiteMap::roundedShape() const {
+    const double below = scene_.measures.squareBottom ? scene_.measures.cornerRadius : 0;
+    return QRectF(rect()).adjusted(0, 0, 0, below);
+}
+
+/// Rounds the corners that lie in the painted rectangle by painting what is around them.
+void SiteMap::paintCorners(QPainter& painter, const QRect& painted) const {
+    const double radius = scene_.measures.cornerRadius;
+    QPainterPath outside;
+    outside.addRect(rect());
+    outside.addRoundedRect(roundedShape(), radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const bool right : {false, true})
+        for (const bool bottom : {false, true}) {
+            const QRectF corner(right ? width() - radius : 0, bottom ? height() - radius : 0, radius, radius);
+            if (!corner.intersects(painted))
+                continue;
+            painter.setClipRect(corner);
+            painter.fillPath(outside, bottom ? corners_->below : corners_->above);
+        }
 }
 
 } // namespace velmora

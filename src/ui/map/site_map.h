@@ -5,10 +5,18 @@
 #include "ui/look/ui_clock.h"
 #include "ui/map/map_scene.h"
 
+#include <QColor>
 #include <QPixmap>
 #include <QWidget>
 
 namespace velmora {
+
+/// Plain colours around the upper and the lower corners of a map.
+struct CornerColors {
+    QColor above, below;
+
+    bool operator==(const CornerColors&) const = default;
+};
 
 /// The animated map of the site, or the replay of a finished mission. It draws at most 30 frames a second,
 /// and none while nothing moves or nobody can see it.
@@ -25,6 +33,9 @@ public:
     void setReplay(Replay replay, const LiveState& state, const Settings& settings);
     /// A small map inside a picture: without captions, and with the point where the drone would hold.
     void setInset(bool inset);
+    /// What is around the rounded corners. A map that knows it paints every pixel itself, so that a frame
+    /// costs nothing but the map.
+    void setCorners(const CornerColors& around);
     /// Another widget covers the map: no frames are drawn until it is gone.
     void setCovered(bool covered);
 
@@ -50,7 +61,13 @@ private:
     void updateAnimation();
     void showFrame();
     void describe();
+    void repaintGrounds();
+    void repaintPaths(const QRectF& area);
     void updateLayers();
+    void drawStalePaths();
+    void paintMap(QPainter& painter);
+    void paintCorners(QPainter& painter, const QRect& painted) const;
+    QRectF roundedShape() const;
     QPixmap emptyLayer(double scale, const QColor& color) const;
 
     MapScene scene_;
@@ -59,10 +76,11 @@ private:
     bool onScreen_ = false; ///< false also while the window is minimised
     UiTimer frames_{Motion::frame};
     QRectF shownArea_; ///< of the last frame's moving parts
+    std::optional<CornerColors> corners_;
     bool groundsStale_ = true;
-    bool pathsStale_ = true;
+    QRect stalePaths_;
     QPixmap grounds_;
-    QPixmap paths_; ///< transparent but for the paths
+    QPixmap still_; ///< the grounds with the paths: all that does not move between two ticks
     double describedAt_ = 0;
 };
 

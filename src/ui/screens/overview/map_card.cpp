@@ -38,7 +38,7 @@ MapCard::MapCard(AppStore& store, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(title, 0, Qt::AlignLeft);
     column->addSpacing(Measure::mapTitle - title->sizeHint().height());
-    column->addLayout(mapArea(Qt::AlignLeft | Qt::AlignTop), 1);
+    column->addLayout(mapArea(Qt::AlignLeft | Qt::AlignTop, SB::page), 1);
 }
 
 /// Uses the gap below to give the map its least height, if that is enough.
