@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 
 namespace velmora {
 
@@ -43,6 +44,28 @@ template <Described Record>
 bool operator==(const Record& a, const Record& b) {
     return std::apply([&](const auto&... field) { return ((a.*(field.member) == b.*(field.member)) && ...); },
                       fieldsOf<Record>);
+}
+
+/// Whether two pointers point to the same member, whatever their types.
+template <class A, class B>
+constexpr bool isSameMember(A a, B b) {
+    if constexpr (std::is_same_v<A, B>)
+        return a == b;
+    else
+        return false;
+}
+
+/// Equality of all fields but these members.
+template <auto... ignored, Described Record>
+bool sameBut(const Record& a, const Record& b) {
+    return std::apply(
+        [&](const auto&... field) {
+            const auto isSame = [&](const auto& one) {
+                return (isSameMember(one.member, ignored) || ...) || a.*(one.member) == b.*(one.member);
+            };
+            return (isSame(field) && ...);
+        },
+        fieldsOf<Record>);
 }
 
 } // namespace velmora

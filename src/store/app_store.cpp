@@ -3,6 +3,7 @@
 #include "model/csv.h"
 #include "model/json.h"
 #include "model/mission_evidence.h"
+#include "model/state_change.h"
 #include "store/demo_history.h"
 #include "store/export_file.h"
 
@@ -318,10 +319,12 @@ std::optional<Date> AppStore::cameraLastOnline(const std::string& id) const {
 }
 
 void AppStore::setState(const LiveState& state) {
-    if (state == state_)
-        return;
+    const StateChange change = changeBetween(state_, state, settings_);
     state_ = state;
-    emit stateChanged();
+    if (change == StateChange::situation)
+        emit stateChanged();
+    else if (change == StateChange::motion)
+        emit moved();
 }
 
 void AppStore::setSettings(const Settings& settings) {

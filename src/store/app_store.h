@@ -135,7 +135,10 @@ public:
     std::unique_ptr<ExportFile> openExport(const QString& path) const;
 
 signals:
+    /// Anything of the state but motion: see StateChange.
     void stateChanged();
+    /// Drone, wind or visitor moved by as much as can be seen; up to twenty times a second.
+    void moved();
     void settingsChanged();
     void historyChanged();
     void sectionChanged();

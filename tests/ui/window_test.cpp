@@ -205,6 +205,7 @@ TEST_F(WindowTest, NothingMovesIfTheDesktopDisablesAnimations) {
     visit(Scenario::driveway);
     approve();
     fly(10);
+    clock.advance(std::chrono::seconds(1)); // the words have followed the flight
     const auto look = [&] {
         clock.advance(Motion::frame * 5);
         return window().grab().toImage();

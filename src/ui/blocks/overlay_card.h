@@ -50,6 +50,7 @@ protected:
 
 private:
     QPainterPath veil() const;
+    bool isUnderCard(const QRect& area) const;
     void returnFocus();
     void finishTransition();
 

@@ -7,11 +7,17 @@
 
 namespace velmora {
 
-Screen::Screen(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {}
+Screen::Screen(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
+    connect(&due_, &UiTimer::timeout, this, &Screen::refreshIfVisible);
+}
 
 void Screen::refreshOn(std::initializer_list<Change> changes) {
     for (const Change change : changes)
         connect(&store_, change, this, &Screen::refreshIfVisible);
+}
+
+void Screen::followMotion() {
+    connect(&store_, &AppStore::moved, this, &Screen::showMotion);
 }
 
 void Screen::setPage(Page* page) {
@@ -21,9 +27,29 @@ void Screen::setPage(Page* page) {
 }
 
 /// In a minimised window isVisible() stays true.
+bool Screen::canBeSeen() const {
+    return isVisible() && !window()->isMinimized();
+}
+
 void Screen::refreshIfVisible() {
-    if (isVisible() && !window()->isMinimized())
-        refresh();
+    due_.stop();
+    if (!canBeSeen())
+        return;
+    refreshedAt_ = store_.now();
+    refresh();
+}
+
+/// Numbers that change twenty times a second cannot be read, and cost more than the map.
+void Screen::showMotion() {
+    if (!canBeSeen())
+        return;
+    const Seconds age = store_.now() - refreshedAt_;
+    if (age < Seconds::zero() || age >= due_.interval()) {
+        refreshIfVisible();
+        return;
+    }
+    follow();
+    due_.setActive(true);
 }
 
 void Screen::showEvent(QShowEvent*) {

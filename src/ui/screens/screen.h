@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/app_store.h"
+#include "ui/look/ui_clock.h"
 
 #include <QWidget>
 
@@ -23,21 +24,30 @@ protected:
 
     /// Calls refresh() after these signals of the store while the screen can be seen.
     void refreshOn(std::initializer_list<Change> changes);
+    /// While the screen can be seen, calls follow() whenever something moves, and refresh() for its words as
+    /// often as they can be read.
+    void followMotion();
+    void refreshIfVisible();
     /// Takes ownership of the page, which fills the screen.
     void setPage(Page* page);
     Page& page() { return *page_; }
 
     /// Updates the widgets from the store. Called only while the screen can be seen.
     virtual void refresh() = 0;
+    /// Updates what shows motion itself, such as a map.
+    virtual void follow() {}
 
     void showEvent(QShowEvent* event) override;
 
     AppStore& store_;
 
 private:
-    void refreshIfVisible();
+    bool canBeSeen() const;
+    void showMotion();
 
     Page* page_ = nullptr;
+    Date refreshedAt_;
+    UiTimer due_{std::chrono::milliseconds(200), UiTimer::Mode::singleShot}; ///< runs while words are old
 };
 
 } // namespace velmora

@@ -39,6 +39,7 @@ DroneBadge::DroneBadge(AppStore& store, QWidget* parent) : QWidget(parent), stor
     setFixedHeight(Measure::droneBadgeRow);
     declareRole(this, QAccessible::StaticText);
     connect(&store_, &AppStore::stateChanged, this, &DroneBadge::refresh);
+    connect(&store_, &AppStore::moved, this, &DroneBadge::refresh);
     connect(&store_, &AppStore::settingsChanged, this, &DroneBadge::refresh);
     connect(&store_, &AppStore::freshnessChanged, this, &DroneBadge::refresh);
     refresh();

@@ -55,6 +55,10 @@ ApprovalOverlay::ApprovalOverlay(AppStore& store, AnswerGuard& guard, QWidget* w
         updateAlert();
     });
     connect(&store_, &AppStore::stateChanged, this, &ApprovalOverlay::updateAlert);
+    connect(&store_, &AppStore::moved, this, [this] {
+        if (isOpen())
+            showState(*store_.knownState());
+    });
     connect(&store_, &AppStore::freshnessChanged, this, &ApprovalOverlay::updateAlert);
     connect(&store_, &AppStore::pendingCommandChanged, this, &ApprovalOverlay::updateAlert);
 }
@@ -163,13 +167,18 @@ void ApprovalOverlay::updateAlert() {
 
 void ApprovalOverlay::refresh() {
     const LiveState& state = *store_.knownState();
-    picture_->setState(state, store_.settings(), store_.freshness());
+    showState(state);
     title_->setText(titleFor(state));
     setAccessibleName(title_->text());
     body_->setText(bodyFor(store_.settings()));
-    metrics_->setState(state, store_.settings());
     countDown();
     update(); // the guard waits for the picture of an alert that can be answered again
+}
+
+/// What changes while the visitor walks on.
+void ApprovalOverlay::showState(const LiveState& state) {
+    picture_->setState(state, store_.settings(), store_.freshness());
+    metrics_->setState(state, store_.settings());
 }
 
 /// Over a silent link the alert is over at its deadline. A server that keeps an alert after its deadline must

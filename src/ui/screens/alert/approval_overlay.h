@@ -39,6 +39,7 @@ private:
     void updateSize();
     QSize enlargedPicture() const;
     void refresh();
+    void showState(const LiveState& state);
     void countDown();
 
     AppStore& store_;

@@ -39,6 +39,7 @@ LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidge
     connect(this, &ConfirmationCard::confirmed, this,
             [this] { store_.send(Command::land, CommandSource::live); });
     connect(&store_, &AppStore::stateChanged, this, &LandConfirmation::follow);
+    connect(&store_, &AppStore::moved, this, &LandConfirmation::follow);
     connect(&store_, &AppStore::freshnessChanged, this, &LandConfirmation::follow);
     connect(&store_, &AppStore::sectionChanged, this, &OverlayCard::close);
 }

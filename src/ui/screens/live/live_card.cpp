@@ -22,7 +22,7 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
     line->setContentsMargins(Measure::cardInset, 0, Measure::cardInset, 0);
     line->addWidget(new Hairline(this, Hairline::Tone::dark));
     auto* column = bareLayout<QVBoxLayout>(this);
-    column->addLayout(mapArea(Qt::AlignCenter), 1);
+    column->addLayout(mapArea(Qt::AlignCenter, SB::navy), 1);
     column->addWidget(note_);
     column->addLayout(line);
     column->addWidget(telemetry_);
@@ -32,11 +32,15 @@ LiveCard::LiveCard(AppStore& store, QWidget* parent)
 
 void LiveCard::refresh() {
     const bool old = store_.freshness() == Freshness::stale;
-    map_->setState(store_.knownState(), store_.settings(), store_.freshness());
+    follow();
     note_->refresh();
     telemetry_->setState(store_.knownState(), store_.settings(), old ? *store_.lastAnswerAt() : store_.now());
     telemetry_->setDimmed(store_.freshness() != Freshness::live);
     everySecond_.setActive(old && isVisible());
+}
+
+void LiveCard::follow() {
+    map_->setState(store_.knownState(), store_.settings(), store_.freshness());
 }
 
 void LiveCard::setLow(bool low) {

@@ -17,6 +17,8 @@ public:
     LiveCard(AppStore& store, QWidget* parent);
 
     void refresh();
+    /// Updates the map only.
+    void follow();
     /// Uses the lower row of notes, for low windows.
     void setLow(bool low);
     /// Arranges the telemetry in two rows if the card is narrow.

@@ -64,6 +64,7 @@ LiveView::LiveView(AppStore& store, QWidget* parent) : Screen(store, parent) {
     connect(rail_, &LiveRail::landRequested, this, &LiveView::landRequested);
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged,
                &AppStore::linkStatusChanged, &AppStore::pendingCommandChanged});
+    followMotion();
 }
 
 QWidget* LiveView::rail() const {
@@ -80,6 +81,10 @@ void LiveView::refresh() {
     card_->refresh();
     rail_->refresh();
     fitHeight();
+}
+
+void LiveView::follow() {
+    card_->follow();
 }
 
 /// Makes room for all of the telemetry in a low window.

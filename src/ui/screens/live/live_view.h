@@ -26,6 +26,7 @@ signals:
 
 protected:
     void refresh() override;
+    void follow() override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

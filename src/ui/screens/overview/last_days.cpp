@@ -43,7 +43,6 @@ LastDays::LastDays(AppStore& store, QWidget* parent)
     column->addSpacing(Measure::gap12);
     column->addWidget(cameras_);
     connect(patterns, &QAbstractButton::clicked, this, [this] { store_.openPatterns(); });
-    connect(&everyMinute_, &UiTimer::timeout, this, &LastDays::refresh);
     hide();
 }
 
@@ -111,11 +110,6 @@ void LastDays::fitCameras() {
 
 void LastDays::showEvent(QShowEvent*) {
     refresh();
-    everyMinute_.start();
-}
-
-void LastDays::hideEvent(QHideEvent*) {
-    everyMinute_.stop();
 }
 
 } // namespace velmora

@@ -2,7 +2,6 @@
 
 #include "model/visit_patterns.h"
 #include "store/app_store.h"
-#include "ui/look/ui_clock.h"
 
 #include <QWidget>
 
@@ -29,7 +28,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
     /// Visits that were counted, and how.
@@ -52,7 +50,6 @@ private:
     int room_ = 0;
     std::optional<Counted> counted_;
     VisitPatterns patterns_{Site()};
-    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< visits become too old
 };
 
 } // namespace velmora

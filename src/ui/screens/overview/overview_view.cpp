@@ -40,7 +40,9 @@ OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
                      this));
     refreshOn({&AppStore::stateChanged, &AppStore::settingsChanged, &AppStore::historyChanged,
                &AppStore::freshnessChanged, &AppStore::linkStatusChanged});
+    followMotion();
     connect(&everySecond_, &UiTimer::timeout, this, &OverviewView::refreshMission);
+    connect(&everyMinute_, &UiTimer::timeout, this, &OverviewView::refreshIfVisible);
 }
 
 void OverviewView::refresh() {
@@ -52,6 +54,10 @@ void OverviewView::refresh() {
     refreshMission();
 }
 
+void OverviewView::follow() {
+    map_->refresh();
+}
+
 void OverviewView::refreshMission() {
     banner_->refresh();
     bannerFold_->setOpen(banner_->isDue());
@@ -59,8 +65,14 @@ void OverviewView::refreshMission() {
     everySecond_.setActive(isVisible() && (banner_->isDue() || rail_->showsNow()));
 }
 
+void OverviewView::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
+    everyMinute_.start();
+}
+
 void OverviewView::hideEvent(QHideEvent*) {
     everySecond_.stop();
+    everyMinute_.stop();
 }
 
 void OverviewView::resizeEvent(QResizeEvent*) {
