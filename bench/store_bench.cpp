@@ -19,18 +19,24 @@ void loadHistory(benchmark::State& run) {
 }
 BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMillisecond);
 
-/// Ticks while the drone follows a visitor and the window is hidden.
-void hiddenTick(benchmark::State& run) {
+/// Ticks with a hidden window, docked or while the drone follows a visitor.
+void hiddenTick(benchmark::State& run, bool follows) {
     BenchWorld world(200);
     const MainWindow window(world.store());
-    world.follow();
+    if (follows)
+        world.follow();
     const auto before = allocations();
     for ([[maybe_unused]] auto iteration : run)
         world.tick();
     run.counters["allocations"] =
         static_cast<double>(allocations() - before) / static_cast<double>(run.iterations());
 }
-BENCHMARK(hiddenTick)
+BENCHMARK_CAPTURE(hiddenTick, docked, false)
+    ->Name("tick, docked, window hidden")
+    ->Iterations(400)
+    ->Repetitions(9)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(hiddenTick, following, true)
     ->Name("tick, following, window hidden")
     ->Iterations(400)
     ->Repetitions(9)
