@@ -137,17 +137,9 @@ bool OverlayCard::focusNextPrevChild(bool next) {
     return true;
 }
 
-/// Whether the card hides all of this area.
-bool OverlayCard::isUnderCard(const QRect& area) const {
-    constexpr int radius = Measure::overlayRadius;
-    const QRect card = card_->geometry();
-    return card_->isVisible() && (card.adjusted(radius, 0, -radius, 0).contains(area) ||
-                                  card.adjusted(0, radius, 0, -radius).contains(area));
-}
-
 /// Veil and shadow take longer than most parts of the card that are repainted over them.
 void OverlayCard::paintEvent(QPaintEvent* event) {
-    if (isUnderCard(event->rect()))
+    if (card_->isVisible() && liesInside(event->rect(), card_->geometry(), Measure::overlayRadius))
         return;
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);

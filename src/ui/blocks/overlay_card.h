@@ -50,7 +50,6 @@ protected:
 
 private:
     QPainterPath veil() const;
-    bool isUnderCard(const QRect& area) const;
     void returnFocus();
     void finishTransition();
 

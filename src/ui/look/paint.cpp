@@ -36,6 +36,12 @@ void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBr
     painter.drawRoundedRect(inset(rect, 0.5), radius, radius);
 }
 
+bool liesInside(const QRect& area, const QRect& rect, double radius) {
+    const int corner = static_cast<int>(std::ceil(radius));
+    return rect.adjusted(corner, 0, -corner, 0).contains(area) ||
+           rect.adjusted(0, corner, 0, -corner).contains(area);
+}
+
 void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill) {
     prepare(painter, fill, Qt::NoPen);
     painter.drawEllipse(center, diameter / 2, diameter / 2);

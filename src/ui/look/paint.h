@@ -12,6 +12,9 @@ void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBr
 void fillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
                  const QColor& border);
 
+/// Whether the area lies in the rectangle and clear of its round corners.
+bool liesInside(const QRect& area, const QRect& rect, double radius);
+
 /// Fills a circle, antialiased. Leaves the painter without a pen.
 void fillDisc(QPainter& painter, QPointF center, double diameter, const QBrush& fill);
 /// The same with a border inside the edge, `width` pixels wide.

@@ -8,6 +8,8 @@
 #include "ui/look/words.h"
 #include "ui/map/site_map.h"
 
+#include <QPaintEvent>
+
 namespace velmora {
 
 namespace {
@@ -57,7 +59,10 @@ void AlertInset::arrange() {
     map_->setGeometry(QRect({margin, margin}, mapSize_).adjusted(1, 1, -1, 0)); // inside the frame's line
 }
 
-void AlertInset::paintEvent(QPaintEvent*) {
+/// A frame of the map needs no new shadow.
+void AlertInset::paintEvent(QPaintEvent* event) {
+    if (liesInside(event->rect(), map_->geometry(), Measure::insetRadius))
+        return;
     QPainter painter(this);
     paintShadow(painter, frame(), Measure::insetRadius, shadow);
     fillRounded(painter, frame(), Measure::insetRadius, SB::navy, SB::faded(SB::dTitle, frameOpacity));
