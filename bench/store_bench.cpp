@@ -15,7 +15,7 @@ namespace {
 void loadHistory(benchmark::State& run) {
     const BenchWorld world(200);
     for ([[maybe_unused]] auto iteration : run)
-        benchmark::DoNotOptimize(DataFiles(world.directory()).loadHistory());
+        benchmark::DoNotOptimize(DataFiles(QDir(world.directory())).loadHistory());
 }
 BENCHMARK(loadHistory)->Name("history, file to records")->Unit(benchmark::kMillisecond);
 

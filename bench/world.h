@@ -11,7 +11,7 @@ class BenchWorld : public StoreWorld<SeededRandom> {
 public:
     explicit BenchWorld(std::size_t records) {
         now = dateFromSeconds(1'750'100'000);
-        DataFiles(directory()).saveSettings(samples::onboarded());
+        DataFiles(QDir(directory())).saveSettings(samples::onboarded());
         putHistory(samples::flownHistory(records));
     }
 

@@ -26,7 +26,7 @@ public:
     struct Environment {
         std::function<Date()> clock;
         Random& random;
-        QDir dataDirectory;
+        DataDirectory dataDirectory;
         Notifier& notifier;
         LoginItem& loginItem;
         Link& link;

@@ -12,6 +12,24 @@
 
 namespace velmora {
 
+/// The data directory. A thread can read its history while the program starts.
+class DataDirectory {
+public:
+    DataDirectory(const QDir& path) : path_(path) {}
+
+    operator const QDir&() const { return path_; }
+
+    /// Begins to read the history in a thread. DataFiles takes it, unless the file was replaced since.
+    void readHistoryAhead();
+
+private:
+    friend class DataFiles;
+    struct HistoryAhead;
+
+    QDir path_;
+    std::shared_ptr<HistoryAhead> ahead_; ///< null if no thread reads; waits for the thread at its end
+};
+
 /// settings.json and history.json in the data directory. Errors are silent: a failed read returns nullopt, a
 /// failed write leaves the file unchanged, and the next change saves everything. A file that cannot be read,
 /// or that another program replaced, is copied before it is overwritten.
@@ -21,7 +39,7 @@ public:
 
     /// Each write creates the directory (mode 0700) and its parents if they are missing. `replace` runs on
     /// the saving thread.
-    explicit DataFiles(const QDir& directory, const ReplaceFile& replace = replaceFile);
+    explicit DataFiles(const DataDirectory& directory, const ReplaceFile& replace = replaceFile);
 
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();
@@ -42,6 +60,7 @@ public:
     bool flush(std::chrono::milliseconds limit) { return thread_.flush(limit); }
 
 private:
+    friend class DataDirectory;
     template <class T>
     static std::optional<T> load(StoredFile& file, std::string_view root);
     template <class T>
@@ -50,6 +69,7 @@ private:
     // shared with the jobs of the saving thread
     std::shared_ptr<StoredFile> settings_;
     std::shared_ptr<StoredFile> history_;
+    std::shared_ptr<DataDirectory::HistoryAhead> ahead_; ///< until the history is loaded
     SaveThread thread_;
 };
 

@@ -138,6 +138,28 @@ TEST_F(DataFilesTest, AFileReplacedRightAfterASaveIsCopiedAndOneRemovedBeforeIsN
     EXPECT_FALSE(exists("settings.json.unreadable"));
 }
 
+TEST_F(DataFilesTest, AHistoryReadAheadCountsUnlessTheFileWasReplaced) {
+    const auto loaded = [this](bool replaces) {
+        put("history.json", QByteArray::fromStdString(*encode(records(3))));
+        DataDirectory directory{QDir(path(""))};
+        directory.readHistoryAhead();
+        if (replaces)
+            moveOver("history.json", QByteArray::fromStdString(*encode(records(2))));
+        DataFiles files(directory);
+        return files.loadHistory().value_or(records(0)).size();
+    };
+    EXPECT_EQ(loaded(false), 3);
+    EXPECT_EQ(loaded(true), 2);
+    put("history.json", "from a newer version");
+    DataDirectory directory{QDir(path(""))};
+    directory.readHistoryAhead();
+    DataFiles files(directory);
+    EXPECT_FALSE(files.loadHistory());
+    files.saveHistory({});
+    EXPECT_TRUE(files.flush(std::chrono::seconds(5)));
+    EXPECT_EQ(content("history.json.unreadable"), "from a newer version");
+}
+
 TEST_F(DataFilesTest, APipeInPlaceOfAFileIsLeftAlone) {
     QDir().mkpath(directory());
     ASSERT_EQ(mkfifo(path("settings.json").toUtf8(), 0600), 0);

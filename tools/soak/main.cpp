@@ -36,7 +36,7 @@ double secondsOf(const QElapsedTimer& timer) {
 }
 
 std::vector<MissionRecord> historyOnFile(const SoakWorld& world) {
-    return DataFiles(world.directory()).loadHistory().value_or(std::vector<MissionRecord>{});
+    return DataFiles(QDir(world.directory())).loadHistory().value_or(std::vector<MissionRecord>{});
 }
 
 /// Runs the ticks of one second. Returns the duration of the slowest in seconds.
@@ -65,7 +65,7 @@ void playVisits(int hours, unsigned seed) {
     SoakWorld world{SeededRandom(seed), FickleServer(seed)};
     Settings settings;
     settings.onboarded = true;
-    DataFiles(world.directory()).saveSettings(settings);
+    DataFiles(QDir(world.directory())).saveSettings(settings);
     AppStore& store = world.store();
     MainWindow window(store);
     window.show();
