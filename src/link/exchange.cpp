@@ -15,8 +15,8 @@ constexpr long receiveBuffer = 16 << 10;      // bytes; also what is read from t
 
 /// Prepares the library once. It needs no TLS.
 CURL* newHandle() {
-    static const CURLcode prepared = curl_global_init(CURL_GLOBAL_NOTHING);
-    CURL* handle = prepared == CURLE_OK ? curl_easy_init() : nullptr;
+    static const CURLcode prepared = curl().globalInit(CURL_GLOBAL_NOTHING);
+    CURL* handle = prepared == CURLE_OK ? curl().easyInit() : nullptr;
     if (handle == nullptr)
         qFatal("The HTTP library cannot be prepared.");
     return handle;
@@ -57,7 +57,7 @@ Exchange::Exchange(Request request)
     set(CURLOPT_PROXY, ""); // the server is on the home network
     set(CURLOPT_NOSIGNAL, 1L);
     const auto add = [this](const char* header) {
-        headers_.reset(curl_slist_append(headers_.release(), header));
+        headers_.reset(curl().slistAppend(headers_.release(), header));
     };
     add("Accept-Encoding: identity"); // a compressed reply could expand without limit
     if (request_.json)
@@ -69,7 +69,7 @@ Exchange::Exchange(Request request)
 }
 
 void Exchange::set(CURLoption option, auto value) {
-    if (curl_easy_setopt(handle_.get(), option, value) != CURLE_OK)
+    if (curl().easySetopt(handle_.get(), option, value) != CURLE_OK)
         qFatal("The HTTP library refuses option %d.", static_cast<int>(option));
 }
 
@@ -114,7 +114,7 @@ std::size_t Exchange::readBody(const char* bytes, std::size_t size, std::size_t 
 
 End Exchange::end(CURLcode result) {
     long status = 0;
-    curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
+    curl().easyGetinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
     End end;
     end.status = static_cast<int>(status);
     end.failure = failureOf(result, end.status);
@@ -127,13 +127,13 @@ End Exchange::end(CURLcode result) {
 
 int Exchange::systemError() const {
     long number = 0;
-    curl_easy_getinfo(handle_.get(), CURLINFO_OS_ERRNO, &number);
+    curl().easyGetinfo(handle_.get(), CURLINFO_OS_ERRNO, &number);
     return static_cast<int>(number);
 }
 
 QString Exchange::systemErrorText(CURLcode result) const {
     const int number = systemError();
-    return number == 0 ? QString::fromLatin1(curl_easy_strerror(result)) : qt_error_string(number);
+    return number == 0 ? QString::fromLatin1(curl().easyStrerror(result)) : qt_error_string(number);
 }
 
 std::optional<Failure> Exchange::failureOf(CURLcode result, int status) const {
@@ -159,7 +159,7 @@ std::optional<Failure> Exchange::failureOf(CURLcode result, int status) const {
 QString Exchange::version() const {
     constexpr qsizetype longest = 40; // characters
     curl_header* header = nullptr;
-    if (curl_easy_header(handle_.get(), "X-Velmora-Version", 0, CURLH_HEADER, -1, &header) != CURLHE_OK)
+    if (curl().easyHeader(handle_.get(), "X-Velmora-Version", 0, CURLH_HEADER, -1, &header) != CURLHE_OK)
         return {};
     QString text = QString::fromUtf8(header->value).simplified();
     text.removeIf([](QChar letter) { return !letter.isPrint(); });

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "link/curl_library.h"
 #include "link/failure_text.h"
-
-#include <curl/curl.h>
 
 #include <QByteArray>
 #include <QString>
@@ -45,9 +44,9 @@ public:
     End end(CURLcode result);
 
 private:
-    template <auto function>
     struct Release {
-        void operator()(auto* resource) const { function(resource); }
+        void operator()(CURL* handle) const { curl().easyCleanup(handle); }
+        void operator()(curl_slist* headers) const { curl().slistFreeAll(headers); }
     };
 
     static std::size_t readHeader(const char* line, std::size_t size, std::size_t count, void* exchange);
@@ -63,8 +62,8 @@ private:
 
     Request request_;
     std::chrono::milliseconds deadline_; ///< on the boot clock
-    std::unique_ptr<curl_slist, Release<curl_slist_free_all>> headers_;
-    std::unique_ptr<CURL, Release<curl_easy_cleanup>> handle_;
+    std::unique_ptr<curl_slist, Release> headers_;
+    std::unique_ptr<CURL, Release> handle_;
     std::size_t headBytes_ = 0; ///< of status lines, headers and trailers
     bool headEnded_ = false;    ///< the empty line after the last headers was read
     QByteArray body_;

@@ -18,7 +18,7 @@ HttpClient::HttpClient() {
 
 HttpClient::~HttpClient() {
     for (auto& [handle, running] : running_)
-        curl_multi_remove_handle(multi_.get(), handle);
+        curl().multiRemoveHandle(multi_.get(), handle);
 }
 
 void HttpClient::start(Request request, Done done) {
@@ -28,17 +28,17 @@ void HttpClient::start(Request request, Done done) {
         open();
     keepsConnections_ = true;
     running_.emplace(handle, Running{std::move(exchange), std::move(done)});
-    curl_multi_add_handle(multi_.get(), handle); // sets the timer, which starts the exchange
+    curl().multiAddHandle(multi_.get(), handle); // sets the timer, which starts the exchange
 }
 
 /// Done with the first request, because demo mode needs no HTTP.
 void HttpClient::open() {
-    multi_.reset(curl_multi_init());
-    curl_multi_setopt(multi_.get(), CURLMOPT_SOCKETFUNCTION, &HttpClient::watchSocket);
-    curl_multi_setopt(multi_.get(), CURLMOPT_SOCKETDATA, this);
-    curl_multi_setopt(multi_.get(), CURLMOPT_TIMERFUNCTION, &HttpClient::setTimer);
-    curl_multi_setopt(multi_.get(), CURLMOPT_TIMERDATA, this);
-    curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, keptConnections);
+    multi_.reset(curl().multiInit());
+    curl().multiSetopt(multi_.get(), CURLMOPT_SOCKETFUNCTION, &HttpClient::watchSocket);
+    curl().multiSetopt(multi_.get(), CURLMOPT_SOCKETDATA, this);
+    curl().multiSetopt(multi_.get(), CURLMOPT_TIMERFUNCTION, &HttpClient::setTimer);
+    curl().multiSetopt(multi_.get(), CURLMOPT_TIMERDATA, this);
+    curl().multiSetopt(multi_.get(), CURLMOPT_MAXCONNECTS, keptConnections);
 }
 
 int HttpClient::watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*) {
@@ -78,7 +78,7 @@ void HttpClient::watch(curl_socket_t socket, int directions) {
 
 void HttpClient::proceed(curl_socket_t socket, int directions) {
     int stillRunning = 0;
-    curl_multi_socket_action(multi_.get(), socket, directions, &stillRunning);
+    curl().multiSocketAction(multi_.get(), socket, directions, &stillRunning);
     collect();
     closeIfIdle();
 }
@@ -88,7 +88,7 @@ void HttpClient::disconnect() {
     std::erase_if(running_, [this](const auto& item) {
         if (item.second.exchange->isPost())
             return false;
-        curl_multi_remove_handle(multi_.get(), item.first);
+        curl().multiRemoveHandle(multi_.get(), item.first);
         return true;
     });
     closeIfIdle();
@@ -102,13 +102,13 @@ void HttpClient::closeIfIdle() {
 /// Queues the callbacks, so that they may destroy any object, this one included.
 void HttpClient::collect() {
     int left = 0;
-    while (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) {
+    while (const CURLMsg* message = curl().multiInfoRead(multi_.get(), &left)) {
         if (message->msg != CURLMSG_DONE)
             continue;
         const CURLcode result = message->data.result;
         auto ended = running_.extract(message->easy_handle);
         const End end = ended.mapped().exchange->end(result);
-        curl_multi_remove_handle(multi_.get(), ended.key());
+        curl().multiRemoveHandle(multi_.get(), ended.key());
         QMetaObject::invokeMethod(
             this, [done = std::move(ended.mapped().done), end] { done(end); }, Qt::QueuedConnection);
     }

@@ -49,7 +49,7 @@ private:
         Notifier read, write;
     };
     struct Close {
-        void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+        void operator()(CURLM* multi) const { curl().multiCleanup(multi); }
     };
 
     void open();
