@@ -191,6 +191,8 @@ void Tray::refresh() {
 }
 
 void Tray::showStatus() {
+    if (!icon_ && !xembedIcon_)
+        return;
     const auto show = [icon = pixmapsOf(iconFile_), this](auto& trayIcon) {
         trayIcon.setToolTip(toolTip_);
         trayIcon.setIcon(icon);
