@@ -15,8 +15,8 @@ namespace {
 
 constexpr double faintOpacity = 0.4;
 
-QImage withoutTransparentEdges(const QImage& picture) {
-    const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32);
+/// Of a picture in the format ARGB32.
+QRect withoutTransparentEdges(const QImage& pixels) {
     QRect content;
     for (int y = 0; y < pixels.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
@@ -29,7 +29,14 @@ QImage withoutTransparentEdges(const QImage& picture) {
         content |= QRect(QPoint(static_cast<int>(first - row), y),
                          QPoint(static_cast<int>(last.base() - row) - 1, y));
     }
-    return picture.copy(content);
+    return content;
+}
+
+/// A part of a picture in the format ARGB32, without a copy: valid while the picture is.
+QImage partOf(const QImage& pixels, const QRect& part) {
+    const auto* first = reinterpret_cast<const QRgb*>(pixels.constScanLine(part.y())) + part.x();
+    return {reinterpret_cast<const uchar*>(first), part.width(), part.height(), pixels.bytesPerLine(),
+            pixels.format()};
 }
 
 } // namespace
@@ -96,11 +103,12 @@ void ArtImage::load() {
         return;
     loadedFor_ = pixels;
     picture_ = {};
-    QImage image = Art::find(name_);
+    QImage whole = Art::find(name_);
+    if (mode_ == Mode::trimmed)
+        whole = whole.convertToFormat(QImage::Format_ARGB32);
+    const QImage image = mode_ == Mode::trimmed ? partOf(whole, withoutTransparentEdges(whole)) : whole;
     if (image.isNull() || pixels.isEmpty())
         return;
-    if (mode_ == Mode::trimmed)
-        image = withoutTransparentEdges(image);
     focus_ = Art::focusOf(name_);
     const QSizeF shown = mode_ == Mode::fill ? sizeToFill(image.size())
                                              : QSizeF(image.size()).scaled(size(), Qt::KeepAspectRatio);
