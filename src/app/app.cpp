@@ -24,17 +24,25 @@ NotificationPicture pictureOf(const QString& name) {
             QByteArray(reinterpret_cast<const char*>(small.constBits()), small.sizeInBytes())};
 }
 
+/// Before the window is built: chooses the section that it builds first, and has threads find its pictures.
+AppStore& prepared(AppStore& store, const Options& options) {
+    store.setSection(options.section.value_or(store.section()));
+    if (!options.hidden && !store.showWelcome() && store.section() == Section::overview)
+        Art::findAhead({toQString(LiveState::initial().site.planImage), QStringLiteral("drone-render")});
+    return store;
+}
+
 Date systemClock() {
     return Date(std::chrono::system_clock::now());
 }
 
 } // namespace
 
-App::App(AppService& service, const Options& options)
+App::App(AppService& service, const Options& options, const DataDirectory& directory)
     : notifier_(QDBusConnection::sessionBus(), pictureOf),
       autostart_(Autostart::defaultDirectory()),
-      store_({systemClock, random_, DataFiles::defaultDirectory(), notifier_, autostart_, link_}),
-      window_(store_),
+      store_({systemClock, random_, directory, notifier_, autostart_, link_}),
+      window_(prepared(store_, options)),
       tray_(store_) {
     store_.start();
     SelfCheck::runIfRequested(store_);
@@ -51,9 +59,9 @@ App::App(AppService& service, const Options& options)
     });
     connect(&tray_, &Tray::openRequested, this, &App::showWindow);
     connect(&tray_, &Tray::quitRequested, qApp, &QCoreApplication::quit);
-    if (options.section)
-        store_.setSection(*options.section);
-    if (!options.hidden)
+    if (options.hidden)
+        window_.buildSections();
+    else
         showWindow();
 }
 

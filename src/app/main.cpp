@@ -14,7 +14,9 @@
 #include <QSettings>
 
 #include <cstdlib>
+#include <future>
 #include <iostream>
+#include <malloc.h>
 #include <memory>
 #include <pwd.h>
 #include <unistd.h>
@@ -42,6 +44,13 @@ void findHome() {
         return;
     if (const passwd* user = getpwuid(getuid()))
         qputenv("HOME", user->pw_dir);
+}
+
+/// Buffers of documents and pictures go back to the system when they are freed. By default the heap keeps
+/// them, because the C library raises its limit with the first of them.
+void keepHeapSmall() {
+    constexpr int largestOnHeap = 256 * 1024; // bytes
+    mallopt(M_MMAP_THRESHOLD, largestOnHeap);
 }
 
 bool hasDisplay() {
@@ -76,14 +85,22 @@ void moveQSettingsToDataDirectory() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
 }
 
+/// Runs in a thread, because Qt loads every plugin for pictures before it reads the first one.
+void loadIcon() {
+    const QImage large(QStringLiteral(":/icons/app/velmora-128.png"));
+    const QImage small(QStringLiteral(":/icons/app/velmora-48.png"));
+    QMetaObject::invokeMethod(qApp, [large, small] {
+        QIcon icon(QPixmap::fromImage(large));
+        icon.addPixmap(QPixmap::fromImage(small));
+        QApplication::setWindowIcon(icon);
+    });
+}
+
 void setUpApplication() {
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QIcon icon(QStringLiteral(":/icons/app/velmora-128.png"));
-    icon.addFile(QStringLiteral(":/icons/app/velmora-48.png"));
-    QApplication::setWindowIcon(icon);
     QApplication::setStyle(new Style);
     QApplication::setPalette(Style::lightPalette());
     if (!SBFont::registerBundled())
@@ -101,8 +118,9 @@ void saveAtExit() {
 }
 
 /// Files first: a disk may take its time, everything else may not.
-int run(AppService& service, const Options& options) {
-    App app(service, options);
+int run(AppService& service, const Options& options, const DataDirectory& directory) {
+    App app(service, options, directory);
+    const auto icon = std::async(std::launch::async, loadIcon);
     runningApp = &app;
     std::atexit(saveAtExit);
     const int exitCode = QApplication::exec();
@@ -118,6 +136,7 @@ int run(AppService& service, const Options& options) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    keepHeapSmall();
     const auto read = optionsFrom(argc, argv);
     if (const auto* message = std::get_if<Message>(&read)) {
         (message->exitCode == 0 ? std::cout : std::cerr) << message->text.toStdString();
@@ -126,14 +145,15 @@ int main(int argc, char* argv[]) {
     const Options options = std::get<Options>(read);
     findHome();
     ignoreRelativeXdgPaths();
+    DataDirectory directory(DataFiles::defaultDirectory());
+    directory.readHistoryAhead();
     const QString activationToken = Activation::launcherToken();
     const auto application = openDisplay(argc, argv);
     const QuitSignals quitSignals; // installed before anything that a signal must clean up
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, [] { QCoreApplication::exit(); });
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
-    switch (service.claim(DataFiles::defaultDirectory().path(), options.hidden, options.section,
-                          activationToken)) {
+    switch (service.claim(QDir(directory).path(), options.hidden, options.section, activationToken)) {
     case AppService::Claim::handedOver:
         return 0;
     case AppService::Claim::refused:
@@ -145,5 +165,5 @@ int main(int argc, char* argv[]) {
     moveQSettingsToDataDirectory();
     const Language language;
     setUpApplication();
-    return run(service, options);
+    return run(service, options, directory);
 }

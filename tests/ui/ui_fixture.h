@@ -29,6 +29,7 @@ protected:
     MainWindow& window() {
         if (!window_) {
             window_ = std::make_unique<MainWindow>(store());
+            window_->buildSections();
             window_->show();
             settle();
         }

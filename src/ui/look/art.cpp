@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QRegularExpression>
 
+#include <future>
 #include <map>
 
 namespace velmora::Art {
@@ -42,6 +43,17 @@ QImage loadOwners(const QString& name) {
     return ownersDirectory() ? load(*ownersDirectory(), name) : QImage();
 }
 
+QImage loadAny(const QString& name) {
+    const QImage owners = loadOwners(name);
+    return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
+}
+
+/// The pictures that threads decode, by name. Used by the main thread only.
+std::map<QString, std::future<QImage>>& ahead() {
+    static std::map<QString, std::future<QImage>> pictures;
+    return pictures;
+}
+
 } // namespace
 
 void setDirectory(const QDir& directory) {
@@ -51,8 +63,18 @@ void setDirectory(const QDir& directory) {
 QImage find(const QString& name) {
     if (!isName(name))
         return {};
-    const QImage owners = loadOwners(name);
-    return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
+    if (auto found = ahead().extract(name))
+        return found.mapped().get();
+    return loadAny(name);
+}
+
+void findAhead(const QStringList& names) {
+    for (const QString& name : names)
+        ahead()[name] = std::async(std::launch::async, loadAny, name);
+}
+
+void dropUnused() {
+    ahead().clear();
 }
 
 std::optional<QPointF> focusOf(const QString& name) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPointF>
+#include <QStringList>
 
 #include <optional>
 
@@ -17,6 +18,12 @@ void setDirectory(const QDir& directory);
 /// directory: only letters, digits, dots, dashes and underscores are accepted, and no dot at the start.
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
+
+/// Begins to decode these pictures in threads. The next find() of each takes the result.
+void findAhead(const QStringList& names);
+
+/// Drops what findAhead() found and nobody took.
+void dropUnused();
 
 /// Where the visitor is in a built-in camera picture, as shares of its width and height; nullopt for any
 /// other picture.

@@ -7,6 +7,7 @@
 #include "ui/blocks/reading_order.h"
 #include "ui/blocks/toast.h"
 #include "ui/guard/answer_guard.h"
+#include "ui/look/art.h"
 #include "ui/look/measures.h"
 #include "ui/look/words.h"
 #include "ui/map/site_map.h"
@@ -31,9 +32,11 @@
 #include <QDialog>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 
@@ -54,7 +57,7 @@ MainWindow::MainWindow(AppStore& store)
     setWindowFlag(Qt::FramelessWindowHint);
     setMinimumSize(Measure::windowMinimum);
     resize(Measure::windowDefault.boundedTo(screen()->availableSize()));
-    buildSections();
+    addSections();
     buildLayout();
     buildCards();
     new FocusRing(this);
@@ -82,7 +85,7 @@ MainWindow::MainWindow(AppStore& store)
 
 void MainWindow::buildCards() {
     approval_ = new ApprovalOverlay(store_, *guard_, this);
-    landing_ = new LandConfirmation(store_, *live_, this);
+    landing_ = new LandConfirmation(store_, this);
     clearDemo_ = new ConfirmationCard(
         {tr("Clear the demo history?"), {}, tr("Keep it"), tr("Clear demo history")}, this);
     exportFailed_ = new ConfirmationCard({tr("The file was not saved"), {}, tr("Close"), {}}, this);
@@ -93,7 +96,7 @@ void MainWindow::buildCards() {
         addOverlay(overlay);
     connect(clearDemo_, &ConfirmationCard::confirmed, this, [this] {
         store_.clearDemoHistory();
-        history_->focusContent();
+        history().focusContent();
     });
     connect(approval_, &ApprovalOverlay::asked, this, &MainWindow::closePopupsAndDialogs);
     connect(approval_, &ApprovalOverlay::asked, report_, &ReportProgress::detach);
@@ -130,20 +133,51 @@ void MainWindow::closePopupsAndDialogs() {
             dialog->reject();
 }
 
+void MainWindow::addSections() {
+    stack_->addSection(Section::overview, [this] { return new OverviewView(store_, *guard_, stack_); });
+    stack_->addSection(Section::live, [this] { return buildLive(); });
+    stack_->addSection(Section::history, [this] { return buildHistory(); });
+    stack_->addSection(Section::cameras, [this] { return new CamerasView(store_, stack_); });
+    stack_->addSection(Section::settings, [this] { return new SettingsView(store_, stack_); });
+    connect(stack_, &SectionStack::built, this, &MainWindow::coverMaps);
+    connect(&store_, &AppStore::recordRequested, this, [this](RecordKey key) { history().openRecord(key); });
+    connect(&store_, &AppStore::patternsRequested, this, [this] { history().openPatterns(); });
+}
+
+QWidget* MainWindow::buildLive() {
+    auto* live = new LiveView(store_, stack_);
+    connect(live, &LiveView::landRequested, this, [this, live] { landing_->ask(*live); });
+    return live;
+}
+
+QWidget* MainWindow::buildHistory() {
+    auto* history = new HistoryView(store_, stack_);
+    connect(history, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
+    connect(history, &HistoryView::exportFailed, this, &MainWindow::showFailedExport);
+    connect(history, &HistoryView::reportStarted, this, [this](ReportJob* job) { followReport(*job); });
+    return history;
+}
+
+HistoryView& MainWindow::history() {
+    return *static_cast<HistoryView*>(stack_->widgetOf(Section::history));
+}
+
 void MainWindow::buildSections() {
-    live_ = new LiveView(store_, stack_);
-    connect(live_, &LiveView::landRequested, this, [this] { landing_->ask(); });
-    sections_[Section::overview] = new OverviewView(store_, *guard_, stack_);
-    sections_[Section::live] = live_;
-    history_ = new HistoryView(store_, stack_);
-    connect(history_, &HistoryView::clearDemoRequested, this, &MainWindow::askToClearDemo);
-    connect(history_, &HistoryView::exportFailed, this, &MainWindow::showFailedExport);
-    connect(history_, &HistoryView::reportStarted, this, [this](ReportJob* job) { followReport(*job); });
-    sections_[Section::history] = history_;
-    sections_[Section::cameras] = new CamerasView(store_, stack_);
-    sections_[Section::settings] = new SettingsView(store_, stack_);
-    for (const auto& [section, screen] : sections_)
-        stack_->addSection(screen);
+    while (stack_->buildNext()) {
+    }
+}
+
+/// One section between two events, so that neither ticks nor keys wait for all of them.
+void MainWindow::buildNextSection() {
+    if (stack_->buildNext())
+        QTimer::singleShot(0, this, &MainWindow::buildNextSection);
+    else
+        Art::dropUnused();
+}
+
+void MainWindow::paintEvent(QPaintEvent*) {
+    if (!std::exchange(buildsSections_, true))
+        QTimer::singleShot(0, this, &MainWindow::buildNextSection);
 }
 
 void MainWindow::buildLayout() {
@@ -175,8 +209,8 @@ void MainWindow::addShortcuts() {
     for (const auto& [section, id] : rawValuesOf<Section>)
         add(QKeySequence(Qt::CTRL | Qt::Key(key++)), [this, shown = section] { store_.setSection(shown); });
     add(QKeySequence::Find, [this] {
-        if (history_->isVisible())
-            history_->focusSearch();
+        if (store_.section() == Section::history)
+            history().focusSearch();
     });
     connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this,
             [this] { menus_->setActiveAction(menus_->actions().front()); });
@@ -209,12 +243,17 @@ bool MainWindow::isCovered() const {
     return std::ranges::any_of(overlays_, [](const OverlayCard* overlay) { return overlay->isOpen(); });
 }
 
-/// Pauses maps that a card covers. Keeps the alert above other cards, the title strip above every veil, and
-/// the resize handles above everything.
-void MainWindow::updateLayers() {
-    for (SiteMap* map : content_->findChildren<SiteMap*>())
+/// Pauses maps that a card covers.
+void MainWindow::coverMaps() {
+    for (SiteMap* map : stack_->findChildren<SiteMap*>())
         map->setCovered(std::ranges::any_of(
             overlays_, [map](const OverlayCard* overlay) { return overlay->covers(*map); }));
+}
+
+/// Keeps the alert above other cards, the title strip above every veil, and the resize handles above
+/// everything.
+void MainWindow::updateLayers() {
+    coverMaps();
     if (approval_->isOpen())
         approval_->raise();
     strip_->setVeiled(isCovered());
@@ -245,13 +284,12 @@ void MainWindow::showWelcome() {
 
 /// Takes the same precaution as showWelcome(). Tab then continues inside the new section.
 void MainWindow::showSection() {
-    QWidget* screen = sections_[store_.section()];
     const bool focusInSection = focusWidget() && stack_->isAncestorOf(focusWidget());
     if (focusInSection)
         setFocus();
-    stack_->showSection(screen);
+    stack_->showSection(store_.section());
     if (focusInSection && focusWidget() == this)
-        screen->setFocus(Qt::OtherFocusReason);
+        stack_->widgetOf(store_.section())->setFocus(Qt::OtherFocusReason);
 }
 
 bool MainWindow::focusNextPrevChild(bool next) {

@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-#include <map>
-
 class QGridLayout;
 
 namespace velmora {
@@ -27,18 +25,27 @@ class TitleStrip;
 class Toast;
 class WelcomeView;
 
-/// The main window: title strip, sidebar, selected section, and the cards on top.
+/// The main window: title strip, sidebar, selected section, and the cards on top. The other sections are
+/// built after the first frame, one between two events.
 class MainWindow : public QWidget {
     Q_OBJECT
 
 public:
     explicit MainWindow(AppStore& store);
 
+    /// Builds the sections that are still missing.
+    void buildSections();
+
 protected:
     bool focusNextPrevChild(bool next) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
-    void buildSections();
+    void addSections();
+    QWidget* buildLive();
+    QWidget* buildHistory();
+    HistoryView& history();
+    void buildNextSection();
     void buildLayout();
     void buildCards();
     void addShortcuts();
@@ -51,6 +58,7 @@ private:
     void showFailedExport(const QString& why);
     void followReport(ReportJob& job);
     void updateLayers();
+    void coverMaps();
     bool isFailureShown(Command command) const;
     bool isCovered() const;
 
@@ -62,9 +70,7 @@ private:
     QWidget* content_; ///< sidebar and section
     WelcomeView* welcome_;
     SectionStack* stack_;
-    std::map<Section, QWidget*> sections_;
-    LiveView* live_;
-    HistoryView* history_;
+    bool buildsSections_ = false; ///< after the first frame
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
     ConfirmationCard* clearDemo_;    ///< asks before the demo history is cleared

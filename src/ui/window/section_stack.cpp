@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QStackedLayout>
 
+#include <algorithm>
+
 namespace velmora {
 
 /// A picture of the previous section that fades out.
@@ -43,23 +45,41 @@ private:
 };
 
 SectionStack::SectionStack(QWidget* parent)
-    : QWidget(parent), sections_(new QStackedLayout), fading_(new Fading(this)) {
+    : QWidget(parent), layout_(new QStackedLayout), fading_(new Fading(this)) {
     auto* layers = bareLayout<QGridLayout>(this);
-    layers->addLayout(sections_, 0, 0);
+    layers->addLayout(layout_, 0, 0);
     layers->addWidget(fading_, 0, 0);
 }
 
-void SectionStack::addSection(QWidget* section) {
-    sections_->addWidget(section);
+void SectionStack::addSection(Section section, Build build) {
+    sections_[section].build = std::move(build);
 }
 
-void SectionStack::showSection(QWidget* section) {
-    if (section == sections_->currentWidget())
+QWidget* SectionStack::widgetOf(Section section) {
+    Entry& entry = sections_.at(section);
+    if (!entry.widget) {
+        entry.widget = entry.build();
+        layout_->addWidget(entry.widget);
+        emit built(entry.widget);
+    }
+    return entry.widget;
+}
+
+void SectionStack::showSection(Section section) {
+    QWidget* widget = widgetOf(section);
+    if (widget == layout_->currentWidget())
         return;
     const QPixmap last = isVisible() ? grab() : QPixmap();
-    sections_->setCurrentWidget(section);
+    layout_->setCurrentWidget(widget);
     if (!last.isNull())
         fading_->start(last);
+}
+
+bool SectionStack::buildNext() {
+    const auto missing = std::ranges::find_if(sections_, [](const auto& one) { return !one.second.widget; });
+    if (missing != sections_.end())
+        widgetOf(missing->first);
+    return missing != sections_.end();
 }
 
 } // namespace velmora

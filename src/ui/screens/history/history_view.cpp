@@ -106,8 +106,6 @@ void HistoryView::connectPatterns() {
         showVisits([&](HistoryFilter& filter) { filter.hours = {weekday, from, to}; });
     });
     connect(patterns_, &PatternsPane::placeChosen, this, &HistoryView::showVisitsPast);
-    connect(&store_, &AppStore::patternsRequested, this, &HistoryView::openPatterns);
-    connect(&store_, &AppStore::recordRequested, this, &HistoryView::openRecord);
 }
 
 void HistoryView::changeFilter(const std::function<void(HistoryFilter&)>& change) {

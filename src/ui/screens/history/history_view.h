@@ -26,6 +26,9 @@ public:
     void focusSearch();
     /// Moves the keyboard focus to the records, or to the patterns.
     void focusContent();
+    /// Shows the record, also if the filters hide it.
+    void openRecord(RecordKey key);
+    void openPatterns();
 
 signals:
     /// The owner clicked "Clear demo history". Ask for confirmation before removing anything.
@@ -48,8 +51,6 @@ private:
     void showVisits(const std::function<void(HistoryFilter&)>& change);
     void showVisitsPast(P place);
     bool isListed(const std::optional<RecordKey>& record) const;
-    void openRecord(RecordKey key);
-    void openPatterns();
     void showParts();
     void showPatterns();
     void showSelection();

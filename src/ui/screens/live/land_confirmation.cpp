@@ -13,7 +13,7 @@
 
 namespace velmora {
 
-LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidget* window)
+LandConfirmation::LandConfirmation(AppStore& store, QWidget* window)
     : ConfirmationCard(
           {tr("Land the drone where it is now?"),
            tr("It will come down on the spot, not on its pad. Use this only if something is wrong."),
@@ -24,8 +24,7 @@ LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidge
            .aboveButtons = Measure::gap20,
            .betweenButtons = Measure::gap8,
            .wideButtons = true}),
-      store_(store),
-      live_(live) {
+      store_(store) {
     auto* block = new QWidget(card());
     facts_ = new Text({}, Type::bodyStrong, SB::ink, block);
     auto* column = new QVBoxLayout(block);
@@ -34,8 +33,6 @@ LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidge
     column->addWidget(new Hairline(block, Hairline::Tone::first));
     column->addWidget(facts_);
     addBelowBody(block);
-    for (QObject* beside : {live_.rail(), live_.card()})
-        beside->installEventFilter(this);
     connect(this, &ConfirmationCard::confirmed, this,
             [this] { store_.send(Command::land, CommandSource::live); });
     connect(&store_, &AppStore::stateChanged, this, &LandConfirmation::follow);
@@ -44,9 +41,12 @@ LandConfirmation::LandConfirmation(AppStore& store, const LiveView& live, QWidge
     connect(&store_, &AppStore::sectionChanged, this, &OverlayCard::close);
 }
 
-void LandConfirmation::ask() {
+void LandConfirmation::ask(const LiveView& live) {
     if (!airborne(store_.phase()))
         return;
+    live_ = &live;
+    for (QObject* beside : {live.rail(), live.card()})
+        beside->installEventFilter(this);
     showFacts();
     place();
     open();
@@ -73,11 +73,11 @@ void LandConfirmation::place() {
     const auto area = [this](const QWidget* widget) {
         return QRect(widget->mapTo(window(), QPoint()), widget->size());
     };
-    const QRect rail = area(live_.rail());
+    const QRect rail = area(live_->rail());
     const int lowest = window()->height() - column()->totalHeightForWidth(card()->width()) - Measure::gap8;
     setCorner({rail.left() - Measure::landingSide,
                std::max(std::min(rail.top(), lowest), Measure::titleStrip + Measure::gap8)});
-    setBright(area(live_.card()) & area(&live_), Measure::cardRadius);
+    setBright(area(live_->card()) & area(live_), Measure::cardRadius);
 }
 
 bool LandConfirmation::eventFilter(QObject* watched, QEvent* event) {

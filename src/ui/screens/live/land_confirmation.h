@@ -14,11 +14,11 @@ class LandConfirmation : public ConfirmationCard {
     Q_OBJECT
 
 public:
-    LandConfirmation(AppStore& store, const LiveView& live, QWidget* window);
+    LandConfirmation(AppStore& store, QWidget* window);
 
-    /// Opens the card beside the map. Its buttons lie below the button that asked, so that a double click on
-    /// that one lands nothing.
-    void ask();
+    /// Opens the card beside the map of `live`. Its buttons lie below the button that asked, so that a double
+    /// click on that one lands nothing.
+    void ask(const LiveView& live);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,7 +29,7 @@ private:
     void place();
 
     AppStore& store_;
-    const LiveView& live_;
+    const LiveView* live_ = nullptr; ///< where the card was opened
     Text* facts_;
 };
 
