@@ -61,13 +61,10 @@ QRectF around(QPointF center, double radius) {
     return {center.x() - reach, center.y() - reach, 2 * reach, 2 * reach};
 }
 
-/// What moves with the visitor but the label.
+/// The rings around the visitor.
 QRectF visitorArea(const MapScene& scene, const MapTransform& view) {
-    const QPointF at = view.map(scene.state.visitor->pos);
-    if (!airborne(scene.state.phase))
-        return around(at, scene.measures.pulseTo);
-    const double radius = std::max(scene.measures.pulseTo, scene.settings.followDistance * view.scale());
-    return around(at, radius) | around(view.map(scene.state.drone.pos), 0);
+    const double ring = airborne(scene.state.phase) ? scene.settings.followDistance * view.scale() : 0;
+    return around(view.map(scene.state.visitor->pos), std::max(scene.measures.pulseTo, ring));
 }
 
 /// One pass over the scene in drawing order; later steps paint over earlier ones.
@@ -177,9 +174,14 @@ public:
 
     void drawVisitor(double t) {
         const QPointF at = view_.map(scene_.state.visitor->pos);
+        if (airborne(scene_.state.phase)) {
+            painter_.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
+            painter_.drawLine(view_.map(scene_.state.drone.pos), at);
+        }
         blendShapes(painter_, visitorArea(scene_, view_), [&](QPainter& shapes) {
             if (airborne(scene_.state.phase))
-                drawFollowing(shapes, at);
+                drawCircle(shapes, at, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
+                           dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));
             const double pulse = Motion::pulseAt(t);
             drawCircle(shapes, at, measures_.pulseFrom + (measures_.pulseTo - measures_.pulseFrom) * pulse,
                        Qt::NoBrush, QPen(SB::faded(SB::lilac, (1 - pulse) * 0.8), 1.5));
@@ -223,14 +225,6 @@ public:
     }
 
 private:
-    /// The distance at which the drone follows, and the line from it to the visitor.
-    void drawFollowing(QPainter& shapes, QPointF visitor) {
-        drawCircle(shapes, visitor, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
-                   dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));
-        shapes.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
-        shapes.drawLine(view_.map(scene_.state.drone.pos), visitor);
-    }
-
     void drawView(QPointF center, double heading, double opacity) {
         const double radius = viewRange * view_.scale();
         QRectF around(0, 0, 2 * radius, 2 * radius);
