@@ -155,10 +155,10 @@ int main(int argc, char* argv[]) {
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
     switch (service.claim(QDir(directory).path(), options.hidden, options.section, activationToken)) {
     case AppService::Claim::handedOver:
-        return 0;
+        std::_Exit(0); // without waiting for the thread that reads the history
     case AppService::Claim::refused:
         std::cerr << "Velmora already runs with this data and cannot be reached. Close it first.\n";
-        return 1;
+        std::_Exit(1);
     case AppService::Claim::granted:
         break;
     }

@@ -17,11 +17,13 @@ public:
     void operator()(Function& function, const char* name) {
         function = reinterpret_cast<Function>(library_.resolve(name));
         if (function == nullptr)
-            qFatal("The HTTP library cannot be loaded: %s", qPrintable(library_.errorString()));
+            error_ = library_.errorString();
     }
+    const QString& error() const { return error_; }
 
 private:
     QLibrary library_; // stays loaded
+    QString error_;
 };
 
 CurlLibrary load() {
@@ -43,6 +45,7 @@ CurlLibrary load() {
     resolve(curl.multiRemoveHandle, "curl_multi_remove_handle");
     resolve(curl.multiSocketAction, "curl_multi_socket_action");
     resolve(curl.multiInfoRead, "curl_multi_info_read");
+    curl.error = resolve.error();
     return curl;
 }
 

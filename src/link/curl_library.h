@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QString>
+
 #include <curl/curl.h>
 
 namespace velmora {
 
 /// The functions of libcurl that the client uses.
 struct CurlLibrary {
+    QString error; ///< why the library cannot be used, in words for the owner; empty if it can
+
     decltype(&curl_global_init) globalInit;
     decltype(&curl_easy_init) easyInit;
     decltype(&curl_easy_cleanup) easyCleanup;
@@ -24,8 +28,8 @@ struct CurlLibrary {
     decltype(&curl_multi_info_read) multiInfoRead;
 };
 
-/// Loads libcurl with the first call, which takes about 10 ms: it brings forty libraries that demo mode does
-/// not need, nor the first frame. Ends the program if the package's library is missing.
+/// Loads libcurl with the first call, because it brings many libraries that neither demo mode nor the first
+/// frame needs.
 const CurlLibrary& curl();
 
 } // namespace velmora

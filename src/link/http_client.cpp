@@ -8,6 +8,13 @@ namespace {
 
 constexpr long keptConnections = 2; // the server of the settings, and the one before
 
+End unusable(const QString& error) {
+    End end;
+    end.failure = Failure::other;
+    end.errorText = error;
+    return end;
+}
+
 } // namespace
 
 HttpClient::HttpClient() {
@@ -22,6 +29,11 @@ HttpClient::~HttpClient() {
 }
 
 void HttpClient::start(Request request, Done done) {
+    if (const QString& error = curl().error; !error.isEmpty()) {
+        QMetaObject::invokeMethod(
+            this, [done = std::move(done), end = unusable(error)] { done(end); }, Qt::QueuedConnection);
+        return;
+    }
     auto exchange = std::make_unique<Exchange>(std::move(request));
     CURL* handle = exchange->handle();
     if (!multi_)

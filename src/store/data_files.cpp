@@ -74,7 +74,7 @@ std::optional<Settings> DataFiles::loadSettings() {
 }
 
 std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {
-    if (const auto ahead = std::exchange(ahead_, nullptr)) {
+    if (const auto ahead = std::exchange(ahead_, nullptr); ahead && ahead->records.valid()) {
         auto records = ahead->records.get();
         if (history_->takeReading(ahead->file))
             return records;

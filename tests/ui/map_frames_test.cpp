@@ -2,6 +2,10 @@
 #include "ui/map/site_map.h"
 #include "ui/map_fixture.h"
 
+#include <QScreen>
+
+#include <cmath>
+
 namespace velmora {
 
 namespace {
@@ -85,6 +89,32 @@ TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
     EXPECT_EQ(framesOfMovement(), 0);
     map.setCovered(false);
     EXPECT_EQ(frames(), 5);
+}
+
+/// Compares what is on the screen after many frames with a map that is painted once.
+TEST_F(MapFrames, PartsThatWereRepaintedMakeUpTheWholeMap) {
+    const CornerColors corners{SB::alert, SB::teal};
+    map.setCorners(corners);
+    for (int i = 0; i <= 60; ++i) {
+        const P at{i * 2.5, 50 + 49 * std::sin(i / 3.0)};
+        scene.state.drone.pos = at;
+        scene.state.drone.trail.push_back(at);
+        scene.state.visitor->pos = {150 - at.x, at.y};
+        scene.state.visitor->trail.push_back(scene.state.visitor->pos);
+        if (i == 60)
+            scene.state.visitor.reset(); // the side of the label depends on where the visitor was before
+        show();
+        run(1);
+    }
+    SiteMap whole(nullptr);
+    whole.resize(map.size());
+    whole.setCorners(corners);
+    whole.setState(&scene.state, {}, Freshness::live);
+    const QImage painted = map.screen()->grabWindow(map.winId()).toImage();
+    EXPECT_EQ(painted.convertToFormat(QImage::Format_RGB32),
+              whole.grab().toImage().convertToFormat(QImage::Format_RGB32));
+    EXPECT_COLOR(painted.pixelColor(0, 0), SB::alert);
+    EXPECT_COLOR(painted.pixelColor(299, 199), SB::teal);
 }
 
 TEST_F(MapFrames, StaleStatesAndReplaysAreNotAnimated) {

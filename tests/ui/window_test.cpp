@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
@@ -212,6 +213,21 @@ TEST_F(WindowTest, NothingMovesIfTheDesktopDisablesAnimations) {
     };
     EXPECT_EQ(look(), look()) << "nothing pulses";
     QApplication::setStyle(new Style);
+}
+
+/// As right after the start, before the other sections are built.
+TEST_F(WindowTest, ASectionIsBuiltWhenItIsFirstWanted) {
+    MainWindow fresh(store());
+    const RecordKey record = store().history()[2].key;
+    store().openRecord(record);
+    EXPECT_EQ(store().selectedRecord(), record);
+    fresh.show();
+    EXPECT_NE(fresh.findChild<QLineEdit*>(), nullptr) << "the search of the history";
+    store().simulate(Scenario::driveway);
+    respond(Command::approve);
+    fly(0.1);
+    EXPECT_EQ(store().section(), Section::live);
+    EXPECT_NE(find<QAbstractButton>(fresh, "Return home"), nullptr);
 }
 
 TEST_F(WindowTest, ACardBlocksTheSearchShortcut) {

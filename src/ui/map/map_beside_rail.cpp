@@ -27,11 +27,19 @@ public:
     void setGeometry(const QRect& rect) override {
         QLayout::setGeometry(rect);
         map_->setGeometry(QStyle::alignedRect(Qt::LeftToRight, alignment_, map_->fitted(rect.size()), rect));
-        const bool isTop = map_->pos() == rect.topLeft() && map_->width() == rect.width();
-        map_->setCorners({isTop ? SB::page : panel_, panel_});
+        map_->setCorners(corners(map_->pos() - rect.topLeft()));
     }
 
 private:
+    /// Around a map that begins at the panel's corner is the page. Where the panel's own round corners begin
+    /// inside the map's, no single colour is.
+    std::optional<CornerColors> corners(QPoint offset) const {
+        if (panel_ == SB::page || (offset.isNull() && map_->width() == geometry().width()))
+            return CornerColors{SB::page, panel_};
+        const bool isInside = std::max(offset.x(), offset.y()) >= Measure::cardRadius;
+        return isInside ? std::optional(CornerColors{panel_, panel_}) : std::nullopt;
+    }
+
     SiteMap* map_;
     Qt::Alignment alignment_;
     QColor panel_;

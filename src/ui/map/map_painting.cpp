@@ -178,7 +178,7 @@ public:
             painter_.setPen(dashed(SB::faded(Qt::white, 0.35), 1, 1, 3));
             painter_.drawLine(view_.map(scene_.state.drone.pos), at);
         }
-        blendShapes(painter_, visitorArea(scene_, view_), [&](QPainter& shapes) {
+        blendShapes(painter_, visitorArea(scene_, view_) & view_.canvas(), [&](QPainter& shapes) {
             if (airborne(scene_.state.phase))
                 drawCircle(shapes, at, scene_.settings.followDistance * view_.scale(), Qt::NoBrush,
                            dashed(SB::faded(Qt::white, measures_.followRing), 1, 2, 4));

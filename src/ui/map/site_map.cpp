@@ -81,11 +81,11 @@ void SiteMap::setInset(bool inset) {
     repaintGrounds();
 }
 
-void SiteMap::setCorners(const CornerColors& around) {
+void SiteMap::setCorners(const std::optional<CornerColors>& around) {
     if (corners_ == around)
         return;
     corners_ = around;
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_OpaquePaintEvent, corners_.has_value());
     update();
 }
 
@@ -284,8 +284,7 @@ void SiteMap::paintEvent(QPaintEvent* event) {
 
 void SiteMap::paintMap(QPainter& painter) {
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
-    if (freshness != Freshness::live)
-        painter.fillRect(rect(), SB::navy);
+    painter.fillRect(rect(), SB::navy); // at a fractional scale the layers need not reach every edge
     if (freshness == Freshness::unknown) {
         drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
         return;

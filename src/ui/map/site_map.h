@@ -33,9 +33,9 @@ public:
     void setReplay(Replay replay, const LiveState& state, const Settings& settings);
     /// A small map inside a picture: without captions, and with the point where the drone would hold.
     void setInset(bool inset);
-    /// What is around the rounded corners. A map that knows it paints every pixel itself, so that a frame
-    /// costs nothing but the map.
-    void setCorners(const CornerColors& around);
+    /// What is around the rounded corners; nullopt if that has no single colour. A map that knows it paints
+    /// every pixel itself, so that a frame costs nothing but the map.
+    void setCorners(const std::optional<CornerColors>& around);
     /// Another widget covers the map: no frames are drawn until it is gone.
     void setCovered(bool covered);
 

@@ -9,6 +9,7 @@ namespace velmora {
 
 Screen::Screen(AppStore& store, QWidget* parent) : QWidget(parent), store_(store) {
     connect(&due_, &UiTimer::timeout, this, &Screen::refreshIfVisible);
+    connect(&everyMinute_, &UiTimer::timeout, this, &Screen::refreshIfVisible);
 }
 
 void Screen::refreshOn(std::initializer_list<Change> changes) {
@@ -32,9 +33,12 @@ bool Screen::canBeSeen() const {
 }
 
 void Screen::refreshIfVisible() {
+    if (canBeSeen())
+        refreshNow();
+}
+
+void Screen::refreshNow() {
     due_.stop();
-    if (!canBeSeen())
-        return;
     refreshedAt_ = store_.now();
     refresh();
 }
@@ -45,15 +49,22 @@ void Screen::showMotion() {
         return;
     const Seconds age = store_.now() - refreshedAt_;
     if (age < Seconds::zero() || age >= due_.interval()) {
-        refreshIfVisible();
+        refreshNow();
         return;
     }
     follow();
     due_.setActive(true);
 }
 
+/// A restored window can show its widgets before it counts as restored.
 void Screen::showEvent(QShowEvent*) {
-    refreshIfVisible();
+    refreshNow();
+    everyMinute_.start();
+}
+
+void Screen::hideEvent(QHideEvent*) {
+    everyMinute_.stop();
+    due_.stop();
 }
 
 } // namespace velmora

@@ -11,8 +11,8 @@ namespace velmora {
 
 class Page;
 
-/// A section of the window. It refreshes only while it is visible and the window is not minimised, and once
-/// when it is shown.
+/// A section of the window. It refreshes only while it is visible and the window is not minimised: when it is
+/// shown, and then every minute, because days end.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -27,7 +27,6 @@ protected:
     /// While the screen can be seen, calls follow() whenever something moves, and refresh() for its words as
     /// often as they can be read.
     void followMotion();
-    void refreshIfVisible();
     /// Takes ownership of the page, which fills the screen.
     void setPage(Page* page);
     Page& page() { return *page_; }
@@ -38,16 +37,20 @@ protected:
     virtual void follow() {}
 
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
     AppStore& store_;
 
 private:
     bool canBeSeen() const;
     void showMotion();
+    void refreshIfVisible();
+    void refreshNow();
 
     Page* page_ = nullptr;
     Date refreshedAt_;
     UiTimer due_{std::chrono::milliseconds(200), UiTimer::Mode::singleShot}; ///< runs while words are old
+    UiTimer everyMinute_{std::chrono::minutes(1)};                           ///< runs while shown
 };
 
 } // namespace velmora

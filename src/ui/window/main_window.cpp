@@ -42,7 +42,8 @@ namespace velmora {
 
 namespace {
 
-constexpr std::size_t longReport = 50; // visits; a longer report shows its progress
+constexpr std::size_t longReport = 50;              // visits; a longer report shows its progress
+constexpr std::chrono::seconds longestUnpainted(3); // a window can be shown where nobody sees it
 
 } // namespace
 
@@ -78,6 +79,7 @@ MainWindow::MainWindow(AppStore& store)
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     approval_->updateAlert();
+    QTimer::singleShot(longestUnpainted, this, &MainWindow::beginBuilding);
     showSection();
     showWelcome();
     updateLayers();
@@ -175,9 +177,13 @@ void MainWindow::buildNextSection() {
         Art::dropUnused();
 }
 
-void MainWindow::paintEvent(QPaintEvent*) {
+void MainWindow::beginBuilding() {
     if (!std::exchange(buildsSections_, true))
         QTimer::singleShot(0, this, &MainWindow::buildNextSection);
+}
+
+void MainWindow::paintEvent(QPaintEvent*) {
+    beginBuilding();
 }
 
 void MainWindow::buildLayout() {

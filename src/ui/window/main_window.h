@@ -45,6 +45,7 @@ private:
     QWidget* buildLive();
     QWidget* buildHistory();
     HistoryView& history();
+    void beginBuilding();
     void buildNextSection();
     void buildLayout();
     void buildCards();

@@ -195,6 +195,11 @@ void ApprovalOverlay::countDown() {
     answers_->setHideable(store_.overdue() > longestOverdue);
 }
 
+/// A restored window need not be painted again, but the guard waits for it.
+void ApprovalOverlay::showEvent(QShowEvent*) {
+    update();
+}
+
 void ApprovalOverlay::resizeEvent(QResizeEvent* event) {
     OverlayCard::resizeEvent(event);
     updateSize();

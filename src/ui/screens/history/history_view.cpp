@@ -86,7 +86,6 @@ HistoryView::HistoryView(AppStore& store, QWidget* parent)
     connect(&store_, &AppStore::attentionRequested, detail_, &RecordDetail::pause);
     connectPatterns();
     refreshOn({&AppStore::historyChanged, &AppStore::settingsChanged, &AppStore::freshnessChanged});
-    connect(&everyMinute_, &UiTimer::timeout, this, &HistoryView::refresh);
 }
 
 void HistoryView::connectPatterns() {
@@ -307,12 +306,7 @@ void HistoryView::resizeEvent(QResizeEvent*) {
 
 void HistoryView::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
-    everyMinute_.start();
     list_->focusContent();
-}
-
-void HistoryView::hideEvent(QHideEvent*) {
-    everyMinute_.stop();
 }
 
 } // namespace velmora

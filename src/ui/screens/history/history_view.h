@@ -42,7 +42,6 @@ protected:
     void refresh() override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* buildEmpty();
@@ -77,7 +76,6 @@ private:
     SBButton* simulate_ = nullptr;
     QWidget* nothingListed_; ///< in place of the detail
     QWidget* empty_;
-    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown: days and spans of time end
 };
 
 } // namespace velmora

@@ -78,7 +78,7 @@ QWidget* RecordDetail::buildHeading(QWidget* parent) {
 QWidget* RecordDetail::buildReplay(QWidget* parent) {
     auto* replay = new QWidget(parent);
     map_ = new SiteMap(replay);
-    map_->setCorners({SB::page, SB::page});
+    map_->setCorners(CornerColors{SB::page, SB::page});
     auto* chip = new Chip(map_);
     chip->setText(tr("Replay"));
     auto* onMap = new QVBoxLayout(map_);

@@ -42,7 +42,6 @@ OverviewView::OverviewView(AppStore& store, AnswerGuard& guard, QWidget* parent)
                &AppStore::freshnessChanged, &AppStore::linkStatusChanged});
     followMotion();
     connect(&everySecond_, &UiTimer::timeout, this, &OverviewView::refreshMission);
-    connect(&everyMinute_, &UiTimer::timeout, this, &OverviewView::refreshIfVisible);
 }
 
 void OverviewView::refresh() {
@@ -65,14 +64,9 @@ void OverviewView::refreshMission() {
     everySecond_.setActive(isVisible() && (banner_->isDue() || rail_->showsNow()));
 }
 
-void OverviewView::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
-    everyMinute_.start();
-}
-
-void OverviewView::hideEvent(QHideEvent*) {
+void OverviewView::hideEvent(QHideEvent* event) {
+    Screen::hideEvent(event);
     everySecond_.stop();
-    everyMinute_.stop();
 }
 
 void OverviewView::resizeEvent(QResizeEvent*) {

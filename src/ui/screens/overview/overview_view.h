@@ -23,7 +23,6 @@ public:
 protected:
     void refresh() override;
     void follow() override;
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -38,7 +37,6 @@ private:
     OverviewRail* rail_;
     StatusStrip* strip_;
     UiTimer everySecond_{std::chrono::seconds(1)}; ///< runs while a time is shown
-    UiTimer everyMinute_{std::chrono::minutes(1)}; ///< runs while shown: days end, visits become too old
 };
 
 } // namespace velmora
