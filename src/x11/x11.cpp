@@ -34,6 +34,20 @@ bool isComposited() {
     return !server || ownerOf(server, atom(server, "_NET_WM_CM_S0")) != XCB_WINDOW_NONE;
 }
 
+std::optional<std::bitset<256>> keysDown() {
+    xcb_connection_t* const server = connection();
+    if (!server)
+        return std::nullopt;
+    const Owned<xcb_query_keymap_reply_t> reply(
+        xcb_query_keymap_reply(server, xcb_query_keymap(server), nullptr));
+    if (!reply)
+        return std::nullopt;
+    std::bitset<256> keys;
+    for (std::size_t code = 0; code < keys.size(); ++code)
+        keys[code] = reply->keys[code / 8] >> code % 8 & 1;
+    return keys;
+}
+
 xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <bitset>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <xcb/xcb.h>
 
 namespace velmora::X11 {
@@ -27,6 +29,9 @@ xcb_window_t ownerOf(xcb_connection_t* connection, xcb_atom_t selection);
 
 /// Whether windows may be translucent: a compositing manager runs, or the platform is not X11.
 bool isComposited();
+
+/// The keys that are down, by key code; nullopt if the platform is not X11.
+std::optional<std::bitset<256>> keysDown();
 
 /// A message of 32-bit values, to be filled in.
 xcb_client_message_event_t message(xcb_window_t window, xcb_atom_t type);

@@ -161,6 +161,26 @@ TEST_F(DeliberateAnswerTest, AKeyThatOpenedAMenuIsNotTakenForHeld) {
     expectApproved([this] { key("ctrl+Return"); });
 }
 
+TEST_F(DeliberateAnswerTest, AKeyWhoseReleaseWasLostIsNotTakenForHeld) {
+    start();
+    for (const char* lost : {"Escape", "Return"}) {
+        xdotool({"keydown", lost});
+        {
+            const KeyboardGrab other(display);
+            ASSERT_TRUE(other.succeeded());
+            xdotool({"keyup", lost});
+        }
+        ASSERT_TRUE(raiseAlert(true) && polled(3));
+        expectApproved([this] { key("ctrl+Return"); });
+    }
+    hold("Escape");
+    ASSERT_TRUE(raiseAlert(true) && polled(3));
+    key("ctrl+Return");
+    xdotool({"keyup", "Escape"});
+    EXPECT_EQ(server.approvals(), 2);
+    expectNextApproved();
+}
+
 TEST_F(DeliberateAnswerTest, AScreenReaderAnswersOnlyAnAlertThatIsPastItsGuard) {
     startWithScreenReader();
     ASSERT_TRUE(raiseAlert(true) && polled(3));

@@ -48,6 +48,22 @@ protected:
     const xcb_window_t window_; ///< at the upper left of the screen, not yet mapped
 };
 
+/// Gets all keys, as the menu of another program does.
+class KeyboardGrab : public X11Client {
+public:
+    explicit KeyboardGrab(const VirtualDisplay& display) : X11Client(display) {
+        const auto cookie = xcb_grab_keyboard(connection_, 0, root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+                                              XCB_GRAB_MODE_ASYNC);
+        const X11::Owned<xcb_grab_keyboard_reply_t> reply(
+            xcb_grab_keyboard_reply(connection_, cookie, nullptr));
+        succeeded_ = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    }
+    bool succeeded() const { return succeeded_; }
+
+private:
+    bool succeeded_ = false;
+};
+
 /// Says that it is a window manager, and notes which windows ask for the focus.
 class FocusObserver : public X11Client {
 public:

@@ -122,6 +122,28 @@ TEST_F(KeyPressesTest, DetectsARepeatWithoutTheToolkitsFlag) {
     EXPECT_TRUE(counts(Qt::Key_Return, 3101)) << "a platform without time stamps";
 }
 
+TEST_F(KeyPressesTest, AKeyThatTheKeyboardReportsAsUpIsNotHeldAfterwards) {
+    const auto noticeUp = [this](int up, int time) {
+        keys.noticeUp([=](std::uint32_t code) { return code == codeOf(up); }, EventTime(time));
+    };
+    EXPECT_TRUE(counts(Qt::Key_Escape, 100));
+    noticeUp(Qt::Key_Return, 150);
+    EXPECT_FALSE(counts(Qt::Key_Return, 200)) << "Escape is down";
+    release(Qt::Key_Return, 210);
+    noticeUp(Qt::Key_Escape, 300);
+    EXPECT_FALSE(counts(Qt::Key_Return, 290)) << "it began before the report";
+    release(Qt::Key_Return, 295);
+    EXPECT_TRUE(counts(Qt::Key_Return, 320));
+    noticeUp(Qt::Key_Return, 400);
+    EXPECT_FALSE(counts(Qt::Key_Return, 390)) << "a repeat that was delivered late";
+    noticeUp(Qt::Key_Return, 450);
+    EXPECT_TRUE(counts(Qt::Key_Return, 500)) << "its release was lost, too";
+    EXPECT_FALSE(counts(Qt::Key_Return, 600)) << "down again since the report";
+    noticeUp(Qt::Key_Return, 650);
+    stamped = false;
+    EXPECT_FALSE(counts(Qt::Key_Return, 700)) << "nobody knows when it began";
+}
+
 TEST_F(KeyPressesTest, DetectsARepeatWhoseReleaseIsLateAndHasNoTimeStamp) {
     EXPECT_TRUE(counts(Qt::Key_Return, 100));
     release(Qt::Key_Return, 760, 764);

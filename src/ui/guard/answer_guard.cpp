@@ -1,5 +1,7 @@
 #include "ui/guard/answer_guard.h"
 
+#include "x11/x11.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -60,6 +62,15 @@ bool AnswerGuard::passesStallCheck() {
 void AnswerGuard::beat() {
     if (passesStallCheck())
         update();
+    noticeKeysUp();
+}
+
+void AnswerGuard::noticeKeysUp() {
+    if (!keys_.anyHeld())
+        return;
+    if (const auto down = X11::keysDown())
+        keys_.noticeUp([&](std::uint32_t code) { return code < down->size() && !(*down)[code]; },
+                       clock_.now());
 }
 
 void AnswerGuard::invalidatePresses() {

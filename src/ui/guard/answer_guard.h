@@ -56,6 +56,7 @@ private:
     void followWindow(const QEvent& event);
     void beat();
     bool passesStallCheck();
+    void noticeKeysUp();
     void invalidatePresses();
     void update();
     bool dropsKey(QKeyEvent& key);

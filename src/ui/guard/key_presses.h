@@ -3,7 +3,9 @@
 #include "ui/guard/press_rule.h"
 
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <optional>
 
 namespace velmora {
 
@@ -30,11 +32,22 @@ public:
 
     Press pressed(const Event& press);
     void released(const Event& release);
+    bool anyHeld() const { return !held_.empty(); }
+    /// Tells which keys the keyboard reports as up. They are not held at a press with a later time stamp,
+    /// even if the release was lost: that of a key which closed a menu or a dialog may reach no window.
+    void noticeUp(const std::function<bool(std::uint32_t code)>& isUp, EventTime now);
     /// Forgets which keys are held. Call when another program gets their releases.
     void forget() { held_.clear(); }
 
 private:
-    std::map<std::uint32_t, bool> held_; ///< by code: whether it is an answer key
+    struct Held {
+        bool answers = false;
+        std::optional<EventTime> upAt; ///< when the keyboard first reported it as up
+    };
+
+    static bool wasHeldAt(const Event& press, const Held& key);
+
+    std::map<std::uint32_t, Held> held_; ///< by code; pressed, and no release arrived
     std::map<std::uint32_t, Event> lastRelease_;
 };
 
