@@ -24,11 +24,9 @@ NotificationPicture pictureOf(const QString& name) {
             QByteArray(reinterpret_cast<const char*>(small.constBits()), small.sizeInBytes())};
 }
 
-/// Before the window is built: chooses the section that it builds first, and has threads find its pictures.
+/// Before the window is built: chooses the section that it builds first.
 AppStore& prepared(AppStore& store, const Options& options) {
     store.setSection(options.section.value_or(store.section()));
-    if (!options.hidden && !store.showWelcome() && store.section() == Section::overview)
-        Art::findAhead({toQString(LiveState::initial().site.planImage), QStringLiteral("drone-render")});
     return store;
 }
 

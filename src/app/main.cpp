@@ -8,6 +8,7 @@
 #include "ui/look/fonts.h"
 #include "ui/look/style.h"
 #include "ui/look/type.h"
+#include "ui/look/words.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -106,7 +107,13 @@ void setUpApplication() {
     if (!SBFont::registerBundled())
         qWarning("The program's typeface cannot be loaded; texts show in another one.");
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
+}
+
+/// Begins to decode what the Overview shows, before anything else needs a picture.
+void findPictures(const Options& options) {
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
+    if (!options.hidden && options.section.value_or(Section::overview) == Section::overview)
+        Art::findAhead({toQString(LiveState::initial().site.planImage), QStringLiteral("drone-render")});
 }
 
 App* runningApp = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
@@ -162,6 +169,7 @@ int main(int argc, char* argv[]) {
     case AppService::Claim::granted:
         break;
     }
+    findPictures(options);
     moveQSettingsToDataDirectory();
     const Language language;
     setUpApplication();

@@ -40,7 +40,8 @@ void HttpClient::start(Request request, Done done) {
         open();
     keepsConnections_ = true;
     running_.emplace(handle, Running{std::move(exchange), std::move(done)});
-    curl().multiAddHandle(multi_.get(), handle); // sets the timer, which starts the exchange
+    curl().multiAddHandle(multi_.get(), handle);
+    proceed(CURL_SOCKET_TIMEOUT, 0); // now, without another turn of the event loop
 }
 
 /// Done with the first request, because demo mode needs no HTTP.

@@ -41,10 +41,6 @@ std::optional<LinkError> commandFailure(const End& end) {
     return LinkError{failureText(*end.failure, end.errorText), *end.failure};
 }
 
-QByteArray endpoint(const QUrl& base, const char* name) {
-    return base.toEncoded() + name;
-}
-
 } // namespace
 
 HttpLink::HttpLink(const Limits& limits) : limits_(limits) {}
@@ -58,24 +54,32 @@ std::optional<QUrl> HttpLink::base(const Settings& settings) {
     return url;
 }
 
+const std::optional<QByteArray>& HttpLink::baseOf(const Settings& settings) {
+    if (!server_ || server_->host != settings.host || server_->port != settings.port) {
+        const auto address = base(settings);
+        server_ = {settings.host, settings.port,
+                   address ? std::optional(address->toEncoded()) : std::nullopt};
+    }
+    return server_->base;
+}
+
 void HttpLink::fetchState(const Settings& settings, std::function<void(FetchResult)> done) {
-    const auto address = base(settings);
+    const auto& address = baseOf(settings);
     if (!address) {
         done(failed(Failure::invalidAddress));
         return;
     }
-    client_.start({endpoint(*address, "state"), {}, limits_.state, limits_.replyBytes},
+    client_.start({*address + "state", {}, limits_.state, limits_.replyBytes},
                   [done = std::move(done)](const End& end) { done(stateFrom(end)); });
 }
 
 void HttpLink::send(Command command, const std::optional<std::string>& mission, const Settings& settings,
                     CommandDone done) {
-    const auto address = base(settings);
+    const auto& address = baseOf(settings);
     if (!address)
         return;
-    client_.start(
-        {endpoint(*address, "command"), bodyOf(command, mission), limits_.command, limits_.replyBytes},
-        [done = std::move(done)](const End& end) { done(commandFailure(end)); });
+    client_.start({*address + "command", bodyOf(command, mission), limits_.command, limits_.replyBytes},
+                  [done = std::move(done)](const End& end) { done(commandFailure(end)); });
 }
 
 } // namespace velmora

@@ -34,8 +34,18 @@ public:
     void disconnect() override { client_.disconnect(); }
 
 private:
+    /// The base of a server's addresses, which is the same for many requests.
+    struct Server {
+        std::string host;
+        std::int64_t port;
+        std::optional<QByteArray> base; ///< encoded; nullopt if the address is not valid
+    };
+
+    const std::optional<QByteArray>& baseOf(const Settings& settings);
+
     HttpClient client_;
     Limits limits_;
+    std::optional<Server> server_; ///< of the last request
 };
 
 } // namespace velmora

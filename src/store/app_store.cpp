@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto tickInterval = 50ms;
+constexpr std::chrono::duration<int, std::milli> tickInterval = 50ms;
 constexpr double longestTick = 5;         // seconds; a longer gap, for example a suspend, counts as this
 constexpr double longestStep = 0.05;      // seconds
 constexpr double negligibleStep = 0.0001; // seconds
@@ -55,13 +55,14 @@ AppStore::AppStore(Environment environment, QObject* parent)
     connect(&session_, &LinkSession::freshnessChanged, this, &AppStore::freshnessChanged);
     connect(&session_, &LinkSession::pendingCommandChanged, this, &AppStore::pendingCommandChanged);
     connect(&session_, &LinkSession::commandFailed, this, &AppStore::commandFailed);
-    timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(tickInterval);
-    connect(&timer_, &QTimer::timeout, this, &AppStore::tick);
 }
 
 void AppStore::start() {
-    timer_.start();
+    timer_.start(tickInterval.count(), Qt::PreciseTimer, this);
+}
+
+void AppStore::timerEvent(QTimerEvent*) {
+    tick();
 }
 
 bool AppStore::flush(std::chrono::milliseconds limit) {
@@ -93,9 +94,10 @@ void AppStore::followOutage(Date now) {
         settings_.linkMode ? std::optional(Observation{knownState(), freshness(), lastAnswerAt()})
                            : std::nullopt,
         now);
+    if (!changed)
+        return;
     notifications_.showOutage(outage(), settings_, now);
-    if (changed)
-        emit outageChanged();
+    emit outageChanged();
 }
 
 void AppStore::advanceSimulator(Date now, double elapsed) {
@@ -307,9 +309,10 @@ void AppStore::setStartAtLogin(bool on) {
 void AppStore::receive(const LiveState& state) {
     std::erase_if(camerasLastOnline_,
                   [&](const auto& camera) { return !findCamera(state.site, camera.first); });
+    const Date now = environment_.clock();
     for (const CameraInfo& camera : state.site.cameras)
         if (camera.online)
-            camerasLastOnline_[camera.id] = now();
+            camerasLastOnline_[camera.id] = now;
     setState(state);
 }
 
@@ -342,6 +345,7 @@ void AppStore::setSettings(const Settings& settings) {
         notifications_.withdrawAlert();
         outageWatch_.restart(now());
     }
+    notifications_.showOutage(outage(), settings_, now());
 }
 
 void AppStore::setSection(Section section) {

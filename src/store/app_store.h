@@ -8,8 +8,8 @@
 #include "store/login_item.h"
 #include "store/notifications.h"
 
+#include <QBasicTimer>
 #include <QObject>
-#include <QTimer>
 
 namespace velmora {
 
@@ -160,6 +160,9 @@ signals:
     /// server replied but no state showed the effect of the command within five seconds.
     void commandFailed(velmora::Command command, const QString& reason);
 
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
 private:
     void receive(const LiveState& state);
     void setState(const LiveState& state);
@@ -189,7 +192,7 @@ private:
     Section section_ = Section::overview;
     std::optional<RecordKey> selectedRecord_;
     bool showWelcome_ = false;
-    QTimer timer_;
+    QBasicTimer timer_;
     Date lastTick_;
     Phase lastPhase_ = Phase::docked;
     std::optional<AlertId> lastAlert_;

@@ -38,7 +38,7 @@ bool LinkSession::setSettings(const Settings& settings) {
     setPending(std::nullopt);
     lastAnswerAt_.reset();
     resetStatus();
-    updateFreshness();
+    updateFreshness(clock_());
     return true;
 }
 
@@ -58,7 +58,7 @@ void LinkSession::advance(Date now, double elapsed) {
         if (!pollInFlight_)
             poll();
     }
-    updateFreshness();
+    updateFreshness(now);
     agePending(elapsed);
 }
 
@@ -115,8 +115,9 @@ void LinkSession::finishPoll(const FetchResult& result, int generation) {
     if (generation != generation_)
         return;
     pollInFlight_ = false;
+    const Date now = clock_();
     if (const auto* fetched = std::get_if<FetchedState>(&result)) {
-        lastAnswerAt_ = clock_();
+        lastAnswerAt_ = now;
         emit received(fetched->state);
         if (pending_ && hasTakenEffect(*pending_, fetched->state))
             setPending(std::nullopt);
@@ -124,7 +125,7 @@ void LinkSession::finishPoll(const FetchResult& result, int generation) {
     } else {
         setStatus(LinkStatus::failed(std::get<LinkError>(result).text));
     }
-    updateFreshness();
+    updateFreshness(now);
 }
 
 void LinkSession::send(Command command, const std::optional<std::string>& mission, const LiveState& current,
@@ -161,13 +162,13 @@ void LinkSession::setStatus(const LinkStatus& status) {
 }
 
 /// After a failed poll the state becomes stale a little sooner than after silence.
-void LinkSession::updateFreshness() {
+void LinkSession::updateFreshness(Date now) {
     Freshness freshness = Freshness::live;
     if (settings_.linkMode && !lastAnswerAt_) {
         freshness = Freshness::unknown;
     } else if (settings_.linkMode) {
         const bool failing = status_.kind == LinkStatus::Case::failed;
-        if ((clock_() - *lastAnswerAt_).count() > (failing ? failingUntilStale : silentUntilStale))
+        if ((now - *lastAnswerAt_).count() > (failing ? failingUntilStale : silentUntilStale))
             freshness = Freshness::stale;
     }
     if (freshness == freshness_)

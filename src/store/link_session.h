@@ -64,7 +64,7 @@ private:
     void finishSend(Command command, int number, const std::optional<LinkError>& failure);
     void agePending(double elapsed);
     void setStatus(const LinkStatus& status);
-    void updateFreshness();
+    void updateFreshness(Date now);
 
     Link& link_;
     std::function<Date()> clock_;

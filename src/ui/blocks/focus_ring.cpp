@@ -26,6 +26,12 @@ bool moves(QEvent::Type type) {
     return type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide;
 }
 
+/// Every event of the program passes the filter, so most are sorted out by their type first.
+bool concernsFocus(QEvent::Type type) {
+    return type == QEvent::KeyPress || type == QEvent::FocusIn || type == QEvent::FocusOut ||
+           type == QEvent::DynamicPropertyChange || moves(type);
+}
+
 } // namespace
 
 void FocusRing::setRingStyle(QWidget* widget, const RingStyle& style) {
@@ -44,7 +50,7 @@ FocusRing::FocusRing(QWidget* window) : QWidget(window) {
 }
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
-    auto* widget = qobject_cast<QWidget*>(watched);
+    auto* widget = concernsFocus(event->type()) ? qobject_cast<QWidget*>(watched) : nullptr;
     if (!widget || widget == this)
         return false;
     if (event->type() == QEvent::KeyPress)

@@ -48,9 +48,16 @@ QImage loadAny(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-/// The pictures that threads decode, by name. Used by the main thread only.
-std::map<QString, std::future<QImage>>& ahead() {
-    static std::map<QString, std::future<QImage>> pictures;
+using Pictures = std::map<QString, QImage>;
+
+/// What findAhead() finds, by name. Used by the main thread only.
+struct Ahead {
+    std::future<Pictures> coming; ///< from the thread; invalid once they are found
+    Pictures found;
+};
+
+Ahead& ahead() {
+    static Ahead pictures;
     return pictures;
 }
 
@@ -63,18 +70,24 @@ void setDirectory(const QDir& directory) {
 QImage find(const QString& name) {
     if (!isName(name))
         return {};
-    if (auto found = ahead().extract(name))
-        return found.mapped().get();
+    if (ahead().coming.valid())
+        ahead().found = ahead().coming.get();
+    if (const auto found = ahead().found.extract(name))
+        return found.mapped();
     return loadAny(name);
 }
 
 void findAhead(const QStringList& names) {
-    for (const QString& name : names)
-        ahead()[name] = std::async(std::launch::async, loadAny, name);
+    ahead().coming = std::async(std::launch::async, [names] {
+        Pictures pictures;
+        for (const QString& name : names)
+            pictures.emplace(name, loadAny(name));
+        return pictures;
+    });
 }
 
 void dropUnused() {
-    ahead().clear();
+    ahead() = {};
 }
 
 std::optional<QPointF> focusOf(const QString& name) {

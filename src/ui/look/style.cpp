@@ -233,4 +233,11 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     }
 }
 
+/// The menu bar asks for the icon of a button that shows menus without room. It always has room, and the icon
+/// would load every plugin for pictures before the first frame.
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    return icon == SP_ToolBarHorizontalExtensionButton ? QIcon()
+                                                       : QProxyStyle::standardIcon(icon, option, widget);
+}
+
 } // namespace velmora
