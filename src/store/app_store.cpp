@@ -36,7 +36,8 @@ AppStore::AppStore(Environment environment, QObject* parent)
       files_(environment_.dataDirectory),
       journal_(environment_.dataDirectory),
       settings_(files_.loadSettings().value_or(Settings{})),
-      history_(files_),
+      history_(files_,
+               [this] { return rehearsedHistory(settings_, environment_.clock(), environment_.random); }),
       sim_(LiveState::initial(), settings_, environment_.random),
       session_(environment_.link, environment_.clock, settings_, this),
       notifications_(environment_.notifier),
@@ -44,8 +45,8 @@ AppStore::AppStore(Environment environment, QObject* parent)
       showWelcome_(!settings_.onboarded),
       lastTick_(environment_.clock()) {
     outageWatch_.restart(lastTick_);
-    if (history_.entries().empty())
-        history_.add(rehearsedHistory(settings_, environment_.clock(), environment_.random));
+    if (!files_.readsHistory())
+        loadHistory();
     sim_.onFinish = [this](const MissionRecord& finished) {
         history_.add({finished});
         emit historyChanged();
@@ -259,6 +260,13 @@ void AppStore::simulate(Scenario scenario) {
         return;
     sim_.trigger(scenario, environment_.clock());
     setState(sim_.state);
+}
+
+void AppStore::loadHistory() {
+    if (historyIsLoaded())
+        return;
+    history_.entries();
+    emit historyChanged();
 }
 
 void AppStore::clearDemoHistory() {

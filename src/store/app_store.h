@@ -32,7 +32,8 @@ public:
         Link& link;
     };
 
-    /// Reads settings and history. Seeds an empty history with rehearsed missions.
+    /// Reads the settings; the history too, unless a thread reads it. Seeds an empty history with rehearsed
+    /// missions.
     explicit AppStore(Environment environment, QObject* parent = nullptr);
 
     /// Saves without a pause what is not on file yet, and waits for it. Returns whether everything is on file
@@ -51,6 +52,10 @@ public:
     const Settings& settings() const { return settings_; }
     /// Finished missions, newest first.
     const std::vector<HistoryEntry>& history() const { return history_.entries(); }
+    /// Whether history() is there without waiting for the thread that reads it.
+    bool historyIsLoaded() const { return history_.isLoaded(); }
+    /// Waits for the history. Call after the first frame.
+    void loadHistory();
     /// The record with this key; null if there is none.
     const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }
     Section section() const { return section_; }

@@ -50,6 +50,8 @@ public:
     /// Call these before the first save; afterwards the files belong to the saving thread.
     std::optional<Settings> loadSettings();
     std::optional<std::vector<MissionRecord>> loadHistory();
+    /// Whether a thread reads the history, which loadHistory() waits for.
+    bool readsHistory() const { return ahead_ != nullptr; }
 
     /// Saving encodes and writes on a thread of its own: at once, but at most every half second for each
     /// file. The destructor waits for what is not on file yet, at most ten seconds for one write.

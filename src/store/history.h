@@ -3,7 +3,9 @@
 #include "store/data_files.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace velmora {
 
@@ -24,10 +26,16 @@ struct RemovedEntry {
 /// The finished missions, newest first, in memory and in history.json. Every change is saved.
 class History {
 public:
-    /// Reads the file; empty if there is none or it cannot be read. `files` must outlive the history.
-    explicit History(DataFiles& files);
+    using Seed = std::function<std::vector<MissionRecord>()>;
 
-    const std::vector<HistoryEntry>& entries() const { return entries_; }
+    /// `seed` makes the missions of an empty history; it may be null. `files` must outlive the history.
+    explicit History(DataFiles& files, Seed seed = nullptr);
+
+    /// Whether the file has been read. The first use of the missions reads it, or waits for the thread that
+    /// does. They are empty if there is no file or it cannot be read.
+    bool isLoaded() const { return entries_.has_value(); }
+
+    const std::vector<HistoryEntry>& entries() const { return loaded(); }
     /// The record with this key; null if there is none.
     const HistoryEntry* find(RecordKey key) const;
 
@@ -41,12 +49,14 @@ public:
     void restore(RemovedEntry removed);
 
 private:
-    void save();
-    HistoryEntry entryFor(MissionRecord record);
+    std::vector<HistoryEntry>& loaded() const;
+    void save() const;
+    HistoryEntry entryFor(MissionRecord record) const;
 
     DataFiles& files_;
-    std::uint32_t lastKey_ = 0;
-    std::vector<HistoryEntry> entries_;
+    Seed seed_;
+    mutable std::uint32_t lastKey_ = 0;
+    mutable std::optional<std::vector<HistoryEntry>> entries_; ///< nullopt until the first use
 };
 
 } // namespace velmora

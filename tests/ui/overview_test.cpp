@@ -1,5 +1,6 @@
 #include "ui/linked_ui_fixture.h"
 
+#include "ui/charts/outcomes.h"
 #include "ui/look/words.h"
 
 #include <QAbstractButton>
@@ -216,6 +217,30 @@ TEST_F(OverviewTest, AnEmptyHistoryShowsAHint) {
     settle();
     EXPECT_TRUE(shows(nothing));
     EXPECT_EQ(rows(Outcome::visitorLeft).size(), 0);
+}
+
+TEST_F(OverviewTest, TheFirstFrameWaitsForNoHistory) {
+    const std::vector<HistoryEntry> history = store().history();
+    EXPECT_TRUE(flush());
+    DataDirectory data{QDir(directory())};
+    data.readHistoryAhead();
+    AppStore late({[this] { return now; }, random, data, notifier, loginItem, link});
+    MainWindow fresh(late);
+    fresh.show();
+    fresh.grab();
+    const auto shown = [&] {
+        return std::ranges::count_if(fresh.findChildren<QAbstractButton*>(), [&](const auto* button) {
+            return button->isVisible() &&
+                   button->accessibleName().startsWith(outcomeText(history[0].record->outcome) + ", ");
+        });
+    };
+    EXPECT_FALSE(late.historyIsLoaded());
+    EXPECT_EQ(shown(), 0);
+    EXPECT_EQ(find(fresh, "Nothing yet. When a camera spots someone you don't know, it appears here."),
+              nullptr);
+    settle();
+    EXPECT_EQ(late.history().size(), history.size());
+    EXPECT_GT(shown(), 0);
 }
 
 } // namespace

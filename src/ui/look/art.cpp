@@ -3,6 +3,7 @@
 #include <QImageReader>
 #include <QRegularExpression>
 
+#include <chrono>
 #include <future>
 #include <map>
 
@@ -48,12 +49,10 @@ QImage loadAny(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-using Pictures = std::map<QString, QImage>;
-
-/// What findAhead() finds, by name. Used by the main thread only.
+/// What a thread finds ahead. Used by the main thread only.
 struct Ahead {
-    std::future<Pictures> coming; ///< from the thread; invalid once they are found
-    Pictures found;
+    std::map<QString, std::future<QImage>> pictures; ///< by name
+    std::future<void> thread;
 };
 
 Ahead& ahead() {
@@ -70,20 +69,25 @@ void setDirectory(const QDir& directory) {
 QImage find(const QString& name) {
     if (!isName(name))
         return {};
-    if (ahead().coming.valid())
-        ahead().found = ahead().coming.get();
-    if (const auto found = ahead().found.extract(name))
-        return found.mapped();
+    if (auto found = ahead().pictures.extract(name))
+        return found.mapped().get();
     return loadAny(name);
 }
 
 void findAhead(const QStringList& names) {
-    ahead().coming = std::async(std::launch::async, [names] {
-        Pictures pictures;
+    std::map<QString, std::promise<QImage>> promises;
+    for (const QString& name : names)
+        ahead().pictures[name] = promises[name].get_future();
+    ahead().thread = std::async(std::launch::async, [names, promises = std::move(promises)]() mutable {
         for (const QString& name : names)
-            pictures.emplace(name, loadAny(name));
-        return pictures;
+            promises[name].set_value(loadAny(name));
     });
+}
+
+bool isComing(const QString& name) {
+    const auto found = ahead().pictures.find(name);
+    return found != ahead().pictures.end() &&
+           found->second.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
 void dropUnused() {

@@ -19,8 +19,10 @@ void setDirectory(const QDir& directory);
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
-/// Begins to decode these pictures in a thread. The next find() waits for all, and of each takes the result.
+/// Begins to decode these pictures, in this order, in a thread. The next find() of each takes the result.
 void findAhead(const QStringList& names);
+/// Whether find() would have to wait for that thread.
+bool isComing(const QString& name);
 
 /// Drops what findAhead() found and nobody took.
 void dropUnused();

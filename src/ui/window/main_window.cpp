@@ -165,12 +165,14 @@ HistoryView& MainWindow::history() {
 }
 
 void MainWindow::buildSections() {
+    store_.loadHistory();
     while (stack_->buildNext()) {
     }
 }
 
 /// One section between two events, so that neither ticks nor keys wait for all of them.
 void MainWindow::buildNextSection() {
+    store_.loadHistory();
     if (stack_->buildNext())
         QTimer::singleShot(0, this, &MainWindow::buildNextSection);
     else

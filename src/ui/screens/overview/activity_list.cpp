@@ -123,9 +123,11 @@ void ActivityList::setRows(int rows) {
     refresh();
 }
 
+/// The first frame does not wait for the history.
 void ActivityList::refresh() {
-    const auto& history = store_.history();
-    nothing_->setVisible(history.empty());
+    static const std::vector<HistoryEntry> unknown;
+    const auto& history = store_.historyIsLoaded() ? store_.history() : unknown;
+    nothing_->setVisible(history.empty() && store_.historyIsLoaded());
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const bool used = i < history.size() && i < shown_;
         rows_[i]->setVisible(used);

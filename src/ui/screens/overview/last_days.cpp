@@ -47,7 +47,7 @@ LastDays::LastDays(AppStore& store, QWidget* parent)
 }
 
 void LastDays::refresh() {
-    if (isVisible() && count())
+    if (store_.historyIsLoaded() && isVisible() && count())
         showFigures();
 }
 
