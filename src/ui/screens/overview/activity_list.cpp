@@ -96,12 +96,14 @@ ActivityList::ActivityList(AppStore& store, QWidget* parent)
     heading->addWidget(all, 0, Qt::AlignVCenter);
     nothing_ = new Text(tr("Nothing yet. When a camera spots someone you don't know, it appears here."),
                         Type::body, SB::body, this);
+    nothing_->hide();
     auto* column = bareLayout<QVBoxLayout>(this);
     column->addLayout(heading);
     column->addSpacing(Measure::gap4);
     column->addWidget(nothing_);
     for (int i = 0; i < Measure::activityRowsWide; ++i) {
         auto* row = new ActivityRow(this);
+        row->hide();
         column->addWidget(row);
         connect(row, &QAbstractButton::clicked, this, [this, row] { store_.openRecord(row->key()); });
         rows_.push_back(row);
@@ -125,9 +127,10 @@ void ActivityList::setRows(int rows) {
 
 /// The first frame does not wait for the history.
 void ActivityList::refresh() {
-    static const std::vector<HistoryEntry> unknown;
-    const auto& history = store_.historyIsLoaded() ? store_.history() : unknown;
-    nothing_->setVisible(history.empty() && store_.historyIsLoaded());
+    if (!store_.historyIsLoaded())
+        return;
+    const auto& history = store_.history();
+    nothing_->setVisible(history.empty());
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const bool used = i < history.size() && i < shown_;
         rows_[i]->setVisible(used);
