@@ -143,7 +143,7 @@ QPointF ArtImage::cornerOf(QSizeF shown) const {
 
 /// The first frame does not wait for a picture that is being decoded; the next one does.
 void ArtImage::paintEvent(QPaintEvent*) {
-    if (Art::isComing(name_) && !std::exchange(waited_, true)) {
+    if (Art::isDecoding(name_) && !std::exchange(waited_, true)) {
         QTimer::singleShot(0, this, qOverload<>(&ArtImage::update));
         return;
     }

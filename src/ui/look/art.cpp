@@ -49,7 +49,7 @@ QImage loadAny(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-/// What a thread finds ahead. Used by the main thread only.
+/// Pictures of findAhead(). Used by the main thread only.
 struct Ahead {
     std::map<QString, std::future<QImage>> pictures; ///< by name
     std::future<void> thread;
@@ -84,7 +84,7 @@ void findAhead(const QStringList& names) {
     });
 }
 
-bool isComing(const QString& name) {
+bool isDecoding(const QString& name) {
     const auto found = ahead().pictures.find(name);
     return found != ahead().pictures.end() &&
            found->second.wait_for(std::chrono::seconds(0)) != std::future_status::ready;

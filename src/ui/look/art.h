@@ -21,8 +21,8 @@ QImage find(const QString& name);
 
 /// Begins to decode these pictures, in this order, in a thread. The next find() of each takes the result.
 void findAhead(const QStringList& names);
-/// Whether find() would have to wait for that thread.
-bool isComing(const QString& name);
+/// Whether that thread has not decoded the picture yet, so that find() would wait.
+bool isDecoding(const QString& name);
 
 /// Drops what findAhead() found and nobody took.
 void dropUnused();
