@@ -109,7 +109,8 @@ void setUpApplication() {
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
 }
 
-/// Begins to decode what the Overview shows, before anything else needs a picture.
+/// Begins to decode what the Overview shows. The settings are not read yet, so at the very first start, which
+/// shows the welcome, this is in vain.
 void findPictures(const Options& options) {
     Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
     if (!options.hidden && options.section.value_or(Section::overview) == Section::overview)

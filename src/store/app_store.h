@@ -54,7 +54,7 @@ public:
     const std::vector<HistoryEntry>& history() const { return history_.entries(); }
     /// Whether history() is there without waiting for the thread that reads it.
     bool historyIsLoaded() const { return history_.isLoaded(); }
-    /// Waits for the history. Call after the first frame.
+    /// Waits for the history and emits historyChanged, unless it is loaded. Call after the first frame.
     void loadHistory();
     /// The record with this key; null if there is none.
     const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }

@@ -32,7 +32,7 @@ protected:
         program_.reset();
         program_.reset(run(VELMORA_PROGRAM, {}, variables).release());
         ASSERT_TRUE(waitUntil([this] { return isActive(); }));
-        ASSERT_TRUE(polled(server.sent() + 2)); // by then it knows that it is active, and takes keys
+        ASSERT_TRUE(polled(server.sent() + 2)); // by then it has processed the event that gave it the focus
     }
     void startWithScreenReader() {
         start({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}});

@@ -48,7 +48,7 @@ protected:
     const xcb_window_t window_; ///< at the upper left of the screen, not yet mapped
 };
 
-/// Gets all keys, as the menu of another program does.
+/// Grabs the keyboard while it exists, as the menu of another program does.
 class KeyboardGrab : public X11Client {
 public:
     explicit KeyboardGrab(const VirtualDisplay& display) : X11Client(display) {

@@ -141,7 +141,7 @@ TEST_F(KeyPressesTest, AKeyThatTheKeyboardReportsAsUpIsNotHeldAfterwards) {
     EXPECT_FALSE(counts(Qt::Key_Return, 600)) << "down again since the report";
     noticeUp(Qt::Key_Return, 650);
     stamped = false;
-    EXPECT_FALSE(counts(Qt::Key_Return, 700)) << "nobody knows when it began";
+    EXPECT_FALSE(counts(Qt::Key_Return, 700)) << "without a time stamp its start is unknown";
 }
 
 TEST_F(KeyPressesTest, DetectsARepeatWhoseReleaseIsLateAndHasNoTimeStamp) {

@@ -33,7 +33,7 @@ public:
     Press pressed(const Event& press);
     void released(const Event& release);
     bool anyHeld() const { return !held_.empty(); }
-    /// Tells which keys the keyboard reports as up. They are not held at a press with a later time stamp,
+    /// Notes which keys the keyboard reports as up. They are not held at a press with a later time stamp,
     /// even if the release was lost: that of a key which closed a menu or a dialog may reach no window.
     void noticeUp(const std::function<bool(std::uint32_t code)>& isUp, EventTime now);
     /// Forgets which keys are held. Call when another program gets their releases.

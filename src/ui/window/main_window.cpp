@@ -43,7 +43,7 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t longReport = 50;              // visits; a longer report shows its progress
-constexpr std::chrono::seconds longestUnpainted(3); // a window can be shown where nobody sees it
+constexpr std::chrono::seconds longestUnpainted(3); // some shown windows are never painted
 
 } // namespace
 
