@@ -4,8 +4,6 @@
 #include "ui/look/text.h"
 #include "ui/look/tokens.h"
 
-#include <QFontMetricsF>
-
 #include <cmath>
 
 namespace velmora {
@@ -100,7 +98,6 @@ std::vector<Headline::Piece> Headline::words() const {
 
 /// The emphasis goes to the next line as a whole if it fits there.
 std::vector<Headline::Piece> Headline::pieces(double width) const {
-    const QFontMetricsF metrics(fontOf(style_));
     const std::vector<Piece> all = words();
     /// Width from this word to the next end of a line, which is not in the emphasis if that is `whole`.
     const auto unbroken = [&](std::size_t from, bool whole) {
@@ -108,8 +105,8 @@ std::vector<Headline::Piece> Headline::pieces(double width) const {
         for (std::size_t i = from; i < all.size(); ++i) {
             const bool inside = whole && i + 1 < all.size() && all[i + 1].emphasised;
             if (breaksAfter(all[i].text.back()) && !inside)
-                return sum + metrics.horizontalAdvance(all[i].text.trimmed());
-            sum += metrics.horizontalAdvance(all[i].text);
+                return sum + advanceOf(all[i].text.trimmed(), style_);
+            sum += advanceOf(all[i].text, style_);
         }
         return sum;
     };
@@ -127,7 +124,7 @@ std::vector<Headline::Piece> Headline::pieces(double width) const {
         if (shown.empty() || shown.back().emphasised != all[i].emphasised || shown.back().line != line)
             shown.push_back({{}, all[i].emphasised, x, line});
         shown.back().text += all[i].text;
-        x += metrics.horizontalAdvance(all[i].text);
+        x += advanceOf(all[i].text, style_);
         if (all[i].text.endsWith('\n')) {
             shown.back().text.chop(1);
             x = 0;
@@ -139,11 +136,10 @@ std::vector<Headline::Piece> Headline::pieces(double width) const {
 
 void Headline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QFontMetricsF metrics(fontOf(style_));
     for (const Piece& piece : pieces(width())) {
         QBrush brush(dark_ ? SB::dTitle : SB::ink);
         if (piece.emphasised) {
-            const double end = piece.x + metrics.horizontalAdvance(piece.text.trimmed());
+            const double end = piece.x + advanceOf(piece.text.trimmed(), style_);
             brush = dark_ ? SB::gradientDark(piece.x, end) : SB::gradientLight(piece.x, end);
         }
         const double baseline = std::round(piece.line * style_.line + baselineOf(style_));

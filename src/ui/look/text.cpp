@@ -16,12 +16,18 @@ namespace velmora {
 namespace {
 
 constexpr double fitTolerance = 0.5; // pixels; tolerance when a text is fitted into its own measured width
-constexpr double enlarged = 8;       // Qt rounds font metrics to integer pixels, so layouts use this scale
+constexpr double unitsPerEm = 2048;  // of the typeface
 
+/// Qt rounds the size of a font to whole pixels, so layouts and outlines use a font whose pixels are the
+/// units of the typeface. All sizes share it, because Qt takes about a millisecond to prepare a font.
 QFont enlargedFontOf(const TextStyle& style) {
-    QFont font = SBFont::font(style.face, style.size * enlarged);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * enlarged);
+    QFont font = SBFont::font(style.face, unitsPerEm);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * unitsPerEm / style.size);
     return font;
+}
+
+double enlargementOf(const TextStyle& style) {
+    return unitsPerEm / style.size;
 }
 
 /// What a text of one style is cached by, with the width of a stroke along its outlines.
@@ -31,18 +37,22 @@ TextKey keyOf(const QString& text, const TextStyle& style, double edge = 0) {
     return {{{static_cast<int>(style.face), style.size}, {style.tracking, edge}}, text};
 }
 
-/// Width in pixels with the tracking after the last letter. Cached, because a text is measured whenever it is
-/// painted, and shaping it takes longer than painting it.
+} // namespace
+
+/// Cached, because a text is measured whenever it is painted, and shaping it takes longer than painting it.
 double advanceOf(const QString& text, const TextStyle& style) {
     constexpr int mostTexts = 2000; // about 0.5 MB
     static QCache<TextKey, double> cache(mostTexts);
     const TextKey key = keyOf(text, style);
     if (const double* known = cache.object(key))
         return *known;
-    const double advance = QFontMetricsF(enlargedFontOf(style)).horizontalAdvance(text) / enlarged;
+    const double advance =
+        QFontMetricsF(enlargedFontOf(style)).horizontalAdvance(text) / enlargementOf(style);
     cache.insert(key, new double(advance));
     return advance;
 }
+
+namespace {
 
 QString cased(const QString& text, const TextStyle& style) {
     return style.upperCase ? text.toUpper() : text;
@@ -91,7 +101,7 @@ QString casedElided(const QString& text, const TextStyle& style, double width) {
     if (casedWidth(text, style) <= width + fitTolerance)
         return text;
     return QFontMetricsF(enlargedFontOf(style))
-        .elidedText(text, Qt::ElideRight, std::max(width, 0.0) * enlarged);
+        .elidedText(text, Qt::ElideRight, std::max(width, 0.0) * enlargementOf(style));
 }
 
 /// False for text with emoji, which are pictures without outlines.
@@ -115,19 +125,17 @@ QString elided(const QString& text, const TextStyle& style, double width) {
     return casedElided(cased(text, style), style, width);
 }
 
-/// Cached for each face and size, because making a font takes longer than most texts take.
 double baselineOf(const TextStyle& style) {
     struct Extent {
-        double ascent, descent;
+        double ascent, descent; ///< in units of the typeface
     };
-    static QHash<std::pair<int, double>, Extent> extents;
-    const std::pair key(static_cast<int>(style.face), style.size);
-    auto extent = extents.constFind(key);
+    static QHash<int, Extent> extents; ///< by face
+    auto extent = extents.constFind(static_cast<int>(style.face));
     if (extent == extents.constEnd()) {
-        const QFontMetricsF metrics(fontOf(style));
-        extent = extents.insert(key, {metrics.ascent(), metrics.descent()});
+        const QFontMetricsF metrics(enlargedFontOf(style));
+        extent = extents.insert(static_cast<int>(style.face), {metrics.ascent(), metrics.descent()});
     }
-    return (style.line - extent->ascent - extent->descent) / 2 + extent->ascent;
+    return (style.line + (extent->ascent - extent->descent) / enlargementOf(style)) / 2;
 }
 
 namespace {
@@ -152,7 +160,8 @@ QPainterPath outlinesOf(const QString& text, const TextStyle& style, double edge
     QPainterPath outlines;
     outlines.setFillRule(Qt::WindingFill);
     outlines.addText({}, enlargedFontOf(style), text);
-    outlines = QTransform::fromScale(1 / enlarged, 1 / enlarged).map(outlines);
+    const double reduction = 1 / enlargementOf(style);
+    outlines = QTransform::fromScale(reduction, reduction).map(outlines);
     if (edge > 0)
         outlines = strokeOf(outlines, edge);
     cache.insert(key, new QPainterPath(outlines), outlines.elementCount() + 1);
@@ -190,16 +199,17 @@ std::vector<qsizetype> pieceEnds(const QString& text) {
 /// In the enlarged font, because Qt rounds the size of the other one.
 void drawAsText(QPainter& painter, QPointF baseline, const QString& text, const TextStyle& style,
                 const QBrush& color) {
+    const double enlargement = enlargementOf(style);
     painter.save();
     painter.translate(baseline);
-    painter.scale(1 / enlarged, 1 / enlarged);
+    painter.scale(1 / enlargement, 1 / enlargement);
     painter.setFont(enlargedFontOf(style));
     painter.setPen(QPen(color, 0));
     double x = 0;
     qsizetype from = 0;
     for (const qsizetype end : pieceEnds(text)) {
         const QString piece = text.mid(from, end - from);
-        painter.drawText(QPointF(x * enlarged, 0), piece);
+        painter.drawText(QPointF(x * enlargement, 0), piece);
         x += advanceOf(piece, style);
         from = end;
     }
@@ -308,7 +318,7 @@ QStringList brokenIntoLines(const QString& text, const TextStyle& style, double 
     layout.beginLayout();
     QStringList lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth((width + fitTolerance) * enlarged);
+        line.setLineWidth((width + fitTolerance) * enlargementOf(style));
         if (maximumLines > 0 && lines.size() + 1 == maximumLines) {
             lines.append(casedElided(shown.mid(line.textStart()).trimmed(), style, width));
             break;

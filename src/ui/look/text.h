@@ -14,6 +14,9 @@ QFont fontOf(const TextStyle& style);
 
 /// Width of one line in pixels, without tracking after its last letter.
 double textWidth(const QString& text, const TextStyle& style);
+/// Width in pixels of a text that more text follows: with tracking after its last letter, and digits that are
+/// not tabular.
+double advanceOf(const QString& text, const TextStyle& style);
 
 /// Distance from the left edge of a single character's cell to its ink, pixels.
 double bearingOf(QChar character, const TextStyle& style);
