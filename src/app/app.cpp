@@ -6,6 +6,7 @@
 #include "ui/look/words.h"
 
 #include <QApplication>
+#include <QIcon>
 
 namespace velmora {
 
@@ -34,9 +35,15 @@ Date systemClock() {
     return Date(std::chrono::system_clock::now());
 }
 
+QIcon programIcon() {
+    QIcon icon(QStringLiteral(":/icons/app/velmora-128.png"));
+    icon.addFile(QStringLiteral(":/icons/app/velmora-48.png"));
+    return icon;
+}
+
 } // namespace
 
-App::App(AppService& service, const Options& options, const DataDirectory& directory)
+App::App(AppService& service, const Options& options, const QDir& directory)
     : notifier_(QDBusConnection::sessionBus(), pictureOf),
       autostart_(Autostart::defaultDirectory()),
       store_({systemClock, random_, directory, notifier_, autostart_, link_}),
@@ -47,6 +54,7 @@ App::App(AppService& service, const Options& options, const DataDirectory& direc
     connect(&notifier_, &DesktopNotifier::answered, &store_, [this](Command command, const AlertId& alert) {
         store_.answer(command, alert, CommandSource::notification);
     });
+    connect(&window_, &MainWindow::firstFramePainted, [] { QApplication::setWindowIcon(programIcon()); });
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);

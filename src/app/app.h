@@ -19,7 +19,7 @@ class App : public QObject {
     Q_OBJECT
 
 public:
-    App(AppService& service, const Options& options, const DataDirectory& directory);
+    App(AppService& service, const Options& options, const QDir& directory);
 
     /// Waits until everything is on file, at most ten seconds.
     void saveFiles() { store_.flush(longestSave); }

@@ -11,11 +11,9 @@
 #include "ui/look/words.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QSettings>
 
 #include <cstdlib>
-#include <future>
 #include <iostream>
 #include <malloc.h>
 #include <memory>
@@ -86,17 +84,6 @@ void moveQSettingsToDataDirectory() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
 }
 
-/// Runs in a thread, because Qt loads every plugin for pictures before it reads the first one.
-void loadIcon() {
-    const QImage large(QStringLiteral(":/icons/app/velmora-128.png"));
-    const QImage small(QStringLiteral(":/icons/app/velmora-48.png"));
-    QMetaObject::invokeMethod(qApp, [large, small] {
-        QIcon icon(QPixmap::fromImage(large));
-        icon.addPixmap(QPixmap::fromImage(small));
-        QApplication::setWindowIcon(icon);
-    });
-}
-
 void setUpApplication() {
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
@@ -109,12 +96,12 @@ void setUpApplication() {
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
 }
 
-/// Begins to decode what the Overview shows. The settings are not read yet, so at the very first start, which
-/// shows the welcome, this is in vain.
-void findPictures(const Options& options) {
-    Art::setDirectory(QDir(DataFiles::defaultDirectory().filePath(QStringLiteral("art"))));
+/// Begins to decode the largest picture of the Overview. The settings are not read yet, so at the very first
+/// start, which shows the welcome, this is in vain.
+void findPlan(const Options& options, const QDir& directory) {
+    Art::setDirectory(QDir(directory.filePath(QStringLiteral("art"))));
     if (!options.hidden && options.section.value_or(Section::overview) == Section::overview)
-        Art::findAhead({toQString(LiveState::initial().site.planImage), QStringLiteral("drone-render")});
+        Art::findAhead(toQString(LiveState::initial().site.planImage));
 }
 
 App* runningApp = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
@@ -126,9 +113,8 @@ void saveAtExit() {
 }
 
 /// Files first: a disk may take its time, everything else may not.
-int run(AppService& service, const Options& options, const DataDirectory& directory) {
+int run(AppService& service, const Options& options, const QDir& directory) {
     App app(service, options, directory);
-    const auto icon = std::async(std::launch::async, loadIcon);
     runningApp = &app;
     std::atexit(saveAtExit);
     const int exitCode = QApplication::exec();
@@ -153,24 +139,23 @@ int main(int argc, char* argv[]) {
     const Options options = std::get<Options>(read);
     findHome();
     ignoreRelativeXdgPaths();
-    DataDirectory directory(DataFiles::defaultDirectory());
-    directory.readHistoryAhead();
+    const QDir directory = DataFiles::defaultDirectory();
     const QString activationToken = Activation::launcherToken();
     const auto application = openDisplay(argc, argv);
     const QuitSignals quitSignals; // installed before anything that a signal must clean up
     QObject::connect(&quitSignals, &QuitSignals::quitRequested, [] { QCoreApplication::exit(); });
     // A self-check run must not hand over to a running instance, so it gets no bus.
     AppService service(SelfCheck::isRequested() ? QDBusConnection(QString()) : QDBusConnection::sessionBus());
-    switch (service.claim(QDir(directory).path(), options.hidden, options.section, activationToken)) {
+    switch (service.claim(directory.path(), options.hidden, options.section, activationToken)) {
     case AppService::Claim::handedOver:
-        std::_Exit(0); // without waiting for the thread that reads the history
+        return 0;
     case AppService::Claim::refused:
         std::cerr << "Velmora already runs with this data and cannot be reached. Close it first.\n";
-        std::_Exit(1);
+        return 1;
     case AppService::Claim::granted:
         break;
     }
-    findPictures(options);
+    findPlan(options, directory);
     moveQSettingsToDataDirectory();
     const Language language;
     setUpApplication();

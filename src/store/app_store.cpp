@@ -45,8 +45,6 @@ AppStore::AppStore(Environment environment, QObject* parent)
       showWelcome_(!settings_.onboarded),
       lastTick_(environment_.clock()) {
     outageWatch_.restart(lastTick_);
-    if (!files_.readsHistory())
-        loadHistory();
     sim_.onFinish = [this](const MissionRecord& finished) {
         history_.add({finished});
         emit historyChanged();
@@ -263,10 +261,15 @@ void AppStore::simulate(Scenario scenario) {
 }
 
 void AppStore::loadHistory() {
-    if (historyIsLoaded())
-        return;
     history_.entries();
     emit historyChanged();
+}
+
+void AppStore::readHistoryAhead() {
+    if (historyIsLoaded())
+        return loadHistory();
+    files_.readHistoryAhead(
+        [this] { QMetaObject::invokeMethod(this, &AppStore::loadHistory, Qt::QueuedConnection); });
 }
 
 void AppStore::clearDemoHistory() {

@@ -26,13 +26,13 @@ public:
     struct Environment {
         std::function<Date()> clock;
         Random& random;
-        DataDirectory dataDirectory;
+        QDir dataDirectory;
         Notifier& notifier;
         LoginItem& loginItem;
         Link& link;
     };
 
-    /// Reads the settings; the history too, unless a thread reads it. Seeds an empty history with rehearsed
+    /// Reads the settings. The first use of the history reads it, and seeds an empty one with rehearsed
     /// missions.
     explicit AppStore(Environment environment, QObject* parent = nullptr);
 
@@ -52,10 +52,12 @@ public:
     const Settings& settings() const { return settings_; }
     /// Finished missions, newest first.
     const std::vector<HistoryEntry>& history() const { return history_.entries(); }
-    /// Whether history() is there without waiting for the thread that reads it.
+    /// Whether history() returns without reading the file.
     bool historyIsLoaded() const { return history_.isLoaded(); }
-    /// Waits for the history and emits historyChanged, unless it is loaded. Call after the first frame.
+    /// Reads the history and emits historyChanged. Call this or the next one once.
     void loadHistory();
+    /// Reads it in a thread, and emits the signal afterwards.
+    void readHistoryAhead();
     /// The record with this key; null if there is none.
     const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }
     Section section() const { return section_; }

@@ -8,7 +8,6 @@
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <future>
 #include <utility>
 
 namespace velmora {
@@ -16,29 +15,15 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t recordLimit = 200;
-const QString historyName = QStringLiteral("history.json");
-constexpr std::string_view historyRoot = "history"; // in texts of errors
 constexpr auto ownerDirectory = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 } // namespace
 
-struct DataDirectory::HistoryAhead {
-    StoredFile file;                                                ///< belongs to the thread until it ends
-    std::future<std::optional<std::vector<MissionRecord>>> records; ///< last, so that it ends first
-};
-
-void DataDirectory::readHistoryAhead() {
-    ahead_ = std::make_shared<HistoryAhead>(StoredFile(path_.absoluteFilePath(historyName)));
-    ahead_->records = std::async(std::launch::async, [&file = ahead_->file] {
-        return DataFiles::load<std::vector<MissionRecord>>(file, historyRoot);
-    });
-}
-
-DataFiles::DataFiles(const DataDirectory& directory, const ReplaceFile& replace)
-    : settings_(std::make_shared<StoredFile>(
-          directory.path_.absoluteFilePath(QStringLiteral("settings.json")), replace)),
-      history_(std::make_shared<StoredFile>(directory.path_.absoluteFilePath(historyName), replace)),
-      ahead_(directory.ahead_) {}
+DataFiles::DataFiles(const QDir& directory, const ReplaceFile& replace)
+    : settings_(
+          std::make_shared<StoredFile>(directory.absoluteFilePath(QStringLiteral("settings.json")), replace)),
+      history_(std::make_shared<StoredFile>(directory.absoluteFilePath(QStringLiteral("history.json")),
+                                            replace)) {}
 
 QDir DataFiles::defaultDirectory() {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
@@ -74,12 +59,15 @@ std::optional<Settings> DataFiles::loadSettings() {
 }
 
 std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {
-    if (const auto ahead = std::exchange(ahead_, nullptr); ahead && ahead->records.valid()) {
-        auto records = ahead->records.get();
-        if (history_->takeReading(ahead->file))
-            return records;
-    }
-    return load<std::vector<MissionRecord>>(*history_, historyRoot);
+    return ahead_.valid() ? ahead_.get() : load<std::vector<MissionRecord>>(*history_, "history");
+}
+
+void DataFiles::readHistoryAhead(std::function<void()> done) {
+    ahead_ = std::async(std::launch::async, [&file = *history_, done = std::move(done)] {
+        auto records = load<std::vector<MissionRecord>>(file, "history");
+        done();
+        return records;
+    });
 }
 
 void DataFiles::saveSettings(const Settings& settings) {

@@ -7,28 +7,13 @@
 
 #include <QDir>
 
+#include <functional>
+#include <future>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velmora {
-
-/// The data directory. A thread can read its history while the program starts.
-class DataDirectory {
-public:
-    DataDirectory(const QDir& path) : path_(path) {}
-
-    operator const QDir&() const { return path_; }
-
-    /// Begins to read the history in a thread. DataFiles takes it, unless the file was replaced since.
-    void readHistoryAhead();
-
-private:
-    friend class DataFiles;
-    struct HistoryAhead;
-
-    QDir path_;
-    std::shared_ptr<HistoryAhead> ahead_; ///< null if no thread reads; waits for the thread at its end
-};
 
 /// settings.json and history.json in the data directory. Errors are silent: a failed read returns nullopt, a
 /// failed write leaves the file unchanged, and the next change saves everything. A file that cannot be read,
@@ -39,7 +24,7 @@ public:
 
     /// Each write creates the directory (mode 0700) and its parents if they are missing. `replace` runs on
     /// the saving thread.
-    explicit DataFiles(const DataDirectory& directory, const ReplaceFile& replace = replaceFile);
+    explicit DataFiles(const QDir& directory, const ReplaceFile& replace = replaceFile);
 
     /// $XDG_DATA_HOME/Velmora, by default ~/.local/share/Velmora.
     static QDir defaultDirectory();
@@ -50,8 +35,9 @@ public:
     /// Call these before the first save; afterwards the files belong to the saving thread.
     std::optional<Settings> loadSettings();
     std::optional<std::vector<MissionRecord>> loadHistory();
-    /// Whether a thread reads the history, which loadHistory() waits for.
-    bool readsHistory() const { return ahead_ != nullptr; }
+    /// Begins to read the history in a thread, at most once; loadHistory() then waits for it. The thread
+    /// calls `done`.
+    void readHistoryAhead(std::function<void()> done);
 
     /// Saving encodes and writes on a thread of its own: at once, but at most every half second for each
     /// file. The destructor waits for what is not on file yet, at most ten seconds for one write.
@@ -62,7 +48,6 @@ public:
     bool flush(std::chrono::milliseconds limit) { return thread_.flush(limit); }
 
 private:
-    friend class DataDirectory;
     template <class T>
     static std::optional<T> load(StoredFile& file, std::string_view root);
     template <class T>
@@ -71,8 +56,8 @@ private:
     // shared with the jobs of the saving thread
     std::shared_ptr<StoredFile> settings_;
     std::shared_ptr<StoredFile> history_;
-    std::shared_ptr<DataDirectory::HistoryAhead> ahead_; ///< until the history is loaded
     SaveThread thread_;
+    std::future<std::optional<std::vector<MissionRecord>>> ahead_; ///< invalid if no thread reads the history
 };
 
 } // namespace velmora

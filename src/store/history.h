@@ -31,8 +31,8 @@ public:
     /// `seed` makes the missions of an empty history; it may be null. `files` must outlive the history.
     explicit History(DataFiles& files, Seed seed = nullptr);
 
-    /// Whether the file has been read. The first use of the missions reads it, or waits for the thread that
-    /// does. They are empty if there is no file or it cannot be read.
+    /// Whether the file has been read. The first use of the missions reads it. They are empty if there is no
+    /// file or it cannot be read.
     bool isLoaded() const { return entries_.has_value(); }
 
     const std::vector<HistoryEntry>& entries() const { return loaded(); }

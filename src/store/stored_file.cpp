@@ -46,15 +46,6 @@ std::optional<QByteArray> StoredFile::read() {
     return bytes;
 }
 
-bool StoredFile::takeReading(const StoredFile& other) {
-    if (other.stamp_ != stampOf(path_))
-        return false;
-    stamp_ = other.stamp_;
-    hash_ = other.hash_;
-    unreadable_ = other.unreadable_;
-    return true;
-}
-
 bool StoredFile::replace(std::string_view bytes) {
     const auto stamp = keepCopy() ? replace_(path_, bytes) : std::nullopt;
     if (!stamp)

@@ -20,9 +20,6 @@ public:
 
     /// The content; nullopt if there is no file or it cannot be read.
     std::optional<QByteArray> read();
-    /// Takes over what `other` knows after it read the same path. Returns false, and takes nothing, if the
-    /// file was replaced since.
-    bool takeReading(const StoredFile& other);
     /// The content that was read makes no sense.
     void markUnreadable() { unreadable_ = true; }
     /// Replaces the content; creates the file if it is missing. Returns false if the file is unchanged, also

@@ -6,11 +6,8 @@
 #include "ui/look/paint.h"
 #include "ui/look/tokens.h"
 
-#include <QTimer>
-
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace velmora {
 
@@ -141,12 +138,7 @@ QPointF ArtImage::cornerOf(QSizeF shown) const {
             along(shown.height(), focus_->y(), height(), crop_.at.y())};
 }
 
-/// The first frame does not wait for a picture that is being decoded; the next one does.
 void ArtImage::paintEvent(QPaintEvent*) {
-    if (Art::isDecoding(name_) && !std::exchange(waited_, true)) {
-        QTimer::singleShot(0, this, qOverload<>(&ArtImage::update));
-        return;
-    }
     load();
     QPainter painter(this);
     painter.setOpacity(opacity_);

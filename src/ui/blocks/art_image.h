@@ -60,7 +60,6 @@ private:
     double opacity_ = 1;
     QPixmap picture_;        ///< scaled to the size in `loadedFor_`
     QSize loadedFor_{-1, 0}; ///< device pixels
-    bool waited_ = false;    ///< one frame was painted without the picture
 };
 
 } // namespace velmora

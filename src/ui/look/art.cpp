@@ -3,9 +3,9 @@
 #include <QImageReader>
 #include <QRegularExpression>
 
-#include <chrono>
 #include <future>
 #include <map>
+#include <utility>
 
 namespace velmora::Art {
 
@@ -49,15 +49,15 @@ QImage loadAny(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-/// Pictures of findAhead(). Used by the main thread only.
+/// The picture of findAhead(). Used by the main thread only.
 struct Ahead {
-    std::map<QString, std::future<QImage>> pictures; ///< by name
-    std::future<void> thread;
+    QString name;
+    std::future<QImage> picture;
 };
 
 Ahead& ahead() {
-    static Ahead pictures;
-    return pictures;
+    static Ahead picture;
+    return picture;
 }
 
 } // namespace
@@ -69,25 +69,13 @@ void setDirectory(const QDir& directory) {
 QImage find(const QString& name) {
     if (!isName(name))
         return {};
-    if (auto found = ahead().pictures.extract(name))
-        return found.mapped().get();
+    if (ahead().name == name)
+        return std::exchange(ahead(), {}).picture.get();
     return loadAny(name);
 }
 
-void findAhead(const QStringList& names) {
-    std::map<QString, std::promise<QImage>> promises;
-    for (const QString& name : names)
-        ahead().pictures[name] = promises[name].get_future();
-    ahead().thread = std::async(std::launch::async, [names, promises = std::move(promises)]() mutable {
-        for (const QString& name : names)
-            promises[name].set_value(loadAny(name));
-    });
-}
-
-bool isDecoding(const QString& name) {
-    const auto found = ahead().pictures.find(name);
-    return found != ahead().pictures.end() &&
-           found->second.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+void findAhead(const QString& name) {
+    ahead() = {name, std::async(std::launch::async, loadAny, name)};
 }
 
 void dropUnused() {

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPointF>
-#include <QStringList>
+#include <QString>
 
 #include <optional>
 
@@ -19,12 +19,9 @@ void setDirectory(const QDir& directory);
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
-/// Begins to decode these pictures, in this order, in a thread. The next find() of each takes the result.
-void findAhead(const QStringList& names);
-/// Whether that thread has not decoded the picture yet, so that find() would wait.
-bool isDecoding(const QString& name);
-
-/// Drops what findAhead() found and nobody took.
+/// Begins to decode this picture in a thread. The next find() of it takes the result.
+void findAhead(const QString& name);
+/// Drops what findAhead() found, if nobody took it.
 void dropUnused();
 
 /// Where the visitor is in a built-in camera picture, as shares of its width and height; nullopt for any

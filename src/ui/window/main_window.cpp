@@ -79,6 +79,7 @@ MainWindow::MainWindow(AppStore& store)
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     approval_->updateAlert();
+    connect(this, &MainWindow::firstFramePainted, this, &MainWindow::beginBuilding);
     QTimer::singleShot(longestUnpainted, this, &MainWindow::beginBuilding);
     showSection();
     showWelcome();
@@ -165,6 +166,7 @@ HistoryView& MainWindow::history() {
 }
 
 void MainWindow::buildSections() {
+    buildsSections_ = true;
     store_.loadHistory();
     while (stack_->buildNext()) {
     }
@@ -172,7 +174,6 @@ void MainWindow::buildSections() {
 
 /// One section between two events, so that neither ticks nor keys wait for all of them.
 void MainWindow::buildNextSection() {
-    store_.loadHistory();
     if (stack_->buildNext())
         QTimer::singleShot(0, this, &MainWindow::buildNextSection);
     else
@@ -180,12 +181,17 @@ void MainWindow::buildNextSection() {
 }
 
 void MainWindow::beginBuilding() {
-    if (!std::exchange(buildsSections_, true))
-        QTimer::singleShot(0, this, &MainWindow::buildNextSection);
+    if (std::exchange(buildsSections_, true))
+        return;
+    connect(&store_, &AppStore::historyChanged, this, &MainWindow::buildNextSection,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    store_.readHistoryAhead();
 }
 
+/// Of the window itself, so it comes first of all in a frame.
 void MainWindow::paintEvent(QPaintEvent*) {
-    beginBuilding();
+    if (!std::exchange(isPainted_, true))
+        QTimer::singleShot(0, this, &MainWindow::firstFramePainted);
 }
 
 void MainWindow::buildLayout() {

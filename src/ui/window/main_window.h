@@ -36,6 +36,9 @@ public:
     /// Builds the sections that are still missing.
     void buildSections();
 
+signals:
+    void firstFramePainted();
+
 protected:
     bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;
@@ -71,7 +74,8 @@ private:
     QWidget* content_; ///< sidebar and section
     WelcomeView* welcome_;
     SectionStack* stack_;
-    bool buildsSections_ = false; ///< after the first frame
+    bool isPainted_ = false; ///< at least once
+    bool buildsSections_ = false;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
     ConfirmationCard* clearDemo_;    ///< asks before the demo history is cleared
