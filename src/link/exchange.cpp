@@ -68,6 +68,13 @@ Exchange::Exchange(Request request)
         setPost();
 }
 
+void Exchange::repeat() {
+    deadline_ = sinceBoot() + request_.timeLimit;
+    headBytes_ = 0;
+    headEnded_ = false;
+    body_.clear();
+}
+
 void Exchange::set(CURLoption option, auto value) {
     if (curl().easySetopt(handle_.get(), option, value) != CURLE_OK)
         qFatal("The HTTP library refuses option %d.", static_cast<int>(option));

@@ -18,6 +18,8 @@ struct Request {
     std::optional<QByteArray> json;      ///< posted if set
     std::chrono::milliseconds timeLimit; ///< from the start to the last byte, the name look-up included
     std::size_t replyBytes;              ///< limit of the reply's body
+
+    bool operator==(const Request&) const = default;
 };
 
 /// How an exchange ended.
@@ -29,8 +31,9 @@ struct End {
     QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
 };
 
-/// One HTTP request and its reply. Stateless: no cookies, cache, proxy, redirects or decompression. Head
-/// and body of a reply have a limit, and the whole exchange has a time limit.
+/// One HTTP request and its reply, or the same request again after its end. Stateless: no cookies, cache,
+/// proxy, redirects or decompression. Head and body of a reply have a limit, and the whole exchange has a
+/// time limit.
 class Exchange {
 public:
     explicit Exchange(Request request);
@@ -39,6 +42,9 @@ public:
 
     CURL* handle() const { return handle_.get(); }
     bool isPost() const { return request_.json.has_value(); }
+    const Request& request() const { return request_; }
+    /// Prepares the same request again, which is cheaper than another exchange. Call after end().
+    void repeat();
     /// The end after libcurl has reported `result`. It is late, a time-out, if the exchange was not processed
     /// within its time limit, even if a pause of the program is the cause. Call once.
     End end(CURLcode result);

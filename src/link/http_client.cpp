@@ -34,7 +34,7 @@ void HttpClient::start(Request request, Done done) {
             this, [done = std::move(done), end = unusable(error)] { done(end); }, Qt::QueuedConnection);
         return;
     }
-    auto exchange = std::make_unique<Exchange>(std::move(request));
+    auto exchange = exchangeFor(std::move(request));
     CURL* handle = exchange->handle();
     if (!multi_)
         open();
@@ -42,6 +42,14 @@ void HttpClient::start(Request request, Done done) {
     running_.emplace(handle, Running{std::move(exchange), std::move(done)});
     curl().multiAddHandle(multi_.get(), handle);
     proceed(CURL_SOCKET_TIMEOUT, 0); // now, without another turn of the event loop
+}
+
+/// A poll repeats the one before.
+std::unique_ptr<Exchange> HttpClient::exchangeFor(Request request) {
+    if (!ended_ || ended_->request() != request)
+        return std::make_unique<Exchange>(std::move(request));
+    ended_->repeat();
+    return std::move(ended_);
 }
 
 /// Done with the first request, because demo mode needs no HTTP.
@@ -69,14 +77,8 @@ int HttpClient::setTimer(CURLM*, long milliseconds, void* client) {
     return 0;
 }
 
-/// A notifier may be the sender of the signal that is being handled, so it is deleted later.
 void HttpClient::watch(curl_socket_t socket, int directions) {
-    if (directions == CURL_POLL_REMOVE) {
-        watches_.erase(socket);
-        return;
-    }
-    Watch& watch = watches_[socket];
-    const auto follow = [&](Notifier& notifier, QSocketNotifier::Type type, int event, bool wanted) {
+    const auto follow = [&](auto& notifier, QSocketNotifier::Type type, int event, bool wanted) {
         if (!notifier && wanted) {
             notifier.reset(new QSocketNotifier(socket, type, this));
             connect(notifier.get(), &QSocketNotifier::activated, this,
@@ -85,6 +87,7 @@ void HttpClient::watch(curl_socket_t socket, int directions) {
         if (notifier)
             notifier->setEnabled(wanted);
     };
+    Watch& watch = watches_[socket];
     follow(watch.read, QSocketNotifier::Read, CURL_CSELECT_IN, directions & CURL_POLL_IN);
     follow(watch.write, QSocketNotifier::Write, CURL_CSELECT_OUT, directions & CURL_POLL_OUT);
 }
@@ -98,6 +101,7 @@ void HttpClient::proceed(curl_socket_t socket, int directions) {
 
 void HttpClient::disconnect() {
     keepsConnections_ = false;
+    ended_.reset();
     std::erase_if(running_, [this](const auto& item) {
         if (item.second.exchange->isPost())
             return false;
@@ -122,6 +126,8 @@ void HttpClient::collect() {
         auto ended = running_.extract(message->easy_handle);
         const End end = ended.mapped().exchange->end(result);
         curl().multiRemoveHandle(multi_.get(), ended.key());
+        if (!ended.mapped().exchange->isPost())
+            ended_ = std::move(ended.mapped().exchange);
         QMetaObject::invokeMethod(
             this, [done = std::move(ended.mapped().done), end] { done(end); }, Qt::QueuedConnection);
     }

@@ -37,22 +37,16 @@ private:
         std::unique_ptr<Exchange> exchange;
         Done done;
     };
-    struct DeleteLater {
-        void operator()(QSocketNotifier* notifier) const {
-            notifier->setEnabled(false);
-            notifier->deleteLater();
-        }
-    };
-    using Notifier = std::unique_ptr<QSocketNotifier, DeleteLater>;
-    /// Notifiers of one socket, for the directions that libcurl waits for.
+    /// Notifiers of one socket, enabled for the directions that libcurl waits for.
     struct Watch {
-        Notifier read, write;
+        std::unique_ptr<QSocketNotifier> read, write;
     };
     struct Close {
         void operator()(CURLM* multi) const { curl().multiCleanup(multi); }
     };
 
     void open();
+    std::unique_ptr<Exchange> exchangeFor(Request request);
     static int watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*);
     static int setTimer(CURLM*, long milliseconds, void* client);
 
@@ -61,11 +55,12 @@ private:
     void collect();
     void closeIfIdle();
 
-    std::map<curl_socket_t, Watch> watches_;
+    std::map<curl_socket_t, Watch> watches_; ///< of every socket so far; their numbers recur
     QTimer timer_;
     std::unique_ptr<CURLM, Close>
         multi_; ///< null before the first request; uses the watches until it is closed
     std::map<CURL*, Running> running_;
+    std::unique_ptr<Exchange> ended_; ///< the last one that posted nothing; null if there is none
     bool keepsConnections_ = true;
 };
 
