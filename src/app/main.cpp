@@ -96,12 +96,12 @@ void setUpApplication() {
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
 }
 
-/// Begins to decode the largest picture of the Overview. The settings are not read yet, so at the very first
+/// Begins to decode what the Overview shows. The settings are not read yet, so at the very first
 /// start, which shows the welcome, this is in vain.
-void findPlan(const Options& options, const QDir& directory) {
+void findPictures(const Options& options, const QDir& directory) {
     Art::setDirectory(QDir(directory.filePath(QStringLiteral("art"))));
     if (!options.hidden && options.section.value_or(Section::overview) == Section::overview)
-        Art::findAhead(toQString(LiveState::initial().site.planImage));
+        Art::findAhead({toQString(LiveState::initial().site.planImage), QStringLiteral("drone-render")});
 }
 
 App* runningApp = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
@@ -155,7 +155,7 @@ int main(int argc, char* argv[]) {
     case AppService::Claim::granted:
         break;
     }
-    findPlan(options, directory);
+    findPictures(options, directory);
     moveQSettingsToDataDirectory();
     const Language language;
     setUpApplication();

@@ -49,15 +49,15 @@ QImage loadAny(const QString& name) {
     return owners.isNull() ? load(QDir(QStringLiteral(":/art")), name) : owners;
 }
 
-/// The picture of findAhead(). Used by the main thread only.
+/// Pictures of findAhead(). Used by the main thread only.
 struct Ahead {
-    QString name;
-    std::future<QImage> picture;
+    std::map<QString, std::future<QImage>> pictures; ///< by name
+    std::future<void> thread;
 };
 
 Ahead& ahead() {
-    static Ahead picture;
-    return picture;
+    static Ahead pictures;
+    return pictures;
 }
 
 } // namespace
@@ -69,13 +69,19 @@ void setDirectory(const QDir& directory) {
 QImage find(const QString& name) {
     if (!isName(name))
         return {};
-    if (ahead().name == name)
-        return std::exchange(ahead(), {}).picture.get();
+    if (auto found = ahead().pictures.extract(name))
+        return found.mapped().get();
     return loadAny(name);
 }
 
-void findAhead(const QString& name) {
-    ahead() = {name, std::async(std::launch::async, loadAny, name)};
+void findAhead(const QStringList& names) {
+    std::map<QString, std::promise<QImage>> promises;
+    for (const QString& name : names)
+        ahead().pictures[name] = promises[name].get_future();
+    ahead().thread = std::async(std::launch::async, [names, promises = std::move(promises)]() mutable {
+        for (const QString& name : names)
+            promises[name].set_value(loadAny(name));
+    });
 }
 
 void dropUnused() {

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPointF>
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -19,9 +19,9 @@ void setDirectory(const QDir& directory);
 /// Pictures above 64 megapixels are not loaded. Not cached; callers keep a scaled copy.
 QImage find(const QString& name);
 
-/// Begins to decode this picture in a thread. The next find() of it takes the result.
-void findAhead(const QString& name);
-/// Drops what findAhead() found, if nobody took it.
+/// Begins to decode these pictures, in this order, in a thread. The next find() of each takes the result.
+void findAhead(const QStringList& names);
+/// Drops what findAhead() found and nobody took.
 void dropUnused();
 
 /// Where the visitor is in a built-in camera picture, as shares of its width and height; nullopt for any
