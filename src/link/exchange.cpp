@@ -68,6 +68,12 @@ Exchange::Exchange(Request request)
         setPost();
 }
 
+bool Exchange::canRepeat() const {
+    long newConnections = 0;
+    curl().easyGetinfo(handle_.get(), CURLINFO_NUM_CONNECTS, &newConnections);
+    return !isPost() && succeeded_ && newConnections == 0;
+}
+
 void Exchange::repeat() {
     deadline_ = sinceBoot() + request_.timeLimit;
     headBytes_ = 0;
@@ -125,6 +131,7 @@ End Exchange::end(CURLcode result) {
     End end;
     end.status = static_cast<int>(status);
     end.failure = failureOf(result, end.status);
+    succeeded_ = !end.failure;
     if (end.failure == Failure::other)
         end.errorText = systemErrorText(result);
     end.body = std::move(body_);

@@ -31,9 +31,8 @@ struct End {
     QString version; ///< header X-Velmora-Version: one line of at most 40 printable characters
 };
 
-/// One HTTP request and its reply, or the same request again after its end. Stateless: no cookies, cache,
-/// proxy, redirects or decompression. Head and body of a reply have a limit, and the whole exchange has a
-/// time limit.
+/// One HTTP request and its reply, or the same request again after its end. No cookies, cache, proxy,
+/// redirects or decompression. Head and body of a reply have a limit, and each run has a time limit.
 class Exchange {
 public:
     explicit Exchange(Request request);
@@ -43,10 +42,13 @@ public:
     CURL* handle() const { return handle_.get(); }
     bool isPost() const { return request_.json.has_value(); }
     const Request& request() const { return request_; }
+    /// Whether the same request may run again: the reply was complete and came over a kept connection.
+    /// libcurl counts the connections that broke over all runs of a handle, and gives up after five.
+    bool canRepeat() const;
     /// Prepares the same request again, which is cheaper than another exchange. Call after end().
     void repeat();
     /// The end after libcurl has reported `result`. It is late, a time-out, if the exchange was not processed
-    /// within its time limit, even if a pause of the program is the cause. Call once.
+    /// within its time limit, even if a pause of the program is the cause. Call once for each run.
     End end(CURLcode result);
 
 private:
@@ -73,6 +75,7 @@ private:
     std::size_t headBytes_ = 0; ///< of status lines, headers and trailers
     bool headEnded_ = false;    ///< the empty line after the last headers was read
     QByteArray body_;
+    bool succeeded_ = false; ///< in the last run
 };
 
 } // namespace velmora

@@ -1,5 +1,7 @@
 #include "link/http_client.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace velmora {
@@ -20,7 +22,15 @@ End unusable(const QString& error) {
 HttpClient::HttpClient() {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this, [this] { proceed(CURL_SOCKET_TIMEOUT, 0); });
+    connect(&timer_, &QTimer::timeout, this, [this] {
+        advance(CURL_SOCKET_TIMEOUT, 0);
+        report();
+    });
+    connect(&notifier_, &QSocketNotifier::activated, this, [this] {
+        for (const auto& [socket, directions] : sockets_.ready())
+            advance(socket, directions);
+        report();
+    });
 }
 
 HttpClient::~HttpClient() {
@@ -29,22 +39,26 @@ HttpClient::~HttpClient() {
 }
 
 void HttpClient::start(Request request, Done done) {
-    if (const QString& error = curl().error; !error.isEmpty()) {
-        QMetaObject::invokeMethod(
-            this, [done = std::move(done), end = unusable(error)] { done(end); }, Qt::QueuedConnection);
-        return;
-    }
-    auto exchange = exchangeFor(std::move(request));
+    if (const QString& error = curl().error; !error.isEmpty())
+        finished_.push_back({unusable(error), std::move(done)});
+    else
+        run(exchangeFor(std::move(request)), std::move(done));
+    if (!finished_.empty())
+        QMetaObject::invokeMethod(this, &HttpClient::report, Qt::QueuedConnection);
+}
+
+/// Begins now, without another turn of the event loop.
+void HttpClient::run(std::unique_ptr<Exchange> exchange, Done done) {
     CURL* handle = exchange->handle();
     if (!multi_)
         open();
     keepsConnections_ = true;
     running_.emplace(handle, Running{std::move(exchange), std::move(done)});
     curl().multiAddHandle(multi_.get(), handle);
-    proceed(CURL_SOCKET_TIMEOUT, 0); // now, without another turn of the event loop
+    advance(CURL_SOCKET_TIMEOUT, 0);
 }
 
-/// A poll repeats the one before.
+/// A poll runs the exchange of the last poll again.
 std::unique_ptr<Exchange> HttpClient::exchangeFor(Request request) {
     if (!ended_ || ended_->request() != request)
         return std::make_unique<Exchange>(std::move(request));
@@ -63,7 +77,7 @@ void HttpClient::open() {
 }
 
 int HttpClient::watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*) {
-    static_cast<HttpClient*>(client)->watch(socket, directions);
+    static_cast<HttpClient*>(client)->sockets_.watch(socket, directions);
     return 0;
 }
 
@@ -77,26 +91,10 @@ int HttpClient::setTimer(CURLM*, long milliseconds, void* client) {
     return 0;
 }
 
-void HttpClient::watch(curl_socket_t socket, int directions) {
-    const auto follow = [&](auto& notifier, QSocketNotifier::Type type, int event, bool wanted) {
-        if (!notifier && wanted) {
-            notifier.reset(new QSocketNotifier(socket, type, this));
-            connect(notifier.get(), &QSocketNotifier::activated, this,
-                    [this, socket, event] { proceed(socket, event); });
-        }
-        if (notifier)
-            notifier->setEnabled(wanted);
-    };
-    Watch& watch = watches_[socket];
-    follow(watch.read, QSocketNotifier::Read, CURL_CSELECT_IN, directions & CURL_POLL_IN);
-    follow(watch.write, QSocketNotifier::Write, CURL_CSELECT_OUT, directions & CURL_POLL_OUT);
-}
-
-void HttpClient::proceed(curl_socket_t socket, int directions) {
+void HttpClient::advance(curl_socket_t socket, int directions) {
     int stillRunning = 0;
     curl().multiSocketAction(multi_.get(), socket, directions, &stillRunning);
     collect();
-    closeIfIdle();
 }
 
 void HttpClient::disconnect() {
@@ -116,7 +114,6 @@ void HttpClient::closeIfIdle() {
         multi_.reset();
 }
 
-/// Queues the callbacks, so that they may destroy any object, this one included.
 void HttpClient::collect() {
     int left = 0;
     while (const CURLMsg* message = curl().multiInfoRead(multi_.get(), &left)) {
@@ -124,13 +121,21 @@ void HttpClient::collect() {
             continue;
         const CURLcode result = message->data.result;
         auto ended = running_.extract(message->easy_handle);
-        const End end = ended.mapped().exchange->end(result);
+        auto& [exchange, done] = ended.mapped();
+        finished_.push_back({exchange->end(result), std::move(done)});
         curl().multiRemoveHandle(multi_.get(), ended.key());
-        if (!ended.mapped().exchange->isPost())
-            ended_ = std::move(ended.mapped().exchange);
-        QMetaObject::invokeMethod(
-            this, [done = std::move(ended.mapped().done), end] { done(end); }, Qt::QueuedConnection);
+        if (exchange->canRepeat())
+            ended_ = std::move(exchange);
     }
+}
+
+/// A callback may start or abort exchanges and destroy any object, this one included.
+void HttpClient::report() {
+    closeIfIdle();
+    const QPointer client(this);
+    for (const auto& [end, done] : std::exchange(finished_, {}))
+        if (client)
+            done(end);
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "link/exchange.h"
+#include "link/socket_set.h"
 
 #include <QObject>
 #include <QSocketNotifier>
@@ -9,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace velmora {
 
@@ -37,9 +39,9 @@ private:
         std::unique_ptr<Exchange> exchange;
         Done done;
     };
-    /// Notifiers of one socket, enabled for the directions that libcurl waits for.
-    struct Watch {
-        std::unique_ptr<QSocketNotifier> read, write;
+    struct Finished {
+        End end;
+        Done done;
     };
     struct Close {
         void operator()(CURLM* multi) const { curl().multiCleanup(multi); }
@@ -50,17 +52,19 @@ private:
     static int watchSocket(CURL*, curl_socket_t socket, int directions, void* client, void*);
     static int setTimer(CURLM*, long milliseconds, void* client);
 
-    void watch(curl_socket_t socket, int directions);
-    void proceed(curl_socket_t socket, int directions);
+    void run(std::unique_ptr<Exchange> exchange, Done done);
+    void advance(curl_socket_t socket, int directions);
     void collect();
+    void report();
     void closeIfIdle();
 
-    std::map<curl_socket_t, Watch> watches_; ///< of every socket so far; their numbers recur
+    SocketSet sockets_;
+    QSocketNotifier notifier_{sockets_.descriptor(), QSocketNotifier::Read};
     QTimer timer_;
-    std::unique_ptr<CURLM, Close>
-        multi_; ///< null before the first request; uses the watches until it is closed
+    std::unique_ptr<CURLM, Close> multi_; ///< null before the first request; uses sockets and timer
     std::map<CURL*, Running> running_;
-    std::unique_ptr<Exchange> ended_; ///< the last one that posted nothing; null if there is none
+    std::vector<Finished> finished_;  ///< not reported yet
+    std::unique_ptr<Exchange> ended_; ///< the last one that can run again; null if there is none
     bool keepsConnections_ = true;
 };
 

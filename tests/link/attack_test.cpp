@@ -180,6 +180,21 @@ TEST_F(AttackTest, WrongLengthsAndOtherProtocolsAreBadResponses) {
     EXPECT_EQ(failureOf({QByteArray("\x15\x03\x01\x00\x02\x02\x46", 7)}), badResponse) << "TLS";
 }
 
+/// As a server does that closes a connection while the next poll is on its way.
+TEST_F(AttackTest, AKeptConnectionThatEndsInsteadOfAReplyCostsNoPoll) {
+    const QByteArray body = document();
+    const QByteArray reply =
+        okHead + "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
+    const RawServer server([&](const RawServer::Connection& client) {
+        client.write(reply);
+        client.awaitRequest();
+    });
+    settings.port = server.port();
+    for (int poll = 0; poll < 30; ++poll)
+        ASSERT_EQ(failure(), "") << poll;
+    link.reset();
+}
+
 TEST_F(AttackTest, ACloseAtAnyByteIsABadResponse) {
     const QByteArray complete = ok(document()).bytes;
     for (qsizetype length = 0; length < complete.size(); ++length)

@@ -24,6 +24,12 @@ public:
             return ::send(socket_, bytes.constData(), size, MSG_NOSIGNAL) == static_cast<ssize_t>(size);
         }
 
+        /// Waits until the client sends another request or closes the connection.
+        void awaitRequest() const {
+            char byte = 0;
+            ::recv(socket_, &byte, 1, MSG_PEEK);
+        }
+
     private:
         int socket_;
     };
