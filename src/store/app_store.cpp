@@ -84,16 +84,12 @@ void AppStore::tick() {
     else
         advanceSimulator(now, elapsed);
     followPhase();
-    followOutage(now);
+    if (settings_.linkMode)
+        followOutage(now);
 }
 
 void AppStore::followOutage(Date now) {
-    using Observation = OutageWatch::Observation;
-    const bool changed = outageWatch_.observe(
-        settings_.linkMode ? std::optional(Observation{knownState(), freshness(), lastAnswerAt()})
-                           : std::nullopt,
-        now);
-    if (!changed)
+    if (!outageWatch_.observe({knownState(), freshness(), lastAnswerAt()}, now))
         return;
     notifications_.showOutage(outage(), settings_, now);
     emit outageChanged();
@@ -265,10 +261,10 @@ void AppStore::loadHistory() {
     emit historyChanged();
 }
 
-void AppStore::readHistoryAhead() {
+void AppStore::readHistoryInThread() {
     if (historyIsLoaded())
         return loadHistory();
-    files_.readHistoryAhead(
+    files_.readHistoryInThread(
         [this] { QMetaObject::invokeMethod(this, &AppStore::loadHistory, Qt::QueuedConnection); });
 }
 
@@ -354,7 +350,8 @@ void AppStore::setSettings(const Settings& settings) {
     if (session_.setSettings(settings_)) {
         camerasLastOnline_.clear();
         notifications_.withdrawAlert();
-        outageWatch_.restart(now());
+        if (outageWatch_.restart(now()))
+            emit outageChanged();
     }
     notifications_.showOutage(outage(), settings_, now());
 }

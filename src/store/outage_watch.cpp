@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 #include <utility>
 
 namespace velmora {
@@ -16,27 +15,24 @@ constexpr Seconds longestGap{10}; // a longer one between two observations is a 
 
 } // namespace
 
-void OutageWatch::restart(Date now) {
+bool OutageWatch::restart(Date now) {
     startedAt_ = lastObserved_ = now;
     graceEnd_ = now + graceTime;
     offlineSince_.clear();
-    outage_.reset();
+    return std::exchange(outage_, std::nullopt).has_value();
 }
 
-bool OutageWatch::observe(const std::optional<Observation>& observation, Date now) {
-    const auto before = outage_;
-    if (!observation) {
-        restart(now);
-        return outage_ != before;
-    }
+bool OutageWatch::observe(const Observation& observation, Date now) {
     if (const Seconds gap = now - std::exchange(lastObserved_, now);
         std::abs(gap.count()) > longestGap.count())
         skip(gap);
-    followCameras(*observation, now);
-    auto found = find(*observation, now);
-    if (!found || now >= graceEnd_) // in the time of grace an outage can only end
-        outage_ = std::move(found);
-    return outage_ != before;
+    followCameras(observation, now);
+    auto found = find(observation, now);
+    const bool isEarly = found && now < graceEnd_; // in the time of grace an outage can only end
+    if (isEarly || found == outage_)
+        return false;
+    outage_ = std::move(found);
+    return true;
 }
 
 /// After a suspend or a change of the clock: the time in between does not count for the cameras.
@@ -50,13 +46,15 @@ void OutageWatch::skip(Seconds gap) {
 void OutageWatch::followCameras(const Observation& observation, Date now) {
     if (observation.freshness != Freshness::live)
         return;
-    std::set<std::string> offline;
-    for (const CameraInfo& camera : observation.known->site.cameras)
+    const auto& cameras = observation.known->site.cameras;
+    for (const CameraInfo& camera : cameras)
         if (!camera.online)
-            offline.insert(camera.id);
-    for (const std::string& id : offline)
-        offlineSince_.try_emplace(id, now);
-    std::erase_if(offlineSince_, [&](const auto& entry) { return !offline.contains(entry.first); });
+            offlineSince_.try_emplace(camera.id, now);
+    std::erase_if(offlineSince_, [&](const auto& entry) {
+        return std::none_of(cameras.begin(), cameras.end(), [&](const CameraInfo& camera) {
+            return !camera.online && camera.id == entry.first;
+        });
+    });
 }
 
 /// A server that never answered counts as armed.

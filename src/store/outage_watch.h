@@ -30,10 +30,11 @@ public:
         std::optional<Date> lastAnswerAt;
     };
 
-    /// Call about twenty times a second; nullopt in demo mode. Returns whether the outage changed.
-    bool observe(const std::optional<Observation>& observation, Date now);
-    /// Clears all observations. Call at the start and when the server changes.
-    void restart(Date now);
+    /// Call about twenty times a second in link mode. Returns whether the outage changed.
+    bool observe(const Observation& observation, Date now);
+    /// Clears all observations. Call at the start and when the mode or the server changes. Returns whether
+    /// that ends an outage.
+    bool restart(Date now);
 
     /// nullopt while all is well.
     const std::optional<Outage>& outage() const { return outage_; }

@@ -95,6 +95,15 @@ TEST_F(OutageTest, ReportsNothingWhileDisarmedSwitchedOffOrInDemoMode) {
     EXPECT_TRUE(titles().isEmpty());
 }
 
+TEST_F(OutageTest, EndsWithLinkMode) {
+    stayOffline(62);
+    bool shown = store().outage().has_value();
+    EXPECT_TRUE(shown);
+    QObject::connect(&store(), &AppStore::outageChanged, [&] { shown = store().outage().has_value(); });
+    store().applyLinkMode(false);
+    EXPECT_FALSE(shown) << "the tray shows what it read last";
+}
+
 TEST_F(OutageTest, ReportsNothingNewInTheFirstHalfMinuteAfterAStartOrASuspend) {
     tickAfter(8 * 3600); // suspended
     stayOffline(29);
