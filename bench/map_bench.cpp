@@ -24,7 +24,7 @@ public:
     }
 
     /// Advances to the next frame and paints it.
-    void frame() { clock_.advance(Motion::frame); }
+    void frame() { clock_.advance(Motion::mapFrame); }
     void repaintAll() { map_.repaint(); }
     /// Moves the drone, so that the paths are redrawn.
     void paths() {

@@ -34,7 +34,7 @@ protected:
         map.setState(&scene.state, {}, Freshness::live);
     }
 
-    void run(int frames) { clock.advance(frames * Motion::frame); }
+    void run(int frames) { clock.advance(frames * Motion::mapFrame); }
     /// Number of paint events in the time of five frames.
     int frames() {
         run(1);
@@ -42,7 +42,7 @@ protected:
         run(5);
         return map.paints;
     }
-    /// Number of paint events in the time of four frames, while the drone moves.
+    /// Number of paint events in four ticks that move the drone.
     int framesOfMovement() {
         run(1);
         map.paints = 0;
@@ -50,7 +50,7 @@ protected:
             scene.state.drone.pos.x += 0.5;
             scene.state.drone.trail.push_back(scene.state.drone.pos);
             show();
-            run(1);
+            clock.advance(std::chrono::milliseconds(50));
         }
         return map.paints;
     }
@@ -89,6 +89,7 @@ TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
     EXPECT_EQ(framesOfMovement(), 0);
     map.setCovered(false);
     EXPECT_EQ(frames(), 5);
+    EXPECT_EQ(framesOfMovement(), 4) << "a tick is a frame, and there is no other one";
 }
 
 /// Compares what is on the screen after many frames with a map that is painted once.

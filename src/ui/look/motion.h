@@ -17,6 +17,8 @@ inline constexpr milliseconds sectionChange{160};
 inline constexpr milliseconds notice{160};
 
 inline constexpr milliseconds frame{34}; ///< between two frames: at most 30 a second
+/// Between two frames of a live map. Longer than a tick, because each tick that moves the drone is a frame.
+inline constexpr milliseconds mapFrame{60};
 
 /// The time of the user interface's clock in seconds; drives the pulses.
 double seconds();

@@ -103,12 +103,13 @@ void SiteMap::setCovered(bool covered) {
         return;
     covered_ = covered;
     updateAnimation();
-    if (!covered)
-        update();
+    if (covered)
+        return;
+    shownArea_ = rect(); // the parts have moved without a frame
+    update();
 }
 
-/// Repaints grounds and paths if they changed. Drone and visitor are repainted by the next frame, or here if
-/// no frames run.
+/// Repaints what changed.
 void SiteMap::setScene(const LiveState& state, const Settings& settings, std::optional<Replay> replay) {
     const bool grounds = !sameGrounds(scene_, state, settings);
     const bool paths = !samePaths(scene_, state, replay);
@@ -129,7 +130,7 @@ void SiteMap::setScene(const LiveState& state, const Settings& settings, std::op
         repaintGrounds();
     else if (paths)
         repaintPaths(paintedPaths | pathsArea(scene_, size()));
-    if (!covered_ && movers && !frames_.isActive())
+    if (!covered_ && movers)
         showFrame();
     if (newSituation || Motion::seconds() - describedAt_ >= secondsBetweenDescriptions)
         describe();
@@ -195,8 +196,11 @@ void SiteMap::updateAnimation() {
     update();
 }
 
-/// Repaints the moving parts only, at their old and new positions.
+/// Repaints the moving parts only, at their old and new positions. The timer starts again, so that there is
+/// no second frame while the drone moves in each tick.
 void SiteMap::showFrame() {
+    if (frames_.isActive())
+        frames_.start();
     const QRectF area = liveArea(scene_, size()) & QRectF(rect());
     update((area | shownArea_).toAlignedRect());
     shownArea_ = area;
@@ -204,6 +208,7 @@ void SiteMap::showFrame() {
 
 void SiteMap::resizeEvent(QResizeEvent*) {
     placeLabel();
+    shownArea_ = rect();
 }
 
 void SiteMap::showEvent(QShowEvent*) {
@@ -221,6 +226,10 @@ QPixmap SiteMap::emptyLayer(double scale, const QColor& color) const {
     picture.setDevicePixelRatio(scale);
     picture.fill(color);
     return picture;
+}
+
+bool SiteMap::isScaleFractional() const {
+    return devicePixelRatioF() != std::floor(devicePixelRatioF());
 }
 
 /// Redraws whichever cached layer is out of date.
@@ -241,7 +250,7 @@ void SiteMap::updateLayers() {
 
 /// Paths overwrite themselves where their pieces overlap, so they need a transparent layer of their own.
 void SiteMap::drawStalePaths() {
-    if (devicePixelRatioF() != std::floor(devicePixelRatioF()))
+    if (isScaleFractional())
         stalePaths_ = rect(); // a part need not begin on a whole pixel
     QPixmap layer(stalePaths_.size() * devicePixelRatioF());
     layer.setDevicePixelRatio(devicePixelRatioF());
@@ -284,7 +293,8 @@ void SiteMap::paintEvent(QPaintEvent* event) {
 
 void SiteMap::paintMap(QPainter& painter) {
     const Freshness freshness = scene_.replay ? Freshness::live : freshness_;
-    painter.fillRect(rect(), SB::navy); // at a fractional scale the layers need not reach every edge
+    if (isScaleFractional() || freshness != Freshness::live)
+        painter.fillRect(rect(), SB::navy); // at a fractional scale the layers need not reach every edge
     if (freshness == Freshness::unknown) {
         drawText(painter, rect(), waitingText(), Type::emptyTitle, SB::dTitle, Qt::AlignCenter);
         return;

@@ -63,6 +63,7 @@ private:
     void describe();
     void repaintGrounds();
     void repaintPaths(const QRectF& area);
+    bool isScaleFractional() const;
     void updateLayers();
     void drawStalePaths();
     void paintMap(QPainter& painter);
@@ -74,7 +75,7 @@ private:
     Freshness freshness_ = Freshness::live;
     bool covered_ = false;
     bool onScreen_ = false; ///< false also while the window is minimised
-    UiTimer frames_{Motion::frame};
+    UiTimer frames_{Motion::mapFrame};
     QRectF shownArea_; ///< of the last frame's moving parts
     std::optional<CornerColors> corners_;
     bool groundsStale_ = true;
