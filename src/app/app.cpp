@@ -54,7 +54,7 @@ App::App(AppService& service, const Options& options, const QDir& directory)
     connect(&notifier_, &DesktopNotifier::answered, &store_, [this](Command command, const AlertId& alert) {
         store_.answer(command, alert, CommandSource::notification);
     });
-    connect(&window_, &MainWindow::firstFramePainted, [] { QApplication::setWindowIcon(programIcon()); });
+    connect(&window_, &MainWindow::started, this, [] { QApplication::setWindowIcon(programIcon()); });
     connect(&notifier_, &DesktopNotifier::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::windowRequested, this, &App::showWindow);
     connect(&service, &AppService::sectionRequested, &store_, &AppStore::setSection);

@@ -80,8 +80,8 @@ std::unique_ptr<QApplication> openDisplay(int& argc, char* argv[]) {
 }
 
 /// Keeps the state of Qt's file dialog in the data directory.
-void moveQSettingsToDataDirectory() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DataFiles::defaultDirectory().path());
+void moveQSettingsTo(const QDir& directory) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, directory.path());
 }
 
 void setUpApplication() {
@@ -96,8 +96,8 @@ void setUpApplication() {
     QApplication::setFont(SBFont::font(SBFont::Face::regular, Type::body.size));
 }
 
-/// Begins to decode what the Overview shows. The settings are not read yet, so at the very first
-/// start, which shows the welcome, this is in vain.
+/// Begins to decode what the Overview shows. The very first start shows the welcome and does not use it; the
+/// settings are not read yet.
 void findPictures(const Options& options, const QDir& directory) {
     Art::setDirectory(QDir(directory.filePath(QStringLiteral("art"))));
     if (!options.hidden && options.section.value_or(Section::overview) == Section::overview)
@@ -156,7 +156,7 @@ int main(int argc, char* argv[]) {
         break;
     }
     findPictures(options, directory);
-    moveQSettingsToDataDirectory();
+    moveQSettingsTo(directory);
     const Language language;
     setUpApplication();
     return run(service, options, directory);

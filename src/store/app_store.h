@@ -54,10 +54,10 @@ public:
     const std::vector<HistoryEntry>& history() const { return history_.entries(); }
     /// Whether history() returns without reading the file.
     bool historyIsLoaded() const { return history_.isLoaded(); }
-    /// Reads the history and emits historyChanged. Call this or the next one once.
+    /// Reads the history, unless it is loaded, and emits historyChanged.
     void loadHistory();
-    /// Reads it in a thread, and emits the signal afterwards.
-    void readHistoryAhead();
+    /// Emits historyChanged once the history is loaded. A thread reads it, unless it is loaded already.
+    void readHistoryInThread();
     /// The record with this key; null if there is none.
     const HistoryEntry* findRecord(RecordKey key) const { return history_.find(key); }
     Section section() const { return section_; }

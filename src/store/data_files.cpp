@@ -62,9 +62,11 @@ std::optional<std::vector<MissionRecord>> DataFiles::loadHistory() {
     return ahead_.valid() ? ahead_.get() : load<std::vector<MissionRecord>>(*history_, "history");
 }
 
-void DataFiles::readHistoryAhead(std::function<void()> done) {
-    ahead_ = std::async(std::launch::async, [&file = *history_, done = std::move(done)] {
-        auto records = load<std::vector<MissionRecord>>(file, "history");
+void DataFiles::readHistoryInThread(std::function<void()> done) {
+    if (ahead_.valid())
+        return;
+    ahead_ = std::async(std::launch::async, [file = history_, done = std::move(done)] {
+        auto records = load<std::vector<MissionRecord>>(*file, "history");
         done();
         return records;
     });

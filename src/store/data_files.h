@@ -32,12 +32,12 @@ public:
     /// Creates the directory (mode 0700) and its parents if it is missing.
     static void makeDirectory(const QDir& directory);
 
-    /// Call these before the first save; afterwards the files belong to the saving thread.
+    /// Call each before the first save of its file, which then belongs to the saving thread.
     std::optional<Settings> loadSettings();
     std::optional<std::vector<MissionRecord>> loadHistory();
-    /// Begins to read the history in a thread, at most once; loadHistory() then waits for it. The thread
-    /// calls `done`.
-    void readHistoryAhead(std::function<void()> done);
+    /// Begins to read the history in a thread, unless it has begun; loadHistory() then waits for it. The
+    /// thread calls `done`. The destructor waits for the thread.
+    void readHistoryInThread(std::function<void()> done);
 
     /// Saving encodes and writes on a thread of its own: at once, but at most every half second for each
     /// file. The destructor waits for what is not on file yet, at most ten seconds for one write.
@@ -53,11 +53,11 @@ private:
     template <class T>
     void save(const std::shared_ptr<StoredFile>& file, T value);
 
-    // shared with the jobs of the saving thread
+    // shared with the threads
     std::shared_ptr<StoredFile> settings_;
     std::shared_ptr<StoredFile> history_;
     SaveThread thread_;
-    std::future<std::optional<std::vector<MissionRecord>>> ahead_; ///< invalid if no thread reads the history
+    std::future<std::optional<std::vector<MissionRecord>>> ahead_; ///< last, so that its thread ends first
 };
 
 } // namespace velmora

@@ -141,7 +141,7 @@ TEST_F(DataFilesTest, AFileReplacedRightAfterASaveIsCopiedAndOneRemovedBeforeIsN
 TEST_F(DataFilesTest, AHistoryReadInAThreadIsTheSame) {
     const auto read = [this](DataFiles& files) {
         std::promise<void> done;
-        files.readHistoryAhead([&] { done.set_value(); });
+        files.readHistoryInThread([&] { done.set_value(); });
         done.get_future().wait();
         return files.loadHistory();
     };

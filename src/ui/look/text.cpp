@@ -16,18 +16,18 @@ namespace velmora {
 namespace {
 
 constexpr double fitTolerance = 0.5; // pixels; tolerance when a text is fitted into its own measured width
-constexpr double unitsPerEm = 2048;  // of the typeface
+constexpr double layoutSize = 2048;  // pixels; so large that rounding to a pixel does not matter
 
-/// Qt rounds the size of a font to whole pixels, so layouts and outlines use a font whose pixels are the
-/// units of the typeface. All sizes share it, because Qt takes about a millisecond to prepare a font.
+/// The font of layouts and outlines, because Qt rounds sizes and advances to pixels. All sizes share it,
+/// because Qt takes about a millisecond to prepare a font.
 QFont enlargedFontOf(const TextStyle& style) {
-    QFont font = SBFont::font(style.face, unitsPerEm);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * unitsPerEm / style.size);
+    QFont font = SBFont::font(style.face, layoutSize);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking * layoutSize / style.size);
     return font;
 }
 
 double enlargementOf(const TextStyle& style) {
-    return unitsPerEm / style.size;
+    return layoutSize / style.size;
 }
 
 /// What a text of one style is cached by, with the width of a stroke along its outlines.
@@ -127,7 +127,7 @@ QString elided(const QString& text, const TextStyle& style, double width) {
 
 double baselineOf(const TextStyle& style) {
     struct Extent {
-        double ascent, descent; ///< in units of the typeface
+        double ascent, descent; ///< pixels at the size of layouts
     };
     static QHash<int, Extent> extents; ///< by face
     auto extent = extents.constFind(static_cast<int>(style.face));

@@ -14,8 +14,8 @@ QFont fontOf(const TextStyle& style);
 
 /// Width of one line in pixels, without tracking after its last letter.
 double textWidth(const QString& text, const TextStyle& style);
-/// Width in pixels of a text that more text follows: with tracking after its last letter, and digits that are
-/// not tabular.
+/// Distance in pixels from the start of a text to the start of the text after it: with tracking after its
+/// last letter, and digits that are not tabular.
 double advanceOf(const QString& text, const TextStyle& style);
 
 /// Distance from the left edge of a single character's cell to its ink, pixels.
@@ -48,7 +48,7 @@ struct TextRun {
     bool operator==(const TextRun&) const = default;
 };
 
-/// The text of the whole line.
+/// The text of the complete line.
 QString textOf(const std::vector<TextRun>& runs);
 /// Width of the line in pixels.
 double textWidth(const std::vector<TextRun>& runs);

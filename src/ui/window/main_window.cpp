@@ -79,7 +79,6 @@ MainWindow::MainWindow(AppStore& store)
     });
     connect(&store_, &AppStore::showWelcomeChanged, this, &MainWindow::showWelcome);
     approval_->updateAlert();
-    connect(this, &MainWindow::firstFramePainted, this, &MainWindow::beginBuilding);
     QTimer::singleShot(longestUnpainted, this, &MainWindow::beginBuilding);
     showSection();
     showWelcome();
@@ -166,7 +165,8 @@ HistoryView& MainWindow::history() {
 }
 
 void MainWindow::buildSections() {
-    buildsSections_ = true;
+    if (!std::exchange(buildsSections_, true))
+        emit started();
     store_.loadHistory();
     while (stack_->buildNext()) {
     }
@@ -183,15 +183,16 @@ void MainWindow::buildNextSection() {
 void MainWindow::beginBuilding() {
     if (std::exchange(buildsSections_, true))
         return;
+    emit started();
     connect(&store_, &AppStore::historyChanged, this, &MainWindow::buildNextSection,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    store_.readHistoryAhead();
+    store_.readHistoryInThread();
 }
 
-/// Of the window itself, so it comes first of all in a frame.
+/// The window is painted before its children, so the frame is complete one turn of the event loop later.
 void MainWindow::paintEvent(QPaintEvent*) {
-    if (!std::exchange(isPainted_, true))
-        QTimer::singleShot(0, this, &MainWindow::firstFramePainted);
+    if (!std::exchange(wasPainted_, true))
+        QTimer::singleShot(0, this, &MainWindow::beginBuilding);
 }
 
 void MainWindow::buildLayout() {

@@ -37,7 +37,8 @@ public:
     void buildSections();
 
 signals:
-    void firstFramePainted();
+    /// Once: after the first frame, or without one if the window starts hidden or is not painted for seconds.
+    void started();
 
 protected:
     bool focusNextPrevChild(bool next) override;
@@ -74,7 +75,7 @@ private:
     QWidget* content_; ///< sidebar and section
     WelcomeView* welcome_;
     SectionStack* stack_;
-    bool isPainted_ = false; ///< at least once
+    bool wasPainted_ = false;
     bool buildsSections_ = false;
     ApprovalOverlay* approval_;
     LandConfirmation* landing_;
