@@ -2,6 +2,7 @@
 #include "ui/map/site_map.h"
 #include "ui/map_fixture.h"
 
+#include <QPaintEvent>
 #include <QScreen>
 
 #include <cmath>
@@ -20,10 +21,12 @@ protected:
             show();
         }
         int paints = 0;
+        QRegion painted;
 
     protected:
         void paintEvent(QPaintEvent* event) override {
             ++paints;
+            painted |= event->region();
             SiteMap::paintEvent(event);
         }
     };
@@ -90,6 +93,102 @@ TEST_F(MapFrames, ACoveredOrHiddenMapPausesAndCatchesUp) {
     map.setCovered(false);
     EXPECT_EQ(frames(), 5);
     EXPECT_EQ(framesOfMovement(), 4) << "a tick is a frame, and there is no other one";
+}
+
+TEST_F(MapFrames, ATickRepaintsOnlyWhatMoved) {
+    scene.state = LiveState::initial();
+    scene.state.phase = Phase::following;
+    scene.state.drone.trail = {{5, 5}, {8, 5}};
+    see({90, 60}, "driveway");
+    scene.state.visitor->trail = {{140, 95}, {143, 95}};
+    show();
+    const auto repaints = [&](const std::vector<QPoint>& points) {
+        run(1);
+        map.painted = {};
+        show();
+        run(1);
+        EXPECT_FALSE(map.painted.isEmpty());
+        return std::ranges::any_of(points, [&](QPoint at) { return map.painted.contains(at); });
+    };
+    const QPoint droneTrail(13, 10), visitorTrail(283, 190), corner(299, 0);
+    scene.state.drone.pos.x += 1;
+    EXPECT_FALSE(repaints({droneTrail, visitorTrail, corner}));
+    scene.state.drone.trail.push_back({10, 5});
+    EXPECT_TRUE(repaints({droneTrail}));
+    EXPECT_FALSE(repaints({droneTrail}));
+    scene.state.visitor->trail.push_back({144, 95});
+    EXPECT_TRUE(repaints({visitorTrail}));
+    EXPECT_FALSE(map.painted.contains(corner));
+    scene.state.visitor->cameraId = "garden";
+    EXPECT_TRUE(repaints({corner})) << "the wedges of the cameras are part of the grounds";
+    EXPECT_FALSE(repaints({droneTrail, visitorTrail, corner}));
+}
+
+/// After each change, the screen must show what a map shows that is painted once.
+TEST_F(MapFrames, EveryChangeReachesTheScreen) {
+    scene.state = LiveState::initial();
+    scene.measures.captions = true;
+    scene.state.phase = Phase::following;
+    Settings settings;
+    Freshness freshness = Freshness::live;
+    see({25, 85}, "driveway");
+    const auto expectShown = [&](const char* change) {
+        const auto setUp = [&](SiteMap& one) {
+            if (scene.replay)
+                one.setReplay(*scene.replay, scene.state, settings);
+            else
+                one.setState(&scene.state, settings, freshness);
+        };
+        SiteMap fresh(nullptr);
+        fresh.setCorners(CornerColors{SB::page, SB::page});
+        fresh.resize(map.size());
+        setUp(map);
+        run(2);
+        setUp(fresh);
+        EXPECT_EQ(map.screen()->grabWindow(map.winId()).toImage().convertToFormat(QImage::Format_RGB32),
+                  fresh.grab().toImage().convertToFormat(QImage::Format_RGB32))
+            << change;
+    };
+    map.setCorners(CornerColors{SB::page, SB::page});
+    expectShown("a flight");
+    settings.boundaryBuffer = 20;
+    expectShown("the buffer");
+    scene.state.visitor->cameraId = "garden";
+    expectShown("the camera that sees the visitor");
+    scene.state.site.cameras[0].online = false;
+    expectShown("an offline camera");
+    scene.state.drone.trail = {{20, 20}, {60, 30}};
+    expectShown("a trail");
+    scene.state.visitor->trail = {{100, 20}, {110, 60}};
+    expectShown("the visitor's trail");
+    scene.state.drone.trail.clear();
+    expectShown("a new flight");
+    map.setCovered(true);
+    scene.state.drone.pos = {30, 30};
+    map.setState(&scene.state, settings, freshness);
+    map.setCovered(false);
+    scene.state.drone.pos = {100, 60};
+    expectShown("a step right after it was uncovered");
+    scene.state.visitor.reset();
+    expectShown("the visitor left");
+    scene.state.phase = Phase::docked;
+    expectShown("landed");
+    map.resize(450, 300);
+    expectShown("another size");
+    scene.state.drone.pos = {20, 20};
+    expectShown("a step that is not animated");
+    replay(0.5);
+    expectShown("a replay");
+    scene.replay->progress = progressAt(mission, 1);
+    expectShown("the end of the replay");
+    scene.replay.reset();
+    freshness = Freshness::stale;
+    expectShown("a stale state");
+    freshness = Freshness::unknown;
+    expectShown("nothing known");
+    scene.state.site.size = {200, 100};
+    freshness = Freshness::live;
+    expectShown("another site");
 }
 
 /// Compares what is on the screen after many frames with a map that is painted once.
