@@ -146,6 +146,9 @@ TEST(MissionEvidence, AGapIsWhereNeitherPathHasPoints) {
     EXPECT_DOUBLE_EQ(gapsOf(record)[0].from, 2);
     EXPECT_DOUBLE_EQ(gapsOf(record)[0].to, 6);
 
+    record.visitorPath = path(11);
+    ASSERT_EQ(gapsOf(record).size(), 1u);
+    EXPECT_DOUBLE_EQ(gapsOf(record)[0].from, 5) << "a gap of a second, one point, is marked";
     record.visitorPath = path(12);
     EXPECT_THAT(gapsOf(record), IsEmpty()) << "paths whose ends are half a second apart leave no gap";
 

@@ -1,6 +1,8 @@
 #include "store_fixture.h"
 
 #include "model/json.h"
+#include "model/notice_texts.h"
+#include "support/time_zone.h"
 
 #include <QSignalSpy>
 
@@ -28,6 +30,31 @@ TEST_F(StoreTest, AFreshStartSeedsThreeDemoMissionsAndShowsTheWelcome) {
     EXPECT_TRUE(std::ranges::all_of(recorded(), &MissionRecord::demo));
     EXPECT_EQ(recordsIn(content("history.json")).size(), 3u);
     EXPECT_FALSE(QFile::exists(path("settings.json"))) << "defaults are not written back";
+}
+
+TEST_F(StoreTest, TheDemoMissionsAreAtTheirCamerasTimesAndAnswers) {
+    const TimeZone zone("UTC"); // it is 22:14:02 on 14 November 2023
+    const struct {
+        const char *start, *camera, *notices;
+    } missions[] = {{"2023-11-13T22:47:00Z", "driveway", "approved after 9 s"},
+                    {"2023-11-12T06:12:00Z", "garden", "approved after 6 s, asked home after 70 s"},
+                    {"2023-11-10T19:31:00Z", "front", ""}};
+    ASSERT_EQ(store().history().size(), std::size(missions));
+    for (std::size_t i = 0; i < std::size(missions); ++i) {
+        const MissionRecord& record = *store().history()[i].record;
+        EXPECT_EQ(dateText(record.start), missions[i].start);
+        EXPECT_EQ(record.cameraId, missions[i].camera);
+        std::string notices;
+        for (const Notice& notice : record.notices) {
+            const auto kind = readNotice(notice.text).value().kind;
+            const bool asked = kind == NoticeKind::comingHomeAsked;
+            if (asked || kind == NoticeKind::approved)
+                notices += (notices.empty() ? "" : ", ") + std::string(asked ? "asked home" : "approved") +
+                           " after " + std::to_string(std::lround((notice.time - record.start).count())) +
+                           " s";
+        }
+        EXPECT_EQ(notices, missions[i].notices);
+    }
 }
 
 TEST_F(StoreTest, AnApprovedVisitFliesLandsAndIsSaved) {

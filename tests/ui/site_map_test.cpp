@@ -1,4 +1,6 @@
 #include "model/follow_point.h"
+#include "ui/look/art.h"
+#include "ui/look/words.h"
 #include "ui/map/map_description.h"
 #include "ui/map_fixture.h"
 
@@ -14,6 +16,16 @@ TEST_F(MapPicture, ThePlanFitsTheCanvasAndIsCentred) {
     const MapTransform high({300, 300}, {50, 100});
     EXPECT_EQ(high.plan(), QRectF(75, 0, 150, 300));
     EXPECT_EQ(high.map(Bounds{10, 20, 40, 90}), QRectF(105, 60, 90, 210));
+}
+
+TEST_F(MapPicture, ThePictureOfTheGroundsLiesBelowAVeil) {
+    const auto averageOf = [](const QImage& image) { // of the upper right, which has no lines
+        return image.copy(430, 40, 120, 80).scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0);
+    };
+    scene.state.site.planImage = LiveState::initial().site.planImage;
+    const QImage plan =
+        Art::find(toQString(scene.state.site.planImage)).scaled(canvas, {}, Qt::SmoothTransformation);
+    EXPECT_COLOR(averageOf(draw()), SB::mixed(averageOf(plan), SB::navy, 0.18));
 }
 
 TEST_F(MapPicture, TheBoundaryIsDashedInPixelsOverItsBufferBand) {

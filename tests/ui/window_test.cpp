@@ -215,6 +215,31 @@ TEST_F(WindowTest, NothingMovesIfTheDesktopDisablesAnimations) {
     QApplication::setStyle(new Style);
 }
 
+TEST_F(WindowTest, TheEdgesResizeTheWindowUnlessItFillsTheScreen) {
+    const int right = window().width() - 1, bottom = window().height() - 1;
+    const auto shapeAt = [&](QPoint at) { return window().childAt(at)->cursor().shape(); };
+    for (const int depth : {0, 5}) {
+        const QPoint in(depth, depth);
+        EXPECT_EQ(shapeAt(in), Qt::SizeFDiagCursor);
+        EXPECT_EQ(shapeAt(QPoint(right, bottom) - in), Qt::SizeFDiagCursor);
+        EXPECT_EQ(shapeAt({right - depth, depth}), Qt::SizeBDiagCursor);
+        EXPECT_EQ(shapeAt({depth, bottom - depth}), Qt::SizeBDiagCursor);
+        for (const int x : {depth, right - depth})
+            EXPECT_EQ(shapeAt({x, bottom / 2}), Qt::SizeHorCursor);
+        for (const int y : {depth, bottom - depth})
+            EXPECT_EQ(shapeAt({right / 2, y}), Qt::SizeVerCursor);
+    }
+    EXPECT_EQ(shapeAt({6, bottom / 2}), Qt::ArrowCursor);
+    visit(Scenario::driveway);
+    EXPECT_EQ(shapeAt({0, bottom / 2}), Qt::SizeHorCursor) << "above the card";
+    window().showMaximized();
+    settle();
+    EXPECT_EQ(shapeAt({0, window().height() / 2}), Qt::ArrowCursor);
+    window().showNormal();
+    settle();
+    EXPECT_EQ(shapeAt({0, window().height() / 2}), Qt::SizeHorCursor);
+}
+
 /// As right after the start, before the other sections are built.
 TEST_F(WindowTest, ASectionIsBuiltWhenItIsFirstWanted) {
     MainWindow fresh(store());
