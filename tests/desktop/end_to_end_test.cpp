@@ -37,10 +37,14 @@ TEST_F(EndToEndTest, TrayAndNotificationCarryAMissionWithoutTheWindow) {
     const auto trayShows = [&](const QString& line) {
         return waitUntil([&] { return tray.labels().contains(line); });
     };
+    constexpr QRgb teal = 0xff1c8886, orange = 0xffbe6400;
     ASSERT_TRUE(trayShows(QString::fromUtf8("Velmora — Docked")));
+    const int docked = tray.iconPixels(teal);
+    EXPECT_GT(docked, 0) << "a shield";
 
     pass(3);
     ASSERT_TRUE(trayShows("Launch drone"));
+    EXPECT_TRUE(waitUntil([&] { return tray.iconPixels(orange) > 0 && tray.iconPixels(teal) == 0; }));
     EXPECT_TRUE(waitUntil([&] { return dunst.shown() == 1; }));
     tray.press("Launch drone"); // the menu was not opened for this alert
     tray.open();
@@ -53,10 +57,13 @@ TEST_F(EndToEndTest, TrayAndNotificationCarryAMissionWithoutTheWindow) {
     ASSERT_TRUE(reaches(Phase::launching));
     pass(30);
     ASSERT_TRUE(trayShows(QString::fromUtf8("Velmora — Following")));
+    const int airborne = tray.iconPixels(teal);
+    EXPECT_TRUE(airborne > 0 && airborne != docked) << "waves instead of the shield";
     tray.press("Return home");
     ASSERT_TRUE(reaches(Phase::returning));
     pass(250);
     EXPECT_TRUE(trayShows(QString::fromUtf8("Velmora — Docked")));
+    EXPECT_EQ(tray.iconPixels(teal), docked);
     tray.press("Quit Velmora");
     EXPECT_EQ(exitCodeOf(*program), 0);
     EXPECT_EQ(journal(), QStringList({"ignore tray sent", "approve notification sent", "return tray sent"}));

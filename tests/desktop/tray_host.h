@@ -5,6 +5,8 @@
 #include <QDBusArgument>
 #include <QDBusVariant>
 #include <QObject>
+#include <QRgb>
+#include <QtEndian>
 
 #include <vector>
 
@@ -73,6 +75,33 @@ public:
         for (const Entry& entry : menu())
             texts.append(entry.label);
         return texts;
+    }
+    /// How many pixels of the first icon, in its largest size, have this colour.
+    int iconPixels(QRgb color) const {
+        QDBusMessage question = QDBusMessage::createMethodCall(
+            items_.value(0), QStringLiteral("/StatusNotifierItem"),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        question << QStringLiteral("org.kde.StatusNotifierItem") << QStringLiteral("IconPixmap");
+        const auto pictures = replyTo(question, bus_)
+                                  .arguments()
+                                  .value(0)
+                                  .value<QDBusVariant>()
+                                  .variant()
+                                  .value<QDBusArgument>();
+        QByteArray largest; // ARGB, most significant byte first
+        for (pictures.beginArray(); !pictures.atEnd();) {
+            int width = 0, height = 0;
+            QByteArray pixels;
+            pictures.beginStructure();
+            pictures >> width >> height >> pixels;
+            pictures.endStructure();
+            if (pixels.size() > largest.size())
+                largest = pixels;
+        }
+        int found = 0;
+        for (qsizetype at = 0; at + 3 < largest.size(); at += 4)
+            found += qFromBigEndian<QRgb>(largest.constData() + at) == color;
+        return found;
     }
     /// Announces that the menu is about to be shown.
     void open() const { call(QStringLiteral("AboutToShow"), {0}); }

@@ -20,11 +20,28 @@ TEST(Validation, SettingsNumbersMustFitAnInteger) {
     }
 }
 
+TEST(Validation, TheBoundsOfASiteContainTheirEdgesAndNothingBeyond) {
+    Site site;
+    EXPECT_TRUE(boundsOf(site).contains({0, 0})) << "an empty boundary is a point";
+    site.boundary = {{30, 20}, {10, 50}, {40, 60}};
+    const Bounds bounds = boundsOf(site);
+    EXPECT_TRUE(bounds.contains({10, 20}) && bounds.contains({40, 60}));
+    EXPECT_FALSE(bounds.contains({9.99, 30}) || bounds.contains({40.01, 30}));
+    EXPECT_FALSE(bounds.contains({20, 19.99}) || bounds.contains({20, 60.01}));
+    EXPECT_EQ(bounds.distanceInside({12, 40}), 2);
+    EXPECT_EQ(bounds.distanceInside({37, 40}), 3);
+    EXPECT_EQ(bounds.distanceInside({25, 24}), 4);
+    EXPECT_EQ(bounds.distanceInside({25, 61}), -1);
+}
+
 TEST(Validation, RejectsAStateThatCannotBeDrawnOrWouldStallTheScreens) {
     const std::pair<std::function<void(LiveState&)>, std::string> cases[] = {
         {[](LiveState& s) {
-             s.site.size = {1, 100'000};
+             s.site.size = {1, 100'000}; // everything as large as is allowed
              s.notices.resize(1000);
+             s.drone.trail.resize(10'000);
+             s.site.cameras.resize(100);
+             s.site.cameras[99].name.assign(1000, 'a');
          },
          ""},
         {[](LiveState& s) { s.site.boundary.clear(); }, "site.boundary: expected at least one point"},

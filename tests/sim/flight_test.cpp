@@ -38,6 +38,39 @@ TEST_F(SimulatorTest, AGustHitsTheDroneAfterTwentySecondsInTheAir) {
     EXPECT_THAT(random.asked, testing::ElementsAre(wind, untilGust, strength, direction, jitter));
 }
 
+TEST_F(SimulatorTest, TheHeadingFollowsOnlyMoreThanHalfAMetreAndHalfAMetreASecond) {
+    visitApproved(Scenario::driveway, Phase::following);
+    send(Command::hold);
+    fly(5);
+    const auto headingTo = [&](double metres) {
+        drone.heading = 200;
+        moveVisitor(drone.pos + P{0, metres});
+        return drone.heading;
+    };
+    drone.pos = {50, 50};
+    EXPECT_EQ(headingTo(0.5), 200);
+    EXPECT_DOUBLE_EQ(headingTo(0.50001), 90);
+}
+
+TEST_F(SimulatorTest, AGustTurnsTheDroneOnlyIfItMovesIt) {
+    const auto headingAfter = [](double gust) {
+        ScriptedRandom draws;
+        draws.draws = {{strength, gust}, {direction, 0}};
+        Simulator one(LiveState::initial(), Settings{}, draws);
+        Date now = dateFromSeconds(1'700'000'042);
+        one.trigger(Scenario::driveway, now);
+        one.send(Command::approve, now);
+        one.send(Command::land, now);
+        one.state.drone.altitude = 200;
+        one.state.drone.heading = 200;
+        for (int i = 0; i < 80; ++i)
+            one.step(0.25, now += Seconds{0.25});
+        return one.state.drone.heading;
+    };
+    EXPECT_EQ(headingAfter(15), 200) << "the steering leaves 0.5 m/s";
+    EXPECT_EQ(headingAfter(15.1), 0);
+}
+
 TEST_F(SimulatorTest, AStepOfZeroSecondsDrawsButMovesNothing) {
     settings.flightHeight = 1000;
     visitApproved(Scenario::driveway);
