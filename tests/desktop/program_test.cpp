@@ -87,10 +87,12 @@ TEST_F(ProgramTest, TheWindowAsksForTheFocusAsOfTheTimeWhenTheOwnerStartedIt) {
     EXPECT_TRUE(before <= started && started <= observer.time()) << "when the owner started the second";
     EXPECT_EQ(activate("desktop-startup-id", "_TIME1235"), QDBusMessage::ReplyMessage);
     EXPECT_EQ(observer.nextRequest(), 1235U);
-    for (const QString& timeless : {QString(), QString("token"), QString("_TIME-1"), QString("_TIME0")})
+    const auto longToken = [](int size) { return QString("_TIME1236").rightJustified(size, 'x'); };
+    for (const QString& timeless :
+         {QString(), QString("token"), QString("_TIME-1"), QString("_TIME0"), longToken(1000) + '7'})
         EXPECT_EQ(activate("activation-token", timeless), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(activate("activation-token", "_TIME1236"), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(observer.nextRequest(), 1236U) << "the others have no time";
+    EXPECT_EQ(activate("activation-token", longToken(1000)), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(observer.nextRequest(), 1236U) << "the others have no time or are too long";
     first->terminate();
     EXPECT_EQ(exitCodeOf(*first), 0);
 }

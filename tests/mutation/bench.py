@@ -30,7 +30,10 @@ class Paused(Exception):
     """A test failed, but this script was stopped meanwhile, which may be the reason."""
 
 
-def limits():
+def prepare():
+    """Limits a test process, and undoes what nohup and background shells ignore."""
+    for number in (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT):
+        signal.signal(number, signal.SIG_DFL)
     resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
     resource.setrlimit(resource.RLIMIT_FSIZE, (FILE_LIMIT, FILE_LIMIT))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
@@ -132,7 +135,7 @@ class Bench:
                 with open(self.home / f"{name}.{index}.log", "wb") as log:
                     running.append(subprocess.Popen(
                         command, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT, env=environment,
-                        start_new_session=True, preexec_fn=limits if name == "tests" else None))
+                        start_new_session=True, preexec_fn=prepare if name == "tests" else None))
             try:
                 return self.wait(running, limit, name)
             finally:
