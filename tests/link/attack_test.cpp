@@ -183,13 +183,13 @@ TEST_F(AttackTest, WrongLengthsAndOtherProtocolsAreBadResponses) {
 /// As a server does that closes a connection while the next poll is on its way.
 TEST_F(AttackTest, AKeptConnectionThatEndsInsteadOfAReplyCostsNoPoll) {
     const QByteArray body = document();
-    const QByteArray reply =
+    const QByteArray complete =
         okHead + "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
-    const RawServer server([&](const RawServer::Connection& client) {
-        client.write(reply);
+    const RawServer closing([&](const RawServer::Connection& client) {
+        client.write(complete);
         client.awaitRequest();
     });
-    settings.port = server.port();
+    settings.port = closing.port();
     for (int poll = 0; poll < 30; ++poll)
         ASSERT_EQ(failure(), "") << poll;
     link.reset();

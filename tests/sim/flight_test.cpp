@@ -57,14 +57,14 @@ TEST_F(SimulatorTest, AGustTurnsTheDroneOnlyIfItMovesIt) {
         ScriptedRandom draws;
         draws.draws = {{strength, gust}, {direction, 0}};
         Simulator one(LiveState::initial(), Settings{}, draws);
-        Date now = dateFromSeconds(1'700'000'042);
-        one.trigger(Scenario::driveway, now);
-        one.send(Command::approve, now);
-        one.send(Command::land, now);
+        Date time = dateFromSeconds(1'700'000'042);
+        one.trigger(Scenario::driveway, time);
+        one.send(Command::approve, time);
+        one.send(Command::land, time);
         one.state.drone.altitude = 200;
         one.state.drone.heading = 200;
         for (int i = 0; i < 80; ++i)
-            one.step(0.25, now += Seconds{0.25});
+            one.step(0.25, time += Seconds{0.25});
         return one.state.drone.heading;
     };
     EXPECT_EQ(headingAfter(15), 200) << "the steering leaves 0.5 m/s";
