@@ -3,6 +3,10 @@
 #include "desktop/virtual_display.h"
 #include "store/store_fixture.h"
 
+#include <QDBusArgument>
+
+#include <tuple>
+
 namespace velmora {
 
 namespace {
@@ -67,7 +71,14 @@ TEST_F(NotifierTest, ANotificationHasActionsHintsAndAPicture) {
     EXPECT_TRUE(shown.hints["resident"].toBool());
     EXPECT_EQ(shown.hints["sound-name"].toString(), "alarm-clock-elapsed");
     EXPECT_EQ(shown.hints["desktop-entry"].toString(), "org.velmora.Velmora");
-    EXPECT_TRUE(shown.hints.contains("image-data"));
+    const auto picture = shown.hints["image-data"].value<QDBusArgument>();
+    int width = 0, height = 0, rowStride = 0, bitsPerSample = 0, channels = 0;
+    bool hasAlpha = false;
+    QByteArray pixels;
+    picture.beginStructure();
+    picture >> width >> height >> rowStride >> hasAlpha >> bitsPerSample >> channels >> pixels;
+    EXPECT_EQ(std::tuple(width, height, rowStride, hasAlpha, bitsPerSample, channels, pixels),
+              std::tuple(1, 1, 4, true, 8, 4, QByteArray("\1\2\3\4", 4)));
 }
 
 TEST_F(NotifierTest, AServiceWithoutActionsGetsNone) {
@@ -177,7 +188,9 @@ TEST_F(NotifierTest, WorksAfterAServiceThatRefusedOrRestarted) {
     notifier.post({"M-1", "Title", "Body", {}, AlertId{}});
     settle();
     service().refuses = false;
-    const uint id = post().id;
+    const auto shown = post();
+    EXPECT_EQ(shown.replaces, 0U) << "the refused one has no id";
+    const uint id = shown.id;
     service_.reset();
     notifier.post({"M-2", "Title", "Body", {}, AlertId{}}); // while no service runs
     notifier.withdraw("M-2");

@@ -77,6 +77,38 @@ TEST(WalkMap, ThePlaceThatMostVisitsPassedHasTheirNumber) {
     EXPECT_NEAR(heat.at({75, 20}), 1, 0.03) << "the key holds for one visit, too";
 }
 
+TEST(WalkMap, VisitsBesideEachOtherShareASpotThatBothPassed) {
+    for (const bool upright : {false, true})
+        for (const auto& [apart, most] : {std::pair(1.0, 2), {2.0, 2}, {3.0, 2}, {5.0, 1}}) {
+            const P along = upright ? P{0, 60} : P{60, 0}, aside = upright ? P{apart, 0} : P{0, apart};
+            const P first{30, 20}, second = first + aside;
+            const WalkMap map =
+                mapOf({straight(first, first + along, 0.6), straight(second, second + along, 0.6)});
+            EXPECT_EQ(map.mostVisits(), most) << upright << ' ' << apart;
+        }
+}
+
+TEST(WalkMap, ThePlanIsCountedUpToItsEdges) {
+    for (const auto& [from, to] : {std::pair(P{10, 0.5}, P{60, 0.5}),
+                                   {{10, 99.5}, {60, 99.5}},
+                                   {{0.5, 10}, {0.5, 60}},
+                                   {{149.5, 10}, {149.5, 60}}}) {
+        const WalkMap map = mapOf({straight(from, to, 0.6)});
+        EXPECT_EQ(map.mostVisits(), 1) << from.x << ' ' << from.y;
+        EXPECT_NEAR(map.heat().at(from + (to - from) * 0.5), 1, 0.03) << from.x << ' ' << from.y;
+    }
+}
+
+TEST(WalkMap, OnlyThePointsOfThePathCount) {
+    MissionRecord visit = walk({{10, 10}, {50, 10}, {50, 90}});
+    visit.visitorPath.pop_back(); // its memory still has the point
+    EXPECT_FALSE(passesWithin(visit, {50, 40}, 2));
+    WalkMap map(siteOf(150, 100));
+    map.add(visit);
+    EXPECT_NEAR(map.heat().at({30, 10}), 1, 0.02);
+    EXPECT_EQ(map.heat().at({50, 60}), 0);
+}
+
 TEST(WalkMap, AVisitCountsOnceWhereItComesBack) {
     std::vector<P> there = straight({20, 50}, {120, 50}, 0.6).visitorPath, path = there;
     for (int times = 0; times < 6; ++times) {

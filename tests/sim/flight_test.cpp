@@ -71,6 +71,16 @@ TEST_F(SimulatorTest, AGustTurnsTheDroneOnlyIfItMovesIt) {
     EXPECT_EQ(headingAfter(15.1), 0);
 }
 
+TEST_F(SimulatorTest, AVisitorWhoReachesAPointExactlyGoesOnWithTheNextStep) {
+    constexpr double second = 1 / 1.45; // in which a visitor walks a metre
+    visit(Scenario::driveway);
+    moveVisitor({21, 79});
+    step(second);
+    EXPECT_EQ(state.visitor->pos, (P{22, 79}));
+    step(second);
+    EXPECT_NEAR(distance(state.visitor->pos, {22, 79}), 1, 1e-9);
+}
+
 TEST_F(SimulatorTest, AStepOfZeroSecondsDrawsButMovesNothing) {
     settings.flightHeight = 1000;
     visitApproved(Scenario::driveway);

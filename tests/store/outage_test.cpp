@@ -104,6 +104,14 @@ TEST_F(OutageTest, EndsWithLinkMode) {
     EXPECT_FALSE(shown) << "the tray shows what it read last";
 }
 
+TEST_F(OutageTest, SwitchingNotificationsOffWithdrawsThemAtOnce) {
+    Settings settings = store().settings();
+    stayOffline(61);
+    settings.notifyMac = false;
+    store().setSettings(settings);
+    EXPECT_EQ(notifier.withdrawn, QStringList{notifier.posted.back().identifier});
+}
+
 TEST_F(OutageTest, ReportsNothingNewInTheFirstHalfMinuteAfterAStartOrASuspend) {
     tickAfter(8 * 3600); // suspended
     stayOffline(29);
