@@ -98,6 +98,7 @@ public:
             if (pixels.size() > largest.size())
                 largest = pixels;
         }
+        pictures.endArray();
         int found = 0;
         for (qsizetype at = 0; at + 3 < largest.size(); at += 4)
             found += qFromBigEndian<QRgb>(largest.constData() + at) == color;
