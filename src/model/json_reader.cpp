@@ -2,6 +2,7 @@
 
 #include <simdjson.h>
 
+#include <algorithm>
 #include <bitset>
 
 namespace velmora {
@@ -13,10 +14,11 @@ using Element = simdjson::dom::element;
 /// Removes each underscore inside the key and capitalises the letter after it: "mission_id" becomes
 /// "missionId". Underscores at either end stay. The result refers to `key` or `buffer`.
 std::string_view camelCase(std::string_view key, std::string& buffer) {
-    const std::size_t first = key.find_first_not_of('_');
-    if (first == std::string_view::npos || key.find('_', first) == std::string_view::npos)
+    if (std::ranges::find(key, '_') == key.end())
         return key;
-    const std::size_t last = key.find_last_not_of('_');
+    const std::size_t first = key.find_first_not_of('_'), last = key.find_last_not_of('_');
+    if (first == std::string_view::npos)
+        return key;
     buffer.assign(key.substr(0, first));
     for (std::size_t i = first; i <= last; ++i) {
         if (key[i] == '_')
@@ -82,6 +84,7 @@ public:
         simdjson::dom::array array;
         if (element.get(array))
             return fail("expected a list");
+        items.reserve(array.size());
         for (const Element member : array)
             if (!read(member, items.emplace_back()))
                 return within("[" + std::to_string(items.size() - 1) + "]");
