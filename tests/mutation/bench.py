@@ -20,10 +20,17 @@ BUILD_LIMIT = 1200  # seconds, not counting those in which this script is stoppe
 STOPPED = 5  # seconds between two looks at the clock, after which this script must have been stopped
 MEMORY_LIMIT = 6 << 30
 FILE_LIMIT = 2 << 30
+CPU_LIMIT = 3600  # seconds, for what outlives this script
 
 
 def folder_of(file):
     return "/".join(file.split("/")[:2])
+
+
+def code_of(process):
+    """The exit status or signal, None while it runs. It is not reaped, so that its number stays its own."""
+    ended = os.waitid(os.P_PID, process.pid, os.WEXITED | os.WNOHANG | os.WNOWAIT)
+    return ended.si_status if ended else None
 
 
 class Paused(Exception):
@@ -37,6 +44,7 @@ def prepare():
     resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
     resource.setrlimit(resource.RLIMIT_FSIZE, (FILE_LIMIT, FILE_LIMIT))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+    resource.setrlimit(resource.RLIMIT_CPU, (CPU_LIMIT, CPU_LIMIT))
 
 
 class Bench:
@@ -69,10 +77,9 @@ class Bench:
                 copy.unlink()
 
     def configure(self):
-        linker = "-fuse-ld=lld" if shutil.which("ld.lld") else ""
         command = ["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-Wno-dev", "-DVELMORA_TOOLS=ON",
-                   "-DVELMORA_TESTS=ON", "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O0 -g0",
-                   f"-DCMAKE_EXE_LINKER_FLAGS={linker}"]
+                   "-DVELMORA_TESTS=ON", "-DCMAKE_UNITY_BUILD=ON", "-DCMAKE_BUILD_TYPE=None",
+                   "-DCMAKE_CXX_FLAGS=-O0 -g0"]
         if self.run([command], BUILD_LIMIT, "configure") is not None:
             raise SystemExit(f"cmake failed; see {self.home}/configure.0.log")
 
@@ -116,27 +123,29 @@ class Bench:
             log = (self.home / f"tests.{failed}.log").read_text(errors="replace")
             found = re.findall(r"\[  FAILED  \] ([\w/]+\.[\w/]+)", log) or re.findall(r"\[ RUN      \] (\S+)", log)
             return found[-1] if found else "start"
-        return None
+        raise SystemExit("The tests were stopped three times while they ran.")
 
     @staticmethod
     def environment(home):
-        """No fault may reach the owner's files."""
-        own = {name: home for name in ("HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME")}
-        return {**os.environ, **own, "QT_QPA_PLATFORM": "offscreen", "QT_SCALE_FACTOR": "1"}
+        """No fault may reach the owner's files and desktop."""
+        names = ("HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR")
+        desktop = ("DBUS_SESSION_BUS_ADDRESS", "DISPLAY", "WAYLAND_DISPLAY")
+        kept = {name: value for name, value in os.environ.items() if name not in desktop}
+        return {**kept, **dict.fromkeys(names, home), "QT_QPA_PLATFORM": "offscreen", "QT_SCALE_FACTOR": "1"}
 
     def run(self, commands, limit, name):
         """Runs all commands at once, as the shards of a test. Returns the index of the first that fails or takes too
         long, or None. Its output is in NAME.INDEX.log."""
         with tempfile.TemporaryDirectory(prefix="mutate-", ignore_cleanup_errors=True) as home:
             running = []
-            for index, command in enumerate(commands):
-                shard = {"GTEST_TOTAL_SHARDS": str(len(commands)), "GTEST_SHARD_INDEX": str(index)}
-                environment = {**(self.environment(home) if name == "tests" else os.environ), **shard}
-                with open(self.home / f"{name}.{index}.log", "wb") as log:
-                    running.append(subprocess.Popen(
-                        command, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT, env=environment,
-                        start_new_session=True, preexec_fn=prepare if name == "tests" else None))
             try:
+                for index, command in enumerate(commands):
+                    shard = {"GTEST_TOTAL_SHARDS": str(len(commands)), "GTEST_SHARD_INDEX": str(index)}
+                    environment = {**(self.environment(home) if name == "tests" else os.environ), **shard}
+                    with open(self.home / f"{name}.{index}.log", "wb") as log:
+                        running.append(subprocess.Popen(
+                            command, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT, env=environment,
+                            start_new_session=True, preexec_fn=prepare if name == "tests" else None))
                 return self.wait(running, limit, name)
             finally:
                 for process in running:
@@ -150,7 +159,7 @@ class Bench:
     def wait(running, limit, name):
         used, paused, before = 0.0, False, time.monotonic()
         while used < limit:
-            codes = [process.poll() for process in running]
+            codes = [code_of(process) for process in running]
             failed = next((i for i, code in enumerate(codes) if code), None)
             if failed is not None and paused and name == "tests":
                 raise Paused
@@ -163,4 +172,4 @@ class Bench:
             paused = paused or now - before > STOPPED
             used += min(now - before, STOPPED)
             before = now
-        return next(i for i, process in enumerate(running) if process.poll() is None)
+        return next((i for i, process in enumerate(running) if code_of(process) != 0), None)
