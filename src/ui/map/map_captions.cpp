@@ -25,6 +25,13 @@ constexpr double cameraCaptionOffset = 9;
 constexpr double visitorLabelOffset = 10, visitorLabelRise = 24; // beside the visitor, and above or below
 constexpr double mapEdge = 4;                                    // between a caption and the map's edge
 constexpr double touching = 3, apart = 9;                        // distances to the drone
+constexpr double longestName = 240;                              // pixels; longer ones are elided
+constexpr qsizetype mostCharacters = 200;                        // of which more never fit
+
+/// A name from outside, which may be long enough to stall every frame.
+QString nameOnMap(std::string_view name) {
+    return elided(shownText(name).left(mostCharacters), Type::mapCaption, longestName);
+}
 
 QPixmap painted(const MapCaption& caption, const QColor& letters, double scale) {
     const QRectF area = caption.area(), box = caption.box().translated(-area.topLeft());
@@ -112,7 +119,7 @@ void drawCaption(QPainter& painter, const MapCaption& caption) {
 }
 
 MapCaption cameraCaption(const CameraInfo& camera, const MapTransform& view) {
-    return {shownText(camera.name), SB::dBody, view.map(camera.pos) - QPointF(0, cameraCaptionOffset),
+    return {nameOnMap(camera.name), SB::dBody, view.map(camera.pos) - QPointF(0, cameraCaptionOffset),
             Qt::AlignHCenter | Qt::AlignBottom};
 }
 
@@ -158,7 +165,7 @@ MapCaption captionBeside(QPointF point, double offset, const QString& text, cons
 
 MapCaption visitorCaption(const MapScene& scene, const MapTransform& view, LabelSide side) {
     const QPointF at = view.map(scene.state.visitor->pos);
-    MapCaption caption{shownText(scene.state.visitor->label), SB::lilac, at, {}};
+    MapCaption caption{nameOnMap(scene.state.visitor->label), SB::lilac, at, {}};
     const double last = std::max(view.canvas().right() - mapEdge - caption.box().width(), mapEdge);
     const double start = std::clamp(at.x(), mapEdge, last);
     switch (side) {
