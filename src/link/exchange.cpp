@@ -3,6 +3,7 @@
 #include "model/boot_clock.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <utility>
 
 namespace velmora {
@@ -41,6 +42,11 @@ Failure connectionFailure(int systemError) {
     }
 }
 
+/// A program that is started meanwhile would keep the socket open, and in the SocketSet.
+int keepFromChildren(void*, curl_socket_t socket, curlsocktype) {
+    return ::fcntl(socket, F_SETFD, FD_CLOEXEC) == 0 ? CURL_SOCKOPT_OK : CURL_SOCKOPT_ERROR;
+}
+
 /// libcurl would expand such a transfer, even one without any output, before a limit counts.
 bool isCompressed(const QByteArray& header) {
     const QByteArray name = "transfer-encoding:", line = header.toLower();
@@ -56,6 +62,7 @@ Exchange::Exchange(Request request)
     set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
     set(CURLOPT_PROXY, ""); // the server is on the home network
     set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_SOCKOPTFUNCTION, &keepFromChildren);
     const auto add = [this](const char* header) {
         headers_.reset(curl().slistAppend(headers_.release(), header));
     };

@@ -38,6 +38,7 @@ HttpClient::~HttpClient() {
         curl().multiRemoveHandle(multi_.get(), handle);
 }
 
+/// An exchange that ends at once is reported later: whoever starts one may be in the middle of an answer.
 void HttpClient::start(Request request, Done done) {
     if (const QString& error = curl().error; !error.isEmpty())
         finished_.push_back({unusable(error), std::move(done)});

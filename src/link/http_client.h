@@ -30,8 +30,8 @@ public:
     /// the client is destroyed first.
     void start(Request request, Done done);
 
-    /// Aborts the exchanges that post nothing, without calling back, and closes kept connections as soon as
-    /// no exchange runs, unless another one is started before.
+    /// Aborts the running exchanges that post nothing, without calling back, and closes kept connections as
+    /// soon as no exchange runs, unless another one is started before.
     void disconnect();
 
 private:

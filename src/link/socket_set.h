@@ -25,7 +25,7 @@ public:
     /// Readable while a socket is ready.
     int descriptor() const { return epoll_; }
     /// Waits for these directions of the socket: CURL_POLL_IN, _OUT, _INOUT or _REMOVE. A socket that is
-    /// closed leaves the set.
+    /// closed leaves the set, unless another program holds it too.
     void watch(curl_socket_t socket, int directions);
     /// Some of the sockets that are ready, without waiting for one.
     std::vector<Ready> ready() const;

@@ -11,6 +11,9 @@ namespace {
 
 using Element = simdjson::dom::element;
 
+constexpr std::size_t mostReserved =
+    1000; // items; a short text can begin a list of millions that cannot be read
+
 /// Removes each underscore inside the key and capitalises the letter after it: "mission_id" becomes
 /// "missionId". Underscores at either end stay. The result refers to `key` or `buffer`.
 std::string_view camelCase(std::string_view key, std::string& buffer) {
@@ -84,7 +87,7 @@ public:
         simdjson::dom::array array;
         if (element.get(array))
             return fail("expected a list");
-        items.reserve(array.size());
+        items.reserve(std::min(array.size(), mostReserved));
         for (const Element member : array)
             if (!read(member, items.emplace_back()))
                 return within("[" + std::to_string(items.size() - 1) + "]");

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 
 #include <thread>
 
@@ -127,7 +128,7 @@ TEST_F(LinkTest, ACommandIsPostedOnceWhenTheServerHangsUpWithoutAReply) {
         startSend(Command::approve);
         ASSERT_TRUE(waitUntil([&] { return sent > before; }));
         EXPECT_EQ(lastFailure, "The server sent a bad response") << kept;
-        waitUntil([this, end = QDeadlineTimer(300)] { return end.hasExpired(); });
+        waitUntil([end = QDeadlineTimer(300)] { return end.hasExpired(); });
         EXPECT_EQ(posts(), 1) << kept;
     }
 }
@@ -198,6 +199,21 @@ TEST_F(LinkTest, ACallbackMayDestroyTheLink) {
     EXPECT_TRUE(waitUntil([&] { return calls > 0; }));
     EXPECT_TRUE(waitUntil([this] { return server.listener().findChildren<QTcpSocket*>().isEmpty(); }));
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(LinkTest, AProgramThatIsStartedMeanwhileGetsNoSocket) {
+    const auto socketsOfAChild = [] {
+        QProcess child;
+        child.start(QStringLiteral("ls"), {QStringLiteral("-l"), QStringLiteral("/proc/self/fd")});
+        EXPECT_TRUE(child.waitForFinished());
+        return child.readAllStandardOutput().count("socket:");
+    };
+    const auto before = socketsOfAChild();
+    reply = {{}, false}; // none
+    startFetch();
+    EXPECT_EQ(socketsOfAChild(), before) << "connecting";
+    EXPECT_TRUE(waitUntil([this] { return !requests.empty(); }));
+    EXPECT_EQ(socketsOfAChild(), before) << "connected";
 }
 
 } // namespace velmora

@@ -138,6 +138,7 @@ void SiteMap::setScene(const LiveState& state, const Settings& settings, std::op
 
 void SiteMap::repaintGrounds() {
     groundsStale_ = true;
+    shownArea_ = rect(); // the parts may be elsewhere
     if (!covered_)
         update();
 }

@@ -18,8 +18,8 @@ struct CornerColors {
     bool operator==(const CornerColors&) const = default;
 };
 
-/// The animated map of the site, or the replay of a finished mission. It draws at most 30 frames a second,
-/// and none while nothing moves or nobody can see it.
+/// The animated map of the site, or the replay of a finished mission. It draws at most a frame in each
+/// tick, and none while nothing moves or nobody can see it.
 class SiteMap : public QWidget {
     Q_OBJECT
 
