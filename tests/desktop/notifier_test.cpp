@@ -233,7 +233,7 @@ TEST_F(NotifierTest, AFloodOfForeignSignalsAnswersNothing) {
     EXPECT_EQ(answers, std::vector{Command::approve});
 }
 
-/// Runs the real notification service dunst on a virtual display.
+/// Real: runs the notification service dunst on a virtual display.
 class RealServiceTest : public NotifierTest {
 protected:
     void expectBothAnswers(Dunst& real) {

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// Runs the program with its own home directory.
+/// Runs the program with its own home directory. Real: it has the clock of the system.
 class ProgramTest : public testing::Test {
 protected:
     using Variables = std::vector<std::pair<QString, QString>>;

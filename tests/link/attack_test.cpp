@@ -27,9 +27,6 @@ namespace velmora {
 
 namespace {
 
-constexpr auto badResponse = "The server sent a bad response";
-constexpr auto timedOut = "The connection timed out";
-
 /// Resident memory in megabytes.
 double residentMegabytes() {
     std::size_t total = 0, resident = 0;

@@ -6,8 +6,6 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr auto badResponse = "The server sent a bad response";
-constexpr auto timedOut = "The connection timed out";
 /// Longer than 255 characters, so that no resolver is asked.
 const std::string tooLongName = [] {
     std::string name = "velmora";

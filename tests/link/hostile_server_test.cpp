@@ -8,8 +8,6 @@ namespace velmora {
 
 namespace {
 
-constexpr auto badResponse = "The server sent a bad response";
-
 /// A malicious server, or a connection that damages data. The faults are the same in every run.
 class HostileServerTest : public LinkTest {
 protected:

@@ -15,13 +15,17 @@ namespace velmora {
 
 using namespace std::chrono_literals;
 
+constexpr auto badResponse = "The server sent a bad response";
+constexpr auto timedOut = "The connection timed out";
+
 inline QByteArray contentOf(const QString& name) {
     QFile file(QStringLiteral(VELMORA_DOCS "/") + name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
     return file.readAll();
 }
 
-/// A link, and a server on loopback that answers each request with `reply`.
+/// A link, and a server on loopback that answers each request with `reply`. Real: the time limits are those
+/// of the system's clock.
 class LinkTest : public testing::Test {
 protected:
     using ScriptedServer = standin::ScriptedServer;

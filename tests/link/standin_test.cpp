@@ -74,7 +74,6 @@ TEST_F(StandinTest, ReproducesTheFaultsOfItsOptions) {
         serve(options);
         return failure();
     };
-    constexpr auto badResponse = "The server sent a bad response", timedOut = "The connection timed out";
     EXPECT_EQ(failureWith([](Options& o) { o.version = {}; }), "");
     EXPECT_EQ(failureWith([](Options& o) { o.status = 503; }), badResponse);
     EXPECT_EQ(failureWith([](Options& o) { o.truncateAfter = 20; }), badResponse);

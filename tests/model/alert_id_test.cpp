@@ -6,8 +6,8 @@ namespace velmora {
 
 namespace {
 
-const Date start = dateFromSeconds(1'700'000'000);
-const AlertId noId{{}, start, start + Seconds{60}, "front"};
+const Date detected = dateFromSeconds(1'700'000'000);
+const AlertId noId{{}, detected, detected + Seconds{60}, "front"};
 
 AlertId withId(AlertId alert, const char* id) {
     alert.missionId = id;
@@ -17,9 +17,9 @@ AlertId withId(AlertId alert, const char* id) {
 /// The alert, and others that differ from it in one field without the mission id.
 std::vector<AlertId> variantsOf(const AlertId& alert) {
     std::vector<AlertId> variants(6, alert);
-    variants[1].start = start + Seconds{1};
+    variants[1].start = detected + Seconds{1};
     variants[2].start.reset();
-    variants[3].deadline = start + Seconds{61};
+    variants[3].deadline = detected + Seconds{61};
     variants[4].deadline.reset();
     variants[5].cameraId = "garden";
     return variants;

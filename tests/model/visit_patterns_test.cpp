@@ -31,14 +31,14 @@ MissionRecord visitAt(int weekday, double hour, const std::string& camera = "Gat
     return record;
 }
 
-Site square() {
+Site grounds() {
     Site site;
     site.boundary = {{0, 0}, {100, 0}, {100, 100}, {0, 100}};
     return site;
 }
 
 VisitPatterns patternsOf(const std::vector<MissionRecord>& records) {
-    VisitPatterns patterns(square());
+    VisitPatterns patterns(grounds());
     for (const MissionRecord& record : records)
         patterns.add(record);
     return patterns;
@@ -93,16 +93,16 @@ double medianOf(std::vector<double> values) {
 TEST(VisitPatterns, AnHourIsThatOfTheLocalClock) {
     const auto hour = [](const char* text) { return weekHourOf(at(text)); };
     std::optional<TimeZone> zone("Europe/Berlin");
-    EXPECT_EQ(hour("2025-03-30T00:59:59Z"), WeekHour(6, 1));
-    EXPECT_EQ(hour("2025-03-30T01:00:00Z"), WeekHour(6, 3)) << "there is no second hour on this Sunday";
-    EXPECT_EQ(hour("2025-10-26T00:30:00Z"), WeekHour(6, 2));
-    EXPECT_EQ(hour("2025-10-26T01:30:00Z"), WeekHour(6, 2)) << "there are two second hours on this Sunday";
-    EXPECT_EQ(hour("2025-06-01T22:00:00Z"), WeekHour(0, 0)) << "Monday begins at midnight";
+    EXPECT_EQ(hour("2025-03-30T00:59:59Z"), (WeekHour{6, 1}));
+    EXPECT_EQ(hour("2025-03-30T01:00:00Z"), (WeekHour{6, 3})) << "there is no second hour on this Sunday";
+    EXPECT_EQ(hour("2025-10-26T00:30:00Z"), (WeekHour{6, 2}));
+    EXPECT_EQ(hour("2025-10-26T01:30:00Z"), (WeekHour{6, 2})) << "there are two second hours on this Sunday";
+    EXPECT_EQ(hour("2025-06-01T22:00:00Z"), (WeekHour{0, 0})) << "Monday begins at midnight";
     zone.emplace("America/New_York");
-    EXPECT_EQ(hour("2025-06-02T03:59:59Z"), WeekHour(6, 23));
+    EXPECT_EQ(hour("2025-06-02T03:59:59Z"), (WeekHour{6, 23}));
     zone.emplace("Asia/Kolkata");
-    EXPECT_EQ(hour("2025-06-01T18:29:59Z"), WeekHour(6, 23));
-    EXPECT_EQ(hour("2025-06-01T18:30:00Z"), WeekHour(0, 0));
+    EXPECT_EQ(hour("2025-06-01T18:29:59Z"), (WeekHour{6, 23}));
+    EXPECT_EQ(hour("2025-06-01T18:30:00Z"), (WeekHour{0, 0}));
     EXPECT_EQ(weekHourOf(dateFromSeconds(-0.5)), weekHourOf(dateFromSeconds(-1))) << "before 1970";
     for (const double wild : {1e300, -1e300, 9.3e18, 9.2e18})
         EXPECT_FALSE(weekHourOf(dateFromSeconds(wild))) << wild;
@@ -154,8 +154,8 @@ TEST(VisitPatterns, OnlyTheOwnersAnswersCountAsAnswers) {
                     answered(30, {}, Outcome::ignored), answered(60, {}, Outcome::expired),
                     answered(1, {}, Outcome::disarmed), answered(1, {}, Outcome::windTooHigh),
                     answered(-3, -2, Outcome::lowBattery)});
-    EXPECT_EQ(patterns.toAnswer(), MedianTime(10, 3)) << "a time before the alert is the clock's fault";
-    EXPECT_EQ(patterns.toStation(), MedianTime(20, 1));
+    EXPECT_EQ(patterns.toAnswer(), (MedianTime{10, 3})) << "a time before the alert is the clock's fault";
+    EXPECT_EQ(patterns.toStation(), (MedianTime{20, 1}));
     EXPECT_EQ(patterns.alerts(), 5) << "neither while disarmed nor in strong wind is the owner asked";
     EXPECT_EQ(patterns.expired(), 1);
     EXPECT_EQ(patterns.flown(), 3);

@@ -139,7 +139,7 @@ TEST_F(DataFilesTest, AFileReplacedRightAfterASaveIsCopiedAndOneRemovedBeforeIsN
 }
 
 TEST_F(DataFilesTest, AHistoryReadInAThreadIsTheSame) {
-    const auto read = [this](DataFiles& files) {
+    const auto read = [](DataFiles& files) {
         std::promise<void> done;
         files.readHistoryInThread([&] { done.set_value(); });
         done.get_future().wait();

@@ -152,7 +152,9 @@ TEST_F(DiskFaultsTest, AKillAtAnyMomentKeepsWhatWasConfirmed) {
         int reports[2];
         ASSERT_EQ(pipe(reports), 0);
         const pid_t child = fork();
-        for (close(reports[child == 0 ? 0 : 1]); child == 0;) {
+        close(reports[child == 0 ? 0 : 1]);
+        const bool isChild = child == 0;
+        while (isChild) {
             changeBoth();
             if (!flush() || write(reports[1], &now, sizeof now) != sizeof now)
                 _exit(1);

@@ -43,7 +43,8 @@ private:
     std::vector<Clock::time_point> times_;
 };
 
-/// Jobs that log their names, and jobs that block until the disk is released.
+/// Jobs that log their names, and jobs that block until the disk is released. Real: threads wait for each
+/// other.
 class SaveThreadTest : public testing::Test {
 protected:
     SaveThread::Job job(const std::string& name, bool succeeds = true) const {

@@ -1,3 +1,4 @@
+#include "ui/approval_buttons.h"
 #include "ui/blocks/sb_button.h"
 #include "ui/screens/alert/approval_overlay.h"
 #include "ui/screens/time_left.h"
@@ -8,10 +9,6 @@
 namespace velmora {
 
 namespace {
-
-const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("Ignore"),
-              hide = QStringLiteral("Hide"), enlarge = QStringLiteral("Enlarge the picture"),
-              reduce = QStringLiteral("Show the picture smaller");
 
 /// What the card of a server's alert shows and takes.
 class ApprovalCardTest : public ServedTest {

@@ -1,3 +1,4 @@
+#include "ui/approval_buttons.h"
 #include "ui/look/words.h"
 #include "ui/served_fixture.h"
 #include "ui/tray/tray.h"
@@ -12,8 +13,7 @@ namespace velmora {
 
 namespace {
 
-const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("Ignore"),
-              offer = QStringLiteral("Launch (approve)");
+const QString offer = QStringLiteral("Launch (approve)");
 
 /// Alerts of a server that replace each other while input is in progress.
 class ApprovalGuardTest : public ServedTest {

@@ -1,3 +1,4 @@
+#include "ui/approval_buttons.h"
 #include "ui/ui_fixture.h"
 
 #include <QAbstractButton>
@@ -5,9 +6,6 @@
 namespace velmora {
 
 namespace {
-
-const QString launch = QStringLiteral("Launch drone"), ignore = QStringLiteral("Ignore"),
-              enlarge = QStringLiteral("Enlarge the picture");
 
 using ApprovalTest = UiTest;
 

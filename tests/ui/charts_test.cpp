@@ -219,7 +219,7 @@ TEST_F(ChartsTest, TheHeatMapShowsWhereVisitorsWalkedAndReportsTheChosenPlace) {
     QTest::keyClick(&map, Qt::Key_Up);
     QTest::keyClick(&map, Qt::Key_Return);
     ASSERT_EQ(chosen.size(), 2u);
-    EXPECT_EQ(chosen[0], P(100, 60));
+    EXPECT_EQ(chosen[0], (P{100, 60}));
     EXPECT_NEAR(chosen[1].y, 58, 0.5) << "from the place that most visits passed, by two metres";
 }
 

@@ -205,7 +205,7 @@ TEST_F(HistoryTest, UndoLeavesTheKeyboardFocusToTheRecords) {
 TEST_F(HistoryTest, DayCaptionsChangeAtMidnight) {
     look(four());
     EXPECT_TRUE(rowOf("Today").isValid());
-    pass(86'400);
+    tickAfter(86'400);
     store().setSection(Section::overview);
     store().setSection(Section::history);
     EXPECT_TRUE(rowOf("Yesterday").isValid());

@@ -94,7 +94,9 @@ protected:
                        EventTime(arrival > 0 ? arrival : time)});
     }
     /// The space bar produces a no-break space with some modifiers.
-    static std::uint32_t codeOf(int key) { return key == Qt::Key_nobreakspace ? Qt::Key_Space : key; }
+    static std::uint32_t codeOf(int key) {
+        return static_cast<std::uint32_t>(key == Qt::Key_nobreakspace ? Qt::Key_Space : key);
+    }
     std::uint64_t stamp(int time) const { return stamped ? static_cast<std::uint64_t>(time) : 0; }
 
     KeyPresses keys;

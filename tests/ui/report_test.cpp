@@ -251,7 +251,7 @@ TEST_F(ReportTest, ThePaperIsThatOfTheDesktopsTerritory) {
 }
 
 TEST_F(ReportTest, ALongReportCanBeCancelledAndGivesWayToAnAlert) {
-    look(std::vector(200, visit()));
+    look(std::vector(60, visit()));
     auto& progress = *window().findChild<ReportProgress*>();
     exportList();
     EXPECT_TRUE(progress.isOpen());

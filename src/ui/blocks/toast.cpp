@@ -15,7 +15,7 @@ namespace {
 constexpr auto messageTime = std::chrono::seconds(10);
 constexpr int padding = Measure::gap12;
 constexpr double dot = Measure::statusDotInRow;
-constexpr double textLeft = padding + dot + Measure::gap8;
+constexpr double messageLeft = padding + dot + Measure::gap8;
 
 } // namespace
 
@@ -38,7 +38,8 @@ void Toast::setMessage(const QString& message, Tone tone) {
 }
 
 QSize Toast::sizeHint() const {
-    const int width = static_cast<int>(std::ceil(textLeft + textWidth(message_, Type::link))) + 1 + padding;
+    const int width =
+        static_cast<int>(std::ceil(messageLeft + textWidth(message_, Type::link))) + 1 + padding;
     return {width, Measure::titleStrip - Measure::gap4};
 }
 
@@ -48,7 +49,7 @@ void Toast::paintEvent(QPaintEvent*) {
     const QPointF center(padding + dot / 2, height() / 2.0);
     fillDisc(painter, center, dot + 2, SB::dTitle);
     fillDisc(painter, center, dot, tone_ == Tone::failure ? SB::alert : SB::teal);
-    drawText(painter, QRectF(rect()).adjusted(textLeft, 0, -padding, 0), message_, Type::link, SB::dTitle,
+    drawText(painter, QRectF(rect()).adjusted(messageLeft, 0, -padding, 0), message_, Type::link, SB::dTitle,
              Qt::AlignVCenter);
 }
 

@@ -27,7 +27,7 @@ using namespace ChartMeasure;
 constexpr TextStyle hourStyle{SBFont::Face::regular, 10, 12, 0, false, true};
 constexpr TextStyle dayStyleSmall{SBFont::Face::medium, 9, 12},
     dayStyleSmallStrong{SBFont::Face::semiBold, 9, 12};
-constexpr TextStyle numberStyle{SBFont::Face::semiBold, 11, 14, 0, false, true};
+constexpr TextStyle cellStyle{SBFont::Face::semiBold, 11, 14, 0, false, true};
 
 int countAt(const WeekHours& hours, WeekHour hour) {
     return hours[static_cast<std::size_t>(hour.weekday)][static_cast<std::size_t>(hour.hour)];
@@ -92,9 +92,8 @@ public:
         fillRounded(painter_, cell, radius, SB::faded(SB::purple, share));
         const QString number = displayLocale().toString(visits);
         if (!form_.isSmall && form_.column >= matrixNumbers &&
-            textWidth(number, numberStyle) <= cell.width() - 2)
-            drawText(painter_, cell, number, numberStyle, share < light ? SB::ink : SB::page,
-                     Qt::AlignCenter);
+            textWidth(number, cellStyle) <= cell.width() - 2)
+            drawText(painter_, cell, number, cellStyle, share < light ? SB::ink : SB::page, Qt::AlignCenter);
     }
 
     void drawOutline() {

@@ -16,27 +16,27 @@ namespace velmora {
 
 namespace {
 
-enum class Progress { done, current, pending };
+enum class StepProgress { done, current, pending };
 
-Progress progressOf(std::size_t step, std::optional<std::size_t> current) {
+StepProgress progressOf(std::size_t step, std::optional<std::size_t> current) {
     if (!current || step > *current)
-        return Progress::pending;
-    return step == *current ? Progress::current : Progress::done;
+        return StepProgress::pending;
+    return step == *current ? StepProgress::current : StepProgress::done;
 }
 
-void paintMarker(QPainter& painter, QPointF center, Progress progress) {
+void paintMarker(QPainter& painter, QPointF center, StepProgress progress) {
     constexpr double diameter = Measure::timelineMarker;
     switch (progress) {
-    case Progress::done:
+    case StepProgress::done:
         fillDisc(painter, center, diameter, SB::teal);
         paintIcon(painter, center, Measure::timelineTick, Icon::check, SB::page);
         break;
-    case Progress::current:
+    case StepProgress::current:
         fillDisc(painter, center, diameter + 2 * Measure::timelineHalo, SB::dotBg);
         fillDisc(painter, center, diameter, SB::teal);
         fillDisc(painter, center, Measure::timelineHole, SB::page);
         break;
-    case Progress::pending:
+    case StepProgress::pending:
         fillDisc(painter, center, diameter, SB::page, SB::rule);
         break;
     }
@@ -116,7 +116,8 @@ void PhaseTimeline::paintConnector(QPainter& painter, std::size_t step) const {
     const double length = Measure::timelineRow - 2 * gap;
     const QRectF line = line_ ? QRectF(to.x() - gap - length, to.y() - 0.5, length, 1)
                               : QRectF(from + QPointF(0, gap), QSizeF(1, length));
-    painter.fillRect(line, progressOf(step + 1, currentStep()) == Progress::pending ? SB::rule : SB::teal);
+    painter.fillRect(line,
+                     progressOf(step + 1, currentStep()) == StepProgress::pending ? SB::rule : SB::teal);
 }
 
 void PhaseTimeline::paintTitle(QPainter& painter, std::size_t step) const {
