@@ -208,11 +208,12 @@ TEST_F(LinkTest, AProgramThatIsStartedMeanwhileGetsNoSocket) {
         EXPECT_TRUE(child.waitForFinished());
         return child.readAllStandardOutput().count("socket:");
     };
+    EXPECT_EQ(failureOf({{}, true}), badResponse) << "the library keeps sockets of its own from now on";
     const auto before = socketsOfAChild();
-    reply = {{}, false}; // none
+    reply = {{}, false};
     startFetch();
     EXPECT_EQ(socketsOfAChild(), before) << "connecting";
-    EXPECT_TRUE(waitUntil([this] { return !requests.empty(); }));
+    EXPECT_TRUE(waitUntil([this] { return requests.size() == 2; }));
     EXPECT_EQ(socketsOfAChild(), before) << "connected";
 }
 
