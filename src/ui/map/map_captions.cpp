@@ -44,6 +44,10 @@ QPixmap painted(const MapCaption& caption, const QColor& letters, double scale) 
     return picture;
 }
 
+qsizetype pixelsOf(const QPixmap& picture) {
+    return qsizetype{picture.width()} * picture.height();
+}
+
 /// The caption as it is painted, with its area's size. Cached, because edges take longer than letters, and
 /// the map paints its moving captions in every frame.
 QPixmap pictureOf(const MapCaption& caption, double scale) {
@@ -53,8 +57,8 @@ QPixmap pictureOf(const MapCaption& caption, double scale) {
     const Key key{{caption.color.rgba(), scale}, caption.text};
     if (const QPixmap* known = cache.object(key))
         return *known;
-    const QPixmap picture = painted(caption, caption.color, scale);
-    cache.insert(key, new QPixmap(picture), picture.width() * picture.height());
+    QPixmap picture = painted(caption, caption.color, scale);
+    cache.insert(key, new QPixmap(picture), pixelsOf(picture));
     return picture;
 }
 
@@ -65,8 +69,8 @@ QPixmap edgeOf(const MapCaption& caption) {
     static QCache<QString, QPixmap> cache(mostPixels);
     if (const QPixmap* known = cache.object(caption.text))
         return *known;
-    const QPixmap picture = painted(caption, SB::none, scale);
-    cache.insert(caption.text, new QPixmap(picture), picture.width() * picture.height());
+    QPixmap picture = painted(caption, SB::none, scale);
+    cache.insert(caption.text, new QPixmap(picture), pixelsOf(picture));
     return picture;
 }
 
