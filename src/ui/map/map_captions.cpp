@@ -154,7 +154,7 @@ MapCaption bufferCaption(const MapScene& scene, const MapTransform& view) {
 MapCaption captionBeside(QPointF point, double offset, const QString& text, const QColor& color,
                          const MapScene& scene, const MapTransform& view) {
     const QRectF buffer = bufferCaption(scene, view).box();
-    const MapCaption beside{text, color, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter};
+    MapCaption beside{text, color, point + QPointF(offset, 0), Qt::AlignLeft | Qt::AlignVCenter};
     if (beside.box().right() <= view.canvas().right() && !beside.box().intersects(buffer))
         return beside;
     MapCaption above{text,
