@@ -45,11 +45,12 @@ protected:
     static bool owned() {
         return QDBusConnection::sessionBus().interface()->isServiceRegistered("org.velmora.Velmora");
     }
-    static QDBusMessage call(const QString& method, const QVariantList& arguments) {
+    static QDBusMessage call(const QString& method, const QVariantList& arguments,
+                             QDBus::CallMode mode = QDBus::Block) {
         QDBusMessage message = QDBusMessage::createMethodCall("org.velmora.Velmora", "/org/velmora/Velmora",
                                                               "org.freedesktop.Application", method);
         message.setArguments(arguments);
-        return QDBusConnection::sessionBus().call(message);
+        return QDBusConnection::sessionBus().call(message, mode);
     }
 
     /// The program's directory for "data", "config" or "cache".
