@@ -201,6 +201,32 @@ TEST_F(LinkTest, ACallbackMayDestroyTheLink) {
     EXPECT_EQ(calls, 1);
 }
 
+TEST_F(LinkTest, ConnectionsAreKeptToTwoServersUntilNoCommandRunsAfterADisconnect) {
+    reply = {ScriptedServer::wellFormed(200, document(), {}), false};
+    ScriptedServer second([this](const QByteArray&) { return reply; }),
+        third([this](const QByteArray&) { return reply; });
+    const auto kept = [&] {
+        qsizetype connections = 0;
+        for (ScriptedServer* each : {&server, &second, &third})
+            connections += each->listener().findChildren<QTcpSocket*>().size();
+        return connections;
+    };
+    EXPECT_EQ(failure(), "");
+    for (ScriptedServer* other : {&second, &third}) {
+        other->listener().listen(QHostAddress::LocalHost);
+        settings.port = other->listener().serverPort();
+        EXPECT_EQ(failure(), "");
+    }
+    EXPECT_TRUE(waitUntil([&] { return kept() == 2; }));
+    startSend(Command::approve);
+    link->disconnect();
+    EXPECT_TRUE(waitUntil([&] { return sent == 1 && kept() == 0; }));
+    EXPECT_EQ(failure(), "");
+    EXPECT_EQ(kept(), 1);
+    link->disconnect();
+    EXPECT_TRUE(waitUntil([&] { return kept() == 0; })) << "at once";
+}
+
 TEST_F(LinkTest, AProgramThatIsStartedMeanwhileGetsNoSocket) {
     const auto socketsOfAChild = [] {
         QProcess child;
