@@ -72,6 +72,8 @@ TEST(RawValues, UuidsAreReadInEitherCaseAndWrittenInUpperCase) {
         EXPECT_FALSE(Uuid::fromText(wrong)) << wrong;
     EXPECT_EQ(Uuid::fromRandomBits(0, 0).text(), "00000000-0000-4000-8000-000000000000");
     EXPECT_EQ(Uuid::fromRandomBits(~0ull, ~0ull).text(), "FFFFFFFF-FFFF-4FFF-BFFF-FFFFFFFFFFFF");
+    EXPECT_EQ(Uuid::fromRandomBits(0x0123'4567'89AB'CDEF, 0xFEDC'BA98'7654'3210).text(),
+              "01234567-89AB-4DEF-BEDC-BA9876543210");
 }
 
 } // namespace velmora

@@ -178,4 +178,13 @@ TEST(WalkMap, WildPathsAndHugeSitesStayBounded) {
     EXPECT_EQ(mapOf({}).heat().mostVisits, 0);
 }
 
+TEST(WalkMap, BetweenItsValuesTheHeatIsInterpolatedAndThereIsNoneOutside) {
+    const WalkHeat heat{2, {10, 20}, 3, 2, {1, 2, 3, 5, 6, 7}, 1};
+    EXPECT_EQ(heat.at({10, 20}), 1);
+    EXPECT_EQ(heat.at({13, 20}), 2.5);
+    EXPECT_EQ(heat.at({13, 21}), 4.5);
+    for (const P outside : {P{9.9, 20}, P{14.1, 20}, P{10, 19.9}, P{10, 22.1}})
+        EXPECT_EQ(heat.at(outside), 0) << outside.x << ' ' << outside.y;
+}
+
 } // namespace velmora
